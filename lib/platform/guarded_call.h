@@ -1,0 +1,21 @@
+#pragma once
+
+#include <type_traits>
+
+namespace kelvo {
+
+namespace internal {
+bool RunGuarded(void (*run)(void* context), void* context);
+}
+
+// Calls `action` and returns true when it came to its end. Any C++ exception and any structured
+// exception (a page fault, say) that leaves it is swallowed and answered with false. A structured
+// exception skips the destructors between the fault and this call: what `action` owned by then
+// stays open, so keep owners outside and let the action only use them.
+template <typename Action>
+bool GuardedCall(Action&& action) {
+  using Plain = std::remove_reference_t<Action>;
+  return internal::RunGuarded([](void* context) { (*static_cast<Plain*>(context))(); }, &action);
+}
+
+}  // namespace kelvo

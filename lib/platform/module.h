@@ -1,0 +1,34 @@
+#pragma once
+
+#include <windows.h>
+
+#include "lib/platform/owned.h"
+
+namespace kelvo {
+
+// A library that this process loaded and frees again with FreeLibrary. A module that is only looked
+// up (GetModuleHandleW) is a plain HMODULE.
+struct LoadedModule {
+  using Handle = HMODULE;
+  static Handle None() { return nullptr; }
+  static void Close(Handle handle) { FreeLibrary(handle); }
+};
+using OwnedModule = Owned<LoadedModule>;
+
+// The function that `module` exports under `name` (GetProcAddress), or null when the module is null
+// or has no such export; GetLastError then tells why the lookup failed.
+template <typename Function>
+Function* FindFunction(HMODULE module, const char* name) {
+  if (module == nullptr) {
+    SetLastError(ERROR_MOD_NOT_FOUND);
+    return nullptr;
+  }
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
+}  // namespace kelvo
+
+// FindFunction for a function that a header declares: its name, given once, is the export's name
+// and brings the type.
+#define KELVO_FIND_FUNCTION(module, function) \
+  ::kelvo::FindFunction<decltype(::function)>((module), #function)

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <windows.h>
+
+#include <type_traits>
+#include <utility>
+
+namespace kelvo {
+
+// Owns one handle and closes it when it goes. `Kind` describes a kind of handle:
+//   using Handle = ...;             the Windows type
+//   static Handle None();           the value that stands for "no handle" of this kind
+//   static void Close(Handle);      closes one; never called with None()
+template <typename Kind>
+class Owned {
+ public:
+  using Handle = typename Kind::Handle;
+
+  Owned() = default;
+  explicit Owned(Handle handle) : handle_(handle) {}
+  Owned(const Owned&) = delete;
+  Owned& operator=(const Owned&) = delete;
+  Owned(Owned&& other) noexcept : handle_(other.release()) {}
+  Owned& operator=(Owned&& other) noexcept {
+    reset(other.release());
+    return *this;
+  }
+  ~Owned() { reset(); }
+
+  explicit operator bool() const { return handle_ != Kind::None(); }
+  [[nodiscard]] Handle get() const { return handle_; }
+
+  // The place where a Windows function stores a new handle; what was owned before is closed.
+  [[nodiscard]] Handle* Receive() {
+    reset();
+    return &handle_;
+  }
+
+  // Gives the handle up without closing it.
+  Handle release() { return std::exchange(handle_, Kind::None()); }
+
+  void reset(Handle handle = Kind::None()) {
+    const Handle old = std::exchange(handle_, handle);
+    if (old != Kind::None()) {
+      Kind::Close(old);
+    }
+  }
+
+ private:
+  Handle handle_ = Kind::None();
+};
+
+// Processes, threads, tokens, mutexes: closed with CloseHandle, null when there is none.
+struct KernelObject {
+  using Handle = HANDLE;
+  static Handle None() { return nullptr; }
+  static void Close(Handle handle) { CloseHandle(handle); }
+};
+using OwnedKernelObject = Owned<KernelObject>;
+
+// What CreateFileW opens: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
+struct File {
+  using Handle = HANDLE;
+  static Handle None() { return INVALID_HANDLE_VALUE; }
+  static void Close(Handle handle) { CloseHandle(handle); }
+};
+using OwnedFile = Owned<File>;
+
+// What LocalAlloc allocated, or a Windows function that leaves LocalFree to its caller; null when
+// there is none.
+template <typename Content>
+struct LocalMemory {
+  using Handle = Content*;
+  static Handle None() { return nullptr; }
+  static void Close(Handle handle) { LocalFree(const_cast<std::remove_cv_t<Content>*>(handle)); }
+};
+template <typename Content>
+using OwnedLocalMemory = Owned<LocalMemory<Content>>;
+
+}  // namespace kelvo

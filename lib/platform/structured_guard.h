@@ -1,0 +1,13 @@
+#pragma once
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+// Calls run(context). Returns 1 when it returned, 0 when a structured exception ended it. No C++
+// exception may leave `run`: it must not cross the __except frame.
+int RunUnderStructuredGuard(void (*run)(void* context), void* context);
+
+#ifdef __cplusplus
+}
+#endif
