@@ -1,0 +1,30 @@
+#include "lib/string/format_text.h"
+
+#include <cstdio>
+
+namespace kelvo {
+
+WString FormatText(const wchar_t* format, ...) {
+  std::va_list arguments;
+  va_start(arguments, format);
+  WString text = FormatTextV(format, arguments);
+  va_end(arguments);
+  return text;
+}
+
+WString FormatTextV(const wchar_t* format, std::va_list arguments) {
+  std::va_list measured;
+  va_copy(measured, arguments);
+  const int length = _vscwprintf(format, measured);
+  va_end(measured);
+  if (length <= 0) {
+    return {};
+  }
+  const auto units = static_cast<std::size_t>(length);
+  WString text(units, L'\0');
+  // Not the standard vswprintf: mingw's has another meaning of %s and stops at a unit above U+00FF.
+  _vsnwprintf(text.data(), units, format, arguments);
+  return text;
+}
+
+}  // namespace kelvo
