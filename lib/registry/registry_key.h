@@ -1,0 +1,41 @@
+#pragma once
+
+#include <windows.h>
+
+#include "lib/platform/owned.h"
+
+namespace kelvo {
+
+// The rules that every registry operation of this folder keeps:
+//   - `root` is an open key or one of Windows' predefined ones; `subkey` a path below it, its keys
+//     separated by backslashes; `valueName` a value's name, where null or an empty text means the
+//     key's default value. All texts are NUL-terminated.
+//   - Each operation opens the key, does one thing and closes it again.
+//   - A status is 0 for success, otherwise the Windows error code of the failing call, or -1 where
+//   the
+//     operation says that it passes no code on.
+
+// ORed into the access mask of every key that is opened or created here, and passed to
+// RegDeleteKeyExW. A program that wants another registry view sets KEY_WOW64_64KEY or
+// KEY_WOW64_32KEY before other threads use the registry.
+extern REGSAM RegistryAccessFlags;
+
+struct RegistryKey {
+  using Handle = HKEY;
+  static Handle None() { return nullptr; }
+  static void Close(Handle handle) { RegCloseKey(handle); }
+};
+using OwnedRegistryKey = Owned<RegistryKey>;
+
+// Opens a key that exists (RegOpenKeyExW with `access` | RegistryAccessFlags); a null or empty
+// `subkey` opens `root` itself. On failure `key` owns nothing.
+LSTATUS OpenRegistryKey(HKEY root, const wchar_t* subkey, REGSAM access, OwnedRegistryKey& key);
+
+// Opens a key for KEY_WRITE | RegistryAccessFlags and creates it, with all missing keys on its
+// path, when it is not there (RegCreateKeyExW, kept over restarts, default security).
+LSTATUS CreateRegistryKey(HKEY root, const wchar_t* subkey, OwnedRegistryKey& key);
+
+// True when the key opens with KEY_READ.
+bool RegistryKeyExists(HKEY root, const wchar_t* subkey);
+
+}  // namespace kelvo

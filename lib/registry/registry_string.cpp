@@ -1,0 +1,94 @@
+#include "lib/registry/registry_string.h"
+
+#include <algorithm>
+#include <array>
+#include <cwchar>
+#include <limits>
+#include <span>
+#include <string_view>
+
+#include "lib/registry/registry_key.h"
+#include "lib/registry/registry_value.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr DWORD kReadLength = 1024;
+constexpr DWORD kExpandedLength = MAX_PATH;
+
+// Reads a text value into `buffer`, which is zeroed, and expands it where its type says so. Offers
+// the registry `capacity` characters. Returns false, and leaves no text behind, when the value
+// cannot be used.
+bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, std::span<wchar_t> buffer,
+              DWORD capacity) {
+  OwnedRegistryKey key;
+  if (OpenRegistryKey(root, subkey, KEY_READ, key) != ERROR_SUCCESS) {
+    return false;
+  }
+  DWORD type = REG_NONE;
+  DWORD size = capacity * sizeof(wchar_t);
+  const LSTATUS status = RegQueryValueExW(key.get(), valueName, nullptr, &type,
+                                          reinterpret_cast<BYTE*>(buffer.data()), &size);
+  key.reset();
+  if (status != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) {
+    buffer.front() = L'\0';
+    return false;
+  }
+  // Another party may have stored no terminator.
+  buffer.back() = L'\0';
+  if (type == REG_EXPAND_SZ) {
+    // One more than the function is told of: a text cut at the end of the buffer has no NUL of its
+    // own.
+    std::array<wchar_t, kExpandedLength + 1> expanded{};
+    if (ExpandEnvironmentStringsW(buffer.data(), expanded.data(), kExpandedLength) != 0) {
+      lstrcpynW(buffer.data(), expanded.data(), static_cast<int>(capacity));
+    }
+  }
+  return true;
+}
+
+LSTATUS WriteText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, DWORD type,
+                  const wchar_t* text) {
+  const std::wstring_view stored(text == nullptr ? L"" : text);
+  if (stored.length() >= std::numeric_limits<DWORD>::max() / sizeof(wchar_t)) {
+    return ERROR_INVALID_PARAMETER;
+  }
+  return WriteRegistryValue(root, subkey, valueName, type, stored.data(),
+                            static_cast<DWORD>((stored.length() + 1) * sizeof(wchar_t)));
+}
+
+}  // namespace
+
+WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
+                           const wchar_t* defaultText) {
+  // One more than the registry is told of, so that 2,048 bytes without a terminator are followed by
+  // one.
+  std::array<wchar_t, kReadLength + 1> buffer{};
+  const bool found = ReadText(root, subkey, valueName, buffer, kReadLength);
+  return {found ? buffer.data() : defaultText};
+}
+
+std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
+                                     wchar_t* buffer, std::size_t length) {
+  if (buffer == nullptr || length == 0) {
+    return 0;
+  }
+  std::fill_n(buffer, length, L'\0');
+  constexpr std::size_t kLongest = std::numeric_limits<int>::max() / sizeof(wchar_t);
+  const auto capacity = static_cast<DWORD>(std::min(length, kLongest));
+  ReadText(root, subkey, valueName, {buffer, length}, capacity);
+  return std::wcslen(buffer);
+}
+
+LSTATUS RegistryWriteString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
+                            const wchar_t* text) {
+  return WriteText(root, subkey, valueName, REG_SZ, text);
+}
+
+LSTATUS RegistryWriteExpandString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
+                                  const wchar_t* text) {
+  return WriteText(root, subkey, valueName, REG_EXPAND_SZ, text);
+}
+
+}  // namespace kelvo
