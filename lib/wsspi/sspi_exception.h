@@ -1,0 +1,59 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "lib/string/wstring.h"
+
+namespace wsspi {
+
+enum SspiErrorCode : std::int32_t {
+  ErrorSuccess = 0,
+  ErrorNotInitialized = 1,
+  ErrorNoLibrary = 2,
+  ErrorNoPackage = 3,
+  ErrorPackageEnumerationFailed = 4,
+  ErrorNoSecurityInterface = 5,
+  ErrorNoCredentials = 6,
+  ErrorNoMemory = 7,
+  ErrorNullPointer = 8,
+  ErrorAuthFailed = 9,
+  ErrorImpersonationFailed = 10,
+  ErrorRevertToSelfFailed = 11,
+  ErrorInvalidArrayIndex = 12,
+  ErrorUnknown = 13,
+};
+
+// The name and the meaning of each SspiErrorCode, which is its index.
+inline constexpr std::array<const wchar_t*, 14> kSspiErrorTexts = {
+    L"ErrorSuccess: no errors",
+    L"ErrorNotInitialized: SspiInitialize() was not called",
+    L"ErrorNoLibrary: provider dll was not found",
+    L"ErrorNoPackage: no package was found",
+    L"ErrorPackageEnumerationFailed: EnumerateSecurityPackages() failed",
+    L"ErrorNoSecurityInterface: failed to setup security interface",
+    L"ErrorNoCredentials: no credentials could be obtained",
+    L"ErrorNoMemory: not enough memory to complete the operation",
+    L"ErrorNullPointer: an invalid null pointer was passed",
+    L"ErrorAuthFailed: authentication failed",
+    L"ErrorImpersonationFailed: impersonation failed",
+    L"ErrorRevertToSelfFailed: failed to revert to original security context",
+    L"ErrorInvalidArrayIndex: array index was out of bounds",
+    L"ErrorUnknown: unknown error",
+};
+
+// What a failure of the security support interface throws: made on the heap and thrown as a
+// pointer, which belongs to whoever catches it.
+struct SspiException {
+  // `atFile` null counts as empty; a code above 16 is stored as 16. That is more than
+  // kSspiErrorTexts has, so check a code before it becomes an index.
+  SspiException(const wchar_t* atFile, std::uint32_t atLine, std::int32_t errorCode,
+                std::uint32_t errorDetail);
+
+  kelvo::WString file;
+  std::uint32_t line;
+  std::int32_t code;
+  std::uint32_t detail;
+};
+
+}  // namespace wsspi
