@@ -1,0 +1,94 @@
+#include "tool/command_line.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cwchar>
+
+#include "tool/console_report.h"
+#include "tool/dependent_applications.h"
+#include "tool/driver_privilege.h"
+#include "tool/handsfree_service.h"
+#include "tool/install.h"
+
+namespace kelvo {
+
+namespace {
+
+using Words = const wchar_t* const*;
+
+constexpr int kUsageExitCode = 2;
+
+DWORD EnablePrivilegeAndSetService(bool enable) {
+  EnableLoadDriverPrivilege();
+  return RegisterHandsfreeService(enable);
+}
+
+DWORD RunInstall(Words words) { return Install(words[2], words[3], words[4], words[5]); }
+
+// words[2], the INF path, is there for symmetry with install: the driver package stays.
+DWORD RunUninstall(Words words) {
+  EnableLoadDriverPrivilege();
+  bool noneLeft = false;
+  RemoveDependentApplication(words[3], noneLeft);
+  if (noneLeft) {
+    RegisterHandsfreeService(false);
+  }
+  return ERROR_SUCCESS;
+}
+
+DWORD RunRegister(Words /*words*/) { return EnablePrivilegeAndSetService(true); }
+
+DWORD RunUnregister(Words /*words*/) { return EnablePrivilegeAndSetService(false); }
+
+DWORD RunRegisterFor(Words words) {
+  AddDependentApplication(words[2]);
+  return EnablePrivilegeAndSetService(true);
+}
+
+DWORD RunUnregisterFor(Words words) {
+  bool noneLeft = false;
+  RemoveDependentApplication(words[2], noneLeft);
+  return noneLeft ? EnablePrivilegeAndSetService(false) : ERROR_SUCCESS;
+}
+
+struct CommandForm {
+  int wordCount;
+  const wchar_t* keyword;
+  DWORD (*run)(Words words);
+};
+
+constexpr std::array kCommandForms = {
+    CommandForm{6, L"install", RunInstall},      CommandForm{4, L"uninstall", RunUninstall},
+    CommandForm{2, L"register", RunRegister},    CommandForm{2, L"unregister", RunUnregister},
+    CommandForm{3, L"register", RunRegisterFor}, CommandForm{3, L"unregister", RunUnregisterFor},
+};
+
+// Setup programs know this text as it stands: the examples run on into the next description.
+constexpr std::array kUsageTexts = {
+    L"invalid arguments\n",
+    L"install: Install Certificate, Driver and Register Service, remember dependant application\n",
+    L"    sorrel.exe install Tessalin.inf trusted.cer trusted_i.cer brindle",
+    L"uninstall: Unregister Service, remove dependant application\n",
+    L"    sorrel.exe uninstall Tessalin.inf brindle",
+    L"register: Register Handsfree Service\n",
+    L"    sorrel.exe register",
+    L"unregister: Unregister Handsfree Service\n",
+    L"    sorrel.exe unregister",
+};
+
+}  // namespace
+
+int RunCommandLine(int count, const wchar_t* const* arguments) {
+  for (const CommandForm& form : kCommandForms) {
+    if (form.wordCount == count && std::wcscmp(arguments[1], form.keyword) == 0) {
+      return static_cast<int>(form.run(arguments));
+    }
+  }
+  for (const wchar_t* text : kUsageTexts) {
+    Report(text);
+  }
+  return kUsageExitCode;
+}
+
+}  // namespace kelvo

@@ -1,0 +1,65 @@
+#include "tool/console_report.h"
+
+#include <algorithm>
+#include <cstdarg>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "lib/string/format_text.h"
+
+namespace kelvo {
+
+namespace {
+
+std::string ToConsoleBytes(std::wstring_view text) {
+  std::string bytes;
+  bytes.reserve(text.length() + 1);
+  for (const wchar_t unit : text) {
+    // Also behind a CR, which system texts bring along.
+    if (unit == L'\n') {
+      bytes += '\r';
+    }
+    bytes += unit <= 0xFF ? static_cast<char>(unit) : '?';
+  }
+  return bytes;
+}
+
+void WriteToStandardOutput(std::string_view bytes) {
+  const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+  while (!bytes.empty()) {
+    constexpr std::size_t kMost = std::numeric_limits<DWORD>::max();
+    DWORD written = 0;
+    if (WriteFile(output, bytes.data(), static_cast<DWORD>(std::min(bytes.size(), kMost)), &written,
+                  nullptr) == FALSE ||
+        written == 0) {
+      return;
+    }
+    bytes.remove_prefix(written);
+  }
+}
+
+}  // namespace
+
+void Report(const wchar_t* format, ...) {
+  std::va_list arguments;
+  va_start(arguments, format);
+  const WString text = FormatTextV(format, arguments);
+  va_end(arguments);
+  WriteToStandardOutput(ToConsoleBytes(text));
+}
+
+WString FormatSystemMessage(DWORD code) {
+  constexpr DWORD kMessageLength = 2000;
+  WString buffer(kMessageLength, L'\0');
+  FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, code,
+                 MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), buffer.data(), kMessageLength, nullptr);
+  return {buffer.c_str()};
+}
+
+void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description,
+                              PVOID /*context*/) {
+  Report(L"INFO: %d - %08lX - %s\n", event, error, description != nullptr ? description : L"");
+}
+
+}  // namespace kelvo

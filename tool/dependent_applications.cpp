@@ -1,0 +1,78 @@
+#include "tool/dependent_applications.h"
+
+#include <windows.h>
+
+#include <string_view>
+
+#include "lib/registry/registry_string.h"
+#include "lib/registry/registry_value.h"
+#include "lib/string/compare_no_case.h"
+#include "lib/string/string_tokenizer.h"
+#include "tool/console_report.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr const wchar_t* kSeparator = L";";
+constexpr const wchar_t* kValueName = L"applications";
+
+WString ReadList() {
+  return RegistryReadString(HKEY_LOCAL_MACHINE, ServiceParametersKey, kValueName, L"");
+}
+
+void WriteList(const WString& list) {
+  RegistryWriteString(HKEY_LOCAL_MACHINE, ServiceParametersKey, kValueName, list.c_str());
+}
+
+WString WithoutOuterSeparators(std::wstring_view list) {
+  const std::size_t first = list.find_first_not_of(kSeparator);
+  if (first == std::wstring_view::npos) {
+    return {};
+  }
+  return WString(list.substr(first, list.find_last_not_of(kSeparator) + 1 - first));
+}
+
+}  // namespace
+
+std::optional<WString> ListWithApplication(const WString& list, const wchar_t* name) {
+  if (list.find(name) != WString::npos) {
+    return std::nullopt;
+  }
+  return WithoutOuterSeparators(list + kSeparator + name);
+}
+
+WString ListWithoutApplication(const WString& list, const wchar_t* name) {
+  WString kept;
+  for (StringTokenizer items(list, kSeparator, true); items.HasMoreTokens();) {
+    const WString item = items.NextToken();
+    if (CompareNoCase(item.c_str(), name) != 0) {
+      kept += item;
+      kept += kSeparator;
+    }
+  }
+  return WithoutOuterSeparators(kept);
+}
+
+bool AddDependentApplication(const wchar_t* name) {
+  if (const auto list = ListWithApplication(ReadList(), name)) {
+    WriteList(*list);
+  }
+  return true;
+}
+
+bool RemoveDependentApplication(const wchar_t* name, bool& noneLeft) {
+  const WString list = ListWithoutApplication(ReadList(), name);
+  noneLeft = list.empty();
+  if (noneLeft) {
+    RegistryDeleteValue(HKEY_LOCAL_MACHINE, ServiceParametersKey, kValueName);
+    Report(L"OK: No more dependant applications\n");
+  } else {
+    // Also when nothing was dropped: another party's stray separators go.
+    WriteList(list);
+    Report(L"OK: Dependant applications exist: %s\n", list.c_str());
+  }
+  return true;
+}
+
+}  // namespace kelvo

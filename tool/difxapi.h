@@ -1,0 +1,36 @@
+#pragma once
+
+// The part of the driver installation interface (difxapi.dll of the driver kit) that is used here;
+// the platform's own SDKs bring no header for it.
+
+#include <windows.h>
+
+extern "C" {
+
+enum DIFXAPI_LOG : int {
+  DIFXAPI_SUCCESS = 0,
+  DIFXAPI_INFO = 1,
+  DIFXAPI_WARNING = 2,
+  DIFXAPI_ERROR = 3,
+};
+
+using DIFXAPILOGCALLBACK_W = void(CALLBACK*)(DIFXAPI_LOG event, DWORD error, PCWSTR description,
+                                             PVOID context);
+
+struct INSTALLERINFO_W {
+  PWSTR pApplicationId;
+  PWSTR pDisplayName;
+  PWSTR pProductName;
+  PWSTR pMfgName;
+};
+
+inline constexpr DWORD DRIVER_PACKAGE_SILENT = 0x00000002;
+
+// Receives the interface's log events from now on; a null callback ends that.
+void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);
+
+// Installs the driver package of a fully qualified INF path. Stores in `needReboot` whether the
+// installation asks for a restart; returns a Win32 or SetupAPI error code.
+DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
+                                   const INSTALLERINFO_W* installerInfo, BOOL* needReboot);
+}

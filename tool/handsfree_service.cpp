@@ -1,0 +1,44 @@
+#include "tool/handsfree_service.h"
+
+#include <bluetoothapis.h>
+
+#include "lib/platform/module.h"
+#include "tool/console_report.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr GUID HandsfreeServiceClassGuid = {
+    0x3ABB9028, 0xBEAE, 0x4BF1, {0xAC, 0xD7, 0x5C, 0xD7, 0xD5, 0xE4, 0xE0, 0xCA}};
+
+DWORD SetServiceInfo(HMODULE library, bool enable) {
+  BLUETOOTH_LOCAL_SERVICE_INFO service{};
+  service.Enabled = enable ? TRUE : FALSE;
+  lstrcpynW(service.szName, L"Tessalin", BLUETOOTH_MAX_SERVICE_NAME_SIZE);
+  auto* const setServiceInfo = KELVO_FIND_FUNCTION(library, BluetoothSetLocalServiceInfo);
+  return setServiceInfo == nullptr
+             ? GetLastError()
+             : setServiceInfo(nullptr, &HandsfreeServiceClassGuid, 0, &service);
+}
+
+}  // namespace
+
+DWORD RegisterHandsfreeService(bool enable) {
+  const OwnedModule library(LoadLibraryW(L"bthprops.cpl"));
+  if (!library) {
+    // A machine without Bluetooth is no failure of the command: it keeps its exit code of 0.
+    Report(L"ERR: no Bluetooth available, bthprops.cpl missing\n");
+    return ERROR_SUCCESS;
+  }
+  const DWORD error = SetServiceInfo(library.get(), enable);
+  if (error == ERROR_SUCCESS) {
+    Report(L"OK: BluetoothSetLocalServiceInfo\n");
+  } else {
+    Report(L"ERR: BluetoothSetLocalServiceInfo Error: %08lX - %s\n", error,
+           FormatSystemMessage(error).c_str());
+  }
+  return error;
+}
+
+}  // namespace kelvo

@@ -1,0 +1,96 @@
+#include "tool/install.h"
+
+#include <algorithm>
+#include <array>
+
+#include "lib/certificates/certificate_import.h"
+#include "tool/console_report.h"
+#include "tool/dependent_applications.h"
+#include "tool/driver_interface.h"
+#include "tool/driver_privilege.h"
+#include "tool/handsfree_service.h"
+
+namespace kelvo {
+
+namespace {
+
+struct DriverOutcome {
+  DWORD code;
+  const wchar_t* text;
+};
+
+// Named here and not taken from a header: SDKs differ in which of them they declare.
+constexpr DWORD kNoSuchDeviceInstance = 0xE000020B;
+constexpr DWORD kPackagePreinstalled = 0xE0000301;
+constexpr DWORD kPublisherNotTrusted = 0xE0000242;
+
+constexpr std::array kDriverOutcomes = {
+    DriverOutcome{ERROR_SUCCESS, L"INFO: Driver Install Success\n"},
+    DriverOutcome{kNoSuchDeviceInstance, L"INFO: Driver preinstalled OK\n"},
+    DriverOutcome{kPackagePreinstalled, L"INFO: Driver preinstalled OK\n"},
+    DriverOutcome{ERROR_NO_MORE_ITEMS, L"INFO: Driver is installed - No Update needed\n"},
+    DriverOutcome{kPublisherNotTrusted, L"ERR: The drivers publisher is not trusted\n"},
+};
+
+void ReportDriverOutcome(DWORD code) {
+  const auto* const outcome = std::ranges::find(kDriverOutcomes, code, &DriverOutcome::code);
+  if (outcome != kDriverOutcomes.end()) {
+    Report(outcome->text);
+  } else {
+    Report(L"ERR: DriverPackageInstall Error: %08lX - %s\n", code,
+           FormatSystemMessage(code).c_str());
+  }
+}
+
+struct CertificateStep {
+  DWORD (*import)(const wchar_t* file);
+  const wchar_t* okText;
+  const wchar_t* errorText;
+};
+
+constexpr CertificateStep kTrustPublisher = {
+    ImportCertToTrustedPublishers, L"OK: ImportCertToTrustedPublishers '%s' Import OK\n",
+    L"ERR: ImportCertToTrustedPublishers '%s' Error: %08lX - %s\n"};
+constexpr CertificateStep kTrustIntermediate = {
+    ImportCertToIntermediateCA, L"OK: ImportCertToIntermediateCA '%s' Import OK\n",
+    L"ERR: ImportCertToIntermediateCA '%s' Error: %08lX - %s\n"};
+
+void ImportCertificate(const CertificateStep& step, const wchar_t* file) {
+  const DWORD error = step.import(file);
+  if (error == ERROR_SUCCESS) {
+    Report(step.okText, file);
+  } else {
+    Report(step.errorText, file, error, FormatSystemMessage(error).c_str());
+  }
+}
+
+void InstallDriverPackage(const wchar_t* infPath) {
+  DriverInterface driver;
+  const DWORD bindError = BindDriverInterface(driver);
+  if (bindError != ERROR_SUCCESS) {
+    ReportDriverOutcome(bindError);
+    return;
+  }
+  driver.setLogCallback(DifxLogCallback, nullptr);
+  BOOL needReboot = FALSE;
+  ReportDriverOutcome(driver.installPackage(infPath, DRIVER_PACKAGE_SILENT, nullptr, &needReboot));
+  if (needReboot != FALSE) {
+    Report(L"Reboot required\n");
+  }
+  driver.setLogCallback(nullptr, nullptr);
+}
+
+}  // namespace
+
+DWORD Install(const wchar_t* infPath, const wchar_t* publisherCertFile,
+              const wchar_t* intermediateCertFile, const wchar_t* appName) {
+  EnableLoadDriverPrivilege();
+  ImportCertificate(kTrustPublisher, publisherCertFile);
+  ImportCertificate(kTrustIntermediate, intermediateCertFile);
+  InstallDriverPackage(infPath);
+  AddDependentApplication(appName);
+  RegisterHandsfreeService(true);
+  return ERROR_SUCCESS;
+}
+
+}  // namespace kelvo

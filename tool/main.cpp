@@ -1,0 +1,3 @@
+#include "tool/command_line.h"
+
+extern "C" int wmain(int argc, wchar_t** argv) { return kelvo::RunCommandLine(argc, argv); }
