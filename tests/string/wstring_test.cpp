@@ -1,0 +1,59 @@
+#include "lib/string/wstring.h"
+
+#include <stdexcept>
+
+#include "tests/support/catch.h"
+
+namespace kelvo {
+
+TEST_CASE("a null pointer makes a text empty") {
+  CHECK(WString(nullptr).empty());
+  WString text(L"brindle");
+  CHECK(text.AssignCString(nullptr).empty());
+  CHECK(*text.c_str() == L'\0');
+}
+
+TEST_CASE("a text takes over a part of itself") {
+  for (const wchar_t* const original : {L"short", L"a text that does not fit into the object"}) {
+    WString text(original);
+    text.AssignCString(text.c_str() + 2);
+    CHECK(text == WString(original + 2));
+    text.assign(text, 1, 2);
+    CHECK(text == WString(std::wstring_view(original).substr(3, 2)));
+  }
+}
+
+TEST_CASE("up to seven units live inside the object") {
+  const auto isInside = [](const WString& text) {
+    const auto* const object = reinterpret_cast<const char*>(&text);
+    const auto* const units = reinterpret_cast<const char*>(text.c_str());
+    return units >= object && units < object + sizeof(text);
+  };
+  CHECK(isInside(L"seven__"));
+  CHECK_FALSE(isInside(L"eight___"));
+}
+
+TEST_CASE("failures have the same texts with every standard library") {
+  WString text(L"abc");
+  CHECK_THROWS_WITH(text.erase(4), "invalid string position");
+  CHECK_THROWS_AS(text.erase(4), std::out_of_range);
+  CHECK_THROWS_WITH(text.substr(4), "invalid string position");
+  CHECK_THROWS_WITH(text.assign(WString(L"abc"), 4), "invalid string position");
+  CHECK_THROWS_WITH(text.resize(text.max_size() + 1), "string too long");
+  CHECK_THROWS_AS(text.resize(text.max_size() + 1), std::length_error);
+  CHECK_THROWS_WITH(text.append({L"", text.max_size()}), "string too long");
+  CHECK(text == WString(L"abc"));
+}
+
+TEST_CASE("searches") {
+  const WString text(L"abcabc");
+  CHECK(text.find(L"", 6) == 6);
+  CHECK(text.find(L"", 7) == WString::npos);
+  CHECK(text.find(L"c", 3) == 5);
+  CHECK(text.rfind(L"abc", 100) == 3);
+  CHECK(text.rfind(L"abc", 2) == 0);
+  CHECK(text.substr(6).empty());
+  CHECK(text.substr(4, 100) == WString(L"bc"));
+}
+
+}  // namespace kelvo

@@ -1,0 +1,86 @@
+#include "tests/support/child_process.h"
+
+#include <filesystem>
+#include <stdexcept>
+
+#include "lib/platform/owned.h"
+#include "tests/support/scratch_folder.h"
+
+namespace kelvo::test {
+
+namespace {
+
+// Sets variables of this process for as long as a child is being made from it.
+class ScopedEnvironment {
+ public:
+  explicit ScopedEnvironment(const std::map<std::wstring, std::wstring>& variables) {
+    for (const auto& [name, value] : variables) {
+      std::wstring previous(GetEnvironmentVariableW(name.c_str(), nullptr, 0), L'\0');
+      if (!previous.empty()) {
+        previous.resize(GetEnvironmentVariableW(name.c_str(), previous.data(),
+                                                static_cast<DWORD>(previous.size())));
+      }
+      previous_.emplace(name, previous);
+      Set(name, value);
+    }
+  }
+  ScopedEnvironment(const ScopedEnvironment&) = delete;
+  ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
+  ~ScopedEnvironment() {
+    for (const auto& [name, value] : previous_) {
+      Set(name, value);
+    }
+  }
+
+ private:
+  static void Set(const std::wstring& name, const std::wstring& value) {
+    SetEnvironmentVariableW(name.c_str(), value.empty() ? nullptr : value.c_str());
+  }
+  std::map<std::wstring, std::wstring> previous_;
+};
+
+OwnedFile CreateInheritable(const std::filesystem::path& file) {
+  SECURITY_ATTRIBUTES inheritable{sizeof(inheritable), nullptr, TRUE};
+  return OwnedFile(CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inheritable,
+                               CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+}  // namespace
+
+std::wstring ProgramPath(const std::wstring& name) {
+  std::wstring self(32768, L'\0');
+  self.resize(GetModuleFileNameW(nullptr, self.data(), static_cast<DWORD>(self.size())));
+  return (std::filesystem::path(self).parent_path() / name).wstring();
+}
+
+ChildResult RunChild(std::wstring commandLine,
+                     const std::map<std::wstring, std::wstring>& environment) {
+  const ScratchFolder folder;
+  OwnedFile output = CreateInheritable(folder.Path() / "output");
+  OwnedFile errors = CreateInheritable(folder.Path() / "errors");
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdOutput = output.get();
+  startup.hStdError = errors.get();
+  PROCESS_INFORMATION started{};
+  {
+    const ScopedEnvironment scope(environment);
+    if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                       &startup, &started) == FALSE) {
+      throw std::runtime_error("CreateProcessW failed");
+    }
+  }
+  const OwnedKernelObject process(started.hProcess);
+  const OwnedKernelObject thread(started.hThread);
+  WaitForSingleObject(process.get(), INFINITE);
+  ChildResult result;
+  GetExitCodeProcess(process.get(), &result.exitCode);
+  output.reset();
+  errors.reset();
+  result.output = ReadBytes(folder.Path() / "output");
+  result.errors = ReadBytes(folder.Path() / "errors");
+  return result;
+}
+
+}  // namespace kelvo::test

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace kelvo::test {
+
+// A folder of this test's own, which goes with everything in it when this object goes.
+class ScratchFolder {
+ public:
+  ScratchFolder();
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+  ~ScratchFolder();
+
+  [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+  // Writes a file into the folder and returns its path.
+  std::filesystem::path Write(const std::filesystem::path& name, std::string_view bytes) const;
+
+ private:
+  std::filesystem::path path_;
+};
+
+// The file's bytes; empty when it cannot be read.
+std::string ReadBytes(const std::filesystem::path& file);
+
+}  // namespace kelvo::test
