@@ -12,6 +12,7 @@ set(CMAKE_RANLIB llvm-ranlib-19)
 
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-fuse-ld=lld-19 -static")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-fuse-ld=lld-19 -static")
+set(CMAKE_MODULE_LINKER_FLAGS_INIT "-fuse-ld=lld-19 -static")
 
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

@@ -15,9 +15,8 @@ struct DriverInterface {
   decltype(&DriverPackageInstallW) installPackage = nullptr;
 };
 
-// Loads "difxapi.dll" from the program's folder, or else the system's, and looks its functions up.
-// Returns 0, or the error code of the load or lookup that failed; `driver` then has no functions to
-// call.
-DWORD BindDriverInterface(DriverInterface& driver);
+// Loads "difxapi.dll" from the program's folder, or else the system's, and looks its functions up. False
+// when the library or a function is not there; GetLastError then tells why, and nothing may be called.
+bool BindDriverInterface(DriverInterface& driver);
 
 }  // namespace kelvo

@@ -32,13 +32,16 @@ constexpr std::array kDriverOutcomes = {
     DriverOutcome{kPublisherNotTrusted, L"ERR: The drivers publisher is not trusted\n"},
 };
 
+void ReportDriverFailure(DWORD code) {
+  Report(L"ERR: DriverPackageInstall Error: %08lX - %s\n", code, FormatSystemMessage(code).c_str());
+}
+
 void ReportDriverOutcome(DWORD code) {
   const auto* const outcome = std::ranges::find(kDriverOutcomes, code, &DriverOutcome::code);
   if (outcome != kDriverOutcomes.end()) {
     Report(outcome->text);
   } else {
-    Report(L"ERR: DriverPackageInstall Error: %08lX - %s\n", code,
-           FormatSystemMessage(code).c_str());
+    ReportDriverFailure(code);
   }
 }
 
@@ -66,9 +69,8 @@ void ImportCertificate(const CertificateStep& step, const wchar_t* file) {
 
 void InstallDriverPackage(const wchar_t* infPath) {
   DriverInterface driver;
-  const DWORD bindError = BindDriverInterface(driver);
-  if (bindError != ERROR_SUCCESS) {
-    ReportDriverOutcome(bindError);
+  if (!BindDriverInterface(driver)) {
+    ReportDriverFailure(GetLastError());
     return;
   }
   driver.setLogCallback(DifxLogCallback, nullptr);

@@ -1,0 +1,61 @@
+// Stands in for the driver installation interface.
+
+#include "tool/difxapi.h"
+
+#include <cwchar>
+
+#include "lib/string/format_text.h"
+#include "lib/string/string_tokenizer.h"
+#include "simulator/rehearsal.h"
+
+using namespace kelvo::simulator;  // NOLINT(google-build-using-namespace): this file is nothing
+                                   // else
+
+namespace {
+
+DIFXAPILOGCALLBACK_W logCallback = nullptr;
+void* logContext = nullptr;
+
+// Calls back for each event of SORREL_SIMULATOR_DRIVER_LOG: "level,code,text" with "|" between
+// events; an event without the second comma has no text at all.
+void SendLogEvents() {
+  const kelvo::WString events(TextFromEnvironment(L"SORREL_SIMULATOR_DRIVER_LOG").c_str());
+  for (kelvo::StringTokenizer tokens(events, L"|", true); tokens.HasMoreTokens();) {
+    const kelvo::WString event = tokens.NextToken();
+    wchar_t* rest = nullptr;
+    const unsigned long level = std::wcstoul(event.c_str(), &rest, 0);
+    const DWORD code = *rest == L',' ? std::wcstoul(rest + 1, &rest, 0) : ERROR_SUCCESS;
+    logCallback(static_cast<DIFXAPI_LOG>(level), code, *rest == L',' ? rest + 1 : nullptr,
+                logContext);
+  }
+}
+
+}  // namespace
+
+BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD reason, void* processEnds) {
+  JournalLibrary(L"difxapi.dll", reason, processEnds);
+  return TRUE;
+}
+
+void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context) {
+  logCallback = callback;
+  logContext = context;
+  WriteToJournal(callback == nullptr ? L"SetDifxLogCallbackW callback=none"
+                                     : L"SetDifxLogCallbackW callback=given");
+}
+
+DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
+                                   const INSTALLERINFO_W* installerInfo, BOOL* needReboot) {
+  const kelvo::WString line =
+      kelvo::FormatText(L"DriverPackageInstallW inf=\"%s\" flags=%lu installer=%s reboot=%d",
+                        infPath, flags, installerInfo == nullptr ? L"none" : L"given", *needReboot);
+  WriteToJournal(line.c_str());
+  if (logCallback != nullptr) {
+    SendLogEvents();
+  }
+  if (NumberFromEnvironment(L"SORREL_SIMULATOR_DRIVER_CRASH") != 0) {
+    TerminateProcess(GetCurrentProcess(), ERROR_PROCESS_ABORTED);
+  }
+  *needReboot = NumberFromEnvironment(L"SORREL_SIMULATOR_DRIVER_REBOOT") != 0 ? TRUE : FALSE;
+  return NumberFromEnvironment(L"SORREL_SIMULATOR_DRIVER_RESULT");
+}
