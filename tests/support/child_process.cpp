@@ -39,12 +39,6 @@ class ScopedEnvironment {
   std::map<std::wstring, std::wstring> previous_;
 };
 
-OwnedFile CreateInheritable(const std::filesystem::path& file) {
-  SECURITY_ATTRIBUTES inheritable{sizeof(inheritable), nullptr, TRUE};
-  return OwnedFile(CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inheritable,
-                               CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-}
-
 }  // namespace
 
 std::wstring ProgramPath(const std::wstring& name) {
@@ -56,8 +50,8 @@ std::wstring ProgramPath(const std::wstring& name) {
 ChildResult RunChild(std::wstring commandLine,
                      const std::map<std::wstring, std::wstring>& environment) {
   const ScratchFolder folder;
-  OwnedFile output = CreateInheritable(folder.Path() / "output");
-  OwnedFile errors = CreateInheritable(folder.Path() / "errors");
+  OwnedFile output = CreateInheritableFile(folder.Path() / "output");
+  OwnedFile errors = CreateInheritableFile(folder.Path() / "errors");
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   startup.dwFlags = STARTF_USESTDHANDLES;

@@ -27,6 +27,12 @@ std::filesystem::path ScratchFolder::Write(const std::filesystem::path& name,
   return path_ / name;
 }
 
+OwnedFile CreateInheritableFile(const std::filesystem::path& file) {
+  SECURITY_ATTRIBUTES inheritable{sizeof(inheritable), nullptr, TRUE};
+  return OwnedFile(CreateFileW(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inheritable,
+                               CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
 std::string ReadBytes(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
+
+#include "lib/platform/owned.h"
 
 namespace kelvo::test {
 
@@ -21,6 +24,9 @@ class ScratchFolder {
  private:
   std::filesystem::path path_;
 };
+
+// A new file that a child process inherits and that others may read.
+OwnedFile CreateInheritableFile(const std::filesystem::path& file);
 
 // The file's bytes; empty when it cannot be read.
 std::string ReadBytes(const std::filesystem::path& file);

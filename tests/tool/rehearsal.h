@@ -1,0 +1,44 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+
+#include "tests/support/child_process.h"
+#include "tests/support/scratch_folder.h"
+
+namespace kelvo::test {
+
+// A copy of sorrel.exe with the simulator's libraries beside it in a folder of its own, on a
+// machine with no dependent application recorded and both certificate stores empty.
+class Rehearsal {
+ public:
+  Rehearsal();
+
+  // Runs sorrel.exe with these words. The journal starts anew each time.
+  ChildResult Run(const std::wstring& words);
+
+  // For the runs to come. Numbers are written as in C.
+  void Set(const std::wstring& variable, const std::wstring& value);
+
+  // Takes a file out of the program's folder.
+  void Remove(const wchar_t* file) const;
+  // The library is there, but exports other functions.
+  void Exchange(const wchar_t* file, const wchar_t* other) const;
+
+  // The journal's lines of calls, with "\n" behind each; `withLoading` those of loading and freeing
+  // too.
+  [[nodiscard]] std::string Journal(bool withLoading = false) const;
+
+  [[nodiscard]] const ScratchFolder& Folder() const { return folder_; }
+
+ private:
+  ScratchFolder folder_;
+  std::map<std::wstring, std::wstring> environment_;
+};
+
+// The list of dependent applications in the registry; nothing when there is no such value.
+std::optional<std::wstring> Applications();
+void SetApplications(const std::wstring& list, DWORD type = REG_SZ);
+
+}  // namespace kelvo::test
