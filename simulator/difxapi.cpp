@@ -23,7 +23,7 @@ void SendLogEvents() {
   for (kelvo::StringTokenizer tokens(events, L"|", true); tokens.HasMoreTokens();) {
     const kelvo::WString event = tokens.NextToken();
     wchar_t* rest = nullptr;
-    const unsigned long level = std::wcstoul(event.c_str(), &rest, 0);
+    const DWORD level = std::wcstoul(event.c_str(), &rest, 0);
     const DWORD code = *rest == L',' ? std::wcstoul(rest + 1, &rest, 0) : ERROR_SUCCESS;
     logCallback(static_cast<DIFXAPI_LOG>(level), code, *rest == L',' ? rest + 1 : nullptr,
                 logContext);
@@ -32,6 +32,7 @@ void SendLogEvents() {
 
 }  // namespace
 
+// NOLINTNEXTLINE(misc-use-internal-linkage): Windows calls it
 BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD reason, void* processEnds) {
   JournalLibrary(L"difxapi.dll", reason, processEnds);
   return TRUE;

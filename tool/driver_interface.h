@@ -15,8 +15,9 @@ struct DriverInterface {
   decltype(&DriverPackageInstallW) installPackage = nullptr;
 };
 
-// Loads "difxapi.dll" from the program's folder, or else the system's, and looks its functions up. False
-// when the library or a function is not there; GetLastError then tells why, and nothing may be called.
+// Loads "difxapi.dll" from the program's folder, or else the system's, and looks its functions up.
+// False when the library or a function is not there; GetLastError then tells why, and nothing may
+// be called.
 bool BindDriverInterface(DriverInterface& driver);
 
 }  // namespace kelvo

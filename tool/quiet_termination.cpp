@@ -21,10 +21,8 @@ namespace __gnu_cxx {
 
 // Takes the place of libstdc++'s own handler, which would write to standard error and bring 45 KiB
 // of name demangling into the program.
-void __verbose_terminate_handler();   // NOLINT(bugprone-reserved-identifier)
-void __verbose_terminate_handler() {  // NOLINT(bugprone-reserved-identifier)
-  EndProcess();
-}
+// NOLINTNEXTLINE(bugprone-reserved-identifier,cert-*): the name is libstdc++'s
+void __verbose_terminate_handler() { EndProcess(); }
 
 }  // namespace __gnu_cxx
 #else
