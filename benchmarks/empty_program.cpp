@@ -1,0 +1,2 @@
+// What every start of a process costs.
+extern "C" int wmain() { return 0; }
