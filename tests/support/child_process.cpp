@@ -8,47 +8,13 @@
 
 namespace kelvo::test {
 
-namespace {
-
-// Sets variables of this process for as long as a child is being made from it.
-class ScopedEnvironment {
- public:
-  explicit ScopedEnvironment(const std::map<std::wstring, std::wstring>& variables) {
-    for (const auto& [name, value] : variables) {
-      std::wstring previous(GetEnvironmentVariableW(name.c_str(), nullptr, 0), L'\0');
-      if (!previous.empty()) {
-        previous.resize(GetEnvironmentVariableW(name.c_str(), previous.data(),
-                                                static_cast<DWORD>(previous.size())));
-      }
-      previous_.emplace(name, previous);
-      Set(name, value);
-    }
-  }
-  ScopedEnvironment(const ScopedEnvironment&) = delete;
-  ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
-  ~ScopedEnvironment() {
-    for (const auto& [name, value] : previous_) {
-      Set(name, value);
-    }
-  }
-
- private:
-  static void Set(const std::wstring& name, const std::wstring& value) {
-    SetEnvironmentVariableW(name.c_str(), value.empty() ? nullptr : value.c_str());
-  }
-  std::map<std::wstring, std::wstring> previous_;
-};
-
-}  // namespace
-
 std::wstring ProgramPath(const std::wstring& name) {
   std::wstring self(32768, L'\0');
   self.resize(GetModuleFileNameW(nullptr, self.data(), static_cast<DWORD>(self.size())));
   return (std::filesystem::path(self).parent_path() / name).wstring();
 }
 
-ChildResult RunChild(std::wstring commandLine,
-                     const std::map<std::wstring, std::wstring>& environment) {
+ChildResult RunChild(std::wstring commandLine) {
   const ScratchFolder folder;
   OwnedFile output = CreateInheritableFile(folder.Path() / "output");
   OwnedFile errors = CreateInheritableFile(folder.Path() / "errors");
@@ -58,12 +24,9 @@ ChildResult RunChild(std::wstring commandLine,
   startup.hStdOutput = output.get();
   startup.hStdError = errors.get();
   PROCESS_INFORMATION started{};
-  {
-    const ScopedEnvironment scope(environment);
-    if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                       &startup, &started) == FALSE) {
-      throw std::runtime_error("CreateProcessW failed");
-    }
+  if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                     &startup, &started) == FALSE) {
+    throw std::runtime_error("CreateProcessW failed");
   }
   const OwnedKernelObject process(started.hProcess);
   const OwnedKernelObject thread(started.hThread);

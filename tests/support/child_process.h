@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <map>
 #include <string>
 
 namespace kelvo::test {
@@ -17,9 +16,8 @@ struct ChildResult {
 std::wstring ProgramPath(const std::wstring& name);
 
 // Runs a command line to its end and returns the whole exit code and what it wrote to standard
-// output and to standard error, byte by byte. `environment` is laid over this process's own; an
-// empty text takes a variable away. Throws std::runtime_error when the program does not start.
-ChildResult RunChild(std::wstring commandLine,
-                     const std::map<std::wstring, std::wstring>& environment = {});
+// output and to standard error, byte by byte. Throws std::runtime_error when the program does not
+// start.
+ChildResult RunChild(std::wstring commandLine);
 
 }  // namespace kelvo::test

@@ -96,7 +96,7 @@ TEST_CASE("each form keeps its part of the list and switches the service") {
     CAPTURE(row.words, row.before, row.bluetoothResult);
     Rehearsal machine;
     machine.Remove(L"difxapi.dll");
-    machine.Set(L"SORREL_SIMULATOR_BLUETOOTH_RESULT", row.bluetoothResult);
+    machine.Set(L"BLUETOOTH_RESULT", row.bluetoothResult);
     if (*row.before != L'\0') {
       SetApplications(row.before);
     }

@@ -22,7 +22,7 @@ const std::vector<std::wstring> kPublisher = {L"Tessalin Test Publisher"};
 
 TEST_CASE("an install trusts, installs, records and registers, in this order") {
   Rehearsal machine;
-  machine.Set(L"SORREL_SIMULATOR_DRIVER_LOG", L"1,0,Copying|3,5|2,0xE0000242,\u00E9\u017D");
+  machine.Set(L"DRIVER_LOG", L"1,0,Copying|3,5|2,0xE0000242,\u00E9\u017D");
   const std::wstring binary = CertificateFile(L"binary.cer");
   const std::wstring base64 = CertificateFile(L"base64.cer");
   const ChildResult run = machine.Run(InstallWords(binary, base64));
@@ -67,8 +67,8 @@ TEST_CASE("each outcome of the driver installation has its line, the restart its
   Rehearsal machine;
   for (const Row& row : rows) {
     for (const bool restart : {false, true}) {
-      machine.Set(L"SORREL_SIMULATOR_DRIVER_RESULT", row.result);
-      machine.Set(L"SORREL_SIMULATOR_DRIVER_REBOOT", restart ? L"1" : L"0");
+      machine.Set(L"DRIVER_RESULT", row.result);
+      machine.Set(L"DRIVER_REBOOT", restart ? L"1" : L"0");
       const ChildResult run = machine.Run(InstallWords(L"none", L"none"));
       CAPTURE(row.result, restart);
       CHECK(run.exitCode == 0);
@@ -141,8 +141,8 @@ TEST_CASE("without security.dll the process ends at once and without a word") {
 TEST_CASE("lines are out before the next step and of any length") {
   Rehearsal machine;
   const std::wstring text(6'000, L'l');
-  machine.Set(L"SORREL_SIMULATOR_DRIVER_LOG", L"0,0," + text);
-  machine.Set(L"SORREL_SIMULATOR_DRIVER_CRASH", L"1");
+  machine.Set(L"DRIVER_LOG", L"0,0," + text);
+  machine.Set(L"DRIVER_CRASH", L"1");
   const std::wstring path(32'000, L'p');
   const std::string output = machine.Run(InstallWords(path, L"none")).output;
   CHECK(output.starts_with("ERR: " + kPublisherStep + Ascii(path) + "' Error: "));

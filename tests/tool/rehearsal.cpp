@@ -16,7 +16,11 @@ Rehearsal::Rehearsal() {
        {L"sorrel.exe", L"simulator\\bthprops.cpl", L"simulator\\difxapi.dll"}) {
     std::filesystem::copy(ProgramPath(file), folder_.Path());
   }
-  Set(L"SORREL_SIMULATOR_JOURNAL", (folder_.Path() / "journal").wstring());
+  for (const wchar_t* const variable :
+       {L"BLUETOOTH_RESULT", L"DRIVER_RESULT", L"DRIVER_REBOOT", L"DRIVER_LOG", L"DRIVER_CRASH"}) {
+    Set(variable, L"");
+  }
+  Set(L"JOURNAL", (folder_.Path() / "journal").wstring());
   RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, kValueName);
   EmptyStore(L"TrustedPublisher");
   EmptyStore(L"CA");
@@ -24,11 +28,11 @@ Rehearsal::Rehearsal() {
 
 ChildResult Rehearsal::Run(const std::wstring& words) {
   Remove(L"journal");
-  return RunChild(L"\"" + (folder_.Path() / "sorrel.exe").wstring() + L"\" " + words, environment_);
+  return RunChild(L"\"" + (folder_.Path() / "sorrel.exe").wstring() + L"\" " + words);
 }
 
 void Rehearsal::Set(const std::wstring& variable, const std::wstring& value) {
-  environment_[variable] = value;
+  SetEnvironmentVariableW((L"SORREL_SIMULATOR_" + variable).c_str(), value.c_str());
 }
 
 void Rehearsal::Remove(const wchar_t* file) const {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <map>
 #include <optional>
 #include <string>
 
@@ -17,24 +16,18 @@ class Rehearsal {
 
   // Runs sorrel.exe with these words. The journal starts anew each time.
   ChildResult Run(const std::wstring& words);
-
-  // For the runs to come. Numbers are written as in C.
+  // Tells the simulator something, by the part of the variable's name behind SORREL_SIMULATOR_.
   void Set(const std::wstring& variable, const std::wstring& value);
-
-  // Takes a file out of the program's folder.
+  // Takes a file out of the program's folder, or puts another one in its place.
   void Remove(const wchar_t* file) const;
-  // The library is there, but exports other functions.
   void Exchange(const wchar_t* file, const wchar_t* other) const;
-
   // The journal's lines of calls, with "\n" behind each; `withLoading` those of loading and freeing
   // too.
   [[nodiscard]] std::string Journal(bool withLoading = false) const;
-
   [[nodiscard]] const ScratchFolder& Folder() const { return folder_; }
 
  private:
   ScratchFolder folder_;
-  std::map<std::wstring, std::wstring> environment_;
 };
 
 // The list of dependent applications in the registry; nothing when there is no such value.
