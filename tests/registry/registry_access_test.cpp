@@ -12,41 +12,35 @@
 
 namespace kelvo {
 
+namespace {
+HKEY const kRoot = HKEY_CURRENT_USER;
+}
+
 TEST_CASE("each operation asks for its rights and the view, and closes what it opened") {
   struct Row {
     const char* what;
     void (*run)(const wchar_t* path);
     std::vector<REGSAM> rights;
   };
-  const std::vector<Row> rows = {
-      {"read",
-       [](const wchar_t* p) { RegistryReadString(HKEY_CURRENT_USER, p, L"n", L""); },
-       {0x20119}},
-      {"exists",
-       [](const wchar_t* p) { RegistryValueExists(HKEY_CURRENT_USER, p, L"n"); },
-       {0x20119}},
-      {"write",
-       [](const wchar_t* p) { RegistryWriteDword(HKEY_CURRENT_USER, p, L"n", 1); },
-       {0x20106}},
-      {"delete value",
-       [](const wchar_t* p) { RegistryDeleteValue(HKEY_CURRENT_USER, p, L"n"); },
-       {0x102}},
+  const Row rows[] = {
+      {"read", [](auto* path) { RegistryReadString(kRoot, path, L"n", L""); }, {0x20119}},
+      {"exists", [](auto* path) { RegistryValueExists(kRoot, path, L"n"); }, {0x20119}},
+      {"write", [](auto* path) { RegistryWriteDword(kRoot, path, L"n", 1); }, {0x20106}},
+      {"delete value", [](auto* path) { RegistryDeleteValue(kRoot, path, L"n"); }, {0x102}},
       {"delete tree",
-       [](const wchar_t* p) { RegistryDeleteKeyTree(HKEY_CURRENT_USER, p, L"sub"); },
+       [](auto* path) { RegistryDeleteKeyTree(kRoot, path, L"sub"); },
        {0x2010E, 0x2010F, 0x2010F, 0x2010E}},
   };
   for (const Row& row : rows) {
     const test::ScratchKey key;
-    const WString subkey = WString(key.Path()) + L"\\sub";
-    REQUIRE(RegistryWriteDword(HKEY_CURRENT_USER, key.Path(), L"n", 1) == 0);
-    REQUIRE(RegistryWriteDword(HKEY_CURRENT_USER, subkey.c_str(), L"n", 1) == 0);
+    REQUIRE(RegistryWriteDword(kRoot, (WString(key.Path()) + L"\\sub").c_str(), L"n", 1) == 0);
+    REQUIRE(RegistryWriteDword(kRoot, key.Path(), L"n", 1) == 0);
     std::vector<REGSAM> rights;
-    int open = 0;
+    std::ptrdiff_t closedKeys = 0;
     const auto opened = KELVO_REPLACE_IMPORT(
         RegOpenKeyExW,
         [&](auto* original, HKEY root, LPCWSTR path, DWORD options, REGSAM access, PHKEY result) {
           rights.push_back(access);
-          ++open;
           return original(root, path, options, access, result);
         });
     const auto created = KELVO_REPLACE_IMPORT(
@@ -54,11 +48,10 @@ TEST_CASE("each operation asks for its rights and the view, and closes what it o
                              LPWSTR className, DWORD options, REGSAM access, auto... rest) {
           CHECK((options == REG_OPTION_NON_VOLATILE && *className == L'\0'));
           rights.push_back(access);
-          ++open;
           return original(root, path, reserved, className, options, access, rest...);
         });
     const auto closed = KELVO_REPLACE_IMPORT(RegCloseKey, [&](auto* original, HKEY handle) {
-      --open;
+      ++closedKeys;
       return original(handle);
     });
     RegistryAccessFlags = KEY_WOW64_64KEY;
@@ -66,7 +59,7 @@ TEST_CASE("each operation asks for its rights and the view, and closes what it o
     RegistryAccessFlags = 0;
     INFO(row.what);
     CHECK(rights == row.rights);
-    CHECK(open == 0);
+    CHECK(closedKeys == std::ssize(rights));
   }
 }
 
@@ -83,16 +76,17 @@ TEST_CASE("write access is probed where a write would be real") {
       {6, true, false, 1, true}, {6, false, true, 1, false},
   };
   for (const Row& row : rows) {
+    CAPTURE(row.majorVersion, row.elevated, row.writable);
     const test::ScratchKey key;
     bool tried = false;
-    const auto version = KELVO_REPLACE_IMPORT(GetVersionExW, [&](auto*, LPOSVERSIONINFOW version) {
-      version->dwPlatformId = VER_PLATFORM_WIN32_NT;
-      version->dwMajorVersion = row.majorVersion;
+    const auto version = KELVO_REPLACE_IMPORT(GetVersionExW, [&](auto*, auto* record) {
+      record->dwPlatformId = VER_PLATFORM_WIN32_NT;
+      record->dwMajorVersion = row.majorVersion;
       return TRUE;
     });
     const auto token = KELVO_REPLACE_IMPORT(
         GetTokenInformation,
-        [&](auto*, HANDLE, TOKEN_INFORMATION_CLASS, LPVOID elevation, DWORD, PDWORD) {
+        [&](auto*, HANDLE, TOKEN_INFORMATION_CLASS, LPVOID elevation, auto...) {
           static_cast<TOKEN_ELEVATION*>(elevation)->TokenIsElevated = row.elevated ? 1 : 0;
           return TRUE;
         });
@@ -100,10 +94,9 @@ TEST_CASE("write access is probed where a write would be real") {
       tried = true;
       return row.writable ? original(arguments...) : ERROR_ACCESS_DENIED;
     });
-    CAPTURE(row.majorVersion, row.elevated, row.writable);
-    CHECK(RegistryCanWrite(HKEY_CURRENT_USER, key.Path()) == row.answer);
+    CHECK(RegistryCanWrite(kRoot, key.Path()) == row.answer);
     CHECK(tried == row.tried);
-    CHECK_FALSE(RegistryValueExists(HKEY_CURRENT_USER, key.Path(), L"RegCheck"));
+    CHECK_FALSE(RegistryValueExists(kRoot, key.Path(), L"RegCheck"));
   }
 }
 

@@ -1,7 +1,5 @@
 #include "lib/registry/registry_key_tree.h"
 
-#include <string>
-
 #include "lib/registry/registry_key.h"
 #include "lib/registry/registry_number.h"
 #include "tests/support/catch.h"
@@ -12,63 +10,52 @@ namespace kelvo {
 
 namespace {
 
-WString MakeTree(const test::ScratchKey& key) {
-  const WString path = key.Path();
-  for (const wchar_t* const below :
-       {L"\\tree", L"\\tree\\a", L"\\tree\\a\\b", L"\\tree\\c", L"\\kept"}) {
-    for (const wchar_t* const name : {L"", L"one", L"two"}) {
-      REQUIRE(RegistryWriteDword(HKEY_CURRENT_USER, (path + below).c_str(), name, 1) == 0);
-    }
-  }
-  return path;
+bool Exists(const test::ScratchKey& key, const wchar_t* below) {
+  return RegistryKeyExists(HKEY_CURRENT_USER, (WString(key.Path()) + below).c_str());
 }
 
-bool Exists(const WString& path) { return RegistryKeyExists(HKEY_CURRENT_USER, path.c_str()); }
+REGSAM seenView = 1;
+
+LSTATUS DeleteKeyEx(HKEY key, LPCWSTR name, REGSAM view, DWORD /*reserved*/) {
+  seenView = view;
+  return RegDeleteKeyW(key, name);
+}
 
 }  // namespace
 
 TEST_CASE("a key goes with everything below it, with and without RegDeleteKeyExW") {
-  const bool hasDeleteKeyEx = GENERATE(true, false);
-  REGSAM view = 1;
-  static REGSAM* seenView;
-  seenView = &view;
-  const test::ReplacedExport deleteKeyEx(
-      "RegDeleteKeyExW",
-      hasDeleteKeyEx ? reinterpret_cast<void*>(+[](HKEY key, LPCWSTR name, REGSAM access, DWORD) {
-        *seenView = access;
-        return RegDeleteKeyW(key, name);
-      })
-                     : nullptr);
   const test::ScratchKey key;
-  const WString path = MakeTree(key);
-  CHECK(RegistryDeleteKeyTree(HKEY_CURRENT_USER, key.Path(), L"tree") == 0);
-  CHECK_FALSE(Exists(path + L"\\tree"));
-  CHECK(Exists(path + L"\\kept"));
-  CHECK(view == (hasDeleteKeyEx ? RegistryAccessFlags : 1));
-}
-
-TEST_CASE("without a name nothing is deleted") {
-  const test::ScratchKey key;
-  const WString path = MakeTree(key);
-  for (const wchar_t* const none : {L"", static_cast<const wchar_t*>(nullptr)}) {
-    CHECK(RegistryDeleteKeyTree(HKEY_CURRENT_USER, key.Path(), none) == ERROR_ACCESS_DENIED);
-    CHECK(RegistryDeleteKeyTree(HKEY_CURRENT_USER, none, key.Path()) == ERROR_ACCESS_DENIED);
+  const auto remove = [&](const wchar_t* name) {
+    return RegistryDeleteKeyTree(HKEY_CURRENT_USER, key.Path(), name);
+  };
+  for (void* const deleteKeyEx :
+       {reinterpret_cast<void*>(&DeleteKeyEx), static_cast<void*>(nullptr)}) {
+    for (const wchar_t* const below :
+         {L"\\tree", L"\\tree\\a", L"\\tree\\a\\b", L"\\tree\\c", L"\\kept"}) {
+      for (const wchar_t* const name : {L"", L"one", L"two"}) {
+        REQUIRE(RegistryWriteDword(HKEY_CURRENT_USER, (WString(key.Path()) + below).c_str(), name,
+                                   1) == 0);
+      }
+    }
+    {
+      const auto denied = KELVO_REPLACE_IMPORT(
+          RegDeleteValueW, [](auto...) -> LSTATUS { return ERROR_WRITE_PROTECT; });
+      CHECK(remove(L"tree") == ERROR_WRITE_PROTECT);
+    }
+    for (const wchar_t* const none : {L"", static_cast<const wchar_t*>(nullptr)}) {
+      CHECK(remove(none) == ERROR_ACCESS_DENIED);
+      CHECK(RegistryDeleteKeyTree(HKEY_CURRENT_USER, none, key.Path()) == ERROR_ACCESS_DENIED);
+    }
+    CHECK(Exists(key, L"\\tree\\a\\b"));
+    const test::ReplacedExport function("RegDeleteKeyExW", deleteKeyEx);
+    CHECK(remove(L"tree") == 0);
+    CHECK_FALSE(Exists(key, L"\\tree"));
+    CHECK(Exists(key, L"\\kept"));
+    CHECK(seenView == (deleteKeyEx != nullptr ? 0 : 1));
+    seenView = 1;
+    CHECK(remove(L"tree") == ERROR_FILE_NOT_FOUND);
+    seenView = 1;
   }
-  CHECK(Exists(path + L"\\tree\\a\\b"));
-}
-
-TEST_CASE("deletion ends with the first failure") {
-  const test::ScratchKey key;
-  const WString path = MakeTree(key);
-  {
-    const auto denied = KELVO_REPLACE_IMPORT(
-        RegDeleteValueW, [](auto...) -> LSTATUS { return ERROR_ACCESS_DENIED; });
-    CHECK(RegistryDeleteKeyTree(HKEY_CURRENT_USER, key.Path(), L"tree") == ERROR_ACCESS_DENIED);
-  }
-  CHECK(Exists(path + L"\\tree\\a\\b"));
-  CHECK(RegistryDeleteKeyTree(HKEY_CURRENT_USER, key.Path(), L"missing") == ERROR_FILE_NOT_FOUND);
-  CHECK(RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"no such key", L"missing") ==
-        ERROR_FILE_NOT_FOUND);
 }
 
 }  // namespace kelvo

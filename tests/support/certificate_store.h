@@ -13,7 +13,10 @@ std::vector<std::wstring> SubjectsInStore(const wchar_t* storeName);
 // Takes all certificates out of it.
 void EmptyStore(const wchar_t* storeName);
 
-// A certificate file that the test build made: "binary.cer", "base64.cer", "bundle.p7b".
+// A file that the test build made: "binary.cer", "base64.cer" and "bundle.p7b" hold the same
+// certificate.
 std::wstring CertificateFile(const wchar_t* name);
+
+const std::vector<std::wstring> kCertificateSubject = {L"Tessalin Test Publisher"};
 
 }  // namespace kelvo::test

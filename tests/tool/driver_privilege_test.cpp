@@ -1,3 +1,5 @@
+#include "tool/driver_privilege.h"
+
 #include <windows.h>
 
 #include <string>
@@ -5,7 +7,6 @@
 #include "tests/support/captured_output.h"
 #include "tests/support/catch.h"
 #include "tests/support/replaced_import.h"
-#include "tool/driver_privilege.h"
 
 namespace kelvo::test {
 
@@ -24,45 +25,46 @@ TEST_CASE("each failing call of the privilege step is told with its code, in one
   };
   for (const Row& row : rows) {
     int open = 0;
-    const auto opened = KELVO_REPLACE_IMPORT(
-        OpenProcessToken, [&](auto* original, HANDLE process, DWORD access, HANDLE* token) {
+    const auto answer = [&](Call call, BOOL done) {
+      SetLastError(row.error);
+      return row.failing == call ? FALSE : done;
+    };
+    const auto opened =
+        KELVO_REPLACE_IMPORT(OpenProcessToken, [&](auto*, HANDLE, DWORD access, HANDLE* token) {
           CHECK(access == 0x28);
-          SetLastError(row.error);
-          open += row.failing == kOpen ? 0 : 1;
-          return row.failing == kOpen ? FALSE : original(process, access, token);
+          if (row.failing != kOpen) {
+            *token = &open;
+            ++open;
+          }
+          return answer(kOpen, TRUE);
         });
     const auto lookedUp = KELVO_REPLACE_IMPORT(
-        LookupPrivilegeValueW, [&](auto* original, LPCWSTR system, LPCWSTR name, LUID* id) {
+        LookupPrivilegeValueW, [&](auto*, LPCWSTR system, LPCWSTR name, auto*) {
           CHECK((system == nullptr && std::wstring(name) == L"SeLoadDriverPrivilege"));
-          const BOOL found = row.failing == kLookup ? FALSE : original(system, name, id);
-          SetLastError(row.error);
-          return found;
+          return answer(kLookup, TRUE);
         });
     const auto adjusted = KELVO_REPLACE_IMPORT(
-        AdjustTokenPrivileges, [&](auto*, HANDLE, BOOL disableAll, PTOKEN_PRIVILEGES privileges,
-                                   DWORD length, auto* previous, DWORD* previousLength) {
-          CHECK((disableAll == FALSE && length == 16 && previous == nullptr &&
-                 previousLength == nullptr));
-          CHECK((privileges->PrivilegeCount == 1 && privileges->Privileges[0].Attributes == 2));
-          SetLastError(row.error);
+        AdjustTokenPrivileges,
+        [&](auto*, HANDLE, BOOL disableAll, auto* set, DWORD length, auto* previous, auto*) {
+          CHECK((disableAll == FALSE && length == 16 && previous == nullptr));
+          CHECK((set->PrivilegeCount == 1 && set->Privileges[0].Attributes == 2));
           // Only the last error counts.
-          return row.failing == kNone ? FALSE : TRUE;
+          return answer(kNone, TRUE);
         });
     const auto closed = KELVO_REPLACE_IMPORT(CloseHandle, [&](auto* original, HANDLE handle) {
+      if (handle != &open) {
+        return original(handle);
+      }
       --open;
       SetLastError(ERROR_INVALID_HANDLE);
-      return original(handle);
+      return TRUE;
     });
-    std::string output;
-    bool enabled = false;
-    {
-      const CapturedOutput captured;
-      enabled = EnableLoadDriverPrivilege();
-      CHECK(open == 0);
-      output = captured.Text();
-    }
+    const CapturedOutput captured;
+    const bool enabled = EnableLoadDriverPrivilege();
+    const std::string output = captured.Text();
     CHECK(output == row.output);
     CHECK(enabled == (row.failing == kNone));
+    CHECK(open == 0);
   }
 }
 

@@ -16,8 +16,6 @@ std::wstring InstallWords(const std::wstring& publisher, const std::wstring& int
   return L"install C:\\Tessalin.inf \"" + publisher + L"\" \"" + intermediate + L"\" brindle";
 }
 
-const std::vector<std::wstring> kPublisher = {L"Tessalin Test Publisher"};
-
 }  // namespace
 
 TEST_CASE("an install trusts, installs, records and registers, in this order") {
@@ -35,8 +33,8 @@ TEST_CASE("an install trusts, installs, records and registers, in this order") {
                           "INFO: Driver Install Success\r\n" +
                           kServiceOk);
   CHECK(run.errors.empty());
-  CHECK(SubjectsInStore(L"TrustedPublisher") == kPublisher);
-  CHECK(SubjectsInStore(L"CA") == kPublisher);
+  CHECK(SubjectsInStore(L"TrustedPublisher") == kCertificateSubject);
+  CHECK(SubjectsInStore(L"CA") == kCertificateSubject);
   CHECK(Applications() == L"brindle");
   CHECK(machine.Journal(true) ==
         "difxapi.dll loaded\n"
