@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "lib/registry/registry_value.h"
@@ -38,15 +39,8 @@ std::wstring Expanded(const wchar_t* text) {
 
 TEST_CASE("a text value is read whole or not at all") {
   const std::wstring longest(1023, L'x');
-  struct Row {
-    const char* what;
-    DWORD type;
-    std::wstring stored;
-    std::size_t cutBytes;
-    std::wstring read;
-  };
   using namespace std::string_literals;
-  const std::vector<Row> rows = {
+  const std::tuple<const char*, DWORD, std::wstring, std::size_t, std::wstring> rows[] = {
       {"plain", REG_SZ, L"a;b\0"s, 0, L"a;b"},
       {"outside ASCII", REG_SZ, L"\u017D\U0001F600\0"s, 0, L"\u017D\U0001F600"},
       {"empty", REG_SZ, L"\0"s, 0, L""},
@@ -64,11 +58,11 @@ TEST_CASE("a text value is read whole or not at all") {
       {"bytes", REG_BINARY, L"ab\0"s, 0, kDefault},
       {"several texts", REG_MULTI_SZ, L"ab\0\0"s, 0, kDefault},
   };
-  for (const Row& row : rows) {
+  for (const auto& [what, type, stored, cutBytes, read] : rows) {
     const test::ScratchKey key;
-    Store(key, row.type, row.stored, row.cutBytes);
-    INFO(row.what);
-    CHECK(Read(key) == row.read);
+    Store(key, type, stored, cutBytes);
+    INFO(what);
+    CHECK(Read(key) == read);
   }
 }
 
@@ -82,38 +76,28 @@ TEST_CASE("what is not there gives the default") {
 
 TEST_CASE("a caller's buffer is filled, ended and never left") {
   constexpr wchar_t kGuard = 0x5A5A;
-  struct Row {
-    const char* what;
-    DWORD type;
-    std::wstring stored;
-    std::size_t length;
-    std::wstring read;
-  };
   using namespace std::string_literals;
-  const std::vector<Row> rows = {
-      {"fits exactly", REG_SZ, L"abc\0"s, 4, L"abc"},
-      {"one too long", REG_SZ, L"abcd\0"s, 4, L""},
-      {"fills the buffer without a terminator", REG_SZ, L"abcd", 4, L"abc"},
-      {"expanded and cut", REG_EXPAND_SZ, L"%SystemRoot%\0"s, 13,
-       Expanded(L"%SystemRoot%").substr(0, 12)},
-      {"expanded beyond the stored length", REG_EXPAND_SZ, L"%OS%.\0"s, 6,
-       Expanded(L"%OS%.").substr(0, 5)},
-      {"wrong type", REG_BINARY, L"ab\0"s, 4, L""},
-      {"room for the end only", REG_SZ, L"\0"s, 1, L""},
+  const std::tuple<DWORD, std::wstring, std::size_t, std::wstring> rows[] = {
+      {REG_SZ, L"abc\0"s, 4, L"abc"},
+      {REG_SZ, L"abcd\0"s, 4, L""},
+      {REG_SZ, L"abcd", 4, L"abc"},
+      {REG_EXPAND_SZ, L"%SystemRoot%\0"s, 13, Expanded(L"%SystemRoot%").substr(0, 12)},
+      {REG_EXPAND_SZ, L"%OS%.\0"s, 6, Expanded(L"%OS%.").substr(0, 5)},
+      {REG_BINARY, L"ab\0"s, 4, L""},
+      {REG_SZ, L"\0"s, 1, L""},
+      {REG_SZ, L"a\0"s, 0, L""},
   };
-  for (const Row& row : rows) {
+  for (const auto& [type, stored, length, read] : rows) {
     const test::ScratchKey key;
-    Store(key, row.type, row.stored);
-    INFO(row.what);
-    std::vector<wchar_t> buffer(row.length + 1, kGuard);
-    CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.Path(), kName, buffer.data(),
-                                   row.length) == row.read.length());
-    CHECK(std::wstring(buffer.data()) == row.read);
+    Store(key, type, stored);
+    CAPTURE(stored, length);
+    std::vector<wchar_t> buffer(length + 1, kGuard);
+    CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.Path(), kName, buffer.data(), length) ==
+          read.length());
     CHECK(buffer.back() == kGuard);
+    buffer.back() = L'\0';
+    CHECK(std::wstring(buffer.data()) == read);
   }
-  wchar_t untouched = kGuard;
-  CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, L"no such key", kName, &untouched, 0) == 0);
-  CHECK(untouched == kGuard);
 }
 
 TEST_CASE("a text is stored with its terminator") {

@@ -1,6 +1,7 @@
 #include "lib/string/string_tokenizer.h"
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "tests/support/catch.h"
@@ -23,13 +24,8 @@ std::vector<std::wstring> Split(const WString& text, const WString& delimiter, b
 }  // namespace
 
 TEST_CASE("a text is split at the whole delimiter") {
-  struct Row {
-    const wchar_t* text;
-    const wchar_t* delimiter;
-    bool collapse;
-    std::vector<std::wstring> items;
-  };
-  const std::vector<Row> rows = {
+  using Items = std::vector<std::wstring>;
+  const std::tuple<const wchar_t*, const wchar_t*, bool, Items> rows[] = {
       {L";a;;b;", L";", true, {L"a", L"b"}},
       {L";a;;b;", L";", false, {L"", L"a", L"", L"b"}},
       {L"", L";", true, {}},
@@ -42,11 +38,10 @@ TEST_CASE("a text is split at the whole delimiter") {
       {L"a::b:c", L"::", false, {L"a", L"b:c"}},
       {L"::::a::::b:::", L"::", true, {L"a", L"b:"}},
       {L"aaaaa", L"aa", true, {L"a"}},
-      {L"a;b", L"a;b;c", true, {L"a;b"}},
-  };
-  for (const Row& row : rows) {
-    CAPTURE(row.text, row.delimiter, row.collapse);
-    CHECK(Split(row.text, row.delimiter, row.collapse) == row.items);
+      {L"a;b", L"a;b;c", true, {L"a;b"}}};
+  for (const auto& [text, delimiter, collapse, items] : rows) {
+    CAPTURE(text, delimiter, collapse);
+    CHECK(Split(text, delimiter, collapse) == items);
   }
 }
 

@@ -25,9 +25,9 @@ TEST_CASE("a text takes over a part of itself") {
 
 TEST_CASE("up to seven units live inside the object") {
   const auto isInside = [](const WString& text) {
-    const auto* const object = reinterpret_cast<const char*>(&text);
-    const auto* const units = reinterpret_cast<const char*>(text.c_str());
-    return units >= object && units < object + sizeof(text);
+    const auto offset =
+        reinterpret_cast<const char*>(text.c_str()) - reinterpret_cast<const char*>(&text);
+    return offset >= 0 && offset < std::ptrdiff_t{sizeof(text)};
   };
   CHECK(isInside(L"seven__"));
   CHECK_FALSE(isInside(L"eight___"));
