@@ -1,5 +1,8 @@
 #pragma once
 
+#include <windows.h>
+
+#include "lib/registry/registry_key.h"
 #include "lib/string/wstring.h"
 
 namespace kelvo::test {
@@ -17,6 +20,21 @@ class ScratchKey {
 
  private:
   WString path_;
+};
+
+// As long as it lives, this process finds an empty key of the test's own in place of one of
+// Windows' predefined keys (RegOverridePredefKey). Throws std::runtime_error when that is not to be
+// had.
+class StandInKey {
+ public:
+  explicit StandInKey(HKEY predefined);
+  StandInKey(const StandInKey&) = delete;
+  StandInKey& operator=(const StandInKey&) = delete;
+  ~StandInKey();
+
+ private:
+  ScratchKey scratch_;
+  HKEY predefined_;
 };
 
 }  // namespace kelvo::test

@@ -1,0 +1,75 @@
+#include "lib/sysinfo/terminal_server.h"
+
+#include <windows.h>
+
+#include <cwchar>
+
+#include "lib/platform/module.h"
+#include "lib/platform/owned.h"
+#include "lib/registry/registry_key.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr const wchar_t* kProductOptions = L"System\\CurrentControlSet\\Control\\ProductOptions";
+constexpr const wchar_t* kProductSuite = L"ProductSuite";
+
+bool HasTerminalSuite() {
+  auto* const setCondition =
+      KELVO_FIND_FUNCTION(GetModuleHandleA("ntdll.dll"), VerSetConditionMask);
+  auto* const verifyVersion =
+      KELVO_FIND_FUNCTION(GetModuleHandleA("KERNEL32.DLL"), VerifyVersionInfoA);
+  if (setCondition == nullptr || verifyVersion == nullptr) {
+    return false;
+  }
+  OSVERSIONINFOEXA wanted{};
+  wanted.dwOSVersionInfoSize = sizeof(wanted);
+  wanted.wSuiteMask = VER_SUITE_TERMINAL;
+  return verifyVersion(&wanted, VER_SUITENAME, setCondition(0, VER_SUITENAME, VER_AND)) != FALSE;
+}
+
+// `list` must end in two NULs.
+bool ListContains(const wchar_t* list, const wchar_t* text) {
+  for (; *list != L'\0'; list += std::wcslen(list) + 1) {
+    if (lstrcmpW(list, text) == 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+bool IsWinNTTerminalServer() {
+  const DWORD version = GetVersion();
+  constexpr DWORD kNotNt = 0x80000000;
+  if ((version & kNotNt) != 0) {
+    return false;
+  }
+  const DWORD major = LOBYTE(version);
+  return major >= 5 ? HasTerminalSuite() : IsProductSuiteInstalled(L"Terminal Server");
+}
+
+bool IsProductSuiteInstalled(const wchar_t* suiteName) {
+  OwnedRegistryKey key;
+  DWORD size = 0;
+  if (OpenRegistryKey(HKEY_LOCAL_MACHINE, kProductOptions, KEY_READ, key) != ERROR_SUCCESS ||
+      RegQueryValueExW(key.get(), kProductSuite, nullptr, nullptr, nullptr, &size) !=
+          ERROR_SUCCESS ||
+      size == 0) {
+    return false;
+  }
+  // Twice the size, as the value may grow before it is read, then two units for a list stored
+  // without terminators, which the registry is not told of.
+  size *= 2;
+  const OwnedLocalMemory<wchar_t> list(
+      static_cast<wchar_t*>(LocalAlloc(LPTR, SIZE_T{size} + (2 * sizeof(wchar_t)))));
+  DWORD type = REG_NONE;
+  return list &&
+         RegQueryValueExW(key.get(), kProductSuite, nullptr, &type,
+                          reinterpret_cast<BYTE*>(list.get()), &size) == ERROR_SUCCESS &&
+         type == REG_MULTI_SZ && ListContains(list.get(), suiteName);
+}
+
+}  // namespace kelvo
