@@ -33,8 +33,8 @@ TEST_CASE("a product suite is found in the list that is stored, whatever ends it
       {REG_MULTI_SZ, L"A\0Blade\0", 18, L"Blade", true},
       {REG_MULTI_SZ, L"A\0Blade\0", 18, L"blade", false},
       {REG_MULTI_SZ, L"A\0\0Blade\0", 20, L"Blade", false},  // the list ends at the empty text
-      {REG_MULTI_SZ, L"A\0Blade", 14, L"Blade", true},       // no terminator
-      {REG_MULTI_SZ, L"A\0Blade", 13, L"Blade", true},       // nor a last byte
+      {REG_MULTI_SZ, L"A\0Blade!", 14, L"Blade", true},      // no terminator, and none behind
+      {REG_MULTI_SZ, L"A\0Blade!", 13, L"Blade", true},      // nor a last byte
       {REG_MULTI_SZ, L"x", 1, L"x", true},
       {REG_MULTI_SZ, L"x", 0, L"", false},
       {REG_MULTI_SZ, L"A\0", 6, nullptr, false},
