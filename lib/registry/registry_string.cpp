@@ -17,11 +17,12 @@ namespace {
 constexpr DWORD kReadLength = 1024;
 constexpr DWORD kExpandedLength = MAX_PATH;
 
-// Reads a text value into `buffer`, which is zeroed, and expands it where its type says so. Offers
-// the registry `capacity` characters. Returns false, and leaves no text behind, when the value
-// cannot be used.
-bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, std::span<wchar_t> buffer,
-              DWORD capacity) {
+enum class Expansion { kNone, kWhereTypeSays };
+
+// Reads a text value into `buffer`, which is zeroed. Offers the registry `capacity` characters.
+// Returns false, and leaves no text behind, when the value cannot be used.
+bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expansion expansion,
+              std::span<wchar_t> buffer, DWORD capacity) {
   OwnedRegistryKey key;
   if (OpenRegistryKey(root, subkey, KEY_READ, key) != ERROR_SUCCESS) {
     return false;
@@ -37,7 +38,7 @@ bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, std::s
   }
   // Another party may have stored no terminator.
   buffer.back() = L'\0';
-  if (type == REG_EXPAND_SZ) {
+  if (type == REG_EXPAND_SZ && expansion == Expansion::kWhereTypeSays) {
     // One more than the function is told of: a text cut at the end of the buffer has no NUL of its
     // own.
     std::array<wchar_t, kExpandedLength + 1> expanded{};
@@ -46,6 +47,18 @@ bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, std::s
     }
   }
   return true;
+}
+
+std::size_t ReadIntoBuffer(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
+                           Expansion expansion, wchar_t* buffer, std::size_t length) {
+  if (buffer == nullptr || length == 0) {
+    return 0;
+  }
+  std::fill_n(buffer, length, L'\0');
+  constexpr std::size_t kLongest = std::numeric_limits<int>::max() / sizeof(wchar_t);
+  const auto capacity = static_cast<DWORD>(std::min(length, kLongest));
+  ReadText(root, subkey, valueName, expansion, {buffer, length}, capacity);
+  return std::wcslen(buffer);
 }
 
 LSTATUS WriteText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, DWORD type,
@@ -65,20 +78,19 @@ WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valu
   // One more than the registry is told of, so that 2,048 bytes without a terminator are followed by
   // one.
   std::array<wchar_t, kReadLength + 1> buffer{};
-  const bool found = ReadText(root, subkey, valueName, buffer, kReadLength);
+  const bool found =
+      ReadText(root, subkey, valueName, Expansion::kWhereTypeSays, buffer, kReadLength);
   return {found ? buffer.data() : defaultText};
 }
 
 std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length) {
-  if (buffer == nullptr || length == 0) {
-    return 0;
-  }
-  std::fill_n(buffer, length, L'\0');
-  constexpr std::size_t kLongest = std::numeric_limits<int>::max() / sizeof(wchar_t);
-  const auto capacity = static_cast<DWORD>(std::min(length, kLongest));
-  ReadText(root, subkey, valueName, {buffer, length}, capacity);
-  return std::wcslen(buffer);
+  return ReadIntoBuffer(root, subkey, valueName, Expansion::kWhereTypeSays, buffer, length);
+}
+
+std::size_t RegistryReadStoredString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
+                                     wchar_t* buffer, std::size_t length) {
+  return ReadIntoBuffer(root, subkey, valueName, Expansion::kNone, buffer, length);
 }
 
 LSTATUS RegistryWriteString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,

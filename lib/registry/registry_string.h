@@ -25,6 +25,10 @@ WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valu
 std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length);
 
+// The same with the text as it is stored, a REG_EXPAND_SZ not expanded.
+std::size_t RegistryReadStoredString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
+                                     wchar_t* buffer, std::size_t length);
+
 // Writes `text` with its NUL as REG_SZ or REG_EXPAND_SZ (WriteRegistryValue says what it creates
 // and returns). Null counts as empty. A text whose size in bytes a DWORD cannot hold is refused
 // with ERROR_INVALID_PARAMETER.
