@@ -1,5 +1,7 @@
 #include "lib/sysinfo/terminal_server.h"
 
+#include <tuple>
+
 #include "lib/registry/registry_value.h"
 #include "tests/support/catch.h"
 #include "tests/support/replaced_import.h"
@@ -7,70 +9,33 @@
 
 namespace kelvo {
 
-namespace {
-
-void StoreSuites(DWORD type, const wchar_t* data, DWORD size) {
-  WriteRegistryValue(HKEY_LOCAL_MACHINE, L"System\\CurrentControlSet\\Control\\ProductOptions",
-                     L"ProductSuite", type, data, size);
-}
-
-BOOL WINAPI VerifyTerminal(OSVERSIONINFOEXA* record, DWORD type, DWORDLONG mask) {
-  return record->dwOSVersionInfoSize == 156 && record->wSuiteMask == 0x10 && type == 0x40 &&
-         mask == VerSetConditionMask(0, 0x40, 6);
-}
-
-}  // namespace
-
-TEST_CASE("a product suite is found in the list that is stored, whatever ends it") {
-  struct Row {
-    DWORD type;
-    const wchar_t* data;
-    DWORD size;
-    const wchar_t* wanted;
-    bool found;
-  };
-  const Row rows[] = {
-      {REG_MULTI_SZ, L"A\0Blade\0", 18, L"Blade", true},
-      {REG_MULTI_SZ, L"A\0Blade\0", 18, L"blade", false},
-      {REG_MULTI_SZ, L"A\0\0Blade\0", 20, L"Blade", false},  // the list ends at the empty text
-      {REG_MULTI_SZ, L"A\0Blade!", 14, L"Blade", true},      // no terminator, and none behind
-      {REG_MULTI_SZ, L"A\0Blade!", 13, L"Blade", true},      // nor a last byte
-      {REG_MULTI_SZ, L"x", 1, L"x", true},
-      {REG_MULTI_SZ, L"x", 0, L"", false},
-      {REG_MULTI_SZ, L"A\0", 6, nullptr, false},
-      {REG_SZ, L"Blade", 12, L"Blade", false},
-  };
+TEST_CASE("a product suite is found in its list, a terminal server by what its Windows offers") {
   const test::StandInKey machine(HKEY_LOCAL_MACHINE);
-  CHECK_FALSE(IsProductSuiteInstalled(L"A"));
-  for (const Row& row : rows) {
-    CAPTURE(row.data, row.size);
-    StoreSuites(row.type, row.data, row.size);
-    CHECK(IsProductSuiteInstalled(row.wanted) == row.found);
+  const std::tuple<DWORD, const wchar_t*, DWORD, bool> lists[] = {
+      {REG_SZ, L"Terminal Server\0", 34, false},
+      {REG_MULTI_SZ, L"A\0terminal Server\0", 38, false},
+      {REG_MULTI_SZ, L"A\0\0Terminal Server\0", 40, false},
+      {REG_MULTI_SZ, L"A\0Terminal Server!", 34, true},  // no terminator, and none behind
+      {REG_MULTI_SZ, L"A\0Terminal Server!", 33, true},  // nor a last byte
+  };
+  for (const auto& [type, data, size, found] : lists) {
+    WriteRegistryValue(HKEY_LOCAL_MACHINE, L"System\\CurrentControlSet\\Control\\ProductOptions",
+                       L"ProductSuite", type, data, size);
+    CHECK(IsProductSuiteInstalled(L"Terminal Server") == found);
   }
-}
-
-TEST_CASE("a terminal server is recognised by what its Windows offers") {
-  struct Row {
-    DWORD version;
-    const char* missing;
-    bool answer;
+  const auto verify = +[](OSVERSIONINFOEXA* record, DWORD type, DWORDLONG mask) -> BOOL {
+    return record->wSuiteMask == 0x10 && type == 0x40 && mask == VerSetConditionMask(0, 0x40, 6);
   };
-  const Row rows[] = {
-      {0xC0000A04, "", false},  // Windows 98
-      {0x0004, "VerifyVersionInfoA", true},
-      {0x0105, "", true},
-      {0x0105, "VerifyVersionInfoA", false},
-      {0x0105, "VerSetConditionMask", false},
-  };
-  const test::StandInKey machine(HKEY_LOCAL_MACHINE);
-  StoreSuites(REG_MULTI_SZ, L"Terminal Server\0", 34);
-  for (const Row& row : rows) {
-    CAPTURE(row.version, row.missing);
-    const auto version = KELVO_REPLACE_IMPORT(GetVersion, [&](auto) { return row.version; });
-    const test::ReplacedExport verify("VerifyVersionInfoA",
-                                      reinterpret_cast<void*>(&VerifyTerminal));
-    const test::ReplacedExport missing(row.missing, nullptr);
-    CHECK(IsWinNTTerminalServer() == row.answer);
+  const std::tuple<DWORD, const char*, bool> releases[] = {{0xC0000A04, "", false},  // Windows 98
+                                                           {4, "VerifyVersionInfoA", true},
+                                                           {5, "", true},
+                                                           {5, "VerifyVersionInfoA", false},
+                                                           {5, "VerSetConditionMask", false}};
+  for (const auto& [release, missing, answer] : releases) {
+    const auto version = KELVO_REPLACE_IMPORT(GetVersion, [&](auto) { return release; });
+    const test::ReplacedExport present("VerifyVersionInfoA", reinterpret_cast<void*>(verify));
+    const test::ReplacedExport absent(missing, nullptr);
+    CHECK(IsWinNTTerminalServer() == answer);
   }
 }
 
