@@ -18,4 +18,12 @@ bool GuardedCall(Action&& action) {
   return internal::RunGuarded([](void* context) { (*static_cast<Plain*>(context))(); }, &action);
 }
 
+// What `steps` answers, or `failure` when an exception ends them; the same care for owners.
+template <typename Answer, typename Steps>
+Answer GuardedAnswer(Answer failure, Steps&& steps) {
+  Answer answer = failure;
+  GuardedCall([&] { answer = steps(); });
+  return answer;
+}
+
 }  // namespace kelvo

@@ -77,4 +77,14 @@ struct LocalMemory {
 template <typename Content>
 using OwnedLocalMemory = Owned<LocalMemory<Content>>;
 
+// What HeapAlloc took from the process's heap (GetProcessHeap); null when there is none.
+template <typename Content>
+struct ProcessHeapMemory {
+  using Handle = Content*;
+  static Handle None() { return nullptr; }
+  static void Close(Handle handle) { HeapFree(GetProcessHeap(), 0, handle); }
+};
+template <typename Content>
+using OwnedProcessHeapMemory = Owned<ProcessHeapMemory<Content>>;
+
 }  // namespace kelvo
