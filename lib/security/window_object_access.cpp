@@ -1,0 +1,118 @@
+#include "lib/security/window_object_access.h"
+
+#include <aclapi.h>
+
+#include <array>
+#include <cstddef>
+
+#include "lib/platform/owned.h"
+#include "lib/security/access_control_entry.h"
+#include "lib/security/access_control_list.h"
+#include "lib/security/canonical_order.h"
+#include "lib/security/guarded_operation.h"
+
+namespace kelvo {
+
+namespace {
+
+// What the two kinds of window objects differ in.
+struct WindowObjectKind {
+  ACCESS_MASK mask;
+  const wchar_t* readFailed;
+  const wchar_t* allocationFailed;
+  const wchar_t* initializeFailed;
+  const wchar_t* copyFailed;
+  const wchar_t* addFailed;
+  const wchar_t* writeFailed;
+  const wchar_t* cleanUp;
+};
+
+constexpr WindowObjectKind kWindowStation = {
+    .mask = 0x000F037F,
+    .readFailed = L"AllowAccessToWinSta GetSecurityInfo Failed",
+    .allocationFailed = L"AllowAccessToWinSta _malloca Failed",
+    .initializeFailed = L"AllowAccessToWinSta InitializeAcl Failed",
+    .copyFailed = L"AllowAccessToWinSta CopyACL Failed",
+    .addFailed = L"AllowAccessToWinSta AddAce Failed",
+    .writeFailed = L"AllowAccessToWinSta SetSecurityInfo Failed",
+    .cleanUp = L"AllowAccessToWinSta exception caught in __finally"};
+
+constexpr WindowObjectKind kDesktop = {
+    .mask = 0x000F01FF,
+    .readFailed = L"AllowAccessToDesktop GetSecurityInfo Failed",
+    .allocationFailed = L"AllowAccessToDesktop _alloc Failed",
+    .initializeFailed = L"AllowAccessToDesktop Init ACL Failed",
+    .copyFailed = L"AllowAccessToDesktop CopyACL Failed",
+    .addFailed = L"AllowAccessToDesktop AddAce Failed",
+    .writeFailed = L"AllowAccessToDesktop SetSecurityInfo Failed",
+    .cleanUp = L"AllowAccessToDesktop exception caught in __finally"};
+
+// A list up to this size is built on the stack: 1,024 bytes less a mark of 16.
+constexpr std::size_t kStackSize = 1024 - 16;
+
+bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,
+              DWORD size) {
+  if (InitializeAcl(built, size, ACL_REVISION) == FALSE) {
+    return StepFailed(kind.initializeFailed);
+  }
+  if (CopyACL(built, dacl) == FALSE) {
+    return StepFailed(kind.copyFailed);
+  }
+  // An entry for which no index is found goes to the end: kNoAceIndex is MAXDWORD.
+  return AddAce(built, ACL_REVISION, GetACEInsertionIndex(built, ace), ace, ace->Header.AceSize) !=
+             FALSE ||
+         StepFailed(kind.addFailed);
+}
+
+bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
+                 ACCESS_ALLOWED_ACE* ace) {
+  alignas(ACL) std::array<std::byte, kStackSize> stack{};
+  const DWORD size = CalculateACLSize(dacl, nullptr, 0, &ace, 1);
+  // Not freed when it comes from the heap, as the entry is not.
+  void* const scratch =
+      size <= stack.size() ? stack.data() : HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, size);
+  if (scratch == nullptr) {
+    return StepFailed(kind.allocationFailed);
+  }
+  auto* const built = static_cast<ACL*>(scratch);
+  if (!BuildAcl(kind, dacl, ace, built, size)) {
+    return false;
+  }
+  return SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                         built, nullptr) == ERROR_SUCCESS ||
+         StepFailed(kind.writeFailed);
+}
+
+bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
+                 OwnedLocalMemory<void>& descriptor) {
+  ACL* dacl = nullptr;
+  if (GetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &dacl,
+                      nullptr, descriptor.Receive()) != ERROR_SUCCESS) {
+    return StepFailed(kind.readFailed);
+  }
+  // Never freed.
+  ACCESS_ALLOWED_ACE* const ace = AllocateACE(ACCESS_ALLOWED_ACE_TYPE, 0, kind.mask, sid);
+  if (dacl == nullptr) {
+    return true;
+  }
+  // Without an entry there is nothing to look for; AllocateACE has said why.
+  return ace != nullptr &&
+         (FindACEInACL(dacl, ace) != kNoAceIndex || ReplaceDacl(kind, object, dacl, ace));
+}
+
+BOOL AllowAccess(const WindowObjectKind& kind, PSID sid, HANDLE object) {
+  OwnedLocalMemory<void> descriptor;
+  return GuardedOperation(
+      kind.cleanUp, [&] { return AllowInDacl(kind, sid, object, descriptor); },
+      [&] { descriptor.reset(); });
+}
+
+}  // namespace
+
+BOOL AllowAccessToWinSta(PSID sid, HWINSTA station) {
+  return AllowAccess(kWindowStation, sid, station);
+}
+
+BOOL AllowAccessToDesktop(PSID sid, HDESK desktop) { return AllowAccess(kDesktop, sid, desktop); }
+
+}  // namespace kelvo
