@@ -1,0 +1,37 @@
+#pragma once
+
+#include <windows.h>
+
+#include <accctrl.h>
+
+#include <string>
+
+namespace kelvo::test {
+
+// Puts this process on the window station and this thread on the desktop of the given names, both
+// made when they are not there, as long as it lives. Null leaves the process where it is.
+class DesktopScope {
+ public:
+  DesktopScope(const wchar_t* station, const wchar_t* desktop);
+  DesktopScope(const DesktopScope&) = delete;
+  DesktopScope& operator=(const DesktopScope&) = delete;
+  ~DesktopScope();
+
+  [[nodiscard]] HWINSTA Station() const { return station_; }
+  [[nodiscard]] HDESK Desktop() const { return desktop_; }
+
+ private:
+  HWINSTA previousStation_ = GetProcessWindowStation();
+  HDESK previousDesktop_ = GetThreadDesktop(GetCurrentThreadId());
+  HWINSTA station_ = nullptr;
+  HDESK desktop_ = nullptr;
+};
+
+// "station\desktop" of this process and thread.
+std::wstring CurrentDesktop();
+
+// An object's DACL as SDDL; "none" when it has none.
+std::wstring ReadDacl(HANDLE object, SE_OBJECT_TYPE type = SE_WINDOW_OBJECT);
+void WriteDacl(HANDLE object, const std::wstring& sddl, SE_OBJECT_TYPE type = SE_WINDOW_OBJECT);
+
+}  // namespace kelvo::test
