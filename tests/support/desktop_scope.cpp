@@ -1,10 +1,5 @@
 #include "tests/support/desktop_scope.h"
 
-#include <aclapi.h>
-#include <sddl.h>
-
-#include "lib/platform/owned.h"
-
 namespace kelvo::test {
 
 namespace {
@@ -40,30 +35,6 @@ DesktopScope::~DesktopScope() {
 
 std::wstring CurrentDesktop() {
   return NameOf(GetProcessWindowStation()) + L"\\" + NameOf(GetThreadDesktop(GetCurrentThreadId()));
-}
-
-std::wstring ReadDacl(HANDLE object, SE_OBJECT_TYPE type) {
-  ACL* dacl = nullptr;
-  OwnedLocalMemory<void> descriptor;
-  OwnedLocalMemory<wchar_t> text;
-  GetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr, &dacl, nullptr,
-                  descriptor.Receive());
-  ConvertSecurityDescriptorToStringSecurityDescriptorW(
-      descriptor.get(), SDDL_REVISION_1, DACL_SECURITY_INFORMATION, text.Receive(), nullptr);
-  return dacl != nullptr && text ? text.get() : L"none";
-}
-
-void WriteDacl(HANDLE object, const std::wstring& sddl, SE_OBJECT_TYPE type) {
-  OwnedLocalMemory<void> descriptor;
-  ACL* dacl = nullptr;
-  BOOL present = FALSE;
-  BOOL defaulted = FALSE;
-  if (sddl != L"none") {
-    ConvertStringSecurityDescriptorToSecurityDescriptorW(sddl.c_str(), SDDL_REVISION_1,
-                                                         descriptor.Receive(), nullptr);
-    GetSecurityDescriptorDacl(descriptor.get(), &present, &dacl, &defaulted);
-  }
-  SetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr, dacl, nullptr);
 }
 
 }  // namespace kelvo::test

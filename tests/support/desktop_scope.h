@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <accctrl.h>
-
 #include <string>
 
 namespace kelvo::test {
@@ -29,9 +27,5 @@ class DesktopScope {
 
 // "station\desktop" of this process and thread.
 std::wstring CurrentDesktop();
-
-// An object's DACL as SDDL; "none" when it has none.
-std::wstring ReadDacl(HANDLE object, SE_OBJECT_TYPE type = SE_WINDOW_OBJECT);
-void WriteDacl(HANDLE object, const std::wstring& sddl, SE_OBJECT_TYPE type = SE_WINDOW_OBJECT);
 
 }  // namespace kelvo::test
