@@ -12,12 +12,14 @@ namespace kelvo {
 TEST_CASE("a program is started, waited for and handed over as asked") {
   const test::ScratchFolder folder;
   const std::wstring program = (folder.Path() / L"a child.exe").wstring();
-  std::filesystem::copy_file(test::ProgramPath(L"report_command_line.exe"), program);
+  std::filesystem::copy_file(test::ProgramPath(L"report_command_line.exe"), program,
+                             std::filesystem::copy_options::overwrite_existing);
   const std::wstring name = L"kelvo_test_" + std::to_wstring(GetCurrentProcessId());
   const OwnedKernelObject go(CreateEventW(nullptr, TRUE, FALSE, name.c_str()));
   const OwnedKernelObject done(CreateEventW(nullptr, FALSE, FALSE, (name + L"_done").c_str()));
   const std::wstring arguments = name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
-  for (const bool wait : {true, false}) {
+  // Waiting comes last: a program that still ends would keep the folder from being removed.
+  for (const bool wait : {false, true}) {
     for (const bool handsOver : {true, false}) {
       wait ? SetEvent(go.get()) : ResetEvent(go.get());
       OwnedKernelObject process;
