@@ -1,0 +1,98 @@
+#include "lib/registry/registry_value_list.h"
+
+#include <array>
+#include <string_view>
+
+#include "lib/registry/registry_key.h"
+
+namespace kelvo {
+
+namespace {
+
+constexpr DWORD kBufferLength = 16383;
+constexpr DWORD kExpandedLength = MAX_PATH;
+
+// Takes a key's values one after the other into the same two buffers.
+class ValueReader {
+ public:
+  explicit ValueReader(HKEY key) : key_(key) {}
+
+  // False when the value cannot be enumerated.
+  bool Read(DWORD index) {
+    nameLength_ = kBufferLength;
+    size_ = kBufferLength * sizeof(wchar_t);
+    name_.front() = L'\0';
+    // The rest keeps what the value before left: a number's text may run on into it.
+    data_.front() = L'\0';
+    return RegEnumValueW(key_, index, name_.data(), &nameLength_, nullptr, &type_,
+                         reinterpret_cast<BYTE*>(data_.data()), &size_) == ERROR_SUCCESS;
+  }
+
+  void AppendTo(NameTextList& list) const {
+    switch (type_) {
+      case REG_SZ:
+        list.emplace_back(Name(), StoredText());
+        break;
+      case REG_EXPAND_SZ:
+        list.emplace_back(Name(), ExpandedText());
+        break;
+      case REG_DWORD:
+        list.emplace_back(Name(), WString(data_.data()));
+        break;
+      default:
+        break;
+    }
+  }
+
+ private:
+  [[nodiscard]] WString Name() const {
+    return WString(std::wstring_view(name_.data(), nameLength_));
+  }
+
+  // Only what the value itself stores, which may lack a terminator or end in half a unit.
+  [[nodiscard]] WString StoredText() const {
+    WString text(std::wstring_view(data_.data(), (size_ + 1) / sizeof(wchar_t)));
+    if (size_ % sizeof(wchar_t) != 0) {
+      text.data()[text.length() - 1] &= 0xFF;
+    }
+    return {text.c_str()};
+  }
+
+  [[nodiscard]] WString ExpandedText() const {
+    WString stored = StoredText();
+    std::array<wchar_t, kExpandedLength> expanded{};
+    const DWORD needed =
+        ExpandEnvironmentStringsW(stored.c_str(), expanded.data(), kExpandedLength);
+    return needed == 0 || needed > kExpandedLength ? stored : WString(expanded.data());
+  }
+
+  HKEY key_;
+  // One more than the registry is told of, so that a text that fills the buffer ends in a NUL.
+  std::vector<wchar_t> name_ = std::vector<wchar_t>(kBufferLength + 1);
+  std::vector<wchar_t> data_ = std::vector<wchar_t>(kBufferLength + 1);
+  DWORD nameLength_ = 0;
+  DWORD size_ = 0;
+  DWORD type_ = REG_NONE;
+};
+
+}  // namespace
+
+NameTextList ReadRegistryKeyValues(HKEY root, const wchar_t* subkey) {
+  NameTextList list;
+  OwnedRegistryKey key;
+  DWORD count = 0;
+  if (OpenRegistryKey(root, subkey, KEY_READ, key) != ERROR_SUCCESS ||
+      RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count,
+                       nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) {
+    return list;
+  }
+  ValueReader reader(key.get());
+  for (DWORD index = 0; index < count; ++index) {
+    if (reader.Read(index)) {
+      reader.AppendTo(list);
+    }
+  }
+  return list;
+}
+
+}  // namespace kelvo
