@@ -59,7 +59,7 @@ class ValueReader {
   }
 
   [[nodiscard]] WString ExpandedText() const {
-    WString stored = StoredText();
+    const WString stored = StoredText();
     std::array<wchar_t, kExpandedLength> expanded{};
     const DWORD needed =
         ExpandEnvironmentStringsW(stored.c_str(), expanded.data(), kExpandedLength);

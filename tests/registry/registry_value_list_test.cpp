@@ -11,32 +11,28 @@ namespace kelvo {
 TEST_CASE("the values of a key are listed by name and text") {
   using namespace std::string_literals;
   struct Row {
-    DWORD type;
-    std::wstring stored;
-    DWORD cutBytes;
-    std::wstring listed;
+    DWORD type, cutBytes;
+    std::wstring stored, listed;
   };
   const std::wstring all(16383, L'x');
   const std::wstring hidden = L"<not listed>";
   const Row rows[] = {
-      {REG_DWORD, L"\x01\0"s, 0, L"\x01"},  // as text, not as digits
-      {REG_DWORD, L"\0\0"s, 0, L""},
-      {REG_SZ, L"abcdefg\0"s, 0, L"abcdefg"},
-      {REG_DWORD, L"12", 0, L"12cdefg"},  // runs on into the text before it
-      {REG_DWORD, L"3\0"s, 0, L"3"},
-      {REG_DWORD, L"45", 0, L"45cdefg"},
-      {REG_SZ, L"67", 0, L"67"},  // a text without terminator does not
-      {REG_SZ, L"\u0436\u0436", 1, L"\u0436\x36"},
-      {REG_SZ, L"a\0b\0"s, 0, L"a"},
-      {REG_SZ, L"", 0, L""},
-      {REG_BINARY, L"bytes\0"s, 0, hidden},
-      {REG_MULTI_SZ, L"a\0\0"s, 0, hidden},
-      {REG_EXPAND_SZ, L"%kelvo%%kelvo%\0"s, 0, std::wstring(256, L'k')},
-      {REG_EXPAND_SZ, L"%kelvo%%kelvo%123", 0, std::wstring(256, L'k') + L"123"},
-      {REG_EXPAND_SZ, L"%kelvo%%kelvo%1234", 0, L"%kelvo%%kelvo%1234"},  // 260 and a NUL
-      {REG_SZ, all + L'\0', 0, hidden},
-      {REG_SZ, all, 0, all},
-      {REG_DWORD, L"yz", 0, L"yz" + all.substr(2)},
+      {REG_DWORD, 0, L"\x01\0"s, L"\x01"},  // as text, not as digits
+      {REG_DWORD, 0, L"\0\0"s, L""},
+      {REG_SZ, 0, L"abcdefg\0"s, L"abcdefg"},
+      {REG_DWORD, 0, L"12", L"12cdefg"},  // runs on into the text before it
+      {REG_DWORD, 0, L"45", L"45cdefg"},
+      {REG_SZ, 0, L"67", L"67"},  // a text without terminator does not
+      {REG_SZ, 1, L"\u0436\u0436", L"\u0436\x36"},
+      {REG_SZ, 0, L"a\0b\0"s, L"a"},
+      {REG_SZ, 0, L"", L""},
+      {REG_BINARY, 0, L"bytes\0"s, hidden},
+      {REG_EXPAND_SZ, 0, L"%kelvo%%kelvo%\0"s, std::wstring(256, L'k')},
+      {REG_EXPAND_SZ, 0, L"%kelvo%%kelvo%123", std::wstring(256, L'k') + L"123"},
+      {REG_EXPAND_SZ, 0, L"%kelvo%%kelvo%1234", L"%kelvo%%kelvo%1234"},  // 260 and a NUL
+      {REG_SZ, 0, all + L'\0', hidden},
+      {REG_SZ, 0, all, all},
+      {REG_DWORD, 0, L"yz", L"yz" + all.substr(2)},
   };
   const test::ScratchKey key;
   CHECK(ReadRegistryKeyValues(HKEY_CURRENT_USER, key.Path()).empty());

@@ -9,33 +9,20 @@ TEST_CASE("reflection is switched by the function for it, where Windows has it")
   using Change = LONG WINAPI(HKEY);
   Change* const succeeds = [](HKEY key) { return key == HKEY_USERS ? 0L : 6L; };
   Change* const fails = [](HKEY) { return 5L; };
-  struct Row {
-    Change* enables;
-    Change* disables;
-    bool enabled;
-    bool disabled;
-  };
-  const Row rows[] = {
-      {succeeds, fails, true, false},
-      {fails, succeeds, false, true},
-      {nullptr, succeeds, false, true},
-      {succeeds, nullptr, true, false},
-  };
-  for (const Row& row : rows) {
-    const test::ReplacedExport enable("RegEnableReflectionKey",
-                                      reinterpret_cast<void*>(row.enables));
+  const test::ReplacedExport enable("RegEnableReflectionKey", reinterpret_cast<void*>(succeeds));
+  CHECK(EnableRegistryReflection(HKEY_USERS, true));
+  CHECK_FALSE(EnableRegistryReflection(nullptr, true));
+  for (Change* const disables : {succeeds, fails, static_cast<Change*>(nullptr)}) {
     const test::ReplacedExport disable("RegDisableReflectionKey",
-                                       reinterpret_cast<void*>(row.disables));
-    CHECK(EnableRegistryReflection(HKEY_USERS, true) == row.enabled);
-    CHECK(EnableRegistryReflection(HKEY_USERS, false) == row.disabled);
+                                       reinterpret_cast<void*>(disables));
+    CHECK(EnableRegistryReflection(HKEY_USERS, false) == (disables == succeeds));
   }
 }
 
 TEST_CASE("each registry view has its access bit") {
-  CHECK(GetRegistryViewAccess(1) == 0x200);
-  CHECK(GetRegistryViewAccess(2) == 0x100);
-  for (const int other : {-1, 0, 3}) {
-    CHECK(GetRegistryViewAccess(other) == 0);
+  const REGSAM bits[] = {0, 0x200, 0x100, 0};
+  for (int view = 0; view < 4; ++view) {
+    CHECK(GetRegistryViewAccess(view) == bits[view]);
   }
 }
 

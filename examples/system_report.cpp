@@ -1,0 +1,65 @@
+// Prints what the library finds out about this system, a line for each entry, in UTF-8.
+
+#include "lib/sysinfo/system_report.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "examples/visible_text.h"
+
+namespace kelvo {
+
+namespace {
+
+// A longer name pushes its own value aside instead of everybody's.
+constexpr std::size_t kWidestColumn = 40;
+
+using Line = std::pair<std::string, std::string>;
+
+std::vector<Line> CollectLines() {
+  NameTextList report;
+  CollectSystemReport(report);
+  std::vector<Line> lines;
+  lines.reserve(report.size());
+  for (const auto& [name, text] : report) {
+    lines.emplace_back(VisibleUtf8(name), VisibleUtf8(text));
+  }
+  return lines;
+}
+
+std::size_t ColumnWidth(const std::vector<Line>& lines) {
+  std::size_t width = 0;
+  for (const auto& [name, text] : lines) {
+    width = std::max(width, CountCharacters(name));
+  }
+  return std::min(width, kWidestColumn);
+}
+
+bool Print(const std::vector<Line>& lines) {
+  const std::size_t width = ColumnWidth(lines);
+  std::string all;
+  for (const auto& [name, text] : lines) {
+    all += name;
+    all.append(width - std::min(width, CountCharacters(name)), ' ');
+    all += "  " + text + "\n";
+  }
+  return std::fwrite(all.data(), 1, all.size(), stdout) == all.size() && std::fflush(stdout) == 0;
+}
+
+}  // namespace
+
+}  // namespace kelvo
+
+extern "C" int wmain() {
+  // What a console takes the bytes for; a file or a pipe takes them as they are.
+  const UINT previous = GetConsoleOutputCP();
+  SetConsoleOutputCP(CP_UTF8);
+  const bool printed = kelvo::Print(kelvo::CollectLines());
+  SetConsoleOutputCP(previous);
+  return printed ? 0 : 1;
+}

@@ -1,0 +1,41 @@
+#include "lib/sysinfo/color_depth.h"
+
+#include <cmath>
+
+namespace kelvo {
+
+namespace {
+
+// A little below 2 to the power of 32.
+constexpr double kFewestFullColors = 4294697000.0;
+constexpr double kMostLowColors = 65536.0;
+
+double CountDeviceColors(HDC device) {
+  return std::pow(2.0, GetDeviceCaps(device, PLANES) * GetDeviceCaps(device, BITSPIXEL));
+}
+
+// 0 when the desktop has no device context to ask.
+double CountColors(HDC device) {
+  if (device != nullptr) {
+    return CountDeviceColors(device);
+  }
+  const HWND desktop = GetDesktopWindow();
+  const HDC desktopDevice = GetDC(desktop);
+  if (desktopDevice == nullptr) {
+    return 0.0;
+  }
+  const double colors = CountDeviceColors(desktopDevice);
+  ReleaseDC(desktop, desktopDevice);
+  return colors;
+}
+
+}  // namespace
+
+bool IsFullResolution(HDC device) { return CountColors(device) >= kFewestFullColors; }
+
+bool IsLowResolution(HDC device) {
+  const double colors = CountColors(device);
+  return colors > 0.0 && colors <= kMostLowColors;
+}
+
+}  // namespace kelvo

@@ -1,0 +1,44 @@
+#include "lib/sysinfo/file_version.h"
+
+#include <windows.h>
+
+#include <compare>
+
+#include "lib/string/wstring.h"
+#include "lib/sysinfo/fixed_file_version.h"
+#include "lib/sysinfo/system_directories.h"
+
+namespace kelvo {
+
+int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int revision) {
+  FixedFileVersion version = ReadFixedFileVersion(path);
+  if (version.block == nullptr) {
+    return 2;
+  }
+  const auto order = version.Numbers() <=> FileVersionNumbers{major, minor, build, revision};
+  if (order < 0) {
+    return -1;
+  }
+  // These two answers have never freed the resource.
+  version.memory.release();
+  return order > 0 ? 1 : 0;
+}
+
+bool GetFileVersionString(wchar_t* text, const wchar_t* path) {
+  const FixedFileVersion version = ReadFixedFileVersion(path);
+  if (version.block == nullptr) {
+    lstrcpyW(text, L"not available");
+    return false;
+  }
+  const auto [major, minor, build, revision] = version.Numbers();
+  wsprintfW(text, L"%u.%u.%u.%u", major, minor, build, revision);
+  return true;
+}
+
+bool GetSystemFileVersionString(wchar_t* text, const wchar_t* fileName) {
+  const WString path = WString(GetSystemDirectoryPath()) + fileName;
+  GetFileVersionString(text, path.c_str());
+  return true;
+}
+
+}  // namespace kelvo
