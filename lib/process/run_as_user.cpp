@@ -104,7 +104,7 @@ BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process) {
   const HWINSTA station = GetProcessWindowStation();
   const HDESK desktop = GetThreadDesktop(GetCurrentThreadId());
   // Stays open, by design.
-  const HANDLE token = OpenPrimaryToken();
+  const HANDLE token = GuardedAnswer(HANDLE{nullptr}, OpenPrimaryToken);
   if (token == nullptr) {
     StepFailed(L"RunAsUser OpenProcessToken On Self Failed");
     return FALSE;
