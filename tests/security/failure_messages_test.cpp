@@ -90,7 +90,7 @@ void CheckSteps(const std::wstring& operation, bool hasCleanUp, const Call& succ
     SetThreadDesktop(desktop);
     for (const HANDLE object : {HANDLE{station}, HANDLE{desktop}}) {
       SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
-                      startingList->get(), nullptr);
+                      startingList->acl, nullptr);
     }
     traced.clear();
     bool succeeded = false;
@@ -128,15 +128,15 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   station = scope.Station();
   desktop = scope.Desktop();
   // More than fits on the stack, and enough to have all calls made.
-  const TestAcl many(std::vector<TestAce>(51, TestAce(0)));
-  const TestAcl few({TestAce(0), TestAce(0)});
+  const TestAcl many(std::vector<TestAce>(51));
+  const TestAcl few({{}, {}});
   startingList = &few;
   OwnedKernelObject token;
   OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive());
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
-  TestAce ace(0, 0, 9);
-  TestAce audit(SYSTEM_AUDIT_ACE_TYPE);
-  const TestAcl list({TestAce(1), audit});
+  TestAce ace{.mask = 9};
+  TestAce audit{.type = SYSTEM_AUDIT_ACE_TYPE};
+  const TestAcl list({{.type = 1}, audit});
   SID invalid{};
   const PSID sids[] = {&invalid};
   const wchar_t* const names[] = {L"SeNoSuchPrivilege", nullptr};
@@ -145,17 +145,17 @@ TEST_CASE("each failing call has its message, then the operation its own") {
 
   // The steps without the operation's name.
   const auto check = CheckSteps;
-  check(L"FindACEInACL", false, [&] { return FindACEInACL(list.get(), ace.get()) == 0; },
+  check(L"FindACEInACL", false, [&] { return FindACEInACL(list.acl, ace.get()) == 0; },
         {L"GetAclInformation Failed", L"GetAce Failed"});
-  check(L"CopyACL", false, [&] { return CopyACL(TestAcl({}, 40).get(), list.get()) != FALSE; },
+  check(L"CopyACL", false, [&] { return CopyACL(TestAcl({}, 40).acl, list.acl) != FALSE; },
         {L"GetAclInformation Failed", L"GetAce Failed", L"AddAce Failed"});
   check(L"GetACEInsertionIndex", false,
-        [&] { return GetACEInsertionIndex(list.get(), audit.get()) == 0; }, {L"Bad Ace Type"});
+        [&] { return GetACEInsertionIndex(list.acl, audit.get()) == 0; }, {L"Bad Ace Type"});
   check(L"GetACEInsertionIndex", false,
-        [&] { return GetACEInsertionIndex(list.get(), ace.get()) == 0; },
+        [&] { return GetACEInsertionIndex(list.acl, ace.get()) == 0; },
         {L"Bad Src Ace Type", L"GetAclInformation Failed", L"GetAce Failed"});
   check(L"CalculateACLSize", false,
-        [&] { return CalculateACLSize(list.get(), sids, 1, nullptr, 0) != 0; },
+        [&] { return CalculateACLSize(list.acl, sids, 1, nullptr, 0) != 0; },
         {L"IsValidSid Failed", L"GetAclInformation Failed"});
   check(L"AllocateACE", false, [&] { return AllocateACE(0, 0, 1, &ace.sid) != nullptr; },
         {L"LocalAlloc Failed", L"CopySid Failed"});

@@ -1,136 +1,114 @@
 #include "lib/security/window_object_access.h"
 
-#include <aclapi.h>
-
 #include "lib/platform/owned.h"
 #include "lib/security/deny_ace_removal.h"
+#include "lib/security/kernel_object_access.h"
 #include "lib/security/token_object_access.h"
+#include "lib/security/token_privileges.h"
 #include "tests/security/test_acl.h"
 #include "tests/support/catch.h"
 #include "tests/support/dacl_text.h"
 #include "tests/support/desktop_scope.h"
-#include "tests/support/trace_recorder.h"
+#include "tests/support/replaced_import.h"
 
 namespace kelvo {
 
-using test::NormalDacl;
 using test::ReadDacl;
 using test::WriteDacl;
 
 namespace {
 
-// "LS" in SDDL.
-test::TestAce localService(0, 0, 0, 19);
-
-// Each '$' of the text replaced.
-std::wstring Fill(const wchar_t* text, const std::wstring& value) {
-  std::wstring filled;
-  for (; *text != L'\0'; ++text) {
-    filled += *text == L'$' ? value : std::wstring(1, *text);
-  }
-  return filled;
-}
+test::TestAce localService;
+const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
+const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
 }  // namespace
 
-TEST_CASE("an explicit entry is granted once, in its place") {
+TEST_CASE("an explicit entry is granted once, and only where there is a list") {
   const test::DesktopScope scope(L"kelvo security test", L"kelvo desktop");
-  const auto inserting = KELVO_REPLACE_IMPORT(AddAce, test::AddAceAtIndex{});
-  std::wstring many = L"D:(D;;CC;;;WD)";
+  std::wstring many = L"D:";
   for (int count = 0; count < 60; ++count) {
-    many += L"(A;;CC;;;WD)";
+    many += L"(D;;CC;;;WD)";
   }
-  const std::wstring manyAfter = std::wstring(many).insert(14, L"(A;;$;;;LS)");
-  const wchar_t* const cases[][2] = {{L"D:(D;;CC;;;WD)(A;;CC;;;WD)(A;ID;CC;;;BA)",
-                                      L"D:(D;;CC;;;WD)(A;;$;;;LS)(A;;CC;;;WD)(A;ID;CC;;;BA)"},
-                                     {L"D:(A;;CC;;;WD)(A;;$;;;LS)", L"D:(A;;CC;;;WD)(A;;$;;;LS)"},
-                                     {L"D:(A;ID;$;;;LS)", L"D:(A;;$;;;LS)(A;ID;$;;;LS)"},
-                                     {L"D:(D;;CC;;;WD)", L"D:(D;;CC;;;WD)(A;;$;;;LS)"},
-                                     {L"D:", L"D:(A;;$;;;LS)"},
-                                     {L"none", L"none"},
-                                     {many.c_str(), manyAfter.c_str()}};
-  for (const auto& [before, after] : cases) {
-    WriteDacl(scope.Station(), Fill(before, L"0xf037f"));
-    WriteDacl(scope.Desktop(), Fill(before, L"0xf01ff"));
+  // Each ends where the entry goes: Wine's AddAce appends, whatever the index.
+  const std::wstring cases[] = {L"D:(D;;CC;;;LS)(D;;CC;;;WD)", L"D:", many};
+  for (const std::wstring& before : cases) {
+    WriteDacl(scope.Station(), before);
+    WriteDacl(scope.Desktop(), before);
     for (int time = 0; time < 2; ++time) {
       CHECK(AllowAccessToWinSta(&localService.sid, scope.Station()) == TRUE);
       CHECK(AllowAccessToDesktop(&localService.sid, scope.Desktop()) == TRUE);
-      CHECK(ReadDacl(scope.Station()) == NormalDacl(Fill(after, L"0xf037f")));
-      CHECK(ReadDacl(scope.Desktop()) == NormalDacl(Fill(after, L"0xf01ff")));
+      CHECK(ReadDacl(scope.Station()) == before + kAllOfStation + L"LS)");
+      CHECK(ReadDacl(scope.Desktop()) == before + kAllOfDesktop + L"LS)");
     }
   }
+  WriteDacl(scope.Desktop(), L"D:(D;;CC;;;WD)(A;;CC;;;WD)(A;ID;CC;;;BA)");
+  DWORD lastIndex = MAXDWORD;
+  const auto adding = KELVO_REPLACE_IMPORT(
+      AddAce, [&](auto original, ACL* acl, DWORD revision, DWORD index, auto... rest) {
+        lastIndex = index;
+        return original(acl, revision, index, rest...);
+      });
+  CHECK(AllowAccessToDesktop(&localService.sid, scope.Desktop()) == TRUE);
+  CHECK(lastIndex == 1);
+  WriteDacl(scope.Desktop(), L"none");
+  CHECK(AllowAccessToDesktop(&localService.sid, scope.Desktop()) == TRUE);
+  CHECK(ReadDacl(scope.Desktop()) == L"none");
 }
 
 TEST_CASE("deny entries for the SID go, all but one at index 0") {
   const test::DesktopScope scope(L"kelvo security test", L"kelvo desktop");
-  int writes = 0;
-  const auto counting = KELVO_REPLACE_IMPORT(SetSecurityInfo, [&](auto original, auto... rest) {
-    ++writes;
-    return original(rest...);
-  });
-  const struct {
-    const wchar_t* before;
-    const wchar_t* after;
-    BOOL answer;
-    int writes;
-  } cases[] = {
-      {L"D:(A;;CC;;;WD)(D;;CC;;;LS)(D;;DC;;;LS)(D;;CC;;;NS)(D;ID;CC;;;LS)",
-       L"D:(A;;CC;;;WD)(D;;CC;;;NS)", TRUE, 1},
-      {L"D:(D;;CC;;;LS)(D;;CC;;;LS)", L"D:(D;;CC;;;LS)", TRUE, 1},
-      {L"D:(A;;CC;;;WD)(A;;CC;;;LS)", L"D:(A;;CC;;;WD)(A;;CC;;;LS)", TRUE, 1},
-      {L"none", L"none", TRUE, 0},
-      {L"D:", L"D:", FALSE, 0},
-  };
-  for (const auto& row : cases) {
-    WriteDacl(scope.Desktop(), row.before);
-    writes = 0;
-    CHECK(DeleteDenyACEofObject(&localService.sid, scope.Desktop(), SE_WINDOW_OBJECT) ==
-          row.answer);
-    CHECK(writes == row.writes);
-    CHECK(ReadDacl(scope.Desktop()) == NormalDacl(row.after));
+  const wchar_t* const cases[][2] = {
+      {L"D:(A;;CC;;;WD)(D;;CC;;;LS)(D;;DC;;;LS)(D;;CC;;;NS)(D;ID;CC;;;LS)(A;;CC;;;LS)",
+       L"D:(A;;CC;;;WD)(D;;CC;;;NS)(A;;CC;;;LS)"},
+      {L"D:(D;;CC;;;LS)(D;;CC;;;LS)", L"D:(D;;CC;;;LS)"},
+      {L"none", L"none"}};
+  for (const auto& [before, after] : cases) {
+    WriteDacl(scope.Desktop(), before);
+    CHECK(DeleteDenyACEofObject(&localService.sid, scope.Desktop(), SE_WINDOW_OBJECT) == TRUE);
+    CHECK(ReadDacl(scope.Desktop()) == after);
   }
-}
-
-TEST_CASE("an object entry counts by the SID at byte 8") {
-  const test::TestAcl list({localService, test::TestAce(6, 0, 1, 19), test::TestAce(6)});
-  const auto read = KELVO_REPLACE_IMPORT(
-      GetSecurityInfo, [&](auto, HANDLE, auto, auto, auto, auto, ACL** dacl, auto, auto) -> DWORD {
-        *dacl = list.get();
-        return ERROR_SUCCESS;
-      });
-  const auto write =
-      KELVO_REPLACE_IMPORT(SetSecurityInfo, [](auto...) -> DWORD { return ERROR_SUCCESS; });
-  CHECK(DeleteDenyACEofObject(&localService.sid, nullptr, SE_WINDOW_OBJECT) == TRUE);
-  CHECK(list.get()->AceCount == 2);
+  WriteDacl(scope.Desktop(), L"D:");
+  CHECK(DeleteDenyACEofObject(&localService.sid, scope.Desktop(), SE_WINDOW_OBJECT) == FALSE);
 }
 
 TEST_CASE("a token's user gets the rights that the type's name asks for") {
   const test::DesktopScope scope(L"kelvo security test", L"kelvo desktop");
-  const auto inserting = KELVO_REPLACE_IMPORT(AddAce, test::AddAceAtIndex{});
   OwnedKernelObject token;
   OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive());
-  const std::wstring denied =
-      Fill(L"D:(A;;CC;;;LS)(D;;CC;;;$)(D;;CC;;;WD)(D;;CC;;;NS)", test::CurrentUserSid());
-  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
-      {L"Desktop", L"0xf01ff"}, {L"a DESK", L"0xf01ff"}, {L"WinStat", L"0xf037f"},
-      {L"des", L"0xf037f"},     {L"", L"0xf037f"},       {nullptr, L"0xf037f"}};
-  for (const auto& [typeName, mask] : cases) {
+  const std::wstring user = test::CurrentUserSid() + L")";
+  const std::wstring denied = L"D:(D;;CC;;;LS)(D;;CC;;;WD)(D;;CC;;;NS)(D;;CC;;;" + user;
+  const std::pair<const wchar_t*, std::wstring> cases[] = {{L"Desktop", kAllOfDesktop},
+                                                           {L"a DESK", kAllOfDesktop},
+                                                           {L"WinStat", kAllOfStation},
+                                                           {L"des", kAllOfStation},
+                                                           {nullptr, kAllOfStation}};
+  for (const auto& [typeName, all] : cases) {
     WriteDacl(scope.Desktop(), denied);
     CHECK(AllowTokenFullAccessToObject(token.get(), scope.Desktop(), SE_WINDOW_OBJECT, typeName) ==
           TRUE);
-    CHECK(ReadDacl(scope.Desktop()) ==
-          NormalDacl(L"D:(A;;" + std::wstring(mask) + L";;;" + test::CurrentUserSid() +
-                     L")(A;;CC;;;LS)(D;;CC;;;NS)"));
+    CHECK(ReadDacl(scope.Desktop()) == L"D:(D;;CC;;;LS)(D;;CC;;;NS)" + all + user);
   }
-  test::TraceRecorder recorder;
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), denied, SE_KERNEL_OBJECT);
-  CHECK(AllowTokenFullAccessToObject(token.get(), event.get(), SE_KERNEL_OBJECT, nullptr) == FALSE);
-  CHECK(ReadDacl(event.get(), SE_KERNEL_OBJECT) == NormalDacl(L"D:(A;;CC;;;LS)(D;;CC;;;NS)"));
-  CHECK(recorder.Take().size() == 2);
-  CHECK(AllowTokenFullAccessToObject(nullptr, event.get(), SE_WINDOW_OBJECT, L"") == FALSE);
-  CHECK(AllowTokenFullAccessToObject(token.get(), nullptr, SE_WINDOW_OBJECT, L"") == FALSE);
-  CHECK(recorder.Take().empty());
+  CHECK(AllowTokenFullAccessToObject(token.get(), event.get(), SE_KERNEL_OBJECT, L"") == FALSE);
+  CHECK(ReadDacl(event.get(), SE_KERNEL_OBJECT) == L"D:(D;;CC;;;LS)(D;;CC;;;NS)");
+  CHECK(ModifySecurity(event.get(), 2) == TRUE);
+  CHECK(ReadDacl(event.get(), SE_KERNEL_OBJECT).find(L"(A;;DC;;;" + user) != std::wstring::npos);
+}
+
+TEST_CASE("a privilege set holds the names that the system knows") {
+  const wchar_t* const names[] = {L"SeNoSuchPrivilege", L"SeDebugPrivilege", L"", L"SeTcbPrivilege",
+                                  nullptr};
+  for (const BOOL useBuiltIn : {FALSE, TRUE}) {
+    DWORD count = 0;
+    const OwnedLocalMemory<TOKEN_PRIVILEGES> set(CreateTokenPriv(&count, names, useBuiltIn));
+    REQUIRE(count == (useBuiltIn != FALSE ? 28 : 2));
+    CHECK(set.get()->PrivilegeCount == count);
+    CHECK(LocalSize(set.get()) == 4 + 12 * count);
+    CHECK(set.get()->Privileges[count - 1].Luid.LowPart != 0);
+    CHECK(set.get()->Privileges[count - 1].Attributes == 3);
+  }
 }
 
 }  // namespace kelvo
