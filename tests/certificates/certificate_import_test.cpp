@@ -3,6 +3,7 @@
 #include <wincrypt.h>
 
 #include <set>
+#include <tuple>
 
 #include "tests/support/catch.h"
 #include "tests/support/certificate_store.h"
@@ -23,20 +24,14 @@ TEST_CASE("a certificate goes into the store once, however often it is imported"
 }
 
 TEST_CASE("everything is closed but the store of a file that cannot be read") {
-  struct Row {
-    const wchar_t* file;
-    bool addFails;
-    DWORD result;
-    std::size_t leftOpen;
+  const std::tuple<const wchar_t*, BOOL, DWORD, std::size_t> rows[] = {
+      {L"binary.cer", TRUE, 0, 0},
+      {L"bundle.p7b", TRUE, 0, 0},
+      {L"binary.cer", FALSE, ERROR_ACCESS_DENIED, 0},
+      {L"missing.cer", TRUE, ERROR_SHARING_VIOLATION, 1},
   };
-  const Row rows[] = {
-      {L"binary.cer", false, 0, 0},
-      {L"bundle.p7b", false, 0, 0},
-      {L"binary.cer", true, ERROR_ACCESS_DENIED, 0},
-      {L"missing.cer", false, ERROR_SHARING_VIOLATION, 1},
-  };
-  for (const Row& row : rows) {
-    CAPTURE(row.file, row.addFails);
+  for (const auto& [file, adds, result, leftOpen] : rows) {
+    CAPTURE(file, adds);
     std::multiset<const void*> open;
     const auto opened =
         KELVO_REPLACE_IMPORT(CertOpenStore, [&](auto* original, LPCSTR provider, DWORD encoding,
@@ -48,13 +43,13 @@ TEST_CASE("everything is closed but the store of a file that cannot be read") {
         });
     const auto queried = KELVO_REPLACE_IMPORT(
         CryptQueryObject,
-        [&](auto* original, DWORD object, const void* file, DWORD content, DWORD format,
+        [&](auto* original, DWORD object, const void* path, DWORD content, DWORD format,
             DWORD flags, DWORD* encoding, DWORD* contentType, DWORD* formatType, HCERTSTORE* store,
             HCRYPTMSG* message, const void** context) {
           CHECK((object == 1 && content == 0x3FFE && format == 0xE && flags == 0));
           CHECK((message == nullptr && *encoding + *contentType + *formatType == 0));
           CHECK((*store == nullptr && *context == nullptr));
-          const BOOL found = original(object, file, content, format, flags, encoding, contentType,
+          const BOOL found = original(object, path, content, format, flags, encoding, contentType,
                                       formatType, store, message, context);
           open.insert({*store, *context});
           open.erase(nullptr);
@@ -65,7 +60,7 @@ TEST_CASE("everything is closed but the store of a file that cannot be read") {
         CertAddCertificateContextToStore,
         [&](auto* original, HCERTSTORE store, auto certificate, DWORD disposition, auto* copy) {
           CHECK((disposition == 3 && copy == nullptr));
-          const BOOL done = row.addFails ? FALSE : original(store, certificate, disposition, copy);
+          const BOOL done = adds && original(store, certificate, disposition, copy);
           SetLastError(ERROR_ACCESS_DENIED);
           return done;
         });
@@ -79,8 +74,8 @@ TEST_CASE("everything is closed but the store of a file that cannot be read") {
         CertCloseStore, [&](auto*, HCERTSTORE store, DWORD) { return close(store); });
     const auto freed = KELVO_REPLACE_IMPORT(
         CertFreeCertificateContext, [&](auto*, auto certificate) { return close(certificate); });
-    CHECK(ImportCertToTrustedPublishers(CertificateFile(row.file).c_str()) == row.result);
-    CHECK(open.size() == row.leftOpen);
+    CHECK(ImportCertToTrustedPublishers(CertificateFile(file).c_str()) == result);
+    CHECK(open.size() == leftOpen);
   }
 }
 

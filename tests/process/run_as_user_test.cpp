@@ -4,7 +4,6 @@
 #include "lib/process/interactive_desktop.h"
 #include "tests/support/catch.h"
 #include "tests/support/child_process.h"
-#include "tests/support/dacl_text.h"
 #include "tests/support/desktop_scope.h"
 #include "tests/support/replaced_import.h"
 #include "tests/support/scratch_folder.h"
@@ -13,143 +12,83 @@ namespace kelvo {
 
 namespace {
 
-// Notes the name of each call, and lets it through.
-#define KELVO_NOTE_CALL(function)                                         \
+std::string calls;
+// Notes the first letters of each call's name, and lets it through.
+#define KELVO_NOTE(function, letters)                                     \
   KELVO_REPLACE_IMPORT(function, [&](auto original, auto... parameters) { \
-    calls += std::string(" ") + #function;                                \
+    calls += letters;                                                     \
     return original(parameters...);                                       \
   })
-
-struct Place {
-  const wchar_t* station;
-  const wchar_t* desktop;
-  const char* restores;
-  const char* closes;
-};
-
-constexpr Place kPlaces[] = {
-    {nullptr, nullptr, "", ""},
-    {nullptr, L"kelvo desktop", " SetProcessWindowStation SetThreadDesktop",
-     " CloseDesktop CloseWindowStation"},
-    {L"kelvo process test", L"Default", " SetProcessWindowStation SetThreadDesktop",
-     " CloseDesktop CloseWindowStation"}};
 
 }  // namespace
 
 TEST_CASE("a command line runs on the interactive desktop from everywhere") {
   const test::ScratchFolder folder;
   const auto file = folder.Path() / "names";
-  for (const Place& place : kPlaces) {
-    for (const bool wait : {true, false}) {
-      for (const bool wantsProcess : {true, false}) {
-        const test::DesktopScope scope(place.station, place.desktop);
-        const std::wstring before = test::CurrentDesktop();
-        CAPTURE(before, wait, wantsProcess);
-        std::filesystem::remove(file);
-        std::wstring command =
-            L"\"" + test::ProgramPath(L"report_desktop.exe") + L"\" \"" + file.wstring() + L"\"";
-        OwnedKernelObject process;
-        std::string calls;
-        {
-          const auto created =
-              KELVO_REPLACE_IMPORT(CreateProcessAsUserW, [&](auto original, auto... parameters) {
-                const BOOL result = original(parameters...);
-                calls.clear();
-                return result;
-              });
-          const auto n1 = KELVO_NOTE_CALL(HeapFree);
-          const auto n2 = KELVO_NOTE_CALL(SetProcessWindowStation);
-          const auto n3 = KELVO_NOTE_CALL(SetThreadDesktop);
-          const auto n4 = KELVO_NOTE_CALL(WaitForSingleObject);
-          const auto n5 = KELVO_NOTE_CALL(CloseHandle);
-          const auto n6 = KELVO_NOTE_CALL(CloseDesktop);
-          const auto n7 = KELVO_NOTE_CALL(CloseWindowStation);
-          REQUIRE(RunAsUser(command.data(), wait, wantsProcess ? process.Receive() : nullptr) ==
-                  TRUE);
-        }
-        CHECK(calls == std::string(" HeapFree") + place.restores +
-                           (wait ? " WaitForSingleObject" : "") +
-                           (wantsProcess ? "" : " CloseHandle") + " CloseHandle" + place.closes);
-        CHECK(test::CurrentDesktop() == before);
-        if (wantsProcess) {
-          DWORD exitCode = 0;
-          CHECK(WaitForSingleObject(process.get(), wait ? 0 : INFINITE) == WAIT_OBJECT_0);
-          CHECK(GetExitCodeProcess(process.get(), &exitCode) == TRUE);
-          CHECK(exitCode == 7);
-        }
-        for (int tries = 0; tries < 100 && test::ReadBytes(file).size() < 15; ++tries) {
-          Sleep(100);
-        }
-        CHECK(test::ReadBytes(file) == "WinSta0\\Default");
-      }
-    }
-  }
-}
-
-TEST_CASE("only a process from another station has the interactive one opened to its user") {
-  const HWINSTA station = OpenWindowStationW(L"WinSta0", FALSE, READ_CONTROL | WRITE_DAC);
-  const HDESK desktop = OpenDesktopW(L"Default", 0, FALSE, READ_CONTROL | WRITE_DAC);
-  const struct {
-    HANDLE object;
-    std::wstring before;
-    const wchar_t* mask;
-  } objects[] = {{station, test::ReadDacl(station), L"0xf037f"},
-                 {desktop, test::ReadDacl(desktop), L"0xf01ff"}};
-  const std::wstring everyone = test::NormalDacl(L"D:(A;;0xf03ff;;;WD)");
-  for (const Place& place : kPlaces) {
-    for (const auto& object : objects) {
-      test::WriteDacl(object.object, everyone);
-    }
-    {
-      const test::DesktopScope scope(place.station, place.desktop);
-      std::wstring command = test::ProgramPath(L"report_desktop.exe") + L" NUL";
-      CHECK(RunAsUser(command.data(), TRUE, nullptr) == TRUE);
-    }
-    for (const auto& object : objects) {
-      std::wstring dacl = test::ReadDacl(object.object);
-      if (place.station != nullptr) {
-        const std::wstring user = test::NormalDacl(std::wstring(L"D:(A;;") + object.mask + L";;;" +
-                                                   test::CurrentUserSid() + L")")
-                                      .substr(2);
-        const std::size_t at = dacl.find(user);
-        REQUIRE(at != std::wstring::npos);
-        dacl.erase(at, user.size());
-      }
-      CHECK(dacl == everyone);
-    }
-  }
-  for (const auto& object : objects) {
-    test::WriteDacl(object.object, object.before);
-  }
-}
-
-TEST_CASE("the interactive desktop is known by its names, in whatever letter case") {
   const struct {
     const wchar_t* station;
     const wchar_t* desktop;
-    BOOL answer;
-  } cases[] = {{L"WinSta0", L"Default", TRUE},   {L"WINSTA0", L"DEFAULT", TRUE},
-               {L"winsta0", L"default", TRUE},   {L"WinSta", L"Default", FALSE},
-               {L"WinSta0", L"Default2", FALSE}, {L"W\u0130nSta0", L"Default", FALSE},
-               {L"WinSta0", L"Winlogon", FALSE}, {L"", L"", FALSE}};
-  for (const auto& row : cases) {
-    const wchar_t* next = row.station;
-    std::string calls;
+    std::string opens;
+    std::string restores;
+    std::string closes;
+  } places[] = {
+      {nullptr, nullptr, "", "", ""},
+      {nullptr, L"kelvo desktop", "", "station desktop ", "close close "},
+      {L"kelvo process test", L"Default", "station ", "station desktop ", "close close "}};
+  for (int round = 0; round < 12; ++round) {
+    const auto& place = places[round / 4];
+    const bool wait = round % 2 == 1;
+    const bool wantsProcess = round % 4 >= 2;
+    CAPTURE(round);
+    const test::DesktopScope scope(place.station, place.desktop);
+    const std::wstring before = test::CurrentDesktop();
+    std::wstring command =
+        L"\"" + test::ProgramPath(L"report_desktop.exe") + L"\" \"" + file.wstring() + L"\"";
+    OwnedKernelObject process;
+    calls.clear();
+    {
+      const auto create = KELVO_NOTE(CreateProcessAsUserW, "create ");
+      const auto free = KELVO_NOTE(HeapFree, "free ");
+      const auto station = KELVO_NOTE(SetProcessWindowStation, "station ");
+      const auto desktop = KELVO_NOTE(SetThreadDesktop, "desktop ");
+      const auto waiting = KELVO_NOTE(WaitForSingleObject, "wait ");
+      const auto closeDesktop = KELVO_NOTE(CloseDesktop, "close ");
+      const auto closeStation = KELVO_NOTE(CloseWindowStation, "close ");
+      REQUIRE(RunAsUser(command.data(), wait, wantsProcess ? process.Receive() : nullptr) == TRUE);
+    }
+    CHECK(calls ==
+          place.opens + "create free " + place.restores + (wait ? "wait " : "") + place.closes);
+    CHECK(test::CurrentDesktop() == before);
+    DWORD exitCode = wantsProcess ? STILL_ACTIVE : 7;
+    while (GetExitCodeProcess(process.get(), &exitCode) && exitCode == STILL_ACTIVE && !wait) {
+      Sleep(10);
+    }
+    CHECK(exitCode == 7);
+    for (int tries = 0; tries < 500 && test::ReadBytes(file).size() < 15; ++tries) {
+      Sleep(10);
+    }
+    CHECK(test::ReadBytes(file) == "WinSta0\\Default");
+    std::filesystem::remove(file);
+  }
+}
+
+TEST_CASE("names in other letter cases are the interactive desktop's only when one asks for it") {
+  const std::pair<std::pair<const wchar_t*, const wchar_t*>, BOOL> cases[] = {
+      {{L"WinSta0", L"Default"}, TRUE},
+      {{L"WINSTA0", L"DEFAULT"}, TRUE},
+      {{L"winsta0", L"default"}, TRUE},
+      {{L"WinSta0", L"Default2"}, FALSE},
+      {{L"W\u0130nSta0", L"Default"}, FALSE}};
+  for (const auto& [names, answer] : cases) {
+    const wchar_t* name = names.first;
     const auto named = KELVO_REPLACE_IMPORT(
-        GetUserObjectInformationW,
-        [&](auto, HANDLE, int, void* buffer, DWORD size, DWORD* needed) -> BOOL {
-          lstrcpynW(static_cast<wchar_t*>(buffer), std::exchange(next, row.desktop),
-                    static_cast<int>(size / sizeof(wchar_t)));
-          *needed = 2;
+        GetUserObjectInformationW, [&](auto, HANDLE, int, void* text, DWORD, DWORD* needed) {
+          lstrcpyW(static_cast<wchar_t*>(text), std::exchange(name, names.second));
+          *needed = 520;
           return TRUE;
         });
-    const auto n1 = KELVO_NOTE_CALL(CloseWindowStation);
-    const auto n2 = KELVO_NOTE_CALL(CloseDesktop);
-    CHECK(IsOnInteractiveDesktop() == row.answer);
-    CHECK(calls == " CloseWindowStation CloseDesktop");
+    CHECK(IsOnInteractiveDesktop() == answer);
   }
-  const test::DesktopScope scope(nullptr, L"kelvo desktop");
-  CHECK(IsOnInteractiveDesktop() == FALSE);
 }
 
 }  // namespace kelvo

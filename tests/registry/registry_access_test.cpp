@@ -1,3 +1,4 @@
+#include <tuple>
 #include <vector>
 
 #include "lib/registry/registry_key.h"
@@ -64,38 +65,34 @@ TEST_CASE("each operation asks for its rights and the view, and closes what it o
 }
 
 TEST_CASE("write access is probed where a write would be real") {
-  struct Row {
-    DWORD majorVersion;
-    bool elevated;
-    bool writable;
-    int answer;
-    bool tried;
-  };
-  const Row rows[] = {
-      {5, false, true, 0, true}, {5, false, false, 1, true}, {6, true, true, 0, true},
-      {6, true, false, 1, true}, {6, false, true, 1, false},
-  };
-  for (const Row& row : rows) {
-    CAPTURE(row.majorVersion, row.elevated, row.writable);
+  // The major version, elevation, whether the write succeeds; the answer, and whether one was
+  // tried.
+  const std::tuple<DWORD, DWORD, bool, int, bool> rows[] = {{5, 0, true, 0, true},
+                                                            {5, 0, false, 1, true},
+                                                            {6, 1, true, 0, true},
+                                                            {6, 1, false, 1, true},
+                                                            {6, 0, true, 1, false}};
+  for (const auto& [major, elevated, writable, answer, expectsTry] : rows) {
+    CAPTURE(major, elevated, writable);
     const test::ScratchKey key;
     bool tried = false;
     const auto version = KELVO_REPLACE_IMPORT(GetVersionExW, [&](auto*, auto* record) {
       record->dwPlatformId = VER_PLATFORM_WIN32_NT;
-      record->dwMajorVersion = row.majorVersion;
+      record->dwMajorVersion = major;
       return TRUE;
     });
     const auto token = KELVO_REPLACE_IMPORT(
         GetTokenInformation,
         [&](auto*, HANDLE, TOKEN_INFORMATION_CLASS, LPVOID elevation, auto...) {
-          static_cast<TOKEN_ELEVATION*>(elevation)->TokenIsElevated = row.elevated ? 1 : 0;
+          static_cast<TOKEN_ELEVATION*>(elevation)->TokenIsElevated = elevated;
           return TRUE;
         });
     const auto write = KELVO_REPLACE_IMPORT(RegSetValueExW, [&](auto* original, auto... arguments) {
       tried = true;
-      return row.writable ? original(arguments...) : ERROR_ACCESS_DENIED;
+      return writable ? original(arguments...) : ERROR_ACCESS_DENIED;
     });
-    CHECK(RegistryCanWrite(kRoot, key.Path()) == row.answer);
-    CHECK(tried == row.tried);
+    CHECK(RegistryCanWrite(kRoot, key.Path()) == answer);
+    CHECK(tried == expectsTry);
     CHECK_FALSE(RegistryValueExists(kRoot, key.Path(), L"RegCheck"));
   }
 }

@@ -1,3 +1,5 @@
+#include <tuple>
+
 #include "tests/support/catch.h"
 #include "tests/tool/rehearsal.h"
 
@@ -18,13 +20,6 @@ const std::string kUsage =
 
 const std::string kOk = "OK: BluetoothSetLocalServiceInfo\r\n";
 const std::string kNoneLeft = "OK: No more dependant applications\r\n";
-
-std::string ServiceCall(bool enabled) {
-  return std::string(
-             "BluetoothSetLocalServiceInfo radio=none "
-             "class={3ABB9028-BEAE-4BF1-ACD7-5CD7D5E4E0CA} instance=0 enabled=") +
-         (enabled ? "1" : "0") + " address=000000000000 name=\"Tessalin\" device=\"\"\n";
-}
 
 }  // namespace
 
@@ -53,27 +48,19 @@ TEST_CASE("words that match no form give the usage text and 2, and nothing is do
                                      L"a b c d e"}) {
     CAPTURE(words);
     const ChildResult run = machine.Run(words);
-    CHECK(run.exitCode == 2);
-    CHECK(run.output == kUsage);
-    CHECK(run.errors.empty());
-    CHECK(machine.Journal(true).empty());
+    CHECK((run.exitCode == 2 && run.output == kUsage && run.errors.empty()));
+    CHECK((machine.Journal(true).empty() && !Applications().has_value()));
   }
-  CHECK_FALSE(Applications().has_value());
 }
 
 TEST_CASE("each form keeps its part of the list and switches the service") {
   const auto denied = L"0x5";
-  struct Row {
-    const wchar_t* words;
-    const wchar_t* before;  // the list, "" for none
-    const wchar_t* bluetoothResult;
-    DWORD exitCode;
-    std::string output;
-    const wchar_t* after;
-    std::string calls;
-  };
   const std::string deniedLine =
       "ERR: BluetoothSetLocalServiceInfo Error: 00000005 - Access denied.\r\r\n\r\n";
+  // The words, the list before ("" for none), the Bluetooth result; exit code, output, list and
+  // calls.
+  using Row = std::tuple<const wchar_t*, std::wstring, const wchar_t*, DWORD, std::string,
+                         const wchar_t*, std::string>;
   const Row rows[] = {
       {L"register", L"", L"0", 0, kOk, L"", ServiceCall(true)},
       {L"register", L"other", denied, 5, deniedLine, L"other", ServiceCall(true)},
@@ -92,20 +79,19 @@ TEST_CASE("each form keeps its part of the list and switches the service") {
        ServiceCall(false)},
       {L"uninstall none.inf brindle", L"", L"0", 0, kNoneLeft + kOk, L"", ServiceCall(false)},
   };
-  for (const Row& row : rows) {
-    CAPTURE(row.words, row.before, row.bluetoothResult);
+  for (const auto& [words, before, result, exitCode, output, after, calls] : rows) {
+    CAPTURE(words, before, result);
     Rehearsal machine;
     machine.Remove(L"difxapi.dll");
-    machine.Set(L"BLUETOOTH_RESULT", row.bluetoothResult);
-    if (*row.before != L'\0') {
-      SetApplications(row.before);
+    machine.Set(L"BLUETOOTH_RESULT", result);
+    if (!before.empty()) {
+      SetApplications(before);
     }
-    const ChildResult run = machine.Run(row.words);
-    CHECK(run.exitCode == row.exitCode);
-    CHECK(run.output == row.output);
-    CHECK(run.errors.empty());
-    CHECK(Applications().value_or(L"") == row.after);
-    CHECK(machine.Journal() == row.calls);
+    const ChildResult run = machine.Run(words);
+    CHECK((run.exitCode == exitCode && run.errors.empty()));
+    CHECK(run.output == output);
+    CHECK(Applications().value_or(L"") == after);
+    CHECK(machine.Journal() == calls);
   }
 }
 
@@ -114,8 +100,8 @@ TEST_CASE("without a Bluetooth library the line says so and the exit code is 0")
   machine.Remove(L"bthprops.cpl");
   for (const wchar_t* const words : {L"register", L"unregister", L"register brindle"}) {
     const ChildResult run = machine.Run(words);
-    CHECK(run.exitCode == 0);
-    CHECK(run.output == "ERR: no Bluetooth available, bthprops.cpl missing\r\n");
+    CHECK((run.exitCode == 0 &&
+           run.output == "ERR: no Bluetooth available, bthprops.cpl missing\r\n"));
   }
   CHECK(Applications() == L"brindle");
 }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <string>
+#include <tuple>
 
 #include "tests/support/captured_output.h"
 #include "tests/support/catch.h"
@@ -12,27 +13,22 @@ namespace kelvo::test {
 
 TEST_CASE("each failing call of the privilege step is told with its code, in one wording") {
   enum Call { kOpen, kLookup, kAdjust, kNone };
-  struct Row {
-    Call failing;
-    DWORD error;
-    std::string output;
-  };
-  const Row rows[] = {
-      {kOpen, ERROR_ACCESS_DENIED, "ERR: OpenProcessToken failed, err = 00000005\r\n"},
-      {kLookup, ERROR_NO_SUCH_PRIVILEGE, "ERR: OpenProcessToken failed, err = 00000521\r\n"},
-      {kAdjust, ERROR_NOT_ALL_ASSIGNED, "ERR: OpenProcessToken failed, err = 00000514\r\n"},
-      {kNone, ERROR_SUCCESS, ""},
-  };
-  for (const Row& row : rows) {
+  const std::string line = "ERR: OpenProcessToken failed, err = ";
+  const std::tuple<Call, DWORD, std::string> rows[] = {
+      {kOpen, ERROR_ACCESS_DENIED, line + "00000005\r\n"},
+      {kLookup, ERROR_NO_SUCH_PRIVILEGE, line + "00000521\r\n"},
+      {kAdjust, ERROR_NOT_ALL_ASSIGNED, line + "00000514\r\n"},
+      {kNone, ERROR_SUCCESS, ""}};
+  for (const auto& [failing, error, output] : rows) {
     int open = 0;
     const auto answer = [&](Call call, BOOL done) {
-      SetLastError(row.error);
-      return row.failing == call ? FALSE : done;
+      SetLastError(error);
+      return failing == call ? FALSE : done;
     };
     const auto opened =
         KELVO_REPLACE_IMPORT(OpenProcessToken, [&](auto*, HANDLE, DWORD access, HANDLE* token) {
           CHECK(access == 0x28);
-          if (row.failing != kOpen) {
+          if (failing != kOpen) {
             *token = &open;
             ++open;
           }
@@ -61,9 +57,9 @@ TEST_CASE("each failing call of the privilege step is told with its code, in one
     });
     const CapturedOutput captured;
     const bool enabled = EnableLoadDriverPrivilege();
-    const std::string output = captured.Text();
-    CHECK(output == row.output);
-    CHECK(enabled == (row.failing == kNone));
+    const std::string written = captured.Text();
+    CHECK(written == output);
+    CHECK(enabled == (failing == kNone));
     CHECK(open == 0);
   }
 }

@@ -49,6 +49,12 @@ std::string Rehearsal::Journal(bool withLoading) const {
   return withLoading ? lines : std::regex_replace(lines, std::regex(".* (loaded|freed)\n"), "");
 }
 
+std::string ServiceCall(bool enabled) {
+  return "BluetoothSetLocalServiceInfo radio=none class={3ABB9028-BEAE-4BF1-ACD7-5CD7D5E4E0CA} "
+         "instance=0 enabled=" +
+         std::to_string(enabled) + " address=000000000000 name=\"Tessalin\" device=\"\"\n";
+}
+
 std::optional<std::wstring> Applications() {
   DWORD size = 0;
   if (RegGetValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, kValueName, RRF_RT_REG_SZ, nullptr,

@@ -30,6 +30,9 @@ class Rehearsal {
   ScratchFolder folder_;
 };
 
+// The journal's line of the call that registers the service, or unregisters it.
+std::string ServiceCall(bool enabled);
+
 // The list of dependent applications in the registry; nothing when there is no such value.
 std::optional<std::wstring> Applications();
 void SetApplications(const std::wstring& list, DWORD type = REG_SZ);

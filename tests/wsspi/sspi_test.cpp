@@ -1,4 +1,5 @@
 #include <memory>
+#include <tuple>
 
 #include "lib/wsspi/sspi_exception.h"
 #include "lib/wsspi/sspi_loader.h"
@@ -7,24 +8,18 @@
 
 namespace {
 
-// The failure that SspiInitialize throws, or null when it throws none.
-std::unique_ptr<wsspi::SspiException> Failure() {
+using Failure = std::tuple<kelvo::WString, std::uint32_t, std::int32_t, std::uint32_t>;
+const Failure kNone;
+
+Failure FailureOfInitialize() {
   try {
     wsspi::SspiInitialize();
-  } catch (wsspi::SspiException* failure) {
-    return std::unique_ptr<wsspi::SspiException>(failure);
+  } catch (wsspi::SspiException* thrown) {
+    const std::unique_ptr<wsspi::SspiException> failure(thrown);
+    CHECK_FALSE(wsspi::IsSspiInitialized());
+    return {failure->file, failure->line, failure->code, failure->detail};
   }
-  return nullptr;
-}
-
-void CheckFailure(std::int32_t code, std::uint32_t line) {
-  const auto failure = Failure();
-  REQUIRE(failure != nullptr);
-  CHECK(failure->file == kelvo::WString(L"wsspi"));
-  CHECK(failure->line == line);
-  CHECK(failure->code == code);
-  CHECK(failure->detail == 0);
-  CHECK_FALSE(wsspi::IsSspiInitialized());
+  return kNone;
 }
 
 }  // namespace
@@ -40,20 +35,20 @@ TEST_CASE("the interface is tried again after each failure and loaded once") {
     return missing ? nullptr : original(name);
   });
   CHECK_FALSE(wsspi::IsSspiInitialized());
-  CheckFailure(wsspi::ErrorNoLibrary, 47);
+  CHECK(FailureOfInitialize() == Failure(L"wsspi", 47, 2, 0));
   missing = false;
   {
     const ReplacedExport none("InitSecurityInterfaceW", nullptr);
-    CheckFailure(wsspi::ErrorNoSecurityInterface, 59);
+    CHECK(FailureOfInitialize() == Failure(L"wsspi", 59, 5, 0));
   }
   {
     const ReplacedExport noTable("InitSecurityInterfaceW",
                                  reinterpret_cast<void*>(+[]() -> void* { return nullptr; }));
-    CheckFailure(wsspi::ErrorNoSecurityInterface, 63);
+    CHECK(FailureOfInitialize() == Failure(L"wsspi", 63, 5, 0));
   }
-  CHECK(Failure() == nullptr);
+  CHECK(FailureOfInitialize() == kNone);
   CHECK(wsspi::IsSspiInitialized());
-  CHECK(Failure() == nullptr);
+  CHECK(FailureOfInitialize() == kNone);
   CHECK(loads == 4);
 }
 
