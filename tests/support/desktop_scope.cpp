@@ -11,9 +11,17 @@ std::wstring NameOf(HANDLE object) {
   return name;
 }
 
+// Wine closes a desktop, and nobody finds it any more, a second after its last thread has left it.
+DWORD WINAPI StayOnFirstDesktop(void* /*unused*/) {
+  Sleep(INFINITE);
+  return 0;
+}
+
 }  // namespace
 
 DesktopScope::DesktopScope(const wchar_t* station, const wchar_t* desktop) {
+  [[maybe_unused]] static const HANDLE stays =
+      CreateThread(nullptr, 0, StayOnFirstDesktop, nullptr, 0, nullptr);
   if (station != nullptr) {
     station_ =
         CreateWindowStationW(station, 0, WINSTA_ALL_ACCESS | READ_CONTROL | WRITE_DAC, nullptr);

@@ -62,6 +62,13 @@ TEST_CASE("a window's labels and buttons are rewritten, its other controls are n
   // On a desktop of its own, for which Wine opens the display that this process has.
   const WString name = FormatText(L"kelvo test %u", GetCurrentProcessId());
   const test::DesktopScope desktop(nullptr, name.c_str());
+  const auto canOpenWindows = [] {
+    return DestroyWindow(CreateWindowExW(0, L"Static", L"", 0, 0, 0, 9, 9, nullptr, nullptr,
+                                         nullptr, nullptr)) != FALSE;
+  };
+  for (int tries = 0; tries < 50 && !canOpenWindows(); ++tries) {
+    Sleep(200);
+  }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
   const std::array<std::wstring, 3> rows[] = {
