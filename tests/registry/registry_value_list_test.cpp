@@ -22,6 +22,7 @@ TEST_CASE("the values of a key are listed by name and text") {
       {REG_SZ, 0, L"abcdefg\0"s, L"abcdefg"},
       {REG_DWORD, 0, L"12", L"12cdefg"},  // runs on into the text before it
       {REG_DWORD, 0, L"45", L"45cdefg"},
+      {REG_DWORD, 0, L"", L""},
       {REG_SZ, 0, L"67", L"67"},  // a text without terminator does not
       {REG_SZ, 1, L"\u0436\u0436", L"\u0436\x36"},
       {REG_SZ, 0, L"a\0b\0"s, L"a"},
