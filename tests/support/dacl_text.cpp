@@ -34,10 +34,6 @@ std::wstring ReadDacl(HANDLE object, SE_OBJECT_TYPE type) {
   return dacl != nullptr ? ToSddl(descriptor.get()) : L"none";
 }
 
-std::wstring NormalDacl(const std::wstring& sddl) {
-  return sddl == L"none" ? sddl : ToSddl(FromSddl(sddl).get());
-}
-
 void WriteDacl(HANDLE object, const std::wstring& sddl, SE_OBJECT_TYPE type) {
   const OwnedLocalMemory<void> descriptor = FromSddl(sddl);
   ACL* dacl = nullptr;

@@ -12,9 +12,6 @@ namespace kelvo::test {
 std::wstring ReadDacl(HANDLE object, SE_OBJECT_TYPE type = SE_WINDOW_OBJECT);
 void WriteDacl(HANDLE object, const std::wstring& sddl, SE_OBJECT_TYPE type = SE_WINDOW_OBJECT);
 
-// The same DACL in the form that ReadDacl gives.
-std::wstring NormalDacl(const std::wstring& sddl);
-
 // The SID of this process's user as text.
 std::wstring CurrentUserSid();
 
