@@ -12,7 +12,12 @@ namespace {
 
 constexpr DWORD kPollPauseMs = 100;
 
-bool StartProcess(const wchar_t* exePath, const wchar_t* arguments) {
+struct StartedProcess {
+  OwnedKernelObject process;
+  OwnedKernelObject thread;
+};
+
+bool StartProcess(const wchar_t* exePath, const wchar_t* arguments, StartedProcess& program) {
   WString commandLine = WString(L"\"") + exePath + L"\" " + arguments;
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
@@ -21,8 +26,8 @@ bool StartProcess(const wchar_t* exePath, const wchar_t* arguments) {
                      nullptr, nullptr, &startup, &started) == FALSE) {
     return false;
   }
-  const OwnedKernelObject process(started.hProcess);
-  const OwnedKernelObject thread(started.hThread);
+  program.process.reset(started.hProcess);
+  program.thread.reset(started.hThread);
   return true;
 }
 
@@ -50,8 +55,9 @@ StartResult StartProcessAndWaitForMutex(const wchar_t* exePath, const wchar_t* a
                                         DWORD timeoutMs) {
   const bool global = IsWin2000() || IsWinNTTerminalServer();
   const WString name = WString(global ? L"Global\\" : L"") + mutexName;
-  return StartProcess(exePath, arguments) ? WaitForMutex(name, pumpMessages, timeoutMs)
-                                          : kNotStarted;
+  StartedProcess program;
+  return StartProcess(exePath, arguments, program) ? WaitForMutex(name, pumpMessages, timeoutMs)
+                                                   : kNotStarted;
 }
 
 }  // namespace kelvo
