@@ -24,9 +24,14 @@ ChildResult RunChild(std::wstring commandLine) {
   startup.hStdOutput = output.get();
   startup.hStdError = errors.get();
   PROCESS_INFORMATION started{};
-  if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                     &startup, &started) == FALSE) {
-    throw std::runtime_error("CreateProcessW failed");
+  // Under load Wine now and then answers a start with ERROR_INTERNAL_ERROR.
+  for (int tries = 0; CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0,
+                                     nullptr, nullptr, &startup, &started) == FALSE;
+       ++tries) {
+    if (GetLastError() != ERROR_INTERNAL_ERROR || tries == 10) {
+      throw std::runtime_error("CreateProcessW failed");
+    }
+    Sleep(200);
   }
   const OwnedKernelObject process(started.hProcess);
   const OwnedKernelObject thread(started.hThread);
