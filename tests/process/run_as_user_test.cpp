@@ -72,22 +72,34 @@ TEST_CASE("a command line runs on the interactive desktop from everywhere") {
   }
 }
 
-TEST_CASE("names in other letter cases are the interactive desktop's only when one asks for it") {
-  const std::pair<std::pair<const wchar_t*, const wchar_t*>, BOOL> cases[] = {
-      {{L"WinSta0", L"Default"}, TRUE},
-      {{L"WINSTA0", L"DEFAULT"}, TRUE},
-      {{L"winsta0", L"default"}, TRUE},
-      {{L"WinSta0", L"Default2"}, FALSE},
-      {{L"W\u0130nSta0", L"Default"}, FALSE}};
-  for (const auto& [names, answer] : cases) {
-    const wchar_t* name = names.first;
+TEST_CASE("letter case matters where a process is started, not where one asks") {
+  const struct {
+    const wchar_t* station;
+    const wchar_t* desktop;
+    BOOL isInteractive;
+    int moves;
+  } cases[] = {{L"WinSta0", L"Default", TRUE, 0},
+               {L"WINSTA0", L"DEFAULT", TRUE, 1},
+               {L"winsta0", L"default", TRUE, 1},
+               {L"W\u0130nSta0", L"Default", FALSE, 1},
+               {L"WinSta0", L"Default2", FALSE, 0}};
+  for (const auto& row : cases) {
+    const wchar_t* name = row.station;
     const auto named = KELVO_REPLACE_IMPORT(
         GetUserObjectInformationW, [&](auto, HANDLE, int, void* text, DWORD, DWORD* needed) {
-          lstrcpyW(static_cast<wchar_t*>(text), std::exchange(name, names.second));
+          lstrcpyW(static_cast<wchar_t*>(text), std::exchange(name, row.desktop));
           *needed = 520;
           return TRUE;
         });
-    CHECK(IsOnInteractiveDesktop() == answer);
+    CHECK(IsOnInteractiveDesktop() == row.isInteractive);
+    int moves = 0;
+    const auto refusing = KELVO_REPLACE_IMPORT(OpenWindowStationW, [&](auto...) {
+      ++moves;
+      return HWINSTA{nullptr};
+    });
+    name = row.station;
+    CHECK(RunAsUser(std::wstring(L"no such program").data(), FALSE, nullptr) == FALSE);
+    CHECK(moves == row.moves);
   }
 }
 
