@@ -37,8 +37,11 @@ std::string PrintedBy(BOOL (*attempt)(), std::wstring& list) {
                                                                DWORD length, DWORD* needed) {
     OwnedLocalMemory<void> made;
     ConvertStringSecurityDescriptorToSecurityDescriptorW(list.c_str(), 1, made.Receive(), needed);
+    const bool fits = length >= *needed;
+    std::memcpy(descriptor, made.get(), fits ? *needed : 0);
+    made.reset();
     SetLastError(ERROR_INSUFFICIENT_BUFFER);
-    return length >= *needed ? std::memcpy(descriptor, made.get(), *needed) != nullptr : FALSE;
+    return fits ? TRUE : FALSE;
   });
   const auto write = KELVO_REPLACE_IMPORT(SetFileSecurityW, [&](auto, auto, auto, void* given) {
     OwnedLocalMemory<wchar_t> text;
