@@ -1,18 +1,12 @@
 #include "lib/paths/file_replacement.h"
 
-#include <algorithm>
-
 #include "lib/paths/file_exists.h"
-#include "tests/support/catch.h"
-#include "tests/support/replaced_import.h"
-#include "tests/support/scratch_folder.h"
-
-namespace kelvo {
+#include "tests/support/testing.h"
 
 TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT.INI") {
-  const test::ScratchFolder folder;
-  const std::wstring source = folder.Write("new long file.txt", "new").wstring();
-  const std::wstring target = folder.Path().wstring() + L"\\" + std::wstring(150, L't');
+  const ScratchFolder folder;
+  const std::wstring source = folder.Write("new long file.txt", "new");
+  const std::wstring target = folder / std::wstring(150, L't');
   const wchar_t* const manager = L"SYSTEM\\CurrentControlSet\\Control\\Session Manager";
   const wchar_t* const value = L"PendingFileRenameOperations";
   const auto pending = [&] {
@@ -33,29 +27,25 @@ TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT
   const std::wstring added = pending().substr(ordered.length() + 4);
   const std::wstring copy = added.substr(0, added.find(L'|'));
   CHECK(added == copy + L"|!\\??\\" + target + L"|");
-  CHECK(copy.find(L"\\wqr") != std::wstring::npos);
-  CHECK(test::ReadBytes(copy) == "new");
+  CHECK((copy.find(L"\\wqr") != std::wstring::npos && ReadBytes(copy) == "new"));
   DeleteFileW(copy.c_str());
   if (before.empty()) {
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, manager, value);
   }
 
-  const auto windows9x = KELVO_REPLACE_IMPORT(GetVersionExW, [](auto...) { return FALSE; });
-  const auto windows = KELVO_REPLACE_IMPORT(GetWindowsDirectoryW, [&](auto, auto buffer, UINT) {
-    return static_cast<UINT>(lstrlenW(lstrcpyW(buffer, folder.Path().c_str())));
+  KELVO_REPLACE(GetVersionExW, [](auto...) { return FALSE; });
+  KELVO_REPLACE(GetWindowsDirectoryW, [&](auto, auto buffer, auto) {
+    return static_cast<UINT>(lstrlenW(lstrcpyW(buffer, (folder / "").c_str())));
   });
-  wchar_t shortName[MAX_PATH];
-  wchar_t found[MAX_PATH] = L"";
-  GetShortPathNameW(source.c_str(), shortName, MAX_PATH);
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), source.c_str(), false));
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), false));
-  for (const wchar_t* const name : {static_cast<const wchar_t*>(shortName), target.c_str()}) {
-    GetPrivateProfileStringW(L"Rename", name, L"", found, MAX_PATH,
-                             (folder.Path() / "WININIT.INI").c_str());
-    CHECK(std::wstring(found) == shortName);
+  wchar_t shortName[MAX_PATH];
+  GetShortPathNameW(source.c_str(), shortName, MAX_PATH);
+  for (const std::wstring& name : {std::wstring(shortName), target}) {
+    wchar_t found[MAX_PATH];
+    GetPrivateProfileStringW(L"Rename", name.c_str(), L"", found, MAX_PATH,
+                             (folder / "WININIT.INI").c_str());
+    CHECK(found == std::wstring(shortName));
   }
-  CHECK(FileExists((folder.Path() / "W*.IN?").c_str()));
-  CHECK_FALSE(FileExists((folder.Path() / "*.no").c_str()));
+  CHECK((FileExists((folder / "W*.IN?").c_str()) && !FileExists((folder / "*.no").c_str())));
 }
-
-}  // namespace kelvo

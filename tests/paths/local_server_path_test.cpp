@@ -1,17 +1,11 @@
 #include "lib/paths/local_server_path.h"
 
-#include <tuple>
-
 #include "lib/registry/registry_string.h"
 #include "lib/registry/registry_value.h"
-#include "tests/support/catch.h"
-#include "tests/support/replaced_import.h"
-#include "tests/support/scratch_folder.h"
-
-namespace kelvo {
+#include "tests/support/testing.h"
 
 TEST_CASE("a local server is the file that its class registers") {
-  const test::ScratchFolder folder;
+  const ScratchFolder folder;
   const WString server = folder.Write("the server.exe", "").c_str();
   const WString filling(261 - server.length(), L'/');
   const WString classKey = L"CLSID\\{6B2C2B6E-0B62-4C5B-9E0A-2F4B0C1D2E3F}";
@@ -33,15 +27,12 @@ TEST_CASE("a local server is the file that its class registers") {
     CHECK(path == expected);
     RegDeleteTreeW(HKEY_CLASSES_ROOT, classKey.c_str());
   }
-  std::wstring tried;
-  const auto open =
-      KELVO_REPLACE_IMPORT(RegOpenKeyExW, [&](auto, auto, auto, auto, auto access, auto) {
-        tried += std::to_wstring(access) + L" ";
-        return static_cast<LSTATUS>(access);
-      });
+  std::vector<DWORD> tried;
+  KELVO_REPLACE(RegOpenKeyExW, [&](auto, auto, auto, auto, DWORD access, auto) {
+    tried.push_back(access);
+    return static_cast<LSTATUS>(access);
+  });
   CHECK(GetLocalServerPath(L"kelvo.test", path) == 0x20219);
-  CHECK(tried == L"131353 131609 131353 131609 ");
+  CHECK(tried == std::vector<DWORD>{0x20119, 0x20219, 0x20119, 0x20219});
   RegDeleteTreeW(HKEY_CLASSES_ROOT, L"kelvo.test");
 }
-
-}  // namespace kelvo

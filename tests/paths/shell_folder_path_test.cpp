@@ -1,34 +1,26 @@
 #include "lib/paths/shell_folder_path.h"
 
-#include <algorithm>
-#include <tuple>
-#include <utility>
-
 #include "lib/registry/registry_string.h"
-#include "tests/support/catch.h"
-#include "tests/support/replaced_import.h"
-#include "tests/support/scratch_key.h"
-
-namespace kelvo {
+#include "tests/support/testing.h"
 
 TEST_CASE("a shell folder comes from the first place that has one, else from the module") {
-  const test::StandInKey machine(HKEY_LOCAL_MACHINE);
-  const test::StandInKey user(HKEY_CURRENT_USER);
+  const StandInKey machine(HKEY_LOCAL_MACHINE);
+  const StandInKey user(HKEY_CURRENT_USER);
   wchar_t out[MAX_PATH];
   const WString deep = WString(L"C:\\") + WString(240, L'd') + L"\\";
-  const std::pair<WString, WString> modules[] = {{L"C:\\a b\\c.exe", L"C:\\a b\\"},
-                                                 {L"", L""},
-                                                 {deep + WString(10, L'n'), deep},
-                                                 {deep + WString(11, L'n'), L""},
-                                                 {WString(253, L'n'), WString(253, L'n') + L"\\"},
-                                                 {WString(254, L'n'), L""}};
+  const WString modules[][2] = {{L"C:\\a b\\c.exe", L"C:\\a b\\"},
+                                {L"", L""},
+                                {deep + WString(10, L'n'), deep},
+                                {deep + WString(11, L'n'), L""},
+                                {WString(253, L'n'), WString(253, L'n') + L"\\"},
+                                {WString(254, L'n'), L""}};
   for (const auto& [path, directory] : modules) {
-    const auto module = KELVO_REPLACE_IMPORT(GetModuleFileNameW, [&](auto, auto, auto to, auto n) {
-      lstrcpynW(to, path.c_str(), static_cast<int>(n));
-      return std::min(static_cast<DWORD>(path.length()), n);
+    KELVO_REPLACE(GetModuleFileNameW, [&](auto, auto, auto to, DWORD size) {
+      lstrcpynW(to, path.c_str(), static_cast<int>(size));
+      return std::min(static_cast<DWORD>(path.length()), size);
     });
     CHECK(GetShellFolderPath(nullptr, out, L"Personal") == !directory.empty());
-    CHECK(WString(out) == directory);
+    CHECK(out == directory);
   }
   const std::tuple<HKEY, const wchar_t*, WString, WString> rows[] = {
       {HKEY_LOCAL_MACHINE, L"Shell Folders", L"D:\\machine", L"D:\\machine\\"},
@@ -39,9 +31,6 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
   const WString explorer = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
   for (const auto& [root, key, stored, path] : rows) {
     RegistryWriteExpandString(root, (explorer + key).c_str(), L"Personal", stored.c_str());
-    CHECK(GetShellFolderPath(nullptr, out, L"Personal"));
-    CHECK(WString(out) == path);
+    CHECK((GetShellFolderPath(nullptr, out, L"Personal") && out == path));
   }
 }
-
-}  // namespace kelvo

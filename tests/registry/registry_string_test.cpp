@@ -1,81 +1,45 @@
 #include "lib/registry/registry_string.h"
 
-#include <array>
-#include <string>
-#include <tuple>
-#include <vector>
+#include "tests/support/testing.h"
 
-#include "lib/registry/registry_value.h"
-#include "tests/support/catch.h"
-#include "tests/support/scratch_key.h"
-
-namespace kelvo {
-
-namespace {
-
-constexpr const wchar_t* kName = L"value";
-constexpr const wchar_t* kDefault = L"default";
-
-void Store(const test::ScratchKey& key, DWORD type, std::wstring units, std::size_t cutBytes = 0) {
-  // Windows stores a terminator that stands right behind the data, too.
-  units += L'#';
-  cutBytes += sizeof(wchar_t);
-  REQUIRE(WriteRegistryValue(HKEY_CURRENT_USER, key.Path(), kName, type, units.data(),
-                             static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes)) == 0);
+static std::wstring Expanded(const wchar_t* text) {
+  wchar_t buffer[1024];
+  ExpandEnvironmentStringsW(text, buffer, 1024);
+  return buffer;
 }
-
-std::wstring Read(const test::ScratchKey& key) {
-  return std::wstring(
-      std::wstring_view(RegistryReadString(HKEY_CURRENT_USER, key.Path(), kName, kDefault)));
-}
-
-std::wstring Expanded(const wchar_t* text) {
-  std::array<wchar_t, 1024> buffer{};
-  ExpandEnvironmentStringsW(text, buffer.data(), static_cast<DWORD>(buffer.size()));
-  return buffer.data();
-}
-
-}  // namespace
 
 TEST_CASE("a text value is read whole or not at all") {
-  const std::wstring longest(1023, L'x');
   using namespace std::string_literals;
-  const std::tuple<const char*, DWORD, std::wstring, std::size_t, std::wstring> rows[] = {
-      {"plain", REG_SZ, L"a;b\0"s, 0, L"a;b"},
-      {"outside ASCII", REG_SZ, L"\u017D\U0001F600\0"s, 0, L"\u017D\U0001F600"},
-      {"empty", REG_SZ, L"\0"s, 0, L""},
-      {"no data", REG_SZ, L"", 0, L""},
-      {"2,048 bytes", REG_SZ, longest + L'\0', 0, longest},
-      {"2,048 bytes without terminator", REG_SZ, longest + L'y', 0, longest + L'y'},
-      {"2,050 bytes", REG_SZ, longest + L"y\0"s, 0, kDefault},
-      {"no terminator", REG_SZ, L"abc", 0, L"abc"},
-      {"odd length", REG_SZ, L"abc", 1, L"abc"},
-      {"a NUL inside", REG_SZ, L"ab\0cd\0"s, 0, L"ab"},
-      {"expanded", REG_EXPAND_SZ, L"%SystemRoot%\\x\0"s, 0, Expanded(L"%SystemRoot%\\x")},
-      {"not expanded", REG_SZ, L"%SystemRoot%\\x\0"s, 0, L"%SystemRoot%\\x"},
-      {"unknown variable", REG_EXPAND_SZ, L"%no such thing%\0"s, 0, L"%no such thing%"},
-      {"a number", REG_DWORD, L"ab", 0, kDefault},
-      {"bytes", REG_BINARY, L"ab\0"s, 0, kDefault},
-      {"several texts", REG_MULTI_SZ, L"ab\0\0"s, 0, kDefault},
+  const std::wstring longest(1023, L'x');
+  // The value's type, its units, how many bytes are cut off them, what is read.
+  const std::tuple<DWORD, std::wstring, std::size_t, std::wstring> rows[] = {
+      {REG_SZ, L"\u017D\U0001F600;b\0"s, 0, L"\u017D\U0001F600;b"},
+      {REG_SZ, L"\0"s, 0, L""},
+      {REG_SZ, L"", 0, L""},
+      {REG_SZ, longest + L'\0', 0, longest},
+      {REG_SZ, longest + L'y', 0, longest + L'y'},
+      {REG_SZ, longest + L"y\0"s, 0, L"default"},
+      {REG_SZ, L"abc", 0, L"abc"},
+      {REG_SZ, L"abc", 1, L"abc"},
+      {REG_SZ, L"ab\0cd\0"s, 0, L"ab"},
+      {REG_EXPAND_SZ, L"%SystemRoot%\\x\0"s, 0, Expanded(L"%SystemRoot%\\x")},
+      {REG_SZ, L"%SystemRoot%\\x\0"s, 0, L"%SystemRoot%\\x"},
+      {REG_EXPAND_SZ, L"%no such thing%\0"s, 0, L"%no such thing%"},
+      {REG_DWORD, L"ab", 0, L"default"},
+      {REG_BINARY, L"ab\0"s, 0, L"default"},
+      {REG_MULTI_SZ, L"ab\0\0"s, 0, L"default"}};
+  const ScratchKey key;
+  const auto read = [&](const wchar_t* defaultText) {
+    return RegistryReadString(HKEY_CURRENT_USER, key.c_str(), L"value", defaultText);
   };
-  for (const auto& [what, type, stored, cutBytes, read] : rows) {
-    const test::ScratchKey key;
-    Store(key, type, stored, cutBytes);
-    INFO(what);
-    CHECK(Read(key) == read);
+  CHECK((read(L"default") == L"default" && read(nullptr).empty()));
+  for (const auto& [type, stored, cutBytes, expected] : rows) {
+    StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored, cutBytes);
+    CHECK(read(L"default").c_str() == expected);
   }
 }
 
-TEST_CASE("what is not there gives the default") {
-  const test::ScratchKey key;
-  CHECK(Read(key) == kDefault);
-  CHECK(RegistryReadString(HKEY_CURRENT_USER, key.Path(), kName, nullptr).empty());
-  Store(key, REG_SZ, L"x");
-  CHECK(RegistryReadString(HKEY_CURRENT_USER, key.Path(), L"other", L"d") == WString(L"d"));
-}
-
 TEST_CASE("a caller's buffer is filled, ended and never left") {
-  constexpr wchar_t kGuard = 0x5A5A;
   using namespace std::string_literals;
   const std::tuple<DWORD, std::wstring, std::size_t, std::wstring> rows[] = {
       {REG_SZ, L"abc\0"s, 4, L"abc"},
@@ -85,33 +49,28 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
       {REG_EXPAND_SZ, L"%OS%.\0"s, 6, Expanded(L"%OS%.").substr(0, 5)},
       {REG_BINARY, L"ab\0"s, 4, L""},
       {REG_SZ, L"\0"s, 1, L""},
-      {REG_SZ, L"a\0"s, 0, L""},
-  };
-  for (const auto& [type, stored, length, read] : rows) {
-    const test::ScratchKey key;
-    Store(key, type, stored);
+      {REG_SZ, L"a\0"s, 0, L""}};
+  const ScratchKey key;
+  for (const auto& [type, stored, length, expected] : rows) {
+    StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored);
     CAPTURE(stored, length);
-    std::vector<wchar_t> buffer(length + 1, kGuard);
-    CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.Path(), kName, buffer.data(), length) ==
-          read.length());
-    CHECK(buffer.back() == kGuard);
-    buffer.back() = L'\0';
-    CHECK(std::wstring(buffer.data()) == read);
+    std::wstring buffer(length + 1, L'!');
+    CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", buffer.data(),
+                                   length) == expected.length());
+    CHECK(std::exchange(buffer.back(), L'\0') == L'!');
+    CHECK(buffer.c_str() == expected);
   }
 }
 
 TEST_CASE("a text is stored with its terminator") {
-  const test::ScratchKey key;
-  const WString path = WString(key.Path()) + L"\\two\\missing";
-  CHECK(RegistryWriteString(HKEY_CURRENT_USER, path.c_str(), kName, L"a;b") == 0);
+  const ScratchKey key;
+  const WString path = key + L"\\two\\missing";
+  CHECK(RegistryWriteString(HKEY_CURRENT_USER, path.c_str(), L"n", L"a;b") == 0);
   CHECK(RegistryWriteExpandString(HKEY_CURRENT_USER, path.c_str(), L"", L"%x%") == 0);
-  DWORD type = 0;
   DWORD size = 0;
-  RegGetValueW(HKEY_CURRENT_USER, path.c_str(), kName, RRF_RT_ANY, &type, nullptr, &size);
-  CHECK((type == REG_SZ && size == 8));
-  RegGetValueW(HKEY_CURRENT_USER, path.c_str(), L"", RRF_RT_ANY | RRF_NOEXPAND, &type, nullptr,
-               &size);
-  CHECK(type == REG_EXPAND_SZ);
+  CHECK(RegGetValueW(HKEY_CURRENT_USER, path.c_str(), L"n", RRF_RT_REG_SZ, nullptr, nullptr,
+                     &size) == 0);
+  CHECK(size == 8);
+  CHECK(RegGetValueW(HKEY_CURRENT_USER, path.c_str(), L"", RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND,
+                     nullptr, nullptr, nullptr) == 0);
 }
-
-}  // namespace kelvo

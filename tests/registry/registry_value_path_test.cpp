@@ -1,16 +1,10 @@
 #include "lib/registry/registry_value_path.h"
 
-#include "tests/support/catch.h"
-
-namespace kelvo {
+#include "tests/support/testing.h"
 
 TEST_CASE("a full value path is split into root, key path and value name") {
-  struct Row {
-    const wchar_t* path;
-    HKEY root;
-    const wchar_t *keyPath, *valueName;
-  };
-  const Row rows[] = {
+  // A path that is refused leaves the texts alone from its first two parts on.
+  const std::tuple<const wchar_t*, HKEY, WString, WString> rows[] = {
       {L"HKEY_CURRENT_USER\\Software\\App\\x", HKEY_CURRENT_USER, L"Software\\App", L"x"},
       {L"HKEY_CLASSES_ROOT\\.x\\y", HKEY_CLASSES_ROOT, L".x", L"y"},
       {L"HKEY_LOCAL_MACHINE\\a\\\u017E", HKEY_LOCAL_MACHINE, L"a", L"\u017E"},
@@ -18,19 +12,15 @@ TEST_CASE("a full value path is split into root, key path and value name") {
       {L"HKEY_USERS\\\\b", HKEY_USERS, L"", L"b"},
       {L"HKEY_LOCAL_MACHINE\\Value", HKEY_LOCAL_MACHINE, L"was", L"was"},
       {L"HKEY_USERS", nullptr, L"was", L"was"},
-      {L"hkey_local_machine\\Software\\X\\Y", nullptr, L"was", L"was"},
-      {L"HKLM\\Software\\X\\Y", nullptr, L"was", L"was"},
-      {nullptr, nullptr, L"was", L"was"},
-  };
-  for (const Row& row : rows) {
+      {L"hkey_local_machine\\X\\Y", nullptr, L"was", L"was"},
+      {L"HKLM\\X\\Y", nullptr, L"was", L"was"},
+      {nullptr, nullptr, L"was", L"was"}};
+  for (const auto& [path, expectedRoot, expectedPath, expectedName] : rows) {
     HKEY root = nullptr;
     WString keyPath = L"was";
-    WString valueName = L"was";
-    CHECK(ParseRegistryValuePath(row.path, root, keyPath, valueName) == (&row - &rows[0] < 3));
-    CHECK(root == row.root);
-    CHECK(keyPath == row.keyPath);
-    CHECK(valueName == row.valueName);
+    WString name = L"was";
+    const bool isWhole = !expectedPath.empty() && !expectedName.empty() && expectedName != L"was";
+    CHECK(ParseRegistryValuePath(path, root, keyPath, name) == isWhole);
+    CHECK((root == expectedRoot && keyPath == expectedPath && name == expectedName));
   }
 }
-
-}  // namespace kelvo

@@ -3,51 +3,33 @@
 #include "lib/registry/registry_binary.h"
 #include "lib/registry/registry_key.h"
 #include "lib/registry/registry_number.h"
-#include "tests/support/catch.h"
-#include "tests/support/scratch_key.h"
+#include "tests/support/testing.h"
 
-namespace kelvo {
-
-TEST_CASE("numbers") {
-  const test::ScratchKey key;
-  const auto read = [&] { return RegistryReadDword(HKEY_CURRENT_USER, key.Path(), L"n", 7); };
-  CHECK(read() == 7);
-  REQUIRE(RegistryWriteDword(HKEY_CURRENT_USER, key.Path(), L"n", 0xFEDCBA98) == 0);
-  CHECK(read() == 0xFEDCBA98);
-  CHECK(RegistryReadBoolean(HKEY_CURRENT_USER, key.Path(), L"n", false));
-  CHECK(RegistryReadBoolean(HKEY_CURRENT_USER, key.Path(), L"missing", true));
-  REQUIRE(WriteRegistryValue(HKEY_CURRENT_USER, key.Path(), L"n", REG_BINARY, "\1\0\0\0", 4) == 0);
-  CHECK(read() == 7);
-  REQUIRE(WriteRegistryValue(HKEY_CURRENT_USER, key.Path(), L"n", REG_DWORD, "12345", 5) == 0);
-  CHECK(read() == 7);
-}
-
-TEST_CASE("bytes") {
-  const test::ScratchKey key;
+TEST_CASE("numbers and bytes are read as written, a value is deleted and its key stays") {
+  const ScratchKey scratch;
+  HKEY const root = HKEY_CURRENT_USER;
+  const wchar_t* const key = scratch.c_str();
   std::string bytes = "before";
-  const auto read = [&] { return RegistryReadBinary(HKEY_CURRENT_USER, key.Path(), L"b", bytes); };
-  CHECK(read() == ERROR_FILE_NOT_FOUND);
-  const std::string stored("\0\xFF\0", 3);
-  for (const std::string& written : {std::string(), stored, std::string()}) {
-    REQUIRE(RegistryWriteBinary(HKEY_CURRENT_USER, key.Path(), L"b", written) == 0);
-    const std::string expected = written.empty() ? bytes : written;
-    CHECK(read() == 0);
-    CHECK(bytes == expected);
-  }
-  CHECK(bytes == stored);
-}
-
-TEST_CASE("a value is deleted, its key stays") {
-  const test::ScratchKey key;
-  CHECK_FALSE(RegistryKeyExists(HKEY_CURRENT_USER, key.Path()));
-  CHECK(RegistryDeleteValue(HKEY_CURRENT_USER, key.Path(), L"n") == -1);
-  REQUIRE(RegistryWriteDword(HKEY_CURRENT_USER, key.Path(), L"n", 1) == 0);
-  CHECK(RegistryValueExists(HKEY_CURRENT_USER, key.Path(), L"n"));
-  CHECK(RegistryDeleteValue(HKEY_CURRENT_USER, key.Path(), L"n") == 0);
-  CHECK_FALSE(RegistryValueExists(HKEY_CURRENT_USER, key.Path(), L"n"));
-  CHECK(RegistryDeleteValue(HKEY_CURRENT_USER, key.Path(), L"n") == -1);
-  CHECK(RegistryKeyExists(HKEY_CURRENT_USER, key.Path()));
+  CHECK_FALSE(RegistryKeyExists(root, key));
+  CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
+  CHECK(RegistryReadBinary(root, key, L"n", bytes) == ERROR_FILE_NOT_FOUND);
+  CHECK(RegistryDeleteValue(root, key, L"n") == -1);
   CHECK(RegistryWriteDword(nullptr, L"cannot be created", L"n", 1) == -1);
-}
 
-}  // namespace kelvo
+  REQUIRE(RegistryWriteDword(root, key, L"n", 0xFEDCBA98) == 0);
+  CHECK(RegistryReadDword(root, key, L"n", 7) == 0xFEDCBA98);
+  CHECK(RegistryReadBoolean(root, key, L"n", false));
+  CHECK(RegistryReadBoolean(root, key, L"missing", true));
+  REQUIRE(WriteRegistryValue(root, key, L"n", REG_DWORD, "12345", 5) == 0);
+  CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
+
+  for (const std::string& stored : {std::string("\0\xFF\0x", 4), std::string()}) {
+    REQUIRE(RegistryWriteBinary(root, key, L"n", stored) == 0);
+    CHECK(RegistryReadBinary(root, key, L"n", bytes) == 0);
+    CHECK(bytes == std::string("\0\xFF\0x", 4));  // no bytes leave what was there
+    CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
+  }
+  CHECK((RegistryValueExists(root, key, L"n") && RegistryDeleteValue(root, key, L"n") == 0));
+  CHECK_FALSE(RegistryValueExists(root, key, L"n"));
+  CHECK((RegistryDeleteValue(root, key, L"n") == -1 && RegistryKeyExists(root, key)));
+}

@@ -2,8 +2,9 @@
 
 #include <windows.h>
 
-#include <algorithm>
-#include <vector>
+#include <sddl.h>
+
+#include "tests/support/testing.h"
 
 namespace kelvo::test {
 
@@ -35,5 +36,50 @@ struct TestAcl {
   ACL* acl = nullptr;
   TestAce* aces = nullptr;
 };
+
+// A security descriptor's DACL as SDDL, and back.
+inline std::wstring ToSddl(PSECURITY_DESCRIPTOR descriptor) {
+  OwnedLocalMemory<wchar_t> text;
+  ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, 1, DACL_SECURITY_INFORMATION,
+                                                       text.Receive(), nullptr);
+  return text.get();
+}
+inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = nullptr) {
+  OwnedLocalMemory<void> descriptor;
+  ConvertStringSecurityDescriptorToSecurityDescriptorW(sddl == L"none" ? L"O:BA" : sddl.c_str(), 1,
+                                                       descriptor.Receive(), size);
+  return descriptor;
+}
+
+// The DACL of an object of whatever kind, "none" when it has none.
+inline std::wstring ReadDacl(HANDLE object) {
+  std::vector<BYTE> descriptor(0x10000);
+  DWORD size = 0x10000;
+  GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, descriptor.data(), size, &size);
+  ACL* dacl = nullptr;
+  BOOL flag = FALSE;
+  GetSecurityDescriptorDacl(descriptor.data(), &flag, &dacl, &flag);
+  return dacl != nullptr ? ToSddl(descriptor.data()) : L"none";
+}
+inline void WriteDacl(HANDLE object, const std::wstring& sddl) {
+  SetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, FromSddl(sddl).get());
+}
+
+// Runs `call` while the nth call to a function fails or throws; answers whether there was one.
+using Call = std::function<void()>;
+using Failing = bool (*)(int nth, bool throws, const Call& call);
+#define KELVO_FAILING(function)                                                       \
+  [](int nth, bool throws, const Call& call) {                                        \
+    KELVO_REPLACE(function, [&](auto original, auto... parameters) {                  \
+      using Result = decltype(original(parameters...));                               \
+      if (--nth != 0) {                                                               \
+        return original(parameters...);                                               \
+      }                                                                               \
+      SetLastError(1234);                                                             \
+      return throws ? throw 1 : std::is_same_v<Result, DWORD> ? Result(5) : Result{}; \
+    });                                                                               \
+    call();                                                                           \
+    return nth <= 0;                                                                  \
+  }
 
 }  // namespace kelvo::test

@@ -2,22 +2,55 @@
 
 #include <windows.h>
 
+#include <catch.hpp>
 #include <string>
+
+#include "lib/platform/owned.h"
+#include "tests/support/scratch_folder.h"
 
 namespace kelvo::test {
 
 struct ChildResult {
   DWORD exitCode = 0;
-  std::string output;
-  std::string errors;
+  std::string output, errors;
 };
 
 // The path of a program of the project's, which all stand in one folder.
-std::wstring ProgramPath(const std::wstring& name);
+inline std::wstring ProgramPath(const std::wstring& name) {
+  std::wstring self(32768, L'\0');
+  GetModuleFileNameW(nullptr, self.data(), 32768);
+  return std::filesystem::path(self.c_str()).replace_filename(name);
+}
 
 // Runs a command line to its end and returns the whole exit code and what it wrote to standard
-// output and to standard error, byte by byte. Throws std::runtime_error when the program does not
-// start.
-ChildResult RunChild(std::wstring commandLine);
+// output and to standard error, byte by byte.
+inline ChildResult RunChild(std::wstring commandLine) {
+  const ScratchFolder folder;
+  SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
+  const auto create = [&](const char* name) {
+    return OwnedFile(CreateFileW((folder / name).c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                                 &inherited, CREATE_ALWAYS, 0, nullptr));
+  };
+  const OwnedFile output = create("output");
+  const OwnedFile errors = create("errors");
+  STARTUPINFOW startup{.cb = sizeof(startup), .dwFlags = STARTF_USESTDHANDLES};
+  startup.hStdOutput = output.get();
+  startup.hStdError = errors.get();
+  PROCESS_INFORMATION started{};
+  // Under load Wine now and then answers a start with ERROR_INTERNAL_ERROR.
+  for (DWORD pause = 0; CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0,
+                                       nullptr, nullptr, &startup, &started) == FALSE;
+       Sleep(pause += 50)) {
+    REQUIRE(pause < 500);
+  }
+  const OwnedKernelObject process(started.hProcess);
+  const OwnedKernelObject thread(started.hThread);
+  WaitForSingleObject(process.get(), INFINITE);
+  ChildResult result;
+  GetExitCodeProcess(process.get(), &result.exitCode);
+  result.output = ReadBytes(folder / "output");
+  result.errors = ReadBytes(folder / "errors");
+  return result;
+}
 
 }  // namespace kelvo::test

@@ -8,24 +8,42 @@ namespace kelvo::test {
 
 // Puts this process on the window station and this thread on the desktop of the given names, both
 // made when they are not there, as long as it lives. Null leaves the process where it is.
-class DesktopScope {
- public:
-  DesktopScope(const wchar_t* station, const wchar_t* desktop);
+struct DesktopScope {
+  DesktopScope(const wchar_t* stationName, const wchar_t* desktopName)
+      : station(stationName == nullptr ? nullptr
+                                       : CreateWindowStationW(stationName, 0, kAccess, nullptr)) {
+    // Wine closes a desktop, and nobody finds it any more, a second after its last thread left it.
+    [[maybe_unused]] static const HANDLE stays = CreateThread(
+        nullptr, 0, [](void*) -> DWORD { return Sleep(INFINITE), 0; }, nullptr, 0, nullptr);
+    SetProcessWindowStation(station);
+    if (desktopName != nullptr) {
+      desktop = CreateDesktopW(desktopName, nullptr, nullptr, 0, kAccess, nullptr);
+      SetThreadDesktop(desktop);
+    }
+  }
   DesktopScope(const DesktopScope&) = delete;
-  DesktopScope& operator=(const DesktopScope&) = delete;
-  ~DesktopScope();
+  ~DesktopScope() {
+    SetProcessWindowStation(previousStation);
+    SetThreadDesktop(previousDesktop);
+    CloseDesktop(desktop);
+    CloseWindowStation(station);
+  }
 
-  [[nodiscard]] HWINSTA Station() const { return station_; }
-  [[nodiscard]] HDESK Desktop() const { return desktop_; }
-
- private:
-  HWINSTA previousStation_ = GetProcessWindowStation();
-  HDESK previousDesktop_ = GetThreadDesktop(GetCurrentThreadId());
-  HWINSTA station_ = nullptr;
-  HDESK desktop_ = nullptr;
+  static constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
+  HWINSTA previousStation = GetProcessWindowStation();
+  HDESK previousDesktop = GetThreadDesktop(GetCurrentThreadId());
+  HWINSTA station = nullptr;
+  HDESK desktop = nullptr;
 };
 
 // "station\desktop" of this process and thread.
-std::wstring CurrentDesktop();
+inline std::wstring CurrentDesktop() {
+  wchar_t station[MAX_PATH] = L"";
+  wchar_t desktop[MAX_PATH] = L"";
+  GetUserObjectInformationW(GetProcessWindowStation(), UOI_NAME, station, sizeof(station), nullptr);
+  GetUserObjectInformationW(GetThreadDesktop(GetCurrentThreadId()), UOI_NAME, desktop,
+                            sizeof(desktop), nullptr);
+  return station + std::wstring(L"\\") + desktop;
+}
 
 }  // namespace kelvo::test

@@ -2,75 +2,105 @@
 
 #include <windows.h>
 
+#include <map>
+#include <stdexcept>
+#include <string>
 #include <utility>
 
 namespace kelvo::test {
 
-namespace internal {
-// The slot of this program's import table that calls to `function` go through; throws
-// std::runtime_error when the program does not import it.
-void** FindImportSlot(const char* function);
-// Puts `target` into the slot and returns what was there.
-void* SwapImportSlot(void** slot, void* target);
-}  // namespace internal
+// Sends the calls that this program makes to an imported function to `target`, and returns where
+// they went before.
+inline void* SwapImport(const std::string& function, void* target) {
+  auto* const image = reinterpret_cast<BYTE*>(GetModuleHandleW(nullptr));
+  const auto* const headers = reinterpret_cast<IMAGE_NT_HEADERS*>(
+      image + reinterpret_cast<IMAGE_DOS_HEADER*>(image)->e_lfanew);
+  const auto* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(
+      image + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
+  for (; library->Name != 0; ++library) {
+    const auto* const names = reinterpret_cast<ULONG_PTR*>(image + library->OriginalFirstThunk);
+    for (int i = 0; names[i] != 0; ++i) {
+      if (!IMAGE_SNAP_BY_ORDINAL(names[i]) &&
+          function == reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(image + names[i])->Name) {
+        auto* const slot = reinterpret_cast<void**>(image + library->FirstThunk) + i;
+        DWORD protection = 0;
+        VirtualProtect(slot, sizeof(*slot), PAGE_READWRITE, &protection);
+        return std::exchange(*slot, target);
+      }
+    }
+  }
+  throw std::runtime_error("this program does not import " + function);
+}
 
-// As long as it lives, every call that this program makes to an imported function goes to
-// `replacement`: a lambda, which may keep state by reference, with the original function as its
-// first parameter and then the function's own. Made by KELVO_REPLACE_IMPORT.
+// As long as it lives, calls to an imported function go to `replacement`: a lambda, which may keep
+// state by reference, with the original function as its first parameter and then the function's
+// own.
 template <typename Function, typename Replacement>
 class ReplacedImport;
 
 template <typename Result, typename... Parameters, typename Replacement>
 class ReplacedImport<Result(Parameters...), Replacement> {
  public:
-  ReplacedImport(const char* name, Replacement replacement)
-      : replacement_(std::move(replacement)),
-        slot_(internal::FindImportSlot(name)),
+  ReplacedImport(const char* function, Replacement replacement)
+      : function_(function),
+        replacement_(std::move(replacement)),
         outer_(std::exchange(active_, this)),
-        original_(reinterpret_cast<Original*>(
-            internal::SwapImportSlot(slot_, reinterpret_cast<void*>(&Call)))) {}
+        original_(SwapImport(function, reinterpret_cast<void*>(&Call))) {}
   ReplacedImport(const ReplacedImport&) = delete;
-  ReplacedImport& operator=(const ReplacedImport&) = delete;
   ~ReplacedImport() {
-    internal::SwapImportSlot(slot_, reinterpret_cast<void*>(original_));
+    SwapImport(function_, original_);
     active_ = outer_;
   }
 
  private:
-  using Original = Result(Parameters...);
   static Result Call(Parameters... parameters) {
-    return active_->replacement_(active_->original_, parameters...);
+    auto* const original = reinterpret_cast<Result (*)(Parameters...)>(active_->original_);
+    return active_->replacement_(original, parameters...);
   }
 
   // Each lambda has a type, and so an `active_`, of its own.
   static inline ReplacedImport* active_ = nullptr;
+  const char* function_;
   Replacement replacement_;
-  void** slot_;
   ReplacedImport* outer_;
-  Original* original_;
+  void* original_;
 };
 
 template <typename Function, typename Replacement>
-ReplacedImport<Function, Replacement> ReplaceImport(const char* name, Replacement replacement) {
-  return {name, std::move(replacement)};
+ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replacement replacement) {
+  return {function, std::move(replacement)};
 }
+
+// Until the end of the block:
+// KELVO_REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
+#define KELVO_REPLACE(function, ...) \
+  const auto replaced##function =    \
+      ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)
 
 // As long as it lives, GetProcAddress gives `function` for the export `name` of whatever module;
 // null stands for a Windows that does not have it.
 class ReplacedExport {
  public:
-  ReplacedExport(const char* name, void* function);
+  template <typename Function>
+  ReplacedExport(const char* name, Function* function) : name_(name) {
+    replaced_[name] = reinterpret_cast<FARPROC>(function);
+    static const KELVO_REPLACE(GetProcAddress, [](auto original, HMODULE module, LPCSTR asked) {
+      const auto found = replaced_.find(IS_INTRESOURCE(asked) ? "" : asked);
+      if (found == replaced_.end()) {
+        return original(module, asked);
+      }
+      SetLastError(found->second == nullptr ? ERROR_PROC_NOT_FOUND : ERROR_SUCCESS);
+      return found->second;
+    });
+  }
+  ReplacedExport(const char* name, std::nullptr_t)
+      : ReplacedExport(name, static_cast<void*>(nullptr)) {}
   ReplacedExport(const ReplacedExport&) = delete;
-  ReplacedExport& operator=(const ReplacedExport&) = delete;
-  ~ReplacedExport();
+  ~ReplacedExport() { replaced_.erase(name_); }
 
  private:
+  static inline std::map<std::string, FARPROC> replaced_;
   const char* name_;
 };
 
 }  // namespace kelvo::test
-
-// const auto denied = KELVO_REPLACE_IMPORT(RegDeleteValueW, [](auto...) { return
-// ERROR_ACCESS_DENIED; });
-#define KELVO_REPLACE_IMPORT(function, ...) \
-  ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)

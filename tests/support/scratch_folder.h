@@ -1,34 +1,43 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
-#include <string_view>
+#include <windows.h>
 
-#include "lib/platform/owned.h"
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
 
 namespace kelvo::test {
 
 // A folder of this test's own, which goes with everything in it when this object goes.
 class ScratchFolder {
  public:
-  ScratchFolder();
+  ScratchFolder() { std::filesystem::create_directories(path_); }
   ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-  ~ScratchFolder();
+  ~ScratchFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
 
-  [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+  std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }
 
   // Writes a file into the folder and returns its path.
-  std::filesystem::path Write(const std::filesystem::path& name, std::string_view bytes) const;
+  std::wstring Write(const std::filesystem::path& name, const std::string& bytes) const {
+    std::ofstream(path_ / name, std::ios::binary) << bytes;
+    return path_ / name;
+  }
 
  private:
-  std::filesystem::path path_;
+  static inline int made = 0;
+  std::filesystem::path path_ =
+      std::filesystem::temp_directory_path() /
+      (L"kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " + std::to_wstring(++made));
 };
 
-// A new file that a child process inherits and that others may read.
-OwnedFile CreateInheritableFile(const std::filesystem::path& file);
-
 // The file's bytes; empty when it cannot be read.
-std::string ReadBytes(const std::filesystem::path& file);
+inline std::string ReadBytes(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 }  // namespace kelvo::test

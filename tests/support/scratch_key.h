@@ -2,35 +2,45 @@
 
 #include <windows.h>
 
+#include <catch.hpp>
+#include <string>
+
 #include "lib/registry/registry_key.h"
-#include "lib/string/wstring.h"
+#include "lib/string/format_text.h"
 
 namespace kelvo::test {
 
 // The path of a registry key of this test's own below HKEY_CURRENT_USER. The key is not there at
 // first and goes, with everything below it, when this object goes.
-class ScratchKey {
- public:
-  ScratchKey();
+struct ScratchKey : WString {
+  ScratchKey()
+      : WString(FormatText(L"Software\\kelvo test %u %d", GetCurrentProcessId(), ++made)) {}
   ScratchKey(const ScratchKey&) = delete;
-  ScratchKey& operator=(const ScratchKey&) = delete;
-  ~ScratchKey();
+  // Not RegistryDeleteKeyTree, which is under test.
+  ~ScratchKey() { RegDeleteTreeW(HKEY_CURRENT_USER, c_str()); }
 
-  [[nodiscard]] const wchar_t* Path() const { return path_.c_str(); }
-
- private:
-  WString path_;
+  static inline int made = 0;
 };
 
-// As long as it lives, this process finds an empty key of the test's own in place of one of
-// Windows' predefined keys (RegOverridePredefKey). Throws std::runtime_error when that is not to be
-// had.
+// Stores `units` less `cutBytes` as a value, and none that stands behind them: a NUL that Windows
+// finds there it would add.
+inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
+                       std::wstring units, std::size_t cutBytes = 0) {
+  const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);
+  units += L'#';
+  REQUIRE(RegSetKeyValueW(root, subkey, name, type, units.data(), size) == ERROR_SUCCESS);
+}
+
+// As long as it lives, this process finds an empty key in place of one of Windows' predefined keys.
 class StandInKey {
  public:
-  explicit StandInKey(HKEY predefined);
+  explicit StandInKey(HKEY predefined) : predefined_(predefined) {
+    OwnedRegistryKey key;
+    REQUIRE(CreateRegistryKey(HKEY_CURRENT_USER, scratch_.c_str(), key) == 0);
+    REQUIRE(RegOverridePredefKey(predefined, key.get()) == 0);
+  }
   StandInKey(const StandInKey&) = delete;
-  StandInKey& operator=(const StandInKey&) = delete;
-  ~StandInKey();
+  ~StandInKey() { RegOverridePredefKey(predefined_, nullptr); }
 
  private:
   ScratchKey scratch_;

@@ -1,32 +1,22 @@
-#include <string>
-
 #include "lib/sysinfo/system_directories.h"
 #include "lib/sysinfo/user_name.h"
-#include "tests/support/catch.h"
-#include "tests/support/replaced_import.h"
+#include "tests/support/testing.h"
 
-namespace kelvo {
+static std::wstring told;
 
-namespace {
-
-std::wstring told;
-
-UINT WINAPI TellDirectory(wchar_t* buffer, UINT size) {
+static UINT WINAPI TellDirectory(wchar_t* buffer, UINT size) {
   buffer[told.copy(buffer, size - 1)] = L'\0';
   return static_cast<UINT>(told.length()) + (told.length() < size ? 0 : 1);
 }
 
-BOOLEAN WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
+static BOOLEAN WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
   const ULONG room = std::exchange(*size, static_cast<ULONG>(told.length() + 1));
   SetLastError(ERROR_MORE_DATA);
   return format == 8 && TellDirectory(buffer, room) < room && !told.empty();
 }
 
-}  // namespace
-
 TEST_CASE("directories end in one backslash and fit their buffers") {
-  const auto system = KELVO_REPLACE_IMPORT(
-      GetSystemDirectoryW, [](auto, auto... buffer) { return TellDirectory(buffer...); });
+  KELVO_REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return TellDirectory(to...); });
   const auto x = [](std::size_t count) { return WString(count, L'x'); };
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},
@@ -36,24 +26,20 @@ TEST_CASE("directories end in one backslash and fit their buffers") {
                              {x(1024), L"", L""}};
   for (const auto& [directory, systemPath, wow64Path] : rows) {
     told = directory.c_str();
-    const test::ReplacedExport wow64("GetSystemWow64DirectoryW",
-                                     reinterpret_cast<void*>(&TellDirectory));
+    const ReplacedExport wow64("GetSystemWow64DirectoryW", &TellDirectory);
     CHECK(GetSystemWow64DirectoryPath() == wow64Path);
-    CHECK(GetSystemDirectoryPath() == systemPath);
-    CHECK(GetNativeSystemDirectoryPath() == systemPath);
+    CHECK((GetSystemDirectoryPath() == systemPath && GetNativeSystemDirectoryPath() == systemPath));
   }
-  const test::ReplacedExport missing("GetSystemWow64DirectoryW", nullptr);
+  const ReplacedExport missing("GetSystemWow64DirectoryW", nullptr);
   CHECK(GetSystemWow64DirectoryPath().empty());
 }
 
 TEST_CASE("the account's name stands in for a missing principal name") {
   for (const std::size_t length : {0U, 255U, 1000U}) {
-    const test::ReplacedExport principal("GetUserNameExW", reinterpret_cast<void*>(&TellName));
+    const ReplacedExport principal("GetUserNameExW", &TellName);
     told.assign(length, L'p');
     CHECK(GetUserNameFQ() == (length == 0 ? GetAccountName() : WString(told)));
   }
-  const test::ReplacedExport missing("GetUserNameExW", nullptr);
+  const ReplacedExport missing("GetUserNameExW", nullptr);
   CHECK(GetUserNameFQ() == _wgetenv(L"USERNAME"));
 }
-
-}  // namespace kelvo

@@ -6,24 +6,18 @@
 #include "lib/registry/registry_value.h"
 #include "lib/sysinfo/color_depth.h"
 #include "lib/sysinfo/computer_name.h"
-#include "tests/support/catch.h"
-#include "tests/support/child_process.h"
-#include "tests/support/replaced_import.h"
-#include "tests/support/scratch_key.h"
-
-namespace kelvo {
+#include "tests/support/testing.h"
 
 TEST_CASE("a colour depth is low up to 16 bits and full from 32") {
   const int rows[][4] = {{1, 16, 1, 0}, {1, 17, 0, 0}, {1, 24, 0, 0},
                          {1, 31, 0, 0}, {1, 32, 0, 1}, {4, 8, 0, 1}};
   for (const auto& [planes, bits, low, full] : rows) {
-    const auto depth = KELVO_REPLACE_IMPORT(GetDeviceCaps, [&](auto, auto, int index) {
+    KELVO_REPLACE(GetDeviceCaps, [&](auto, auto, int index) {
       return index == PLANES ? planes : index == BITSPIXEL ? bits : 0;
     });
-    CHECK(IsLowResolution() == (low != 0));
-    CHECK(IsFullResolution() == (full != 0));
+    CHECK((IsLowResolution() == (low != 0) && IsFullResolution() == (full != 0)));
   }
-  const auto none = KELVO_REPLACE_IMPORT(GetDC, [](auto...) { return nullptr; });
+  KELVO_REPLACE(GetDC, [](auto...) { return nullptr; });
   CHECK_FALSE((IsLowResolution() || IsFullResolution()));
 }
 
@@ -41,12 +35,12 @@ TEST_CASE("the report has all its entries once and in order") {
       L"CSIDL_DESKTOPDIRECTORY CSIDL_LOCAL_APPDATA CSIDL_PERSONAL CSIDL_PROGRAM_FILES "
       L"CSIDL_PROGRAM_FILES_COMMON CSIDL_PROGRAMS CSIDL_STARTMENU CSIDL_SYSTEM CSIDL_WINDOWS "
       L"UserEnv: \u017E SystemEnv: \u017E ";
-  const auto folder = KELVO_REPLACE_IMPORT(
-      SHGetSpecialFolderPathW, [](auto original, HWND owner, wchar_t* path, int id, BOOL create) {
-        return id == CSIDL_STARTMENU ? FALSE : original(owner, path, id, create);
-      });
-  const test::StandInKey user(HKEY_CURRENT_USER);
-  const test::StandInKey machine(HKEY_LOCAL_MACHINE);
+  KELVO_REPLACE(SHGetSpecialFolderPathW,
+                [](auto original, auto owner, auto path, int folder, auto create) {
+                  return folder == CSIDL_STARTMENU ? FALSE : original(owner, path, folder, create);
+                });
+  const StandInKey user(HKEY_CURRENT_USER);
+  const StandInKey machine(HKEY_LOCAL_MACHINE);
   const wchar_t* const system = L"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment";
   RegistryWriteString(HKEY_CURRENT_USER, L"Environment", L"\u017E", L"mine");
   RegistryWriteString(HKEY_LOCAL_MACHINE, system, L"\u017E", L"everybody's");
@@ -63,22 +57,18 @@ TEST_CASE("the report has all its entries once and in order") {
   CHECK(report[22].second == GetComputerNetbiosName());
   CHECK(report[44].second == L"failed to query CSIDL_STARTMENU");
   CHECK(report[48].second == L"everybody's");
-
   RegDeleteTreeW(HKEY_CURRENT_USER, L"Environment");
   CollectSystemReport(report);
-  CHECK(report.size() == 48);
-  CHECK(report.back().first == L"SystemEnv: \u017E");
+  CHECK((report.size() == 48 && report.back().first == L"SystemEnv: \u017E"));
 }
 
 TEST_CASE("the report's program prints columns that no value can break") {
   const wchar_t* const name = L"kelvo \u017E\U0001F600";
   RegistryWriteString(HKEY_CURRENT_USER, L"Environment", name, L"\x1B[31m\n\u202E\xD800.");
-  const test::ChildResult result = test::RunChild(test::ProgramPath(L"system_report.exe"));
+  const ChildResult result = RunChild(ProgramPath(L"system_report.exe"));
   RegistryDeleteValue(HKEY_CURRENT_USER, L"Environment", name);
   CHECK(result.exitCode == 0);
   CHECK(result.output.find("\nIsWinNT()                             1\r\n") != std::string::npos);
   CHECK(result.output.find("\nUserEnv: kelvo \xC5\xBE\xF0\x9F\x98\x80" + std::string(21, ' ') +
                            "<U+001B>[31m<U+000A><U+202E><U+D800>.\r\n") != std::string::npos);
 }
-
-}  // namespace kelvo

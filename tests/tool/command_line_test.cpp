@@ -1,30 +1,18 @@
-#include <tuple>
-
-#include "tests/support/catch.h"
 #include "tests/tool/rehearsal.h"
 
-namespace kelvo::test {
-
-namespace {
-
-const std::string kUsage =
-    "invalid arguments\r\n"
-    "install: Install Certificate, Driver and Register Service, remember dependant application\r\n"
-    "    sorrel.exe install Tessalin.inf trusted.cer trusted_i.cer brindle"
-    "uninstall: Unregister Service, remove dependant application\r\n"
-    "    sorrel.exe uninstall Tessalin.inf brindle"
-    "register: Register Handsfree Service\r\n"
-    "    sorrel.exe register"
-    "unregister: Unregister Handsfree Service\r\n"
-    "    sorrel.exe unregister";
-
-const std::string kOk = "OK: BluetoothSetLocalServiceInfo\r\n";
-const std::string kNoneLeft = "OK: No more dependant applications\r\n";
-
-}  // namespace
-
 TEST_CASE("words that match no form give the usage text and 2, and nothing is done") {
-  Rehearsal machine;
+  const std::string usage =
+      "invalid arguments\r\n"
+      "install: Install Certificate, Driver and Register Service, remember dependant "
+      "application\r\n"
+      "    sorrel.exe install Tessalin.inf trusted.cer trusted_i.cer brindle"
+      "uninstall: Unregister Service, remove dependant application\r\n"
+      "    sorrel.exe uninstall Tessalin.inf brindle"
+      "register: Register Handsfree Service\r\n"
+      "    sorrel.exe register"
+      "unregister: Unregister Handsfree Service\r\n"
+      "    sorrel.exe unregister";
+  const Rehearsal machine;
   for (const wchar_t* const words : {L"",
                                      L"install",
                                      L"install a b c",
@@ -47,73 +35,50 @@ TEST_CASE("words that match no form give the usage text and 2, and nothing is do
                                      L"a b c",
                                      L"a b c d e"}) {
     CAPTURE(words);
-    const ChildResult run = machine.Run(words);
-    CHECK((run.exitCode == 2 && run.output == kUsage && run.errors.empty()));
-    CHECK((machine.Journal(true).empty() && !Applications().has_value()));
+    CHECK(machine.Run(words) == usage + "= 00000002 [none]\r\n");
   }
 }
 
 TEST_CASE("each form keeps its part of the list and switches the service") {
-  const auto denied = L"0x5";
-  const std::string deniedLine =
+  const std::string denied =
       "ERR: BluetoothSetLocalServiceInfo Error: 00000005 - Access denied.\r\r\n\r\n";
-  // The words, the list before ("" for none), the Bluetooth result; exit code, output, list and
-  // calls.
-  using Row = std::tuple<const wchar_t*, std::wstring, const wchar_t*, DWORD, std::string,
-                         const wchar_t*, std::string>;
-  const Row rows[] = {
-      {L"register", L"", L"0", 0, kOk, L"", ServiceCall(true)},
-      {L"register", L"other", denied, 5, deniedLine, L"other", ServiceCall(true)},
-      {L"register", L"", L"0xE0000242", 0xE0000242,
-       "ERR: BluetoothSetLocalServiceInfo Error: E0000242 - \r\n", L"", ServiceCall(true)},
-      {L"unregister", L"other", L"0", 0, kOk, L"other", ServiceCall(false)},
-      {L"register brindle", L"", denied, 5, deniedLine, L"brindle", ServiceCall(true)},
-      {L"register brindle", L"brindle", L"0", 0, kOk, L"brindle", ServiceCall(true)},
-      {L"unregister brindle", L"brindle", denied, 5, kNoneLeft + deniedLine, L"",
-       ServiceCall(false)},
-      {L"unregister brindle", L"brindle;other", denied, 0,
-       "OK: Dependant applications exist: other\r\n", L"other", ""},
-      {L"uninstall none.inf brindle", L"other;brindle", L"0", 0,
-       "OK: Dependant applications exist: other\r\n", L"other", ""},
-      {L"uninstall none.inf brindle", L"brindle", denied, 0, kNoneLeft + deniedLine, L"",
-       ServiceCall(false)},
-      {L"uninstall none.inf brindle", L"", L"0", 0, kNoneLeft + kOk, L"", ServiceCall(false)},
-  };
-  for (const auto& [words, before, result, exitCode, output, after, calls] : rows) {
+  const std::string noneLeft = "OK: No more dependant applications\r\n";
+  const std::string othersLeft =
+      "OK: Dependant applications exist: other\r\n= 00000000 [other]\r\n";
+  // The words, the list before, the Bluetooth result, and what comes of it.
+  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, std::string> rows[] = {
+      {L"register", L"", L"0", kOk + "= 00000000 []\r\n" + kOn},
+      {L"register", L"other", L"0x5", denied + "= 00000005 [other]\r\n" + kOn},
+      {L"register", L"", L"0xE0000242",
+       "ERR: BluetoothSetLocalServiceInfo Error: E0000242 - \r\n= E0000242 []\r\n" + kOn},
+      {L"unregister", L"other", L"0", kOk + "= 00000000 [other]\r\n" + kOff},
+      {L"register brindle", L"", L"0x5", denied + "= 00000005 [brindle]\r\n" + kOn},
+      {L"register brindle", L"brindle", L"0", kOk + "= 00000000 [brindle]\r\n" + kOn},
+      {L"unregister brindle", L"brindle", L"0x5",
+       noneLeft + denied + "= 00000005 [none]\r\n" + kOff},
+      {L"unregister brindle", L"brindle;other", L"0x5", othersLeft},
+      {L"uninstall none.inf brindle", L"other;brindle", L"0", othersLeft},
+      {L"uninstall none.inf brindle", L"brindle", L"0x5",
+       noneLeft + denied + "= 00000000 [none]\r\n" + kOff},
+      {L"uninstall none.inf brindle", L"", L"0", noneLeft + kOk + "= 00000000 [none]\r\n" + kOff}};
+  const Rehearsal machine;
+  std::filesystem::remove(machine.folder / "difxapi.dll");
+  for (const auto& [words, before, result, expected] : rows) {
     CAPTURE(words, before, result);
-    Rehearsal machine;
-    machine.Remove(L"difxapi.dll");
-    machine.Set(L"BLUETOOTH_RESULT", result);
-    if (!before.empty()) {
-      SetApplications(before);
-    }
-    const ChildResult run = machine.Run(words);
-    CHECK((run.exitCode == exitCode && run.errors.empty()));
-    CHECK(run.output == output);
-    CHECK(Applications().value_or(L"") == after);
-    CHECK(machine.Journal() == calls);
+    SetApplications(before);
+    CHECK(machine.Run(words, {{L"BLUETOOTH_RESULT", result}}) == expected);
   }
 }
 
-TEST_CASE("without a Bluetooth library the line says so and the exit code is 0") {
-  Rehearsal machine;
-  machine.Remove(L"bthprops.cpl");
-  for (const wchar_t* const words : {L"register", L"unregister", L"register brindle"}) {
-    const ChildResult run = machine.Run(words);
-    CHECK((run.exitCode == 0 &&
-           run.output == "ERR: no Bluetooth available, bthprops.cpl missing\r\n"));
+TEST_CASE("a machine without a Bluetooth library, or with one that lacks the function") {
+  const Rehearsal machine;
+  std::filesystem::rename(machine.folder / "difxapi.dll", machine.folder / "bthprops.cpl");
+  CHECK(machine.Run(L"register") ==
+        "ERR: BluetoothSetLocalServiceInfo Error: 0000007F - Procedure not found.\r\r\n\r\n"
+        "= 0000007F [none]\r\ndifxapi.dll loaded\r\ndifxapi.dll freed\r\n");
+  std::filesystem::remove(machine.folder / "bthprops.cpl");
+  for (const wchar_t* const words : {L"register", L"unregister", L"register none"}) {
+    CHECK(machine.Run(words) ==
+          "ERR: no Bluetooth available, bthprops.cpl missing\r\n= 00000000 [none]\r\n");
   }
-  CHECK(Applications() == L"brindle");
 }
-
-TEST_CASE("a Bluetooth library without the function gives the lookup's error and is freed") {
-  Rehearsal machine;
-  machine.Exchange(L"bthprops.cpl", L"difxapi.dll");
-  const ChildResult run = machine.Run(L"register");
-  CHECK(run.exitCode == ERROR_PROC_NOT_FOUND);
-  CHECK(run.output ==
-        "ERR: BluetoothSetLocalServiceInfo Error: 0000007F - Procedure not found.\r\r\n\r\n");
-  CHECK(machine.Journal(true) == "difxapi.dll loaded\ndifxapi.dll freed\n");
-}
-
-}  // namespace kelvo::test

@@ -1,40 +1,74 @@
 #pragma once
 
-#include <optional>
-#include <string>
-
-#include "tests/support/child_process.h"
-#include "tests/support/scratch_folder.h"
+#include "tests/support/certificate_store.h"
+#include "tests/support/testing.h"
+#include "tool/dependent_applications.h"
 
 namespace kelvo::test {
 
+// The list of dependent applications in the registry; "none" when there is no such value.
+inline std::wstring Applications() {
+  wchar_t list[2048];
+  DWORD size = sizeof(list);
+  const bool isThere = RegGetValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications",
+                                    RRF_RT_REG_SZ, nullptr, list, &size) == ERROR_SUCCESS;
+  return isThere ? list : L"none";
+}
+
+inline void SetApplications(const std::wstring& list, DWORD type = REG_SZ) {
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", type, list.c_str(),
+                  static_cast<DWORD>((list.length() + 1) * sizeof(wchar_t)));
+}
+
+inline std::string Ascii(const std::wstring& text) { return {text.begin(), text.end()}; }
+
 // A copy of sorrel.exe with the simulator's libraries beside it in a folder of its own, on a
 // machine with no dependent application recorded and both certificate stores empty.
-class Rehearsal {
- public:
-  Rehearsal();
+struct Rehearsal {
+  // Each setting tells the simulator something: the part of a variable's name behind
+  // SORREL_SIMULATOR_, and its value.
+  using Settings = std::map<std::wstring, std::wstring>;
 
-  // Runs sorrel.exe with these words. The journal starts anew each time.
-  ChildResult Run(const std::wstring& words);
-  // Tells the simulator something, by the part of the variable's name behind SORREL_SIMULATOR_.
-  void Set(const std::wstring& variable, const std::wstring& value);
-  // Takes a file out of the program's folder, or puts another one in its place.
-  void Remove(const wchar_t* file) const;
-  void Exchange(const wchar_t* file, const wchar_t* other) const;
-  // The journal's lines of calls, with "\n" behind each; `withLoading` those of loading and freeing
-  // too.
-  [[nodiscard]] std::string Journal(bool withLoading = false) const;
-  [[nodiscard]] const ScratchFolder& Folder() const { return folder_; }
+  Rehearsal() {
+    for (const wchar_t* const file : {L"sorrel.exe", L"bthprops.cpl", L"difxapi.dll"}) {
+      const std::wstring source = (*file == L's' ? L"" : L"simulator\\") + std::wstring(file);
+      std::filesystem::copy_file(ProgramPath(source), folder / file);
+    }
+    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications");
+    EmptyStores();
+  }
 
- private:
-  ScratchFolder folder_;
+  // Runs sorrel.exe with these words and tells all that came of it: what it wrote, its exit code
+  // and the list of applications as "= 00000000 [a;b]", and the journal.
+  std::string Run(const std::wstring& words, Settings settings = {}) const {
+    std::filesystem::remove(folder / "journal");
+    settings[L"JOURNAL"] = folder / "journal";
+    const auto set = [&](auto value) {
+      for (const auto& setting : settings) {
+        SetEnvironmentVariableW((L"SORREL_SIMULATOR_" + setting.first).c_str(), value(setting));
+      }
+    };
+    set([](auto& setting) { return setting.second.c_str(); });
+    const ChildResult run = RunChild(L"\"" + (folder / "sorrel.exe").wstring() + L"\" " + words);
+    set([](auto&) { return nullptr; });
+    CHECK(run.errors.empty());
+    char code[16];
+    std::snprintf(code, sizeof(code), "= %08lX [", run.exitCode);
+    return run.output + code + Ascii(Applications()) + "]\r\n" + ReadBytes(folder / "journal");
+  }
+
+  ScratchFolder folder;
 };
 
-// The journal's line of the call that registers the service, or unregisters it.
-std::string ServiceCall(bool enabled);
-
-// The list of dependent applications in the registry; nothing when there is no such value.
-std::optional<std::wstring> Applications();
-void SetApplications(const std::wstring& list, DWORD type = REG_SZ);
+const std::string kSetService =
+    "BluetoothSetLocalServiceInfo radio=none class={3ABB9028-BEAE-4BF1-ACD7-5CD7D5E4E0CA} "
+    "instance=0 enabled=";
+const std::string kService = " address=000000000000 name=\"Tessalin\" device=\"\"\r\n";
+// What the journal tells when the service is registered, and when it is unregistered.
+const std::string kOn =
+    "bthprops.cpl loaded\r\n" + kSetService + "1" + kService + "bthprops.cpl freed\r\n";
+const std::string kOff =
+    "bthprops.cpl loaded\r\n" + kSetService + "0" + kService + "bthprops.cpl freed\r\n";
+const std::string kOk = "OK: BluetoothSetLocalServiceInfo\r\n";
 
 }  // namespace kelvo::test

@@ -1,39 +1,30 @@
-#include "lib/string/format_text.h"
 #include "lib/ui/locale_names.h"
 #include "lib/ui/resource_languages.h"
 #include "lib/ui/text_substitution.h"
 #include "lib/ui/window_texts.h"
-#include "tests/support/catch.h"
-#include "tests/support/child_process.h"
 #include "tests/support/desktop_scope.h"
-#include "tests/support/replaced_import.h"
+#include "tests/support/testing.h"
 
-namespace kelvo {
-
-using Languages = std::vector<LANGID>;
-
-TEST_CASE("a module tells the languages of its first string table, numbered or named") {
+TEST_CASE("a module tells the languages of its first string table; kinship chooses one") {
+  using Languages = std::vector<LANGID>;
   const auto languagesOf = [](const wchar_t* library) {
-    return GetStringResourceLanguages(LoadLibraryW(test::ProgramPath(library).c_str()));
+    return GetStringResourceLanguages(LoadLibraryW(ProgramPath(library).c_str()));
   };
   CHECK(languagesOf(L"string_languages.dll") == Languages{0x0407, 0x0411, 0x0809});
   CHECK(languagesOf(L"named_strings.dll") == Languages{0x0C0C});
   CHECK(GetStringResourceLanguages(nullptr).empty());
-}
-
-TEST_CASE("the language of resources is chosen by kinship") {
-  CHECK(ChooseResourceLanguage({0x0407, 0x0807}, 0x0807) == 0x0807);          // itself
-  CHECK(ChooseResourceLanguage({0x0409, 0x0C07, 0x0407}, 0x0807) == 0x0C07);  // a relative
-  CHECK(ChooseResourceLanguage({0x040C, 0x0809, 0x0409}, 0x0411) == 0x0809);  // English
-  CHECK(ChooseResourceLanguage({0x040C, 0x0410}, 0x0411) == 0x040C);          // the first
+  // Itself, a relative, English, the first.
+  CHECK(ChooseResourceLanguage({0x0407, 0x0807}, 0x0807) == 0x0807);
+  CHECK(ChooseResourceLanguage({0x0409, 0x0C07, 0x0407}, 0x0807) == 0x0C07);
+  CHECK(ChooseResourceLanguage({0x040C, 0x0809, 0x0409}, 0x0411) == 0x0809);
+  CHECK(ChooseResourceLanguage({0x040C, 0x0410}, 0x0411) == 0x040C);
   CHECK(ChooseResourceLanguage({}, 0x0409) == 0);
 }
 
 TEST_CASE("a locale has a name, unless Windows has no names") {
-  CHECK(LocaleNameFromLcid(0x0007) == L"de");
-  CHECK(LocaleNameFromLcid(0x12345) == L"");
+  CHECK((LocaleNameFromLcid(0x0007) == L"de" && LocaleNameFromLcid(0x12345) == L""));
   CHECK(GetLocaleInfoString(0x0807, LOCALE_SNAME) == L"de-CH");
-  const test::ReplacedExport missing("LCIDToLocaleName", nullptr);
+  const ReplacedExport missing("LCIDToLocaleName", nullptr);
   CHECK(LocaleNameFromLcid(0x0007) == L"");
 }
 
@@ -44,15 +35,13 @@ TEST_CASE("all occurrences in a buffer of eight characters are replaced") {
       {L"abab", L"ab", nullptr, L""},      {L"abc", L"x", L"y", nullptr},
       {L"abc", L"", L"y", nullptr},        {L"1234567", L"7", L"x", L"123456x"},
       {L"12345678", L"1", L"x", nullptr},  {L"123a", L"a", L"4567", L"1234567"},
-      {L"aa45", L"a", L"012", L"0120124"}, {L"aa", L"a", L"01234567", L"0123456"},
-  };
+      {L"aa45", L"a", L"012", L"0120124"}, {L"aa", L"a", L"01234567", L"0123456"}};
   for (const auto& [text, search, replacement, result] : rows) {
     CAPTURE(text, search, replacement);
     std::wstring buffer(text);
     buffer.resize(8);
     buffer += L"####";
-    CHECK((ReplaceAllInBuffer(buffer.data(), 8, search, replacement) == TRUE) ==
-          (result != nullptr));
+    CHECK(ReplaceAllInBuffer(buffer.data(), 8, search, replacement) == (result != nullptr));
     CHECK(buffer.substr(0, 8).c_str() == std::wstring(result != nullptr ? result : text));
     CHECK(buffer.ends_with(L"####"));
   }
@@ -60,39 +49,36 @@ TEST_CASE("all occurrences in a buffer of eight characters are replaced") {
 
 TEST_CASE("a window's labels and buttons are rewritten, its other controls are not") {
   // On a desktop of its own, for which Wine opens the display that this process has.
-  const WString name = FormatText(L"kelvo test %u", GetCurrentProcessId());
-  const test::DesktopScope desktop(nullptr, name.c_str());
-  const auto canOpenWindows = [] {
-    return DestroyWindow(CreateWindowExW(0, L"Static", L"", 0, 0, 0, 9, 9, nullptr, nullptr,
-                                         nullptr, nullptr)) != FALSE;
+  const std::wstring name = L"kelvo test " + std::to_wstring(GetCurrentProcessId());
+  const DesktopScope scope(nullptr, name.c_str());
+  const auto make = [](const std::wstring& kind, const std::wstring& text, HWND parent) {
+    return CreateWindowExW(0, kind.c_str(), text.c_str(), parent == nullptr ? 0 : WS_CHILD, 0, 0, 9,
+                           9, parent, nullptr, nullptr, nullptr);
   };
-  for (int tries = 0; tries < 50 && !canOpenWindows(); ++tries) {
+  for (int tries = 0; tries < 50 && DestroyWindow(make(L"Static", L"", nullptr)) == FALSE;
+       ++tries) {
     Sleep(200);
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
+  // Each pair is applied once, by the order of the keys.
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},
       {L"Edit", L"Kelvo", L"Kelvo"},
-      {L"Button", L"a Kelvo! b", L"c ab c"},  // each pair once, by the order of the keys
+      {L"Button", L"a Kelvo! b", L"c ab c"},
       {L"ListBox", L"Kelvo", L"Kelvo"},
       {L"STATIC", L"Kelvo" + most, L"kelvo" + most},
-      {L"Static", L"Kelvo" + most + L"yz", L"Kelvo" + most + L"y"},
-  };
+      {L"Static", L"Kelvo" + most + L"yz", L"Kelvo" + most + L"y"}};
   std::vector<HWND> windows = {nullptr};
-  for (const auto& [className, text, result] : rows) {
-    windows.push_back(CreateWindowExW(0, className.c_str(), text.c_str(),
-                                      windows.back() == nullptr ? 0 : WS_CHILD, 0, 0, 9, 9,
-                                      windows.back(), nullptr, nullptr, nullptr));
+  for (const auto& [kind, text, result] : rows) {
+    windows.push_back(make(kind, text, windows.back()));
   }
   CHECK(RewriteWindowTexts(windows[1]) == TRUE);
   for (std::size_t i = 0; i < std::size(rows); ++i) {
-    std::array<wchar_t, 2048> text{};
-    GetWindowTextW(windows[i + 1], text.data(), 2048);
-    CHECK(text.data() == rows[i][2]);
+    wchar_t text[2048] = L"";
+    GetWindowTextW(windows[i + 1], text, 2048);
+    CHECK(text == rows[i][2]);
   }
   TextSubstitutions().clear();
 }
-
-}  // namespace kelvo

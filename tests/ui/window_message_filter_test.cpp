@@ -1,25 +1,16 @@
 #include "lib/ui/window_message_filter.h"
 
-#include "tests/support/catch.h"
-#include "tests/support/replaced_import.h"
-
-namespace kelvo {
+#include "tests/support/testing.h"
 
 TEST_CASE("a message filter is changed from Windows 7 on where the function is there") {
   const auto change = +[](HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT* status) {
     return window == nullptr && message == 9 && action == 1 && status == nullptr ? 2 : FALSE;
   };
-  const test::ReplacedExport filter("ChangeWindowMessageFilterEx", reinterpret_cast<void*>(change));
-  CHECK_FALSE(AllowWindowMessage(nullptr, 9, 0, nullptr));
-  for (const DWORD minor : {0U, 1U}) {
-    const auto version = KELVO_REPLACE_IMPORT(GetVersionExW, [&](auto, OSVERSIONINFOW* record) {
-      *record = {276, 6, minor, 0, VER_PLATFORM_WIN32_NT, L""};
-      return TRUE;
-    });
-    CHECK(AllowWindowMessage(nullptr, 9, 1, nullptr) == (minor == 1));
+  for (const auto& [minor, function, answer] :
+       {std::tuple(0U, change, false), {1U, change, true}, {1U, decltype(change){}, false}}) {
+    const auto windows = PretendWindows(2, 6, minor);
+    const ReplacedExport filter("ChangeWindowMessageFilterEx", function);
+    CHECK(AllowWindowMessage(nullptr, 9, 1, nullptr) == answer);
+    CHECK_FALSE(AllowWindowMessage(nullptr, 9, 0, nullptr));
   }
-  const test::ReplacedExport absent("ChangeWindowMessageFilterEx", nullptr);
-  CHECK_FALSE(AllowWindowMessage(nullptr, 9, 1, nullptr));
 }
-
-}  // namespace kelvo

@@ -1,20 +1,20 @@
 #pragma once
 
-#include <windows.h>
-
 #include "tests/support/replaced_import.h"
 
 namespace kelvo::test {
 
 // As long as what it returns lives, GetVersionExW tells of this Windows, build 1381.
-inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor, const wchar_t* servicePack) {
-  return KELVO_REPLACE_IMPORT(GetVersionExW, [=](auto, OSVERSIONINFOW* record) -> BOOL {
+inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
+                           const wchar_t* servicePack = L"") {
+  const auto tell = [=](auto, OSVERSIONINFOW* record) -> BOOL {
     const DWORD size = record->dwOSVersionInfoSize;
     *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
     lstrcpyW(record->szCSDVersion, servicePack);
     // NT 4.0 does not know the extended record.
     return major != 4 || size == sizeof(*record);
-  });
+  };
+  return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", tell);
 }
 
 }  // namespace kelvo::test
