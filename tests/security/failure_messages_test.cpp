@@ -116,5 +116,5 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   for (const std::wstring& outcome : outcomes) {
     seen.append(outcome.begin(), outcome.end());
   }
-  CHECK(seen == ReadBytes(ProgramPath(L"failure_messages.txt")));
+  CheckAgainstFile(seen, L"failure_messages.txt");
 }

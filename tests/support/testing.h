@@ -17,6 +17,7 @@
 #include "lib/platform/owned.h"
 #include "lib/string/wstring.h"
 #include "tests/support/child_process.h"
+#include "tests/support/expected_file.h"
 #include "tests/support/pretended_windows.h"
 #include "tests/support/replaced_import.h"
 #include "tests/support/scratch_folder.h"

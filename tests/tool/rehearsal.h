@@ -22,53 +22,46 @@ inline void SetApplications(const std::wstring& list, DWORD type = REG_SZ) {
 
 inline std::string Ascii(const std::wstring& text) { return {text.begin(), text.end()}; }
 
-// A copy of sorrel.exe with the simulator's libraries beside it in a folder of its own, on a
-// machine with no dependent application recorded and both certificate stores empty.
+// A copy of sorrel.exe with the simulator's libraries and certificates beside it in a folder of its
+// own, which is the current one, on a machine with no dependent application recorded and both
+// certificate stores empty.
 struct Rehearsal {
-  // Each setting tells the simulator something: the part of a variable's name behind
-  // SORREL_SIMULATOR_, and its value.
+  // Tell the simulator something: the part of a variable's name behind SORREL_SIMULATOR_, and its
+  // value.
   using Settings = std::map<std::wstring, std::wstring>;
 
   Rehearsal() {
-    for (const wchar_t* const file : {L"sorrel.exe", L"bthprops.cpl", L"difxapi.dll"}) {
-      const std::wstring source = (*file == L's' ? L"" : L"simulator\\") + std::wstring(file);
-      std::filesystem::copy_file(ProgramPath(source), folder / file);
+    for (const wchar_t* const file :
+         {L"sorrel.exe", L"simulator\\bthprops.cpl", L"simulator\\difxapi.dll",
+          L"certificates\\binary.cer", L"certificates\\base64.cer", L"certificates\\bundle.p7b"}) {
+      const std::filesystem::path source = ProgramPath(file);
+      std::filesystem::copy_file(source, folder / source.filename());
     }
+    std::filesystem::current_path(folder / "");
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications");
     EmptyStores();
   }
+  ~Rehearsal() { std::filesystem::current_path(ProgramPath(L"")); }
 
   // Runs sorrel.exe with these words and tells all that came of it: what it wrote, its exit code
   // and the list of applications as "= 00000000 [a;b]", and the journal.
   std::string Run(const std::wstring& words, Settings settings = {}) const {
-    std::filesystem::remove(folder / "journal");
-    settings[L"JOURNAL"] = folder / "journal";
-    const auto set = [&](auto value) {
-      for (const auto& setting : settings) {
-        SetEnvironmentVariableW((L"SORREL_SIMULATOR_" + setting.first).c_str(), value(setting));
-      }
-    };
-    set([](auto& setting) { return setting.second.c_str(); });
+    std::filesystem::remove("journal");
+    settings[L"JOURNAL"] = L"journal";
+    for (const auto& [name, value] : settings) {
+      SetEnvironmentVariableW((L"SORREL_SIMULATOR_" + name).c_str(), value.c_str());
+    }
     const ChildResult run = RunChild(L"\"" + (folder / "sorrel.exe").wstring() + L"\" " + words);
-    set([](auto&) { return nullptr; });
+    for (const auto& [name, value] : settings) {
+      SetEnvironmentVariableW((L"SORREL_SIMULATOR_" + name).c_str(), nullptr);
+    }
     CHECK(run.errors.empty());
     char code[16];
     std::snprintf(code, sizeof(code), "= %08lX [", run.exitCode);
-    return run.output + code + Ascii(Applications()) + "]\r\n" + ReadBytes(folder / "journal");
+    return run.output + code + Ascii(Applications()) + "]\r\n" + ReadBytes("journal");
   }
 
   ScratchFolder folder;
 };
-
-const std::string kSetService =
-    "BluetoothSetLocalServiceInfo radio=none class={3ABB9028-BEAE-4BF1-ACD7-5CD7D5E4E0CA} "
-    "instance=0 enabled=";
-const std::string kService = " address=000000000000 name=\"Tessalin\" device=\"\"\r\n";
-// What the journal tells when the service is registered, and when it is unregistered.
-const std::string kOn =
-    "bthprops.cpl loaded\r\n" + kSetService + "1" + kService + "bthprops.cpl freed\r\n";
-const std::string kOff =
-    "bthprops.cpl loaded\r\n" + kSetService + "0" + kService + "bthprops.cpl freed\r\n";
-const std::string kOk = "OK: BluetoothSetLocalServiceInfo\r\n";
 
 }  // namespace kelvo::test
