@@ -5,7 +5,6 @@
 #include <set>
 
 #include "tests/support/certificate_store.h"
-#include "tests/support/testing.h"
 
 TEST_CASE("a certificate goes in once; all is closed but the store of an unreadable file") {
   // A file, whether adding is let through, the answer, handles left open.

@@ -1,7 +1,5 @@
 #include "lib/platform/guarded_call.h"
 
-#include "tests/support/testing.h"
-
 TEST_CASE("a guarded call answers whether its action came to an end") {
   bool reached = false;
   CHECK((GuardedCall([&] { reached = true; }) && reached));

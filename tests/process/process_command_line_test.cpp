@@ -2,8 +2,6 @@
 
 #include <winternl.h>
 
-#include "tests/support/testing.h"
-
 TEST_CASE("a command line is read where a process of an old NT has it") {
   static const void* block[6] = {};
   const void* parameters[30] = {};

@@ -2,7 +2,6 @@
 #include "lib/process/run_as_user.h"
 #include "lib/process/session_process.h"
 #include "tests/support/desktop_scope.h"
-#include "tests/support/testing.h"
 
 static std::string calls;
 
@@ -28,20 +27,18 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
   const OwnedKernelObject go(CreateEventW(nullptr, TRUE, FALSE, name.c_str()));
   const OwnedKernelObject done(CreateEventW(nullptr, FALSE, FALSE, (name + L"_done").c_str()));
   const std::wstring arguments = L"report " + name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
-  const struct {
-    const wchar_t *station, *desktop;
-    std::string calls;
-  } places[] = {
-      {nullptr, nullptr, ""},  // LaunchInUserSession, then RunAsUser
+  // Where a call is made from, and what RunAsUser does; the first is for LaunchInUserSession.
+  const std::tuple<const wchar_t*, const wchar_t*, std::string> places[] = {
+      {nullptr, nullptr, "wait "},
       {nullptr, nullptr, "create free wait "},
       {nullptr, L"kelvo desktop", "create free station desktop wait close close "},
       {L"kelvo process test", L"Default", "station create free station desktop wait close close "}};
   // Waiting comes last: a program that still ends would keep the folder from being removed.
   for (int round = 0; round < 16; ++round) {
-    const auto& place = places[round / 4];
-    const bool waits = round % 4 >= 2;
     CAPTURE(round);
-    const DesktopScope scope(place.station, place.desktop);
+    const auto& [station, desktop, steps] = places[round / 4];
+    const bool waits = round % 4 >= 2;
+    const DesktopScope scope(station, desktop);
     const std::wstring before = CurrentDesktop();
     waits ? SetEvent(go.get()) : ResetEvent(go.get());
     std::wstring command = L"\"" + program + L"\" " + arguments;
@@ -59,9 +56,8 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
       REQUIRE((round < 4 ? LaunchInUserSession(program.c_str(), arguments.c_str(), waits, slot)
                          : RunAsUser(command.data(), waits, slot) == TRUE));
     }
-    const auto wait = place.calls.find("wait ");
-    CHECK((round < 4 || calls == std::string(place.calls).erase(wait, waits ? 0 : 5)));
-    CHECK(CurrentDesktop() == before);
+    const std::string expected = std::string(steps).erase(steps.find("wait"), waits ? 0 : 5);
+    CHECK(((round < 4 || calls == expected) && CurrentDesktop() == before));
     CHECK(WaitForSingleObject(done.get(), 0) == (waits ? WAIT_OBJECT_0 : WAIT_TIMEOUT));
     SetEvent(go.get());
     CHECK((waits || WaitForSingleObject(done.get(), 10000) == WAIT_OBJECT_0));
@@ -92,8 +88,7 @@ TEST_CASE("letter case matters where a process is started, not where one asks") 
     });
     KELVO_REPLACE(OpenWindowStationW, [&](auto...) { return ++moved, nullptr; });
     CHECK(IsOnInteractiveDesktop() == isInteractive);
-    CHECK(RunAsUser(std::wstring(L"no such program").data(), FALSE, nullptr) == FALSE);
-    CHECK(moved == moves);
+    CHECK((!RunAsUser(std::wstring(L"no such program").data(), FALSE, nullptr) && moved == moves));
   }
 }
 
@@ -131,7 +126,6 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
                     return duplicates;
                   });
     calls.clear();
-    CHECK_FALSE(LaunchInUserSession(L"program", nullptr, true, nullptr));
-    CHECK(calls == happens);
+    CHECK((!LaunchInUserSession(L"program", nullptr, true, nullptr) && calls == happens));
   }
 }

@@ -1,7 +1,5 @@
 #include "lib/registry/registry_string.h"
 
-#include "tests/support/testing.h"
-
 static std::wstring Expanded(const wchar_t* text) {
   wchar_t buffer[1024];
   ExpandEnvironmentStringsW(text, buffer, 1024);
@@ -45,7 +43,6 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
       {REG_SZ, L"abc\0"s, 4, L"abc"},
       {REG_SZ, L"abcd\0"s, 4, L""},
       {REG_SZ, L"abcd", 4, L"abc"},
-      {REG_EXPAND_SZ, L"%SystemRoot%\0"s, 13, Expanded(L"%SystemRoot%").substr(0, 12)},
       {REG_EXPAND_SZ, L"%OS%.\0"s, 6, Expanded(L"%OS%.").substr(0, 5)},
       {REG_BINARY, L"ab\0"s, 4, L""},
       {REG_SZ, L"\0"s, 1, L""},
@@ -57,8 +54,7 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
     std::wstring buffer(length + 1, L'!');
     CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", buffer.data(),
                                    length) == expected.length());
-    CHECK(std::exchange(buffer.back(), L'\0') == L'!');
-    CHECK(buffer.c_str() == expected);
+    CHECK((std::exchange(buffer.back(), L'\0') == L'!' && buffer.c_str() == expected));
   }
 }
 

@@ -1,9 +1,7 @@
 #include "lib/registry/registry_value_path.h"
 
-#include "tests/support/testing.h"
-
 TEST_CASE("a full value path is split into root, key path and value name") {
-  // A path that is refused leaves the texts alone from its first two parts on.
+  // A path without both parts is refused; without two separators it leaves the texts alone.
   const std::tuple<const wchar_t*, HKEY, WString, WString> rows[] = {
       {L"HKEY_CURRENT_USER\\Software\\App\\x", HKEY_CURRENT_USER, L"Software\\App", L"x"},
       {L"HKEY_CLASSES_ROOT\\.x\\y", HKEY_CLASSES_ROOT, L".x", L"y"},

@@ -18,25 +18,25 @@ TEST_CASE("the last of equal entries is found, copies keep all, sizes count all"
   const TestAcl copy({TestAce{}}, 100);
   REQUIRE((CopyACL(copy.acl, list.acl) == TRUE && copy.acl->AceCount == 6));
   CHECK(std::memcmp(copy.aces + 1, list.aces, 100) == 0);
-  const ACCESS_ALLOWED_ACE* const aces[] = {wanted.get(), wanted.get()};
+  const ACCESS_ALLOWED_ACE* const ace = wanted.get();
   const PSID sids[] = {&wanted.sid, &wanted.sid, &wanted.sid};
-  CHECK(CalculateACLSize(list.acl, sids, 3, aces, 2) == 8 + 5 * 20 + 3 * 20 + 2 * 20 + 8);
+  CHECK(CalculateACLSize(list.acl, sids, 3, &ace, 1) == 8 + 5 * 20 + 3 * 20 + 20 + 8);
 }
 
 TEST_CASE("a new entry goes in front of the first of its own rank and keeps the order") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
-  const DWORD cases[][3] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
-                            {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
-                            {0, 0x13, 4}, {5, 0x10, 5}, {2, 0, kNoAceIndex}};
+  const std::tuple<BYTE, BYTE, DWORD> cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
+                                                 {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
+                                                 {0, 0x13, 4}, {5, 0x10, 5}, {2, 0, kNoAceIndex}};
   for (const auto& [type, flags, index] : cases) {
-    TestAce added{.type = static_cast<BYTE>(type), .flags = static_cast<BYTE>(flags)};
+    TestAce added{.type = type, .flags = flags};
     CHECK(GetACEInsertionIndex(list.acl, added.get()) == index);
   }
   constexpr unsigned kSeed = 20;
   std::mt19937 random(kSeed);
   const auto randomAce = [&] {
-    constexpr BYTE kTypes[] = {0, 1, 5, 6};
-    return TestAce{.type = kTypes[random() % 4], .flags = static_cast<BYTE>(random() % 32)};
+    return TestAce{.type = std::array<BYTE, 4>{0, 1, 5, 6}[random() % 4],
+                   .flags = static_cast<BYTE>(random() % 32)};
   };
   const auto inOrder = [](const TestAce& a, const TestAce& b) {
     return CanonicalRank({a.type, a.flags, 0}) < CanonicalRank({b.type, b.flags, 0});
@@ -61,7 +61,6 @@ TEST_CASE("nothing is read past a list or an entry whose sizes lie") {
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};
-  const TestAcl other({{}}, 100);
   const std::function<void(const TestAcl&)> lies[] = {
       [](auto& list) { list.aces[1].size += 4; },
       [](auto& list) { list.aces[0].size = 0; },
@@ -77,21 +76,13 @@ TEST_CASE("nothing is read past a list or an entry whose sizes lie") {
     });
     traced.clear();
     CHECK(FindACEInACL(list.acl, ace.get()) == kNoAceIndex);
-    CopyACL(other.acl, list.acl);
-    GetACEInsertionIndex(list.acl, ace.get());
-    CalculateACLSize(list.acl, nullptr, 0, nullptr, 0);
     DeleteDenyACEofObject(&ace.sid, nullptr, SE_WINDOW_OBJECT);
     CHECK(CopyACL(list.acl, TestAcl({{}}).acl) == FALSE);
     CHECK(traced == (&lie - lies < 4 ? L"FindACEInACL GetAclInformation Failed;"
-                                       L"CopyACL GetAclInformation Failed;"
-                                       L"GetACEInsertionIndex GetAclInformation Failed;"
-                                       L"CalculateACLSize GetAclInformation Failed;"
                                        L"DeleteDenyACEofObject GetAclInformation Failed;"
-                                       L"DeleteDenyACEofObject exception caught in __finally;"
-                                       L"CopyACL AddAce Failed;"
-                                     : L"DeleteDenyACEofObject GetAce Failed;"
-                                       L"DeleteDenyACEofObject exception caught in __finally;"
-                                       L"CopyACL AddAce Failed;"));
+                                     : L"DeleteDenyACEofObject GetAce Failed;") +
+                        std::wstring(L"DeleteDenyACEofObject exception caught in __finally;"
+                                     L"CopyACL AddAce Failed;"));
   }
   SetTraceSink(nullptr);
   const TestAcl full(std::vector<TestAce>(3276, TestAce{.type = 1}), 7);

@@ -65,21 +65,4 @@ inline void WriteDacl(HANDLE object, const std::wstring& sddl) {
   SetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, FromSddl(sddl).get());
 }
 
-// Runs `call` while the nth call to a function fails or throws; answers whether there was one.
-using Call = std::function<void()>;
-using Failing = bool (*)(int nth, bool throws, const Call& call);
-#define KELVO_FAILING(function)                                                       \
-  [](int nth, bool throws, const Call& call) {                                        \
-    KELVO_REPLACE(function, [&](auto original, auto... parameters) {                  \
-      using Result = decltype(original(parameters...));                               \
-      if (--nth != 0) {                                                               \
-        return original(parameters...);                                               \
-      }                                                                               \
-      SetLastError(1234);                                                             \
-      return throws ? throw 1 : std::is_same_v<Result, DWORD> ? Result(5) : Result{}; \
-    });                                                                               \
-    call();                                                                           \
-    return nth <= 0;                                                                  \
-  }
-
 }  // namespace kelvo::test

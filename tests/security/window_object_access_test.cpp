@@ -14,26 +14,23 @@ const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
 TEST_CASE("an explicit entry is granted once, and only where there is a list") {
   const DesktopScope scope(L"kelvo security test", L"kelvo desktop");
-  std::wstring many = L"D:";
+  // Ends where the entry goes: Wine's AddAce appends, whatever the index.
+  std::wstring before = L"D:(D;;CC;;;LS)";
   for (int count = 0; count < 60; ++count) {
-    many += L"(D;;CC;;;WD)";
+    before += L"(D;;CC;;;WD)";
   }
-  // Each ends where the entry goes: Wine's AddAce appends, whatever the index.
-  for (const std::wstring& before : {std::wstring(L"D:(D;;CC;;;LS)(D;;CC;;;WD)"), many}) {
-    WriteDacl(scope.station, before);
-    WriteDacl(scope.desktop, before);
-    for (int time = 0; time < 2; ++time) {
-      CHECK(AllowAccessToWinSta(&localService.sid, scope.station) == TRUE);
-      CHECK(AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE);
-      CHECK(ReadDacl(scope.station) == before + kAllOfStation + L"LS)");
-      CHECK(ReadDacl(scope.desktop) == before + kAllOfDesktop + L"LS)");
-    }
+  WriteDacl(scope.station, before);
+  WriteDacl(scope.desktop, before);
+  for (int time = 0; time < 2; ++time) {
+    CHECK(AllowAccessToWinSta(&localService.sid, scope.station) == TRUE);
+    CHECK(AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE);
+    CHECK(ReadDacl(scope.station) == before + kAllOfStation + L"LS)");
+    CHECK(ReadDacl(scope.desktop) == before + kAllOfDesktop + L"LS)");
   }
   WriteDacl(scope.desktop, L"D:(D;;CC;;;WD)(A;;CC;;;WD)(A;ID;CC;;;BA)");
   DWORD last = MAXDWORD;
   KELVO_REPLACE(AddAce, [&](auto original, auto acl, auto revision, DWORD index, auto... rest) {
-    last = index;
-    return original(acl, revision, index, rest...);
+    return original(acl, revision, last = index, rest...);
   });
   CHECK((AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE && last == 1));
   WriteDacl(scope.desktop, L"none");
@@ -66,15 +63,15 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   ConvertSidToStringSidW(static_cast<TOKEN_USER*>(owner.get())->User.Sid, sid.Receive());
   const std::wstring user = sid.get() + std::wstring(L")");
   const std::wstring denied = L"D:(D;;CC;;;LS)(D;;CC;;;WD)(D;;CC;;;NS)(D;;CC;;;" + user;
-  const std::pair<const wchar_t*, std::wstring> cases[] = {{L"Desktop", kAllOfDesktop},
-                                                           {L"a DESK", kAllOfDesktop},
-                                                           {L"WinStat", kAllOfStation},
-                                                           {L"des", kAllOfStation},
-                                                           {nullptr, kAllOfStation}};
-  for (const auto& [name, all] : cases) {
+  for (const auto& [name, isDesktop] : {std::pair(L"Desktop", true),
+                                        {L"a DESK", true},
+                                        {L"WinStat", false},
+                                        {L"des", false},
+                                        {nullptr, false}}) {
     WriteDacl(scope.desktop, denied);
     CHECK(AllowTokenFullAccessToObject(token.get(), scope.desktop, SE_WINDOW_OBJECT, name) == TRUE);
-    CHECK(ReadDacl(scope.desktop) == L"D:(D;;CC;;;LS)(D;;CC;;;NS)" + all + user);
+    CHECK(ReadDacl(scope.desktop) ==
+          L"D:(D;;CC;;;LS)(D;;CC;;;NS)" + (isDesktop ? kAllOfDesktop : kAllOfStation) + user);
   }
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), denied);
@@ -92,7 +89,7 @@ TEST_CASE("a privilege set holds the names that the system knows") {
     const OwnedLocalMemory<TOKEN_PRIVILEGES> set(CreateTokenPriv(&count, names, useBuiltIn));
     REQUIRE((count == expected && set.get()->PrivilegeCount == count));
     CHECK(LocalSize(set.get()) == 4 + 12 * count);
-    const LUID_AND_ATTRIBUTES& last = set.get()->Privileges[count - 1];
-    CHECK((last.Luid.LowPart != 0 && last.Attributes == 3));
+    CHECK(set.get()->Privileges[count - 1].Luid.LowPart != 0);
+    CHECK(set.get()->Privileges[count - 1].Attributes == 3);
   }
 }

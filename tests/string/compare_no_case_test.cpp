@@ -2,8 +2,6 @@
 
 #include <clocale>
 
-#include "tests/support/testing.h"
-
 TEST_CASE("texts are compared by their lower-case units") {
   // Below U+0100 only A to Z are folded; above, whatever the system maps to one unit. Units are
   // unsigned.

@@ -1,7 +1,5 @@
 #include "lib/string/string_tokenizer.h"
 
-#include "tests/support/testing.h"
-
 TEST_CASE("a text is split at the whole delimiter, in time that grows with its length") {
   std::wstring list;
   std::wstring listed;

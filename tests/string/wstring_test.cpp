@@ -1,7 +1,5 @@
 #include "lib/string/wstring.h"
 
-#include "tests/support/testing.h"
-
 TEST_CASE("a text takes over null, parts of itself and nothing that does not fit") {
   CHECK(WString(nullptr).empty());
   CHECK(WString(L"brindle").AssignCString(nullptr).c_str() == std::wstring());

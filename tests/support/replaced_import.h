@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -44,13 +45,11 @@ class ReplacedImport<Result(Parameters...), Replacement> {
   ReplacedImport(const char* function, Replacement replacement)
       : function_(function),
         replacement_(std::move(replacement)),
-        outer_(std::exchange(active_, this)),
-        original_(SwapImport(function, reinterpret_cast<void*>(&Call))) {}
-  ReplacedImport(const ReplacedImport&) = delete;
-  ~ReplacedImport() {
-    SwapImport(function_, original_);
-    active_ = outer_;
+        original_(SwapImport(function, reinterpret_cast<void*>(&Call))) {
+    active_ = this;
   }
+  ReplacedImport(const ReplacedImport&) = delete;
+  ~ReplacedImport() { SwapImport(function_, original_); }
 
  private:
   static Result Call(Parameters... parameters) {
@@ -62,7 +61,6 @@ class ReplacedImport<Result(Parameters...), Replacement> {
   static inline ReplacedImport* active_ = nullptr;
   const char* function_;
   Replacement replacement_;
-  ReplacedImport* outer_;
   void* original_;
 };
 
@@ -76,6 +74,25 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
 #define KELVO_REPLACE(function, ...) \
   const auto replaced##function =    \
       ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)
+
+// Runs `call` while the nth call to a function fails with the error 1234, which it sets or returns,
+// or throws; answers whether there was one.
+using Call = std::function<void()>;
+using Failing = bool (*)(int nth, bool throws, const Call& call);
+#define KELVO_FAILING(function)                                                                    \
+  [](int nth, bool throws, const Call& call) {                                                     \
+    KELVO_REPLACE(function, [&](auto original, auto... parameters) {                               \
+      using Result = decltype(original(parameters...));                                            \
+      constexpr bool kReturnsIt = sizeof(Result) == sizeof(long) && !std::is_same_v<Result, BOOL>; \
+      if (--nth != 0) {                                                                            \
+        return original(parameters...);                                                            \
+      }                                                                                            \
+      SetLastError(1234);                                                                          \
+      return throws ? throw 1 : kReturnsIt ? Result(1234) : Result{};                              \
+    });                                                                                            \
+    call();                                                                                        \
+    return nth <= 0;                                                                               \
+  }
 
 // As long as it lives, GetProcAddress gives `function` for the export `name` of whatever module;
 // null stands for a Windows that does not have it.

@@ -1,6 +1,5 @@
 #include "lib/sysinfo/system_directories.h"
 #include "lib/sysinfo/user_name.h"
-#include "tests/support/testing.h"
 
 static std::wstring told;
 

@@ -1,36 +1,29 @@
 #include "tool/driver_privilege.h"
 
-#include "tests/support/testing.h"
-
 TEST_CASE("each failing call of the privilege step is told with its code, in one wording") {
   const std::string line = "ERR: OpenProcessToken failed, err = ";
-  // Which call fails, with which error.
-  const std::tuple<int, DWORD, std::string> rows[] = {
-      {1, ERROR_ACCESS_DENIED, line + "00000005\r\n"},
-      {2, ERROR_NO_SUCH_PRIVILEGE, line + "00000521\r\n"},
-      {3, ERROR_NOT_ALL_ASSIGNED, line + "00000514\r\n"},
-      {0, ERROR_SUCCESS, ""}};
-  for (const auto& [failing, error, output] : rows) {
+  // The call that fails, RegDeleteValueW for none; the last error behind a successful adjustment.
+  const std::tuple<Failing, DWORD, std::string> rows[] = {
+      {KELVO_FAILING(OpenProcessToken), 0, line + "000004D2\r\n"},
+      {KELVO_FAILING(LookupPrivilegeValueW), 0, line + "000004D2\r\n"},
+      {KELVO_FAILING(RegDeleteValueW), ERROR_NOT_ALL_ASSIGNED, line + "00000514\r\n"},
+      {KELVO_FAILING(RegDeleteValueW), ERROR_SUCCESS, ""}};
+  for (const auto& [failing, adjusted, output] : rows) {
     int open = 0;
     std::string written;
-    const auto answer = [&](int call) { return SetLastError(error), failing != call; };
     KELVO_REPLACE(OpenProcessToken, [&](auto, auto, DWORD access, HANDLE* token) {
       CHECK(access == 0x28);
-      if (failing != 1) {
-        *token = &open;
-        ++open;
-      }
-      return answer(1);
+      return *token = &open, ++open == 1;
     });
     KELVO_REPLACE(LookupPrivilegeValueW, [&](auto, LPCWSTR system, LPCWSTR name, auto) {
       CHECK((system == nullptr && name == std::wstring(L"SeLoadDriverPrivilege")));
-      return answer(2);
+      return TRUE;
     });
     KELVO_REPLACE(AdjustTokenPrivileges,
                   [&](auto, auto, BOOL disableAll, auto* set, DWORD length, auto* previous, auto) {
                     CHECK((disableAll == FALSE && length == 16 && previous == nullptr));
                     CHECK((set->PrivilegeCount == 1 && set->Privileges[0].Attributes == 2));
-                    return answer(0);  // only the last error counts
+                    return SetLastError(adjusted), TRUE;
                   });
     KELVO_REPLACE(CloseHandle, [&](auto original, HANDLE handle) {
       open -= handle == &open ? 1 : 0;
@@ -40,7 +33,8 @@ TEST_CASE("each failing call of the privilege step is told with its code, in one
       written.append(static_cast<const char*>(bytes), size);
       return (*done = size) != 0;
     });
-    const bool enabled = EnableLoadDriverPrivilege();
-    CHECK((enabled == (failing == 0) && open == 0 && written == output));
+    bool isEnabled = false;
+    failing(1, false, [&] { isEnabled = EnableLoadDriverPrivilege(); });
+    CHECK((isEnabled == output.empty() && open == 0 && written == output));
   }
 }

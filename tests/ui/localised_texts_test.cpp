@@ -3,7 +3,6 @@
 #include "lib/ui/text_substitution.h"
 #include "lib/ui/window_texts.h"
 #include "tests/support/desktop_scope.h"
-#include "tests/support/testing.h"
 
 TEST_CASE("a module tells the languages of its first string table; kinship chooses one") {
   using Languages = std::vector<LANGID>;
@@ -38,12 +37,11 @@ TEST_CASE("all occurrences in a buffer of eight characters are replaced") {
       {L"aa45", L"a", L"012", L"0120124"}, {L"aa", L"a", L"01234567", L"0123456"}};
   for (const auto& [text, search, replacement, result] : rows) {
     CAPTURE(text, search, replacement);
-    std::wstring buffer(text);
-    buffer.resize(8);
-    buffer += L"####";
-    CHECK(ReplaceAllInBuffer(buffer.data(), 8, search, replacement) == (result != nullptr));
-    CHECK(buffer.substr(0, 8).c_str() == std::wstring(result != nullptr ? result : text));
-    CHECK(buffer.ends_with(L"####"));
+    wchar_t buffer[] = L"........####";
+    std::copy_n(text, std::min(std::wcslen(text) + 1, std::size_t{8}), buffer);
+    CHECK(ReplaceAllInBuffer(buffer, 8, search, replacement) == (result != nullptr));
+    CHECK(std::wstring(buffer, 8).c_str() == std::wstring(result != nullptr ? result : text));
+    CHECK(buffer + 8 == std::wstring(L"####"));
   }
 }
 
