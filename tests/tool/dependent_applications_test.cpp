@@ -39,10 +39,10 @@ TEST_CASE("what stands under the name already decides what an addition makes of 
       {REG_SZ, L"\u017Dofie \u00E9\U0001F600", L"\u017Dofie \u00E9\U0001F600;kite"}};
   const Rehearsal machine;
   for (const auto& [type, stored, after] : rows) {
-    SetApplications(stored, type);
-    machine.Run(L"register kite");
+    StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", type, stored + L'\0');
+    Rehearsal::Run(L"sorrel.exe register kite");
     CHECK(Applications() == after);
   }
-  CHECK(machine.Run(L"unregister KITE")
+  CHECK(Rehearsal::Run(L"sorrel.exe unregister KITE")
             .starts_with("OK: Dependant applications exist: ?ofie \xE9??\r\n"));
 }
