@@ -10,22 +10,18 @@ TEST_CASE("a text value is read whole or not at all") {
   using namespace std::string_literals;
   const std::wstring longest(1023, L'x');
   // The value's type, its units, how many bytes are cut off them, what is read.
-  const std::tuple<DWORD, std::wstring, std::size_t, std::wstring> rows[] = {
-      {REG_SZ, L"\u017D\U0001F600;b\0"s, 0, L"\u017D\U0001F600;b"},
-      {REG_SZ, L"\0"s, 0, L""},
-      {REG_SZ, L"", 0, L""},
-      {REG_SZ, longest + L'\0', 0, longest},
-      {REG_SZ, longest + L'y', 0, longest + L'y'},
-      {REG_SZ, longest + L"y\0"s, 0, L"default"},
-      {REG_SZ, L"abc", 0, L"abc"},
-      {REG_SZ, L"abc", 1, L"abc"},
-      {REG_SZ, L"ab\0cd\0"s, 0, L"ab"},
-      {REG_EXPAND_SZ, L"%SystemRoot%\\x\0"s, 0, Expanded(L"%SystemRoot%\\x")},
-      {REG_SZ, L"%SystemRoot%\\x\0"s, 0, L"%SystemRoot%\\x"},
-      {REG_EXPAND_SZ, L"%no such thing%\0"s, 0, L"%no such thing%"},
-      {REG_DWORD, L"ab", 0, L"default"},
-      {REG_BINARY, L"ab\0"s, 0, L"default"},
-      {REG_MULTI_SZ, L"ab\0\0"s, 0, L"default"}};
+  using Row = std::tuple<DWORD, std::wstring, std::size_t, std::wstring>;
+  const auto rows = std::to_array(
+      {Row(REG_SZ, L"\u017D\U0001F600;b\0"s, 0, L"\u017D\U0001F600;b"), Row(REG_SZ, L"\0"s, 0, L""),
+       Row(REG_SZ, L"", 0, L""), Row(REG_SZ, longest + L'\0', 0, longest),
+       Row(REG_SZ, longest + L'y', 0, longest + L'y'),
+       Row(REG_SZ, longest + L"y\0"s, 0, L"default"), Row(REG_SZ, L"abc", 0, L"abc"),
+       Row(REG_SZ, L"abc", 1, L"abc"), Row(REG_SZ, L"ab\0cd\0"s, 0, L"ab"),
+       Row(REG_EXPAND_SZ, L"%SystemRoot%\\x\0"s, 0, Expanded(L"%SystemRoot%\\x")),
+       Row(REG_SZ, L"%SystemRoot%\\x\0"s, 0, L"%SystemRoot%\\x"),
+       Row(REG_EXPAND_SZ, L"%no such thing%\0"s, 0, L"%no such thing%"),
+       Row(REG_DWORD, L"ab", 0, L"default"), Row(REG_BINARY, L"ab\0"s, 0, L"default"),
+       Row(REG_MULTI_SZ, L"ab\0\0"s, 0, L"default")});
   const ScratchKey key;
   const auto read = [&](const wchar_t* defaultText) {
     return RegistryReadString(HKEY_CURRENT_USER, key.c_str(), L"value", defaultText);

@@ -9,21 +9,15 @@ TEST_CASE("a text is split at the whole delimiter, in time that grows with its l
   }
   const std::wstring run(1'000'000, L';');
   // A text, its delimiter, whether runs of it count as one; the items, each ended by "|".
-  const std::tuple<std::wstring, const wchar_t*, bool, std::wstring> rows[] = {
-      {L";a;;b;", L";", true, L"a|b|"},
-      {L";a;;b;", L";", false, L"|a||b|"},
-      {L"", L";", true, L""},
-      {L"", L";", false, L""},
-      {L";", L";", true, L""},
-      {L";;;", L";", false, L"|||"},
-      {L"abc", L";", false, L"abc|"},
-      {L"a::b:c", L"::", false, L"a|b:c|"},
-      {L"::::a::::b:::", L"::", true, L"a|b:|"},
-      {L"aaaaa", L"aa", true, L"a|"},
-      {L"a;b", L"a;b;c", true, L"a;b|"},
-      {run, L";", true, L""},
-      {run, L";", false, std::wstring(1'000'000, L'|')},
-      {list, L";", true, listed}};
+  using Row = std::tuple<std::wstring, const wchar_t*, bool, std::wstring>;
+  const auto rows = std::to_array(
+      {Row(L";a;;b;", L";", true, L"a|b|"), Row(L";a;;b;", L";", false, L"|a||b|"),
+       Row(L"", L";", true, L""), Row(L"", L";", false, L""), Row(L";", L";", true, L""),
+       Row(L";;;", L";", false, L"|||"), Row(L"abc", L";", false, L"abc|"),
+       Row(L"a::b:c", L"::", false, L"a|b:c|"), Row(L"::::a::::b:::", L"::", true, L"a|b:|"),
+       Row(L"aaaaa", L"aa", true, L"a|"), Row(L"a;b", L"a;b;c", true, L"a;b|"),
+       Row(run, L";", true, L""), Row(run, L";", false, std::wstring(1'000'000, L'|')),
+       Row(list, L";", true, listed)});
   for (const auto& [text, delimiter, collapse, expected] : rows) {
     CAPTURE(text.substr(0, 20), delimiter, collapse);
     std::wstring items;

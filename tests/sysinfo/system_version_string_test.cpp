@@ -107,18 +107,3 @@ TEST_CASE("Windows NT 4.0 is told from its registry where it tells no more itsel
     CHECK((GetSystemVersionString() == kNt + rest && keysClosed == closed));
   }
 }
-
-TEST_CASE("what each Windows tells of itself stands in windows_releases.txt", "[wine]") {
-  std::string seen;
-  for (const std::string version : {"win95", "win98", "winme", "nt40", "win2k", "winxp", "winxp64",
-                                    "win2003", "vista", "win7", "win8", "win10"}) {
-    const wchar_t* const setting = L"Software\\Wine\\AppDefaults\\system_report.exe";
-    RegistryWriteString(HKEY_CURRENT_USER, setting, L"Version",
-                        std::wstring(version.begin(), version.end()).c_str());
-    std::string output = RunChild(ProgramPath(L"system_report.exe")).output;
-    RegDeleteTreeW(HKEY_CURRENT_USER, setting);
-    std::erase(output, '\r');
-    seen += version + "\n" + output.substr(0, output.find("IsWin64Bit()")) + "\n";
-  }
-  CheckAgainstFile(seen, L"windows_releases.txt");
-}

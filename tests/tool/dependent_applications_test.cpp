@@ -12,15 +12,12 @@ TEST_CASE("a name is added unless it occurs in the list, and removed whatever it
     CAPTURE(list, name);
     CHECK(ListWithApplication(list, name.c_str()).value_or(L"-") == result);
   }
-  const WString removed[][3] = {{L"brindle", L"rind", L"brindle"},
-                                {L"a;;b;;c", L"x", L"a;b;c"},
-                                {L"a;b;A;c;a", L"a", L"b;c"},
-                                {L"", L"a", L""},
-                                {L";;;", L"a", L""},
-                                {L"a;b", L"", L"a;b"},
-                                {L"a;b", L"a;b", L"a;b"},
-                                {L"\u0416;x", L"\u0436", L"x"},
-                                {L"\u00C9", L"\u00E9", L"\u00C9"}};
+  using Row = std::tuple<WString, WString, WString>;
+  const auto removed =
+      std::to_array({Row(L"brindle", L"rind", L"brindle"), Row(L"a;;b;;c", L"x", L"a;b;c"),
+                     Row(L"a;b;A;c;a", L"a", L"b;c"), Row(L"", L"a", L""), Row(L";;;", L"a", L""),
+                     Row(L"a;b", L"", L"a;b"), Row(L"a;b", L"a;b", L"a;b"),
+                     Row(L"\u0416;x", L"\u0436", L"x"), Row(L"\u00C9", L"\u00E9", L"\u00C9")});
   for (const auto& [list, name, result] : removed) {
     CAPTURE(list, name);
     CHECK(ListWithoutApplication(list, name.c_str()) == result);
