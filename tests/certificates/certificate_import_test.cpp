@@ -18,40 +18,38 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
   for (const auto& [file, adds, result, leftOpen] : rows) {
     CAPTURE(file, adds);
     std::multiset<const void*> open;
-    KELVO_REPLACE(CertOpenStore, [&](auto original, LPCSTR provider, DWORD encoding, auto unused,
-                                     DWORD flags, const void* name) {
+    REPLACE(CertOpenStore, [&](auto original, LPCSTR provider, DWORD encoding, auto unused,
+                               DWORD flags, const void* name) {
       CHECK((provider == CERT_STORE_PROV_SYSTEM_W && encoding == 0x10001 && flags == 0x24000));
       return const_cast<void*>(*open.insert(original(provider, encoding, unused, flags, name)));
     });
-    KELVO_REPLACE(CryptQueryObject, [&](auto original, DWORD object, auto path, DWORD content,
-                                        DWORD format, DWORD flags, auto encoding, auto contentType,
-                                        auto formatType, auto store, auto message, auto context) {
+    REPLACE(CryptQueryObject, [&](auto original, DWORD object, auto path, DWORD content,
+                                  DWORD format, DWORD flags, auto encoding, auto contentType,
+                                  auto formatType, auto store, auto message, auto context) {
       CHECK((object == 1 && content == 0x3FFE && format == 0xE && flags == 0));
-      CHECK((message == nullptr && *encoding + *contentType + *formatType == 0));
-      CHECK((*store == nullptr && *context == nullptr));
+      CHECK((*encoding + *contentType + *formatType == 0 && !*store && !message && !*context));
       const BOOL found = original(object, path, content, format, flags, encoding, contentType,
                                   formatType, store, message, context);
       open.insert({*store, *context});
       open.erase(nullptr);
       return SetLastError(ERROR_SHARING_VIOLATION), found;
     });
-    KELVO_REPLACE(CertAddCertificateContextToStore,
-                  [&](auto original, auto store, auto certificate, DWORD disposition, auto copy) {
-                    CHECK((disposition == 3 && copy == nullptr));
-                    const BOOL done = adds && original(store, certificate, disposition, copy);
-                    return SetLastError(ERROR_ACCESS_DENIED), done;
-                  });
+    REPLACE(CertAddCertificateContextToStore,
+            [&](auto original, auto store, auto certificate, DWORD disposition, auto copy) {
+              CHECK((disposition == 3 && copy == nullptr));
+              const BOOL done = adds && original(store, certificate, disposition, copy);
+              return SetLastError(ERROR_ACCESS_DENIED), done;
+            });
     // Cleaning up must not hide what the failing call said.
     const auto close = [&](auto original, auto handle, auto... rest) {
       open.erase(open.find(handle));
       original(handle, rest...);
       return SetLastError(ERROR_SUCCESS), TRUE;
     };
-    KELVO_REPLACE(CertCloseStore, close);
-    KELVO_REPLACE(CertFreeCertificateContext, close);
-    CHECK(ImportCertToTrustedPublishers(
-              ProgramPath(L"certificates\\" + std::wstring(file)).c_str()) == result);
-    CHECK(open.size() == leftOpen);
+    REPLACE(CertCloseStore, close);
+    REPLACE(CertFreeCertificateContext, close);
+    const std::wstring path = ProgramPath(std::wstring(L"certificates\\") + file);
+    CHECK((ImportCertToTrustedPublishers(path.c_str()) == result && open.size() == leftOpen));
   }
   CHECK(CertificatesInStore(L"TrustedPublisher") == 1);
   CHECK(ImportCertToSystemStore(L"missing.cer", L"no such store") == ERROR_FILE_NOT_FOUND);

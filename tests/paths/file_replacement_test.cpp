@@ -32,8 +32,8 @@ TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, manager, value);
   }
 
-  KELVO_REPLACE(GetVersionExW, [](auto...) { return FALSE; });
-  KELVO_REPLACE(GetWindowsDirectoryW, [&](auto, auto buffer, auto) {
+  REPLACE(GetVersionExW, [](auto...) { return FALSE; });
+  REPLACE(GetWindowsDirectoryW, [&](auto, auto buffer, auto) {
     return static_cast<UINT>(lstrlenW(lstrcpyW(buffer, (folder / "").c_str())));
   });
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), source.c_str(), false));

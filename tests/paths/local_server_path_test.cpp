@@ -23,7 +23,7 @@ TEST_CASE("a local server is the file that its class registers") {
     RegDeleteTreeW(HKEY_CLASSES_ROOT, classKey.c_str());
   }
   std::vector<DWORD> tried;
-  KELVO_REPLACE(RegOpenKeyExW, [&](auto, auto, auto, auto, DWORD access, auto) {
+  REPLACE(RegOpenKeyExW, [&](auto, auto, auto, auto, DWORD access, auto) {
     tried.push_back(access);
     return static_cast<LSTATUS>(access);
   });

@@ -7,19 +7,18 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
   const StandInKey user(HKEY_CURRENT_USER);
   wchar_t out[MAX_PATH];
   const WString deep = WString(L"C:\\") + WString(240, L'd') + L"\\";
-  const WString modules[][2] = {{L"C:\\a b\\c.exe", L"C:\\a b\\"},
-                                {L"", L""},
-                                {deep + WString(10, L'n'), deep},
-                                {deep + WString(11, L'n'), L""},
-                                {WString(253, L'n'), WString(253, L'n') + L"\\"},
-                                {WString(254, L'n'), L""}};
+  using Row = std::tuple<WString, WString>;
+  const auto modules = std::to_array(
+      {Row(L"C:\\a b\\c.exe", L"C:\\a b\\"), Row(L"", L""), Row(deep + WString(10, L'n'), deep),
+       Row(deep + WString(11, L'n'), L""), Row(WString(253, L'n'), WString(253, L'n') + L"\\"),
+       Row(WString(254, L'n'), L"")});
   for (const auto& [path, directory] : modules) {
-    KELVO_REPLACE(GetModuleFileNameW, [&](auto, auto, auto to, DWORD size) {
+    REPLACE(GetModuleFileNameW, [&](auto, auto, auto to, DWORD size) {
       lstrcpynW(to, path.c_str(), static_cast<int>(size));
       return std::min(static_cast<DWORD>(path.length()), size);
     });
-    CHECK(GetShellFolderPath(nullptr, out, L"Personal") == !directory.empty());
-    CHECK(out == directory);
+    const bool isFound = GetShellFolderPath(nullptr, out, L"Personal");
+    CHECK((isFound == !directory.empty() && out == directory));
   }
   const std::tuple<HKEY, const wchar_t*, WString, WString> rows[] = {
       {HKEY_LOCAL_MACHINE, L"Shell Folders", L"D:\\machine", L"D:\\machine\\"},

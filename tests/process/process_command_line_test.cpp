@@ -21,11 +21,11 @@ TEST_CASE("a command line is read where a process of an old NT has it") {
     CAPTURE(platform, minor, good, size);
     const auto windows = PretendWindows(platform, 6, minor);
     std::vector<SIZE_T> reads;
-    KELVO_REPLACE(ReadProcessMemory, [&](auto original, auto process, auto from, auto to,
-                                         auto count, auto... rest) {
-      reads.push_back(count);
-      return reads.size() <= good ? original(process, from, to, count, rest...) : FALSE;
-    });
+    REPLACE(ReadProcessMemory,
+            [&](auto original, auto process, auto from, auto to, auto count, auto... rest) {
+              reads.push_back(count);
+              return reads.size() <= good ? original(process, from, to, count, rest...) : FALSE;
+            });
     const ReplacedExport lookup("NtQueryInformationProcess", query);
     std::wstring buffer(9, L'.');
     CHECK(GetProcessCommandLine(GetCurrentProcess(), buffer.data(), size) == answer);

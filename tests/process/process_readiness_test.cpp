@@ -25,7 +25,7 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
   const auto nt4 = PretendWindows(2, 4, 0);
   const ReplacedExport noTerminalServer("VerifyVersionInfoA", nullptr);
   const std::wstring longName(600, L'n');
-  KELVO_REPLACE(OpenMutexW, [&](auto, auto, auto, auto asked) {
+  REPLACE(OpenMutexW, [&](auto, auto, auto, auto asked) {
     return asked == longName ? CreateEventW(nullptr, FALSE, FALSE, nullptr) : nullptr;
   });
   CHECK(StartProcessAndWaitForMutex(child.c_str(), nullptr, false, longName.c_str(), 10000) == 0);

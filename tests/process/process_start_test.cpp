@@ -6,10 +6,10 @@
 static std::string calls;
 
 // Notes each call, and lets it through.
-#define KELVO_NOTE(function, note)                                \
-  KELVO_REPLACE(function, [](auto original, auto... parameters) { \
-    calls += note;                                                \
-    return original(parameters...);                               \
+#define NOTE(function, note)                                \
+  REPLACE(function, [](auto original, auto... parameters) { \
+    calls += note;                                          \
+    return original(parameters...);                         \
   })
 
 // Notes what is done with a token: 1 comes from the session, 2 is its duplicate.
@@ -44,20 +44,20 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
     std::wstring command = L"\"" + program + L"\" " + arguments;
     OwnedKernelObject process;
     HANDLE* const slot = round % 2 == 0 ? process.Receive() : nullptr;
-    calls.clear();
     {
-      KELVO_NOTE(CreateProcessAsUserW, "create ");
-      KELVO_NOTE(HeapFree, "free ");
-      KELVO_NOTE(SetProcessWindowStation, "station ");
-      KELVO_NOTE(SetThreadDesktop, "desktop ");
-      KELVO_NOTE(WaitForSingleObject, "wait ");
-      KELVO_NOTE(CloseDesktop, "close ");
-      KELVO_NOTE(CloseWindowStation, "close ");
+      NOTE(CreateProcessAsUserW, "create ");
+      NOTE(HeapFree, "free ");
+      NOTE(SetProcessWindowStation, "station ");
+      NOTE(SetThreadDesktop, "desktop ");
+      NOTE(WaitForSingleObject, "wait ");
+      NOTE(CloseDesktop, "close ");
+      NOTE(CloseWindowStation, "close ");
       REQUIRE((round < 4 ? LaunchInUserSession(program.c_str(), arguments.c_str(), waits, slot)
                          : RunAsUser(command.data(), waits, slot) == TRUE));
     }
     const std::string expected = std::string(steps).erase(steps.find("wait"), waits ? 0 : 5);
-    CHECK(((round < 4 || calls == expected) && CurrentDesktop() == before));
+    CHECK((std::exchange(calls, "") == expected || round < 4));
+    CHECK(CurrentDesktop() == before);
     CHECK(WaitForSingleObject(done.get(), 0) == (waits ? WAIT_OBJECT_0 : WAIT_TIMEOUT));
     SetEvent(go.get());
     CHECK((waits || WaitForSingleObject(done.get(), 10000) == WAIT_OBJECT_0));
@@ -80,13 +80,12 @@ TEST_CASE("letter case matters where a process is started, not where one asks") 
       {L"WinSta0", L"Default2", FALSE, 0}};
   for (const auto& [station, desktop, isInteractive, moves] : cases) {
     const wchar_t* names[] = {station, desktop};
-    int asked = 0;
-    int moved = 0;
-    KELVO_REPLACE(GetUserObjectInformationW, [&](auto, auto, auto, void* text, auto, auto* needed) {
+    int asked = 0, moved = 0;
+    REPLACE(GetUserObjectInformationW, [&](auto, auto, auto, void* text, auto, auto* needed) {
       lstrcpyW(static_cast<wchar_t*>(text), names[asked++ % 2]);
       return (*needed = 520) != 0;
     });
-    KELVO_REPLACE(OpenWindowStationW, [&](auto...) { return ++moved, nullptr; });
+    REPLACE(OpenWindowStationW, [&](auto...) { return ++moved, nullptr; });
     CHECK(IsOnInteractiveDesktop() == isInteractive);
     CHECK((!RunAsUser(std::wstring(L"no such program").data(), FALSE, nullptr) && moved == moves));
   }
@@ -99,12 +98,12 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
         *token = reinterpret_cast<HANDLE>(session == 5 ? 0x7701ULL : 0);
         return session == 5;
       });
-  KELVO_REPLACE(CloseHandle, [](auto original, HANDLE handle) {
+  REPLACE(CloseHandle, [](auto original, HANDLE handle) {
     return IsOurs("close", handle) ? TRUE : original(handle);
   });
-  KELVO_REPLACE(CreateProcessAsUserW,
-                [](auto, HANDLE token, auto...) { return !IsOurs("start", token); });
-  KELVO_REPLACE(CreateProcessW, [](auto...) { return calls += "caller", FALSE; });
+  REPLACE(CreateProcessAsUserW,
+          [](auto, HANDLE token, auto...) { return !IsOurs("start", token); });
+  REPLACE(CreateProcessW, [](auto...) { return calls += "caller", FALSE; });
   // Windows 5.0 or 5.1, the caller's session, whether the console's can be told and a token be
   // duplicated, the caller's desktop, and what happens. RunAsUser leaves its token open.
   using Road = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
@@ -117,15 +116,14 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
     const DesktopScope scope(nullptr, desktop);
     const ReplacedExport console("WTSGetActiveConsoleSessionId", tells ? tell : nullptr);
     const auto windows = PretendWindows(2, 5, minor);
-    KELVO_REPLACE(ProcessIdToSessionId,
-                  [=](auto, auto, DWORD* id) { return *id = ownSession, TRUE; });
-    KELVO_REPLACE(DuplicateTokenEx,
-                  [=](auto, auto, DWORD access, auto, int level, int type, HANDLE* token) {
-                    CHECK((access == 0x2000000 && level == 3 && type == 1));
-                    *token = duplicates ? reinterpret_cast<HANDLE>(0x7702ULL) : nullptr;
-                    return duplicates;
-                  });
-    calls.clear();
-    CHECK((!LaunchInUserSession(L"program", nullptr, true, nullptr) && calls == happens));
+    REPLACE(ProcessIdToSessionId, [=](auto, auto, DWORD* id) { return *id = ownSession, TRUE; });
+    REPLACE(DuplicateTokenEx,
+            [=](auto, auto, DWORD access, auto, int level, int type, HANDLE* token) {
+              CHECK((access == 0x2000000 && level == 3 && type == 1));
+              *token = duplicates ? reinterpret_cast<HANDLE>(0x7702ULL) : nullptr;
+              return duplicates;
+            });
+    CHECK_FALSE(LaunchInUserSession(L"program", nullptr, true, nullptr));
+    CHECK(std::exchange(calls, "") == happens);
   }
 }

@@ -8,10 +8,10 @@
 
 TEST_CASE("the shutdown privilege is enabled when the call and the last error say so") {
   for (const auto& [answer, error] : {std::pair{TRUE, 0UL}, {TRUE, 1300UL}, {FALSE, 0UL}}) {
-    KELVO_REPLACE(AdjustTokenPrivileges, [=](auto...) { return SetLastError(error), answer; });
+    REPLACE(AdjustTokenPrivileges, [=](auto...) { return SetLastError(error), answer; });
     CHECK(EnableShutdownPrivilege() == (answer == TRUE && error == 0));
   }
-  KELVO_FAILING(OpenProcessToken)(1, false, [] { CHECK_FALSE(EnableShutdownPrivilege()); });
+  FAILING(OpenProcessToken)(1, false, [] { CHECK_FALSE(EnableShutdownPrivilege()); });
 }
 
 TEST_CASE("a Windows without the functions has no console session and no tokens") {

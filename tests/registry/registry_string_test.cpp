@@ -56,13 +56,13 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
 
 TEST_CASE("a text is stored with its terminator") {
   const ScratchKey key;
-  const WString path = key + L"\\two\\missing";
-  CHECK(RegistryWriteString(HKEY_CURRENT_USER, path.c_str(), L"n", L"a;b") == 0);
-  CHECK(RegistryWriteExpandString(HKEY_CURRENT_USER, path.c_str(), L"", L"%x%") == 0);
-  DWORD size = 0;
-  CHECK(RegGetValueW(HKEY_CURRENT_USER, path.c_str(), L"n", RRF_RT_REG_SZ, nullptr, nullptr,
-                     &size) == 0);
-  CHECK(size == 8);
-  CHECK(RegGetValueW(HKEY_CURRENT_USER, path.c_str(), L"", RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND,
-                     nullptr, nullptr, nullptr) == 0);
+  const std::wstring path = (key + L"\\two\\missing").c_str();
+  for (const auto& [write, flag] : {std::pair(&RegistryWriteString, RRF_RT_REG_SZ),
+                                    {&RegistryWriteExpandString, RRF_RT_REG_EXPAND_SZ}}) {
+    CHECK(write(HKEY_CURRENT_USER, path.c_str(), L"", L"a;b") == 0);
+    DWORD size = 0;
+    RegGetValueW(HKEY_CURRENT_USER, path.c_str(), L"", static_cast<DWORD>(flag) | RRF_NOEXPAND,
+                 nullptr, nullptr, &size);
+    CHECK(size == 8);
+  }
 }

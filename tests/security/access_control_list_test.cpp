@@ -71,7 +71,7 @@ TEST_CASE("nothing is read past a list or an entry whose sizes lie") {
   for (const auto& lie : lies) {
     const TestAcl list({{.type = 1, .mask = 2}, {.type = 1}});
     lie(list);
-    KELVO_REPLACE(GetSecurityInfo, [&](auto, auto, auto, auto, auto, auto, ACL** dacl, auto...) {
+    REPLACE(GetSecurityInfo, [&](auto, auto, auto, auto, auto, auto, ACL** dacl, auto...) {
       return *dacl = list.acl, DWORD{ERROR_SUCCESS};
     });
     traced.clear();

@@ -1,5 +1,3 @@
-#include <windows.h>
-
 #include <aclapi.h>
 
 #include <set>
@@ -20,18 +18,15 @@
 #include "tests/support/desktop_scope.h"
 
 constexpr Failing kFailing[] = {
-    KELVO_FAILING(OpenProcessToken), KELVO_FAILING(GetTokenInformation),
-    KELVO_FAILING(AdjustTokenPrivileges), KELVO_FAILING(GetUserObjectInformationW),
-    KELVO_FAILING(HeapAlloc), KELVO_FAILING(LocalAlloc), KELVO_FAILING(CopySid),
-    KELVO_FAILING(GetSecurityInfo), KELVO_FAILING(GetAclInformation), KELVO_FAILING(GetAce),
-    KELVO_FAILING(InitializeAcl), KELVO_FAILING(AddAce), KELVO_FAILING(SetSecurityInfo),
-    KELVO_FAILING(InitializeSecurityDescriptor), KELVO_FAILING(GetKernelObjectSecurity),
-    KELVO_FAILING(GetSecurityDescriptorDacl), KELVO_FAILING(GetUserNameW),
-    KELVO_FAILING(SetEntriesInAclW), KELVO_FAILING(MakeAbsoluteSD),
-    KELVO_FAILING(SetSecurityDescriptorDacl), KELVO_FAILING(SetKernelObjectSecurity),
-    KELVO_FAILING(OpenWindowStationW), KELVO_FAILING(OpenDesktopW),
+    FAILING(OpenProcessToken), FAILING(GetTokenInformation), FAILING(AdjustTokenPrivileges),
+    FAILING(GetUserObjectInformationW), FAILING(HeapAlloc), FAILING(LocalAlloc), FAILING(CopySid),
+    FAILING(GetSecurityInfo), FAILING(GetAclInformation), FAILING(GetAce), FAILING(InitializeAcl),
+    FAILING(AddAce), FAILING(SetSecurityInfo), FAILING(InitializeSecurityDescriptor),
+    FAILING(GetKernelObjectSecurity), FAILING(GetSecurityDescriptorDacl), FAILING(GetUserNameW),
+    FAILING(SetEntriesInAclW), FAILING(MakeAbsoluteSD), FAILING(SetSecurityDescriptorDacl),
+    FAILING(SetKernelObjectSecurity), FAILING(OpenWindowStationW), FAILING(OpenDesktopW),
     // Last: when it fails to restore the station, that is lost.
-    KELVO_FAILING(SetProcessWindowStation)};
+    FAILING(SetProcessWindowStation)};
 
 static std::wstring operation;
 static std::wstring traced;
@@ -59,33 +54,31 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   const wchar_t* const names[] = {L"SeNoSuchPrivilege", nullptr};
   DWORD count = 0;
   wchar_t command[] = L"no such program";
-  const auto allowFullAccess = [&](HANDLE object, SE_OBJECT_TYPE type, const wchar_t* name) {
-    return AllowTokenFullAccessToObject(token.get(), object, type, name) == TRUE;
+  const auto allowAll = [&](HANDLE object, SE_OBJECT_TYPE type, const wchar_t* name) {
+    return AllowTokenFullAccessToObject(token.get(), object, type, name);
   };
   const std::pair<const wchar_t*, std::function<bool()>> operations[] = {
       {L"FindACEInACL", [&] { return FindACEInACL(list.acl, ace.get()) == 0; }},
-      {L"CopyACL", [&] { return CopyACL(TestAcl({}, 40).acl, list.acl) == TRUE; }},
+      {L"CopyACL", [&] { return CopyACL(TestAcl({}, 40).acl, list.acl); }},
       {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, audit.get()) == 0; }},
       {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, ace.get()) == 0; }},
-      {L"CalculateACLSize", [&] { return CalculateACLSize(list.acl, sids, 1, nullptr, 0) != 0; }},
-      {L"AllocateACE", [&] { return AllocateACE(0, 0, 1, &ace.sid) != nullptr; }},
+      {L"CalculateACLSize", [&] { return CalculateACLSize(list.acl, sids, 1, nullptr, 0); }},
+      {L"AllocateACE", [&] { return AllocateACE(0, 0, 1, &ace.sid); }},
       {L"DeleteDenyACEofObject",
-       [&] { return DeleteDenyACEofObject(&ace.sid, scope.desktop, SE_WINDOW_OBJECT) == TRUE; }},
-      {L"AllowAccessToWinSta",
-       [&] { return AllowAccessToWinSta(&ace.sid, scope.station) == TRUE; }},
-      {L"AllowAccessToDesktop",
-       [&] { return AllowAccessToDesktop(&ace.sid, scope.desktop) == TRUE; }},
-      {L"GetFromToken", [&] { return GetFromToken(token.get(), TokenUser) != nullptr; }},
-      {L"CreateTokenPriv", [&] { return CreateTokenPriv(&count, names, FALSE) != nullptr; }},
-      {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1) == TRUE; }},
+       [&] { return DeleteDenyACEofObject(&ace.sid, scope.desktop, SE_WINDOW_OBJECT); }},
+      {L"AllowAccessToWinSta", [&] { return AllowAccessToWinSta(&ace.sid, scope.station); }},
+      {L"AllowAccessToDesktop", [&] { return AllowAccessToDesktop(&ace.sid, scope.desktop); }},
+      {L"GetFromToken", [&] { return GetFromToken(token.get(), TokenUser); }},
+      {L"CreateTokenPriv", [&] { return CreateTokenPriv(&count, names, FALSE); }},
+      {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }},
       {L"AllowTokenFullAccessToObject",
-       [&] { return allowFullAccess(scope.desktop, SE_WINDOW_OBJECT, L"Desktop"); }},
+       [&] { return allowAll(scope.desktop, SE_WINDOW_OBJECT, L"Desktop"); }},
       {L"AllowTokenFullAccessToObject",
-       [&] { return allowFullAccess(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
+       [&] { return allowAll(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
       {L"AllowTokenFullAccessToObject",
-       [&] { return allowFullAccess(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
-      {L"RunAsUser", [&] { return IsOnInteractiveDesktop() == TRUE; }},
-      {L"RunAsUser", [&] { return RunAsUser(command, TRUE, nullptr) == TRUE; }}};
+       [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
+      {L"RunAsUser", [&] { return IsOnInteractiveDesktop(); }},
+      {L"RunAsUser", [&] { return RunAsUser(command, TRUE, nullptr); }}};
   std::set<std::wstring> outcomes;
   for (const auto& [name, succeeds] : operations) {
     operation = name;
@@ -112,9 +105,9 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   }
   SetTraceSink(nullptr);
   TraceMessage(L"nobody", L"listens");
-  std::string seen;
+  std::wstring seen;
   for (const std::wstring& outcome : outcomes) {
-    seen.append(outcome.begin(), outcome.end());
+    seen += outcome;
   }
   CheckAgainstFile(seen, L"failure_messages.txt");
 }

@@ -2,20 +2,18 @@
 
 #include <cstring>
 
-#include "lib/security/ace_replacement.h"
 #include "tests/security/test_acl.h"
 
 // Lets administrators into a file whose access list, as text, is `list`, and returns what that
 // printed. Not a real file: Wine keeps only the mode bits of a list.
 static std::string PrintedBy(std::wstring& list) {
   BOOL isWritten = FALSE;
-  KELVO_REPLACE(GetFileSecurityW,
-                [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
-                  const OwnedLocalMemory<void> made = FromSddl(list, size);
-                  std::memcpy(descriptor, made.get(), length >= *size ? *size : 0);
-                  return SetLastError(ERROR_INSUFFICIENT_BUFFER), length >= *size ? TRUE : FALSE;
-                });
-  KELVO_REPLACE(SetFileSecurityW, [&](auto, auto, auto, void* descriptor) {
+  REPLACE(GetFileSecurityW, [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
+    const OwnedLocalMemory<void> made = FromSddl(list, size);
+    std::memcpy(descriptor, made.get(), length >= *size ? *size : 0);
+    return SetLastError(ERROR_INSUFFICIENT_BUFFER), length >= *size ? TRUE : FALSE;
+  });
+  REPLACE(SetFileSecurityW, [&](auto, auto, auto, void* descriptor) {
     return list = ToSddl(descriptor), isWritten = TRUE;
   });
   static char printed[4096];
@@ -28,15 +26,10 @@ static std::string PrintedBy(std::wstring& list) {
 }
 
 TEST_CASE("an account's explicit entries give way to the new one, once and again") {
-  const AceFacts other{false, false};
-  const AceFacts own{false, true};
-  const AceFacts inherited{true, true};
-  CHECK(ReplaceAcesOfAccount({}) == std::vector{kAddedAce});
-  CHECK(ReplaceAcesOfAccount({own, other, own, inherited}) == std::vector{1UL, kAddedAce, 3UL});
-  CHECK(ReplaceAcesOfAccount({inherited, own, other}) == std::vector{kAddedAce, 0UL, 1UL, 2UL});
   for (auto [list, result] :
        {std::pair<std::wstring, std::wstring>{L"none", L"D:(A;;FA;;;BA)"},
         {L"D:(A;;FR;;;BA)(D;;FW;;;BG)(A;ID;FR;;;BA)", L"D:(D;;FW;;;BG)(A;;FA;;;BA)(A;ID;FR;;;BA)"},
+        {L"D:(A;ID;FR;;;WD)(A;;FR;;;BA)", L"D:(A;;FA;;;BA)(A;ID;FR;;;WD)(A;;FR;;;BA)"},
         {L"D:P(D;;FW;;;BA)(A;;FR;;;WD)", L"D:P(A;;FR;;;WD)(A;;FA;;;BA)"},
         {L"D:PAI(A;ID;FR;;;WD)", L"D:ARAI(A;;FA;;;BA)(A;ID;FR;;;WD)"}}) {
     for (int time = 0; time < 2; ++time) {
@@ -56,18 +49,18 @@ TEST_CASE("an account's explicit entries give way to the new one, once and again
 
 TEST_CASE("each failing call is named and leaves the file alone") {
   const std::pair<Failing, std::string> rows[] = {
-      {KELVO_FAILING(GetFileSecurityW), "GetFileSecurity() failed. "},
-      {KELVO_FAILING(HeapAlloc), "HeapAlloc() failed. "},
-      {KELVO_FAILING(InitializeSecurityDescriptor), "InitializeSecurityDescriptor() failed."},
-      {KELVO_FAILING(GetSecurityDescriptorDacl), "GetSecurityDescriptorDacl() failed. "},
-      {KELVO_FAILING(GetAclInformation), "GetAclInformation() failed. "},
-      {KELVO_FAILING(InitializeAcl), "InitializeAcl() failed. "},
-      {KELVO_FAILING(GetAce), "GetAce() failed. "},
-      {KELVO_FAILING(AddAce), "AddAce() failed. "},
-      {KELVO_FAILING(AddAccessAllowedAce), "AddAccessAllowedAce() failed. "},
-      {KELVO_FAILING(SetSecurityDescriptorDacl), "SetSecurityDescriptorDacl() failed. "},
-      {KELVO_FAILING(GetSecurityDescriptorControl), "GetSecurityDescriptorControl() failed."},
-      {KELVO_FAILING(SetFileSecurityW), "SetFileSecurity() failed. "}};
+      {FAILING(GetFileSecurityW), "GetFileSecurity() failed. "},
+      {FAILING(HeapAlloc), "HeapAlloc() failed. "},
+      {FAILING(InitializeSecurityDescriptor), "InitializeSecurityDescriptor() failed."},
+      {FAILING(GetSecurityDescriptorDacl), "GetSecurityDescriptorDacl() failed. "},
+      {FAILING(GetAclInformation), "GetAclInformation() failed. "},
+      {FAILING(InitializeAcl), "InitializeAcl() failed. "},
+      {FAILING(GetAce), "GetAce() failed. "},
+      {FAILING(AddAce), "AddAce() failed. "},
+      {FAILING(AddAccessAllowedAce), "AddAccessAllowedAce() failed. "},
+      {FAILING(SetSecurityDescriptorDacl), "SetSecurityDescriptorDacl() failed. "},
+      {FAILING(GetSecurityDescriptorControl), "GetSecurityDescriptorControl() failed."},
+      {FAILING(SetFileSecurityW), "SetFileSecurity() failed. "}};
   const std::wstring before = L"D:AI(A;;FR;;;WD)(A;ID;FR;;;WD)";
   std::wstring list = before;
   for (const auto& [failing, message] : rows) {
@@ -84,7 +77,7 @@ TEST_CASE("each failing call is named and leaves the file alone") {
   CHECK((PrintedBy(list).empty() && list != before));
   // Its one entry states 13 bytes where 12 are left.
   std::array<WORD, 10> words{ACL_REVISION, 20, 1, 0, 0, 13};
-  KELVO_REPLACE(GetSecurityDescriptorDacl, [&](auto, auto, BOOL* present, ACL** dacl, auto) {
+  REPLACE(GetSecurityDescriptorDacl, [&](auto, auto, BOOL* present, ACL** dacl, auto) {
     *dacl = reinterpret_cast<ACL*>(words.data());
     return *present = TRUE;
   });

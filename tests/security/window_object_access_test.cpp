@@ -29,7 +29,7 @@ TEST_CASE("an explicit entry is granted once, and only where there is a list") {
   }
   WriteDacl(scope.desktop, L"D:(D;;CC;;;WD)(A;;CC;;;WD)(A;ID;CC;;;BA)");
   DWORD last = MAXDWORD;
-  KELVO_REPLACE(AddAce, [&](auto original, auto acl, auto revision, DWORD index, auto... rest) {
+  REPLACE(AddAce, [&](auto original, auto acl, auto revision, DWORD index, auto... rest) {
     return original(acl, revision, last = index, rest...);
   });
   CHECK((AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE && last == 1));
@@ -63,15 +63,13 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   ConvertSidToStringSidW(static_cast<TOKEN_USER*>(owner.get())->User.Sid, sid.Receive());
   const std::wstring user = sid.get() + std::wstring(L")");
   const std::wstring denied = L"D:(D;;CC;;;LS)(D;;CC;;;WD)(D;;CC;;;NS)(D;;CC;;;" + user;
-  for (const auto& [name, isDesktop] : {std::pair(L"Desktop", true),
-                                        {L"a DESK", true},
-                                        {L"WinStat", false},
-                                        {L"des", false},
-                                        {nullptr, false}}) {
+  const wchar_t* const names[] = {L"Desktop", L"a DESK", L"WinStat", L"des", nullptr};
+  for (const wchar_t* const& name : names) {
     WriteDacl(scope.desktop, denied);
     CHECK(AllowTokenFullAccessToObject(token.get(), scope.desktop, SE_WINDOW_OBJECT, name) == TRUE);
-    CHECK(ReadDacl(scope.desktop) ==
-          L"D:(D;;CC;;;LS)(D;;CC;;;NS)" + (isDesktop ? kAllOfDesktop : kAllOfStation) + user);
+    CHECK(ReadDacl(scope.desktop) == L"D:(D;;CC;;;LS)(D;;CC;;;NS)" +
+                                         (&name - names < 2 ? kAllOfDesktop : kAllOfStation) +
+                                         user);
   }
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), denied);

@@ -1,8 +1,7 @@
 #include "lib/string/string_tokenizer.h"
 
 TEST_CASE("a text is split at the whole delimiter, in time that grows with its length") {
-  std::wstring list;
-  std::wstring listed;
+  std::wstring list, listed;
   for (int i = 0; i < 100'000; ++i) {
     list += L"item;";
     listed += L"item|";

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "lib/platform/owned.h"
-#include "tests/support/scratch_folder.h"
+#include "tests/support/files.h"
 
 namespace kelvo::test {
 
@@ -14,13 +14,6 @@ struct ChildResult {
   DWORD exitCode = 0;
   std::string output, errors;
 };
-
-// The path of a program of the project's, which all stand in one folder.
-inline std::wstring ProgramPath(const std::wstring& name) {
-  std::wstring self(32768, L'\0');
-  GetModuleFileNameW(nullptr, self.data(), 32768);
-  return std::filesystem::path(self.c_str()).replace_filename(name);
-}
 
 // Runs a command line to its end and returns the whole exit code and what it wrote to standard
 // output and to standard error, byte by byte.
@@ -33,9 +26,10 @@ inline ChildResult RunChild(std::wstring commandLine) {
   };
   const OwnedFile output = create("output");
   const OwnedFile errors = create("errors");
-  STARTUPINFOW startup{.cb = sizeof(startup), .dwFlags = STARTF_USESTDHANDLES};
-  startup.hStdOutput = output.get();
-  startup.hStdError = errors.get();
+  STARTUPINFOW startup{.cb = sizeof(startup),
+                       .dwFlags = STARTF_USESTDHANDLES,
+                       .hStdOutput = output.get(),
+                       .hStdError = errors.get()};
   PROCESS_INFORMATION started{};
   // Under load Wine now and then answers a start with ERROR_INTERNAL_ERROR.
   for (DWORD pause = 0; CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0,
@@ -46,11 +40,9 @@ inline ChildResult RunChild(std::wstring commandLine) {
   const OwnedKernelObject process(started.hProcess);
   const OwnedKernelObject thread(started.hThread);
   WaitForSingleObject(process.get(), INFINITE);
-  ChildResult result;
-  GetExitCodeProcess(process.get(), &result.exitCode);
-  result.output = ReadBytes(folder / "output");
-  result.errors = ReadBytes(folder / "errors");
-  return result;
+  DWORD exitCode = 0;
+  GetExitCodeProcess(process.get(), &exitCode);
+  return {exitCode, ReadBytes(folder / "output"), ReadBytes(folder / "errors")};
 }
 
 }  // namespace kelvo::test

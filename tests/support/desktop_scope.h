@@ -9,13 +9,15 @@ namespace kelvo::test {
 // Puts this process on the window station and this thread on the desktop of the given names, both
 // made when they are not there, as long as it lives. Null leaves the process where it is.
 struct DesktopScope {
-  DesktopScope(const wchar_t* stationName, const wchar_t* desktopName)
-      : station(stationName == nullptr ? nullptr
-                                       : CreateWindowStationW(stationName, 0, kAccess, nullptr)) {
+  DesktopScope(const wchar_t* stationName, const wchar_t* desktopName) {
+    constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
     // Wine closes a desktop, and nobody finds it any more, a second after its last thread left it.
     [[maybe_unused]] static const HANDLE stays = CreateThread(
         nullptr, 0, [](void*) -> DWORD { return Sleep(INFINITE), 0; }, nullptr, 0, nullptr);
-    SetProcessWindowStation(station);
+    if (stationName != nullptr) {
+      station = CreateWindowStationW(stationName, 0, kAccess, nullptr);
+      SetProcessWindowStation(station);
+    }
     if (desktopName != nullptr) {
       desktop = CreateDesktopW(desktopName, nullptr, nullptr, 0, kAccess, nullptr);
       SetThreadDesktop(desktop);
@@ -29,7 +31,6 @@ struct DesktopScope {
     CloseWindowStation(station);
   }
 
-  static constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
   HWINSTA previousStation = GetProcessWindowStation();
   HDESK previousDesktop = GetThreadDesktop(GetCurrentThreadId());
   HWINSTA station = nullptr;

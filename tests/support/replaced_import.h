@@ -37,31 +37,29 @@ inline void* SwapImport(const std::string& function, void* target) {
 // state by reference, with the original function as its first parameter and then the function's
 // own.
 template <typename Function, typename Replacement>
-class ReplacedImport;
+struct ReplacedImport;
 
 template <typename Result, typename... Parameters, typename Replacement>
-class ReplacedImport<Result(Parameters...), Replacement> {
- public:
-  ReplacedImport(const char* function, Replacement replacement)
-      : function_(function),
-        replacement_(std::move(replacement)),
-        original_(SwapImport(function, reinterpret_cast<void*>(&Call))) {
-    active_ = this;
+struct ReplacedImport<Result(Parameters...), Replacement> {
+  ReplacedImport(const char* imported, Replacement instead)
+      : function(imported),
+        replacement(std::move(instead)),
+        original(SwapImport(imported, reinterpret_cast<void*>(&Call))) {
+    active = this;
   }
   ReplacedImport(const ReplacedImport&) = delete;
-  ~ReplacedImport() { SwapImport(function_, original_); }
+  ~ReplacedImport() { SwapImport(function, original); }
 
- private:
   static Result Call(Parameters... parameters) {
-    auto* const original = reinterpret_cast<Result (*)(Parameters...)>(active_->original_);
-    return active_->replacement_(original, parameters...);
+    return active->replacement(reinterpret_cast<Result (*)(Parameters...)>(active->original),
+                               parameters...);
   }
 
-  // Each lambda has a type, and so an `active_`, of its own.
-  static inline ReplacedImport* active_ = nullptr;
-  const char* function_;
-  Replacement replacement_;
-  void* original_;
+  // Each lambda has a type, and so an `active`, of its own.
+  static inline ReplacedImport* active = nullptr;
+  const char* function;
+  Replacement replacement;
+  void* original;
 };
 
 template <typename Function, typename Replacement>
@@ -70,18 +68,31 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
 }
 
 // Until the end of the block:
-// KELVO_REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
-#define KELVO_REPLACE(function, ...) \
-  const auto replaced##function =    \
+// REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
+#define REPLACE(function, ...)    \
+  const auto replaced##function = \
       ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)
+
+// As long as what it returns lives, GetVersionExW tells of this Windows, build 1381.
+inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
+                           const wchar_t* servicePack = L"") {
+  const auto tell = [=](auto, OSVERSIONINFOW* record) -> BOOL {
+    const DWORD size = record->dwOSVersionInfoSize;
+    *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
+    lstrcpyW(record->szCSDVersion, servicePack);
+    // NT 4.0 does not know the extended record.
+    return major != 4 || size == sizeof(*record);
+  };
+  return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", tell);
+}
 
 // Runs `call` while the nth call to a function fails with the error 1234, which it sets or returns,
 // or throws; answers whether there was one.
 using Call = std::function<void()>;
 using Failing = bool (*)(int nth, bool throws, const Call& call);
-#define KELVO_FAILING(function)                                                                    \
+#define FAILING(function)                                                                          \
   [](int nth, bool throws, const Call& call) {                                                     \
-    KELVO_REPLACE(function, [&](auto original, auto... parameters) {                               \
+    REPLACE(function, [&](auto original, auto... parameters) {                                     \
       using Result = decltype(original(parameters...));                                            \
       constexpr bool kReturnsIt = sizeof(Result) == sizeof(long) && !std::is_same_v<Result, BOOL>; \
       if (--nth != 0) {                                                                            \
@@ -96,28 +107,26 @@ using Failing = bool (*)(int nth, bool throws, const Call& call);
 
 // As long as it lives, GetProcAddress gives `function` for the export `name` of whatever module;
 // null stands for a Windows that does not have it.
-class ReplacedExport {
- public:
+struct ReplacedExport {
   template <typename Function>
-  ReplacedExport(const char* name, Function* function) : name_(name) {
-    replaced_[name] = reinterpret_cast<FARPROC>(function);
-    static const KELVO_REPLACE(GetProcAddress, [](auto original, HMODULE module, LPCSTR asked) {
-      const auto found = replaced_.find(IS_INTRESOURCE(asked) ? "" : asked);
-      if (found == replaced_.end()) {
+  ReplacedExport(const char* exported, Function* function) : name(exported) {
+    replaced[name] = reinterpret_cast<FARPROC>(function);
+    static const REPLACE(GetProcAddress, [](auto original, HMODULE module, LPCSTR asked) {
+      const auto found = replaced.find(IS_INTRESOURCE(asked) ? "" : asked);
+      if (found == replaced.end()) {
         return original(module, asked);
       }
       SetLastError(found->second == nullptr ? ERROR_PROC_NOT_FOUND : ERROR_SUCCESS);
       return found->second;
     });
   }
-  ReplacedExport(const char* name, std::nullptr_t)
-      : ReplacedExport(name, static_cast<void*>(nullptr)) {}
+  ReplacedExport(const char* exported, std::nullptr_t)
+      : ReplacedExport(exported, static_cast<void*>(nullptr)) {}
   ReplacedExport(const ReplacedExport&) = delete;
-  ~ReplacedExport() { replaced_.erase(name_); }
+  ~ReplacedExport() { replaced.erase(name); }
 
- private:
-  static inline std::map<std::string, FARPROC> replaced_;
-  const char* name_;
+  static inline std::map<std::string, FARPROC> replaced;
+  const char* name;
 };
 
 }  // namespace kelvo::test

@@ -32,19 +32,17 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
 }
 
 // As long as it lives, this process finds an empty key in place of one of Windows' predefined keys.
-class StandInKey {
- public:
-  explicit StandInKey(HKEY predefined) : predefined_(predefined) {
-    OwnedRegistryKey key;
-    REQUIRE(CreateRegistryKey(HKEY_CURRENT_USER, scratch_.c_str(), key) == 0);
-    REQUIRE(RegOverridePredefKey(predefined, key.get()) == 0);
+struct StandInKey {
+  explicit StandInKey(HKEY key) : predefined(key) {
+    OwnedRegistryKey empty;
+    REQUIRE(CreateRegistryKey(HKEY_CURRENT_USER, scratch.c_str(), empty) == 0);
+    REQUIRE(RegOverridePredefKey(predefined, empty.get()) == 0);
   }
   StandInKey(const StandInKey&) = delete;
-  ~StandInKey() { RegOverridePredefKey(predefined_, nullptr); }
+  ~StandInKey() { RegOverridePredefKey(predefined, nullptr); }
 
- private:
-  ScratchKey scratch_;
-  HKEY predefined_;
+  ScratchKey scratch;
+  HKEY predefined;
 };
 
 }  // namespace kelvo::test

@@ -15,14 +15,13 @@ static BOOLEAN WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
 }
 
 TEST_CASE("directories end in one backslash and fit their buffers") {
-  KELVO_REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return TellDirectory(to...); });
+  REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return TellDirectory(to...); });
   const auto x = [](std::size_t count) { return WString(count, L'x'); };
-  const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
-                             {L"C:/x/", L"C:/x/", L"C:/x/"},
-                             {L"", L"", L""},
-                             {x(510), x(510) + L"\\", x(510) + L"\\"},
-                             {x(1023), L"", x(1023) + L"\\"},
-                             {x(1024), L"", L""}};
+  using Row = std::tuple<WString, WString, WString>;
+  const auto rows = std::to_array({Row(L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"),
+                                   Row(L"C:/x/", L"C:/x/", L"C:/x/"), Row(L"", L"", L""),
+                                   Row(x(510), x(510) + L"\\", x(510) + L"\\"),
+                                   Row(x(1023), L"", x(1023) + L"\\"), Row(x(1024), L"", L"")});
   for (const auto& [directory, systemPath, wow64Path] : rows) {
     told = directory.c_str();
     const ReplacedExport wow64("GetSystemWow64DirectoryW", &TellDirectory);

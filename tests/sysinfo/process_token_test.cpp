@@ -10,11 +10,11 @@ TEST_CASE("an administrator is whose token lists the group") {
       {2, ERROR_NO_TOKEN, WinBuiltinUsersSid, TRUE, false}};
   for (const auto& [platform, threadError, group, fits, answer] : rows) {
     const auto windows = PretendWindows(platform, 4, 0);
-    KELVO_REPLACE(OpenThreadToken, [&](auto...) { return SetLastError(threadError), FALSE; });
+    REPLACE(OpenThreadToken, [&](auto...) { return SetLastError(threadError), FALSE; });
     BYTE sid[SECURITY_MAX_SID_SIZE];
     DWORD sidSize = sizeof(sid);
     CreateWellKnownSid(group, nullptr, sid, &sidSize);
-    KELVO_REPLACE(GetTokenInformation, [&](auto, auto, auto, void* data, DWORD size, auto) {
+    REPLACE(GetTokenInformation, [&](auto, auto, auto, void* data, DWORD size, auto) {
       *static_cast<TOKEN_GROUPS*>(data) = {1, {{sid, SE_GROUP_USE_FOR_DENY_ONLY}}};
       return size == 1024 ? fits : FALSE;
     });
@@ -25,7 +25,7 @@ TEST_CASE("an administrator is whose token lists the group") {
 TEST_CASE("elevation is known from Vista on") {
   for (const auto& [major, type] : {std::pair(5U, 2), {6U, 1}, {6U, 2}, {6U, 3}}) {
     const auto windows = PretendWindows(2, major, 2);
-    KELVO_REPLACE(GetTokenInformation, [&](auto, auto, int kind, void* data, DWORD size, auto) {
+    REPLACE(GetTokenInformation, [&](auto, auto, int kind, void* data, DWORD size, auto) {
       *static_cast<int*>(data) = kind == TokenElevationType ? type : type / 2;
       return size == 4;
     });

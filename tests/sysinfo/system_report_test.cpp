@@ -11,20 +11,20 @@ TEST_CASE("a colour depth is low up to 16 bits and full from 32") {
   const int rows[][4] = {{1, 16, 1, 0}, {1, 17, 0, 0}, {1, 24, 0, 0},
                          {1, 31, 0, 0}, {1, 32, 0, 1}, {4, 8, 0, 1}};
   for (const auto& [planes, bits, low, full] : rows) {
-    KELVO_REPLACE(GetDeviceCaps, [&](auto, auto, int index) {
+    REPLACE(GetDeviceCaps, [&](auto, auto, int index) {
       return index == PLANES ? planes : index == BITSPIXEL ? bits : 0;
     });
     CHECK((IsLowResolution() == (low != 0) && IsFullResolution() == (full != 0)));
   }
-  KELVO_REPLACE(GetDC, [](auto...) { return nullptr; });
+  REPLACE(GetDC, [](auto...) { return nullptr; });
   CHECK_FALSE((IsLowResolution() || IsFullResolution()));
 }
 
 TEST_CASE("the report has all its entries once and in order") {
-  KELVO_REPLACE(SHGetSpecialFolderPathW,
-                [](auto original, auto owner, auto path, int folder, auto create) {
-                  return folder == CSIDL_STARTMENU ? FALSE : original(owner, path, folder, create);
-                });
+  REPLACE(SHGetSpecialFolderPathW,
+          [](auto original, auto owner, auto path, int folder, auto create) {
+            return folder == CSIDL_STARTMENU ? FALSE : original(owner, path, folder, create);
+          });
   const StandInKey user(HKEY_CURRENT_USER);
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   const wchar_t* const system = L"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment";
@@ -33,15 +33,13 @@ TEST_CASE("the report has all its entries once and in order") {
   NameTextList report;
   for (int time = 0; time < 2; ++time) {
     CollectSystemReport(report);
-    std::string seen;
+    std::wstring seen;
     for (const auto& [name, text] : report) {
-      seen.append(name.c_str(), name.c_str() + name.length());
-      seen += "\n";
+      seen += name.c_str() + std::wstring(L"\n");
     }
     CheckAgainstFile(seen, L"report_names.txt");
   }
-  CHECK(report[3].second == L"1");
-  CHECK(report[22].second == GetComputerNetbiosName());
+  CHECK((report[3].second == L"1" && report[22].second == GetComputerNetbiosName()));
   CHECK(report[44].second == L"failed to query CSIDL_STARTMENU");
   CHECK(report[48].second == L"everybody's");
   RegDeleteTreeW(HKEY_CURRENT_USER, L"Environment");

@@ -51,13 +51,13 @@ TEST_CASE("a raised answer breaks the line off where it is needed, and nowhere e
 
 TEST_CASE("a question that fails or raises leaves its text") {
   for (const bool raises : {false, true}) {
-    KELVO_REPLACE(GetVersionExW, [=](auto...) { return raises ? throw 1 : FALSE; });
+    REPLACE(GetVersionExW, [=](auto...) { return raises ? throw 1 : FALSE; });
     CHECK(GetSystemVersionString() ==
           (raises ? kCutShort : L"queryingg OSVERSIONINFOEX and OSVERSIONINFO failed..."));
     CHECK(GetSystemVersionNumbers() == L"0.0.0.0");
   }
   const ReplacedExport native("GetNativeSystemInfo", nullptr);
-  KELVO_REPLACE(GetSystemInfo, [](auto, SYSTEM_INFO* info) { info->wProcessorArchitecture = 5; });
+  REPLACE(GetSystemInfo, [](auto, SYSTEM_INFO* info) { info->wProcessorArchitecture = 5; });
   using Product = BOOL(DWORD, DWORD, DWORD, DWORD, DWORD*);
   Product* const raise = [](auto...) -> BOOL { throw 1; };
   Product* const tell = [](DWORD major, DWORD minor, DWORD pack, DWORD packMinor, DWORD* type) {
@@ -73,7 +73,7 @@ TEST_CASE("a question that fails or raises leaves its text") {
       {6, 1, 0, raise, L"Windows Server 2008 R2 " + kCutShort}};
   for (const auto& [major, minor, metric, product, line] : rows) {
     const auto windows = PretendWindows(2, major, minor);
-    KELVO_REPLACE(GetSystemMetrics, [&](auto, int index) {
+    REPLACE(GetSystemMetrics, [&](auto, int index) {
       return metric == -1 ? *static_cast<volatile int*>(nullptr) : index == metric;
     });
     const ReplacedExport productInfo("GetProductInfo", product);
@@ -102,8 +102,7 @@ TEST_CASE("Windows NT 4.0 is told from its registry where it tells no more itsel
     RegistryWriteString(HKEY_LOCAL_MACHINE, hotfix, L"", L"");
     StoreUnits(HKEY_LOCAL_MACHINE, key, L"ProductType", REG_SZ, type.c_str());
     int keysClosed = 0;
-    KELVO_REPLACE(RegCloseKey,
-                  [&](auto original, HKEY open) { return ++keysClosed, original(open); });
+    REPLACE(RegCloseKey, [&](auto original, HKEY open) { return ++keysClosed, original(open); });
     CHECK((GetSystemVersionString() == kNt + rest && keysClosed == closed));
   }
 }

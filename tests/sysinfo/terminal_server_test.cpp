@@ -26,7 +26,7 @@ TEST_CASE("a product suite is found in its list, a terminal server by what its W
                                                            {5, "", true},
                                                            {5, "VerSetConditionMask", false}};
   for (const auto& [release, missing, answer] : releases) {
-    KELVO_REPLACE(GetVersion, [&](auto) { return release; });
+    REPLACE(GetVersion, [&](auto) { return release; });
     const ReplacedExport absent(missing, nullptr);
     CHECK(IsWinNTTerminalServer() == answer);
   }

@@ -1,7 +1,53 @@
 #include <sstream>
 
+#include "lib/string/format_text.h"
 #include "lib/string/string_tokenizer.h"
-#include "tests/tool/rehearsal.h"
+#include "tests/support/certificate_store.h"
+#include "tool/dependent_applications.h"
+
+// The list of dependent applications in the registry; "none" when there is no such value.
+static std::wstring Applications() {
+  wchar_t list[2048];
+  DWORD size = sizeof(list);
+  const bool isThere = RegGetValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications",
+                                    RRF_RT_REG_SZ, nullptr, list, &size) == ERROR_SUCCESS;
+  return isThere ? list : L"none";
+}
+
+static std::string Ascii(const std::wstring& text) { return {text.begin(), text.end()}; }
+
+// A copy of sorrel.exe with the simulator's libraries and certificates beside it in a folder of its
+// own, which is the current one, on a machine with no dependent application recorded and both
+// certificate stores empty.
+struct Rehearsal {
+  Rehearsal() {
+    for (const wchar_t* const file :
+         {L"sorrel.exe", L"simulator\\bthprops.cpl", L"simulator\\difxapi.dll",
+          L"certificates\\binary.cer", L"certificates\\base64.cer", L"certificates\\bundle.p7b"}) {
+      const std::filesystem::path source = ProgramPath(file);
+      std::filesystem::copy_file(source, folder / source.filename());
+    }
+    std::filesystem::current_path(folder / "");
+    SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
+    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications");
+    EmptyStores();
+  }
+  ~Rehearsal() { std::filesystem::current_path(ProgramPath(L"")); }
+
+  // Runs a command line of cmd.exe and tells all that came of it: what it wrote, its exit code, the
+  // list of applications and the number of certificates in each store, then the journal.
+  static std::string Run(const std::wstring& command) {
+    std::filesystem::remove("journal");
+    const ChildResult run = RunChild(L"cmd /c " + command);
+    CHECK(run.errors.empty());
+    const WString state =
+        FormatText(L"= %08lX [%s] %d %d\r\n", run.exitCode, Applications().c_str(),
+                   CertificatesInStore(L"TrustedPublisher"), CertificatesInStore(L"CA"));
+    return run.output + Ascii(state.c_str()) + ReadBytes("journal");
+  }
+
+  ScratchFolder folder;
+};
 
 TEST_CASE("words that match no form give the usage text, and nothing is done") {
   const Rehearsal machine;
@@ -46,4 +92,24 @@ TEST_CASE("a process that ends too early loses no line, of whatever length") {
   CHECK(run.output.starts_with("ERR: ImportCertToTrustedPublishers '" + path + "' Error: "));
   CHECK(run.output.ends_with("\r\nINFO: 0 - 00000000 - " + text + "\r\n"));
   CHECK((run.exitCode == ERROR_PROCESS_ABORTED && run.errors.empty()));
+}
+
+TEST_CASE("what stands under the name already decides what an addition makes of it") {
+  const std::wstring longest = std::wstring(1015, L'x') + L";brindle";
+  const std::tuple<DWORD, std::wstring, std::wstring> rows[] = {
+      {REG_SZ, longest, longest + L";kite"},
+      {REG_SZ, longest + L"x", L"kite"},
+      {REG_SZ, L";;a;;b;", L"a;;b;;kite"},
+      {REG_EXPAND_SZ, L"a;%OS%", L"a;Windows_NT;kite"},
+      {REG_DWORD, L"a", L"kite"},
+      // Kept outside ASCII, and shown as far as a byte can.
+      {REG_SZ, L"\u017Dofie \u00E9\U0001F600", L"\u017Dofie \u00E9\U0001F600;kite"}};
+  const Rehearsal machine;
+  for (const auto& [type, stored, after] : rows) {
+    StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", type, stored + L'\0');
+    Rehearsal::Run(L"sorrel.exe register kite");
+    CHECK(Applications() == after);
+  }
+  CHECK(Rehearsal::Run(L"sorrel.exe unregister KITE")
+            .starts_with("OK: Dependant applications exist: ?ofie \xE9??\r\n"));
 }

@@ -4,32 +4,32 @@ TEST_CASE("each failing call of the privilege step is told with its code, in one
   const std::string line = "ERR: OpenProcessToken failed, err = ";
   // The call that fails, RegDeleteValueW for none; the last error behind a successful adjustment.
   const std::tuple<Failing, DWORD, std::string> rows[] = {
-      {KELVO_FAILING(OpenProcessToken), 0, line + "000004D2\r\n"},
-      {KELVO_FAILING(LookupPrivilegeValueW), 0, line + "000004D2\r\n"},
-      {KELVO_FAILING(RegDeleteValueW), ERROR_NOT_ALL_ASSIGNED, line + "00000514\r\n"},
-      {KELVO_FAILING(RegDeleteValueW), ERROR_SUCCESS, ""}};
+      {FAILING(OpenProcessToken), 0, line + "000004D2\r\n"},
+      {FAILING(LookupPrivilegeValueW), 0, line + "000004D2\r\n"},
+      {FAILING(RegDeleteValueW), ERROR_NOT_ALL_ASSIGNED, line + "00000514\r\n"},
+      {FAILING(RegDeleteValueW), ERROR_SUCCESS, ""}};
   for (const auto& [failing, adjusted, output] : rows) {
     int open = 0;
     std::string written;
-    KELVO_REPLACE(OpenProcessToken, [&](auto, auto, DWORD access, HANDLE* token) {
+    REPLACE(OpenProcessToken, [&](auto, auto, DWORD access, HANDLE* token) {
       CHECK(access == 0x28);
       return *token = &open, ++open == 1;
     });
-    KELVO_REPLACE(LookupPrivilegeValueW, [&](auto, LPCWSTR system, LPCWSTR name, auto) {
+    REPLACE(LookupPrivilegeValueW, [&](auto, LPCWSTR system, LPCWSTR name, auto) {
       CHECK((system == nullptr && name == std::wstring(L"SeLoadDriverPrivilege")));
       return TRUE;
     });
-    KELVO_REPLACE(AdjustTokenPrivileges,
-                  [&](auto, auto, BOOL disableAll, auto* set, DWORD length, auto* previous, auto) {
-                    CHECK((disableAll == FALSE && length == 16 && previous == nullptr));
-                    CHECK((set->PrivilegeCount == 1 && set->Privileges[0].Attributes == 2));
-                    return SetLastError(adjusted), TRUE;
-                  });
-    KELVO_REPLACE(CloseHandle, [&](auto original, HANDLE handle) {
+    REPLACE(AdjustTokenPrivileges,
+            [&](auto, auto, BOOL disableAll, auto* set, DWORD length, auto* previous, auto) {
+              CHECK((disableAll == FALSE && length == 16 && previous == nullptr));
+              CHECK((set->PrivilegeCount == 1 && set->Privileges[0].Attributes == 2));
+              return SetLastError(adjusted), TRUE;
+            });
+    REPLACE(CloseHandle, [&](auto original, HANDLE handle) {
       open -= handle == &open ? 1 : 0;
       return handle == &open ? SetLastError(ERROR_INVALID_HANDLE), TRUE : original(handle);
     });
-    KELVO_REPLACE(WriteFile, [&](auto, auto, auto bytes, DWORD size, DWORD* done, auto) {
+    REPLACE(WriteFile, [&](auto, auto, auto bytes, DWORD size, DWORD* done, auto) {
       written.append(static_cast<const char*>(bytes), size);
       return (*done = size) != 0;
     });

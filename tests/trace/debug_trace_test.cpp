@@ -2,8 +2,8 @@
 
 TEST_CASE("a trace line is a time and a message of any length") {
   std::wstring written;
-  KELVO_REPLACE(GetSystemTime, [](auto, auto* time) { *time = {2014, 3, 3, 5, 7, 8, 9, 45}; });
-  KELVO_REPLACE(OutputDebugStringW, [&](auto, const wchar_t* text) { written = text; });
+  REPLACE(GetSystemTime, [](auto, auto* time) { *time = {2014, 3, 3, 5, 7, 8, 9, 45}; });
+  REPLACE(OutputDebugStringW, [&](auto, const wchar_t* text) { written = text; });
   const std::wstring message(5000, L'\u0416');
   DebugTrace(L"%s%%", message.c_str());
   CHECK(written == L"05.03.2014 07:08:09:045 " + message + L"%");

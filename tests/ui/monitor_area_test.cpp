@@ -20,7 +20,7 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
   for (const auto& [monitors, x, missing] : rows) {
     CAPTURE(monitors, x, missing);
     const MONITORINFO& expected = &monitors == &std::get<0>(rows[0]) ? nearest : primary;
-    KELVO_REPLACE(GetSystemMetrics, [&](auto original, int index) {
+    REPLACE(GetSystemMetrics, [&](auto original, int index) {
       return index == SM_CMONITORS ? monitors : original(index);
     });
     const ReplacedExport absent(missing, nullptr);

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <windows.h>
+
+#include <algorithm>
+#include <catch.hpp>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace kelvo::test {
+
+// A folder of this test's own, which goes with everything in it when this object goes.
+struct ScratchFolder {
+  ScratchFolder() { std::filesystem::create_directories(path); }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ~ScratchFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path, ignored);
+  }
+
+  std::filesystem::path operator/(const std::filesystem::path& name) const { return path / name; }
+
+  // Writes a file into the folder and returns its path.
+  std::wstring Write(const std::filesystem::path& name, const std::string& bytes) const {
+    std::ofstream(path / name, std::ios::binary) << bytes;
+    return path / name;
+  }
+
+  static inline int made = 0;
+  std::filesystem::path path =
+      std::filesystem::temp_directory_path() /
+      (L"kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " + std::to_wstring(++made));
+};
+
+// The file's bytes; empty when it cannot be read.
+inline std::string ReadBytes(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// The path of a program of the project's, which all stand in one folder.
+inline std::wstring ProgramPath(const std::wstring& name) {
+  std::wstring self(32768, L'\0');
+  GetModuleFileNameW(nullptr, self.data(), 32768);
+  return std::filesystem::path(self.c_str()).replace_filename(name);
+}
+
+// Compares what was seen with a file that the test lists under EXPECTED, byte by byte, and shows
+// where they differ first. What was seen then stands beside that file's copy as FILE.seen.
+template <typename Text>
+void CheckAgainstFile(const Text& text, const std::wstring& file) {
+  const std::string seen(text.begin(), text.end());
+  const std::wstring path = ProgramPath(L"expected\\" + file);
+  const std::string expected = ReadBytes(path);
+  REQUIRE_FALSE(expected.empty());
+  const auto same = std::mismatch(seen.begin(), seen.end(), expected.begin(), expected.end());
+  const auto from = static_cast<std::size_t>(std::max(same.first - seen.begin() - 100, 0LL));
+  if (seen != expected) {
+    std::ofstream(std::filesystem::path(path + L".seen"), std::ios::binary) << seen;
+  }
+  CHECK(seen.substr(from, 300) == expected.substr(from, 300));
+}
+
+}  // namespace kelvo::test

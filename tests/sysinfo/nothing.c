@@ -1,1 +1,0 @@
-int wmain(void) { return 0; }
