@@ -10,15 +10,13 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
                                        timeoutMs);
   };
   CHECK(StartProcessAndWaitForMutex(L"not there", L"", false, name.c_str(), 10000) == -1);
-  CHECK(start(L"", false, 150) == -3);
-  CHECK(start(L"", true, 150) == -3);
+  CHECK((start(L"", false, 150) == -3 && start(L"", true, 150) == -3));
   CHECK(start(L"close " + std::to_wstring(GetCurrentThreadId()), true, 10000) == -2);
   CHECK(start(L"mutex \"Global\\" + name + L"\"", false, 0) == -3);
   CHECK(start(L"", true, 10000) == 0);  // the mutex of the one before
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
-  CHECK(PumpWaitingMessages() == 16);
-  CHECK(GetQueueStatus(QS_POSTMESSAGE) != 0);
+  CHECK((PumpWaitingMessages() == 16 && GetQueueStatus(QS_POSTMESSAGE) != 0));
   CHECK(PumpWaitingMessages() == 0);
 
   // Before Windows 2000 the name is plain; whole it is, too.

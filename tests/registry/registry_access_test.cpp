@@ -22,11 +22,10 @@ TEST_CASE("each operation asks for its rights and the view, and closes what it o
     REQUIRE(RegistryWriteDword(kRoot, key.c_str(), L"n", 1) == 0);
     std::vector<REGSAM> asked;
     std::ptrdiff_t closed = 0;
-    REPLACE(RegOpenKeyExW,
-            [&](auto original, auto root, auto path, auto options, REGSAM access, auto result) {
-              asked.push_back(access);
-              return original(root, path, options, access, result);
-            });
+    REPLACE(RegOpenKeyExW, [&](auto original, auto... given) {
+      asked.push_back(std::get<3>(std::tuple(given...)));
+      return original(given...);
+    });
     REPLACE(RegCreateKeyExW, [&](auto original, auto root, auto path, auto reserved, LPWSTR kind,
                                  DWORD options, REGSAM access, auto... rest) {
       CHECK((options == REG_OPTION_NON_VOLATILE && *kind == L'\0'));
