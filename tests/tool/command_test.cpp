@@ -81,16 +81,17 @@ TEST_CASE("each command in transcript.txt does what stands under it") {
 
 TEST_CASE("a process that ends too early loses no line, of whatever length") {
   const Rehearsal machine;
-  const std::string path(32'000, 'p');
-  const std::string text(6'000, 'l');
-  SetEnvironmentVariableA("SORREL_SIMULATOR_DRIVER_LOG", ("0,0," + text).c_str());
+  const std::wstring path(32'000, L'p');
+  const std::wstring text(6'000, L'l');
+  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", (L"0,0," + text).c_str());
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_CRASH", L"1");
-  const ChildResult run = RunChild(
-      (machine.folder / ("sorrel.exe install Tessalin.inf " + path + " none brindle")).wstring());
+  const std::wstring program = machine.folder / "sorrel.exe";
+  const ChildResult run =
+      RunChild(L"\"" + program + L"\" install Tessalin.inf " + path + L" none brindle");
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", nullptr);
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_CRASH", nullptr);
-  CHECK(run.output.starts_with("ERR: ImportCertToTrustedPublishers '" + path + "' Error: "));
-  CHECK(run.output.ends_with("\r\nINFO: 0 - 00000000 - " + text + "\r\n"));
+  CHECK(run.output.starts_with("ERR: ImportCertToTrustedPublishers '" + Ascii(path) + "' Error: "));
+  CHECK(run.output.ends_with("\r\nINFO: 0 - 00000000 - " + Ascii(text) + "\r\n"));
   CHECK((run.exitCode == ERROR_PROCESS_ABORTED && run.errors.empty()));
 }
 
