@@ -28,6 +28,7 @@ TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT
   CHECK(added == copy + L"|!\\??\\" + target + L"|");
   CHECK((copy.find(L"\\wqr") != std::wstring::npos && ReadBytes(copy) == "new"));
   DeleteFileW(copy.c_str());
+  CHECK_FALSE(FileExists((std::filesystem::temp_directory_path() / "wqr*").c_str()));
   if (before.empty()) {
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, manager, value);
   }

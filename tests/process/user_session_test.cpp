@@ -24,12 +24,12 @@ TEST_CASE("a Windows without the functions has no console session and no tokens"
 TEST_CASE("a remote client has another name than this computer") {
   static const wchar_t* clientName = nullptr;
   static int textsOut = 0;
-  auto* const query = +[](HANDLE, DWORD, WTS_INFO_CLASS, LPWSTR* name, DWORD*) -> BOOL {
-    *name = const_cast<wchar_t*>(clientName);
-    ++textsOut;
-    return *clientName != L'!' ? TRUE : throw 1;
-  };
-  const ReplacedExport queried("WTSQuerySessionInformationW", query);
+  const ReplacedExport query(
+      "WTSQuerySessionInformationW",
+      +[](HANDLE, DWORD, WTS_INFO_CLASS, LPWSTR* name, DWORD*) -> BOOL {
+        *name = const_cast<wchar_t*>(clientName);
+        return ++textsOut, *clientName != L'!' ? TRUE : throw 1;
+      });
   WString own = GetComputerNetbiosName();
   CharLowerW(own.data());
   wchar_t buffer[16];

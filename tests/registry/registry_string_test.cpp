@@ -1,5 +1,7 @@
 #include "lib/registry/registry_string.h"
 
+using namespace std::string_literals;
+
 static std::wstring Expanded(const wchar_t* text) {
   wchar_t buffer[1024];
   ExpandEnvironmentStringsW(text, buffer, 1024);
@@ -7,7 +9,6 @@ static std::wstring Expanded(const wchar_t* text) {
 }
 
 TEST_CASE("a text value is read whole or not at all") {
-  using namespace std::string_literals;
   const std::wstring longest(1023, L'x');
   // The value's type, its units, how many bytes are cut off them, what is read.
   using Row = std::tuple<DWORD, std::wstring, std::size_t, std::wstring>;
@@ -34,7 +35,6 @@ TEST_CASE("a text value is read whole or not at all") {
 }
 
 TEST_CASE("a caller's buffer is filled, ended and never left") {
-  using namespace std::string_literals;
   const std::tuple<DWORD, std::wstring, std::size_t, std::wstring> rows[] = {
       {REG_SZ, L"abc\0"s, 4, L"abc"},
       {REG_SZ, L"abcd\0"s, 4, L""},

@@ -2,22 +2,21 @@
 
 TEST_CASE("a full value path is split into root, key path and value name") {
   // A path without both parts is refused; without two separators it leaves the texts alone.
-  const std::tuple<const wchar_t*, HKEY, WString, WString> rows[] = {
-      {L"HKEY_CURRENT_USER\\Software\\App\\x", HKEY_CURRENT_USER, L"Software\\App", L"x"},
-      {L"HKEY_CLASSES_ROOT\\.x\\y", HKEY_CLASSES_ROOT, L".x", L"y"},
-      {L"HKEY_LOCAL_MACHINE\\a\\\u017E", HKEY_LOCAL_MACHINE, L"a", L"\u017E"},
-      {L"HKEY_USERS\\a\\", HKEY_USERS, L"a", L""},
-      {L"HKEY_USERS\\\\b", HKEY_USERS, L"", L"b"},
-      {L"HKEY_LOCAL_MACHINE\\Value", HKEY_LOCAL_MACHINE, L"was", L"was"},
-      {L"HKEY_USERS", nullptr, L"was", L"was"},
-      {L"hkey_local_machine\\X\\Y", nullptr, L"was", L"was"},
-      {L"HKLM\\X\\Y", nullptr, L"was", L"was"},
-      {nullptr, nullptr, L"was", L"was"}};
-  for (const auto& [path, expectedRoot, expectedPath, expectedName] : rows) {
+  const std::tuple<const wchar_t*, bool, HKEY, WString, WString> rows[] = {
+      {L"HKEY_CURRENT_USER\\Software\\App\\x", true, HKEY_CURRENT_USER, L"Software\\App", L"x"},
+      {L"HKEY_CLASSES_ROOT\\.x\\y", true, HKEY_CLASSES_ROOT, L".x", L"y"},
+      {L"HKEY_LOCAL_MACHINE\\a\\\u017E", true, HKEY_LOCAL_MACHINE, L"a", L"\u017E"},
+      {L"HKEY_USERS\\a\\", false, HKEY_USERS, L"a", L""},
+      {L"HKEY_USERS\\\\b", false, HKEY_USERS, L"", L"b"},
+      {L"HKEY_LOCAL_MACHINE\\Value", false, HKEY_LOCAL_MACHINE, L"was", L"was"},
+      {L"HKEY_USERS", false, nullptr, L"was", L"was"},
+      {L"hkey_local_machine\\X\\Y", false, nullptr, L"was", L"was"},
+      {L"HKLM\\X\\Y", false, nullptr, L"was", L"was"},
+      {nullptr, false, nullptr, L"was", L"was"}};
+  for (const auto& [path, isWhole, expectedRoot, expectedPath, expectedName] : rows) {
     HKEY root = nullptr;
     WString keyPath = L"was";
     WString name = L"was";
-    const bool isWhole = !expectedPath.empty() && !expectedName.empty() && expectedName != L"was";
     CHECK(ParseRegistryValuePath(path, root, keyPath, name) == isWhole);
     CHECK((root == expectedRoot && keyPath == expectedPath && name == expectedName));
   }

@@ -16,8 +16,7 @@ static std::string PrintedBy(std::wstring& list) {
   REPLACE(SetFileSecurityW, [&](auto, auto, auto, void* descriptor) {
     return list = ToSddl(descriptor), isWritten = TRUE;
   });
-  static char printed[4096];
-  std::fill(std::begin(printed), std::end(printed), '\0');
+  char printed[4096] = "";
   std::setvbuf(stdout, printed, _IOFBF, sizeof(printed));
   CHECK(AddFileAccessRights(L"file", L"BA", FILE_ALL_ACCESS) == isWritten);
   std::string text = printed;

@@ -75,7 +75,9 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   WriteDacl(event.get(), denied);
   CHECK(AllowTokenFullAccessToObject(token.get(), event.get(), SE_KERNEL_OBJECT, L"") == FALSE);
   CHECK(ReadDacl(event.get()) == L"D:(D;;CC;;;LS)(D;;CC;;;NS)");
-  CHECK(ModifySecurity(event.get(), 2) == TRUE);
+  int freed = 0;
+  REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
+  CHECK((ModifySecurity(event.get(), 2) == TRUE && freed == 0));
   CHECK(ReadDacl(event.get()).find(L"(A;;DC;;;" + user) != std::wstring::npos);
 }
 
