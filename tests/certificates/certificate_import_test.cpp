@@ -8,11 +8,10 @@
 
 TEST_CASE("a certificate goes in once; all is closed but the store of an unreadable file") {
   // A file, whether adding is let through, the answer, handles left open.
-  const std::tuple<const wchar_t*, BOOL, DWORD, std::size_t> rows[] = {
-      {L"binary.cer", TRUE, 0, 0},
-      {L"bundle.p7b", TRUE, 0, 0},
-      {L"binary.cer", FALSE, ERROR_ACCESS_DENIED, 0},
-      {L"missing.cer", TRUE, ERROR_SHARING_VIOLATION, 1}};
+  using Row = std::tuple<const wchar_t*, BOOL, DWORD, std::size_t>;
+  const auto rows = std::to_array({Row(L"binary.cer", TRUE, 0, 0), Row(L"bundle.p7b", TRUE, 0, 0),
+                                   Row(L"binary.cer", FALSE, ERROR_ACCESS_DENIED, 0),
+                                   Row(L"missing.cer", TRUE, ERROR_SHARING_VIOLATION, 1)});
   EmptyStores();
   for (const auto& [file, adds, result, leftOpen] : rows) {
     CAPTURE(file, adds);

@@ -73,11 +73,10 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
 }
 
 TEST_CASE("letter case matters where a process is started, not where one asks") {
-  const std::tuple<const wchar_t*, const wchar_t*, BOOL, int> cases[] = {
-      {L"WinSta0", L"Default", TRUE, 0},
-      {L"WINSTA0", L"DEFAULT", TRUE, 1},
-      {L"W\u0130nSta0", L"Default", FALSE, 1},
-      {L"WinSta0", L"Default2", FALSE, 0}};
+  using Row = std::tuple<const wchar_t*, const wchar_t*, BOOL, int>;
+  const auto cases = std::to_array(
+      {Row(L"WinSta0", L"Default", TRUE, 0), Row(L"WINSTA0", L"DEFAULT", TRUE, 1),
+       Row(L"W\u0130nSta0", L"Default", FALSE, 1), Row(L"WinSta0", L"Default2", FALSE, 0)});
   for (const auto& [station, desktop, isInteractive, moves] : cases) {
     const wchar_t* names[] = {station, desktop};
     int asked = 0, moved = 0;

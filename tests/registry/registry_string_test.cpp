@@ -35,14 +35,13 @@ TEST_CASE("a text value is read whole or not at all") {
 }
 
 TEST_CASE("a caller's buffer is filled, ended and never left") {
-  const std::tuple<DWORD, std::wstring, std::size_t, std::wstring> rows[] = {
-      {REG_SZ, L"abc\0"s, 4, L"abc"},
-      {REG_SZ, L"abcd\0"s, 4, L""},
-      {REG_SZ, L"abcd", 4, L"abc"},
-      {REG_EXPAND_SZ, L"%OS%.\0"s, 6, Expanded(L"%OS%.").substr(0, 5)},
-      {REG_BINARY, L"ab\0"s, 4, L""},
-      {REG_SZ, L"\0"s, 1, L""},
-      {REG_SZ, L"a\0"s, 0, L""}};
+  using Row = std::tuple<DWORD, std::wstring, std::size_t, std::wstring>;
+  const auto rows =
+      std::to_array({Row(REG_SZ, L"abc\0"s, 4, L"abc"), Row(REG_SZ, L"abcd\0"s, 4, L""),
+                     Row(REG_SZ, L"abcd", 4, L"abc"),
+                     Row(REG_EXPAND_SZ, L"%OS%.\0"s, 6, Expanded(L"%OS%.").substr(0, 5)),
+                     Row(REG_BINARY, L"ab\0"s, 4, L""), Row(REG_SZ, L"\0"s, 1, L""),
+                     Row(REG_SZ, L"a\0"s, 0, L"")});
   const ScratchKey key;
   for (const auto& [type, stored, length, expected] : rows) {
     StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored);

@@ -3,7 +3,6 @@
 #include "lib/security/deny_ace_removal.h"
 #include "lib/security/kernel_object_access.h"
 #include "lib/security/token_object_access.h"
-#include "lib/security/token_information.h"
 #include "lib/security/token_privileges.h"
 #include "tests/security/test_acl.h"
 #include "tests/support/desktop_scope.h"
@@ -56,29 +55,30 @@ TEST_CASE("deny entries for the SID go, all but one at index 0") {
 
 TEST_CASE("a token's user gets the rights that the type's name asks for") {
   const DesktopScope scope(L"kelvo security test", L"kelvo desktop");
+  const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
+  WriteDacl(event.get(), L"D:");
+  {
+    int freed = 0;
+    REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
+    CHECK((ModifySecurity(event.get(), 2) == TRUE && freed == 0));
+  }
+  const std::wstring granted = ReadDacl(event.get());
+  const std::wstring user = granted.substr(granted.rfind(L';') + 1);
+  CHECK(granted == L"D:(A;;DC;;;" + user);
+  const std::wstring denied = L"D:(D;;CC;;;LS)(D;;CC;;;WD)(D;;CC;;;NS)(D;;CC;;;" + user;
+  const std::wstring others = L"D:(D;;CC;;;LS)(D;;CC;;;NS)";
   OwnedKernelObject token;
   OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive());
-  const OwnedLocalMemory<void> owner(GetFromToken(token.get(), TokenUser));
-  OwnedLocalMemory<wchar_t> sid;
-  ConvertSidToStringSidW(static_cast<TOKEN_USER*>(owner.get())->User.Sid, sid.Receive());
-  const std::wstring user = sid.get() + std::wstring(L")");
-  const std::wstring denied = L"D:(D;;CC;;;LS)(D;;CC;;;WD)(D;;CC;;;NS)(D;;CC;;;" + user;
   const wchar_t* const names[] = {L"Desktop", L"a DESK", L"WinStat", L"des", nullptr};
   for (const wchar_t* const& name : names) {
     WriteDacl(scope.desktop, denied);
     CHECK(AllowTokenFullAccessToObject(token.get(), scope.desktop, SE_WINDOW_OBJECT, name) == TRUE);
-    CHECK(ReadDacl(scope.desktop) == L"D:(D;;CC;;;LS)(D;;CC;;;NS)" +
-                                         (&name - names < 2 ? kAllOfDesktop : kAllOfStation) +
-                                         user);
+    CHECK(ReadDacl(scope.desktop) ==
+          others + (&name - names < 2 ? kAllOfDesktop : kAllOfStation) + user);
   }
-  const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), denied);
   CHECK(AllowTokenFullAccessToObject(token.get(), event.get(), SE_KERNEL_OBJECT, L"") == FALSE);
-  CHECK(ReadDacl(event.get()) == L"D:(D;;CC;;;LS)(D;;CC;;;NS)");
-  int freed = 0;
-  REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
-  CHECK((ModifySecurity(event.get(), 2) == TRUE && freed == 0));
-  CHECK(ReadDacl(event.get()).find(L"(A;;DC;;;" + user) != std::wstring::npos);
+  CHECK(ReadDacl(event.get()) == others);
 }
 
 TEST_CASE("a privilege set holds the names that the system knows") {
