@@ -108,10 +108,9 @@ using Failing = bool (*)(int nth, bool throws, const Call& call);
 // As long as it lives, GetProcAddress gives `function` for the export `name` of whatever module;
 // null stands for a Windows that does not have it.
 struct ReplacedExport {
-  template <typename Function>
-  ReplacedExport(const char* exported, Function* function) : name(exported) {
+  ReplacedExport(const char* exported, void* function) : name(exported) {
     replaced[name] = reinterpret_cast<FARPROC>(function);
-    static const REPLACE(GetProcAddress, [](auto original, HMODULE module, LPCSTR asked) {
+    static REPLACE(GetProcAddress, [](auto original, HMODULE module, LPCSTR asked) {
       const auto found = replaced.find(IS_INTRESOURCE(asked) ? "" : asked);
       if (found == replaced.end()) {
         return original(module, asked);
@@ -120,8 +119,9 @@ struct ReplacedExport {
       return found->second;
     });
   }
-  ReplacedExport(const char* exported, std::nullptr_t)
-      : ReplacedExport(exported, static_cast<void*>(nullptr)) {}
+  template <typename Function>
+  ReplacedExport(const char* exported, Function* function)
+      : ReplacedExport(exported, reinterpret_cast<void*>(function)) {}
   ReplacedExport(const ReplacedExport&) = delete;
   ~ReplacedExport() { replaced.erase(name); }
 
