@@ -38,7 +38,11 @@ struct Rehearsal {
   // list of applications and the number of certificates in each store, then the journal.
   static std::string Run(const std::wstring& command) {
     std::filesystem::remove("journal");
-    const ChildResult run = RunChild(L"cmd /c " + command);
+    // 9009 is what cmd.exe says when Wine fails to start a program, as under load it does.
+    ChildResult run{9009, "", ""};
+    for (int tries = 0; run.exitCode == 9009 && tries < 5; ++tries) {
+      run = RunChild(L"cmd /c " + command);
+    }
     CHECK(run.errors.empty());
     const WString state =
         FormatText(L"= %08lX [%s] %d %d\r\n", run.exitCode, Applications().c_str(),
