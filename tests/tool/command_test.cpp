@@ -1,7 +1,6 @@
 #include <sstream>
 
 #include "lib/string/format_text.h"
-#include "lib/string/string_tokenizer.h"
 #include "tests/support/certificate_store.h"
 #include "tool/dependent_applications.h"
 
@@ -52,18 +51,6 @@ struct Rehearsal {
 
   ScratchFolder folder;
 };
-
-TEST_CASE("words that match no form give the usage text, and nothing is done") {
-  const Rehearsal machine;
-  const std::string usage = Rehearsal::Run(L"sorrel.exe");
-  const WString nearForms =
-      L"install|install a b c|install a b c d e|Install a b c d|\"install \" a b c d|"
-      L"installx a b c d|uninstall|uninstall a|uninstall a b c|UNINSTALL a b|REGISTER|Register app|"
-      L"register a b|unregister a b|registe|unregisterx|\"\"|a b|a b c|a b c d e";
-  for (StringTokenizer words(nearForms, L"|", true); words.HasMoreTokens();) {
-    CHECK(Rehearsal::Run((WString(L"sorrel.exe ") + words.NextToken()).c_str()) == usage);
-  }
-}
 
 TEST_CASE("each command in transcript.txt does what stands under it") {
   const Rehearsal machine;
