@@ -1,3 +1,4 @@
+#include "lib/sysinfo/computer_name.h"
 #include "lib/sysinfo/system_directories.h"
 #include "lib/sysinfo/user_name.h"
 
@@ -8,10 +9,15 @@ static UINT WINAPI TellDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(told.length()) + (told.length() < size ? 0 : 1);
 }
 
-static BOOLEAN WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
+static BOOL WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
   const ULONG room = std::exchange(*size, static_cast<ULONG>(told.length() + 1));
   SetLastError(ERROR_MORE_DATA);
-  return format == 8 && TellDirectory(buffer, room) < room && !told.empty();
+  if (told.empty() || told.length() >= room) {
+    return FALSE;
+  }
+  TellDirectory(buffer, room);
+  *buffer = static_cast<wchar_t>(L'0' + format);
+  return TRUE;
 }
 
 TEST_CASE("directories end in one backslash and fit their buffers") {
@@ -32,12 +38,18 @@ TEST_CASE("directories end in one backslash and fit their buffers") {
   CHECK(GetSystemWow64DirectoryPath().empty());
 }
 
-TEST_CASE("the account's name stands in for a missing principal name") {
-  for (const std::size_t length : {0U, 255U, 1000U}) {
-    const ReplacedExport principal("GetUserNameExW", &TellName);
+TEST_CASE("the plain name of account and computer stands in for a missing full one") {
+  for (const std::size_t length : {0U, 99U, 255U, 1000U}) {
+    const ReplacedExport user("GetUserNameExW", &TellName);
+    const ReplacedExport computer("GetComputerNameExW", &TellName);
     told.assign(length, L'p');
-    CHECK(GetUserNameFQ() == (length == 0 ? GetAccountName() : WString(told)));
+    const WString rest(told.substr(0, length == 0 ? 0 : length - 1));
+    CHECK(GetUserNameFQ() == (length == 0 ? GetAccountName() : WString(L"8") + rest));
+    CHECK(GetComputerNameFQ() == (length == 0 ? GetComputerNetbiosName() : WString(L"3") + rest));
+    CHECK(GetComputerDomain() == (length == 0 ? WString() : WString(L"2") + rest));
   }
-  const ReplacedExport missing("GetUserNameExW", nullptr);
+  const ReplacedExport user("GetUserNameExW", nullptr);
+  const ReplacedExport computer("GetComputerNameExW", nullptr);
   CHECK(GetUserNameFQ() == _wgetenv(L"USERNAME"));
+  CHECK((GetComputerNameFQ() == GetComputerNetbiosName() && GetComputerDomain().empty()));
 }
