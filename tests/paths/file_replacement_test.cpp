@@ -16,27 +16,27 @@ TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT
     std::replace(list.begin(), list.end(), L'\0', L'|');
     return list.substr(0, found ? (size / sizeof(wchar_t)) - 1 : 0);
   };
+  const auto tell = [&](wchar_t* buffer) {
+    return static_cast<UINT>(lstrlenW(lstrcpyW(buffer, (folder / "").c_str())));
+  };
+  REPLACE(GetTempPathW, [&](auto, auto, auto buffer) -> DWORD { return tell(buffer); });
   const std::wstring before = pending();
   const std::wstring ordered = before + L"\\??\\" + source + L"|!\\??\\" + target + L"|";
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), false));
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), nullptr, false));
   CHECK(ScheduleFileReplace(nullptr, L"C:\\not\\there", target.c_str(), true));
-  CHECK(pending() == ordered);
+  CHECK((pending() == ordered && !FileExists((folder / "wqr*").c_str())));
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), true));
   const std::wstring added = pending().substr(ordered.length() + 4);
   const std::wstring copy = added.substr(0, added.find(L'|'));
   CHECK(added == copy + L"|!\\??\\" + target + L"|");
   CHECK((copy.find(L"\\wqr") != std::wstring::npos && ReadBytes(copy) == "new"));
-  DeleteFileW(copy.c_str());
-  CHECK_FALSE(FileExists((std::filesystem::temp_directory_path() / "wqr*").c_str()));
   if (before.empty()) {
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, manager, value);
   }
 
   REPLACE(GetVersionExW, [](auto...) { return FALSE; });
-  REPLACE(GetWindowsDirectoryW, [&](auto, auto buffer, auto) {
-    return static_cast<UINT>(lstrlenW(lstrcpyW(buffer, (folder / "").c_str())));
-  });
+  REPLACE(GetWindowsDirectoryW, [&](auto, auto buffer, auto) { return tell(buffer); });
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), source.c_str(), false));
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), false));
   wchar_t shortName[MAX_PATH];

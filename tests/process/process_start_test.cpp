@@ -45,6 +45,11 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
     OwnedKernelObject process;
     HANDLE* const slot = round % 2 == 0 ? process.Receive() : nullptr;
     {
+      REPLACE(SetSecurityDescriptorDacl,
+              [](auto original, auto made, BOOL isThere, ACL* dacl, auto) {
+                CHECK((isThere && dacl == nullptr));
+                return original(made, isThere, dacl, FALSE);
+              });
       NOTE(CreateProcessAsUserW, "create ");
       NOTE(HeapFree, "free ");
       NOTE(SetProcessWindowStation, "station ");
@@ -65,9 +70,8 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
     WaitForSingleObject(process.get(), waits ? 0 : 10000);
     GetExitCodeProcess(process.get(), &exitCode);
     CHECK(exitCode == 7);
-    const std::string told = ReadBytes(program + L".txt");
-    CHECK(std::wstring(reinterpret_cast<const wchar_t*>(told.data()), told.size() / 2) ==
-          L"\"" + program + L"\" " + arguments + L"|WinSta0\\Default");
+    CHECK(ReadBytes(program + L".txt") ==
+          Ascii(L"\"" + program + L"\" " + arguments + L"|WinSta0\\Default"));
     std::filesystem::remove(program + L".txt");
   }
 }

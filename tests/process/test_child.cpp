@@ -17,8 +17,8 @@ int wmain(int count, wchar_t** words) {
   } else if (verb == L"report") {
     WaitForSingleObject(OpenEventW(SYNCHRONIZE, FALSE, words[2]), 10000);
     const std::wstring text = GetCommandLineW() + (L"|" + kelvo::test::CurrentDesktop());
-    std::ofstream((std::wstring(words[0]) + L".txt").c_str(), std::ios::binary)
-        .write(reinterpret_cast<const char*>(text.data()), 2 * std::ssize(text));
+    std::ofstream((std::wstring(words[0]) + L".txt").c_str())
+        << std::string(text.begin(), text.end());
     SetEvent(OpenEventW(EVENT_MODIFY_STATE, FALSE, (std::wstring(words[2]) + L"_done").c_str()));
     return 7;
   }

@@ -66,7 +66,7 @@ TEST_CASE("nothing is read past a list or an entry whose sizes lie") {
       [](auto& list) { list.aces[0].size = 0; },
       [](auto& list) { list.acl->AceCount = 3; },
       [](auto& list) { *list.acl = {ACL_REVISION, 0, 7, 0, 0}; },
-      [](auto& list) { list.aces[1].sid.SubAuthorityCount = 15; },
+      [](auto& list) { list.aces[1].sid.SubAuthorityCount = 2; },
       [](auto& list) { list.aces[1].size = 15; }};
   for (const auto& lie : lies) {
     const TestAcl list({{.type = 1, .mask = 2}, {.type = 1}});

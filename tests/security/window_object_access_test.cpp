@@ -57,11 +57,9 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   const DesktopScope scope(L"kelvo security test", L"kelvo desktop");
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), L"D:");
-  {
-    int freed = 0;
-    REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
-    CHECK((ModifySecurity(event.get(), 2) == TRUE && freed == 0));
-  }
+  int freed = 0;
+  REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
+  CHECK((ModifySecurity(event.get(), 2) == TRUE && freed == 0));
   const std::wstring granted = ReadDacl(event.get());
   const std::wstring user = granted.substr(granted.rfind(L';') + 1);
   CHECK(granted == L"D:(A;;DC;;;" + user);

@@ -39,11 +39,10 @@ struct DesktopScope {
 
 // "station\desktop" of this process and thread.
 inline std::wstring CurrentDesktop() {
-  wchar_t station[MAX_PATH] = L"";
-  wchar_t desktop[MAX_PATH] = L"";
-  GetUserObjectInformationW(GetProcessWindowStation(), UOI_NAME, station, sizeof(station), nullptr);
-  GetUserObjectInformationW(GetThreadDesktop(GetCurrentThreadId()), UOI_NAME, desktop,
-                            sizeof(desktop), nullptr);
+  wchar_t station[99] = L"", desktop[99] = L"";
+  GetUserObjectInformationW(GetProcessWindowStation(), UOI_NAME, station, 198, nullptr);
+  GetUserObjectInformationW(GetThreadDesktop(GetCurrentThreadId()), UOI_NAME, desktop, 198,
+                            nullptr);
   return station + std::wstring(L"\\") + desktop;
 }
 

@@ -34,6 +34,8 @@ struct ScratchFolder {
       (L"kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " + std::to_wstring(++made));
 };
 
+inline std::string Ascii(const std::wstring& text) { return {text.begin(), text.end()}; }
+
 // The file's bytes; empty when it cannot be read.
 inline std::string ReadBytes(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);

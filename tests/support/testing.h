@@ -12,7 +12,6 @@
 #include <tuple>
 #include <vector>
 
-#include "lib/platform/owned.h"
 #include "lib/string/wstring.h"
 #include "tests/support/child_process.h"
 #include "tests/support/files.h"

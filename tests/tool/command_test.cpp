@@ -13,8 +13,6 @@ static std::wstring Applications() {
   return isThere ? list : L"none";
 }
 
-static std::string Ascii(const std::wstring& text) { return {text.begin(), text.end()}; }
-
 // A copy of sorrel.exe with the simulator's libraries and certificates beside it in a folder of its
 // own, which is the current one, on a machine with no dependent application recorded and both
 // certificate stores empty.
