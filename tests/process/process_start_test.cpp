@@ -45,11 +45,10 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
     OwnedKernelObject process;
     HANDLE* const slot = round % 2 == 0 ? process.Receive() : nullptr;
     {
-      REPLACE(SetSecurityDescriptorDacl,
-              [](auto original, auto made, BOOL isThere, ACL* dacl, auto) {
-                CHECK((isThere && dacl == nullptr));
-                return original(made, isThere, dacl, FALSE);
-              });
+      REPLACE(SetSecurityDescriptorDacl, [](auto original, auto to, BOOL has, ACL* dacl, BOOL) {
+        CHECK((has && dacl == nullptr));
+        return original(to, has, dacl, FALSE);
+      });
       NOTE(CreateProcessAsUserW, "create ");
       NOTE(HeapFree, "free ");
       NOTE(SetProcessWindowStation, "station ");
@@ -104,8 +103,7 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
   REPLACE(CloseHandle, [](auto original, HANDLE handle) {
     return IsOurs("close", handle) ? TRUE : original(handle);
   });
-  REPLACE(CreateProcessAsUserW,
-          [](auto, HANDLE token, auto...) { return !IsOurs("start", token); });
+  REPLACE(CreateProcessAsUserW, [](auto, auto token, auto...) { return !IsOurs("start", token); });
   REPLACE(CreateProcessW, [](auto...) { return calls += "caller", FALSE; });
   // Windows 5.0 or 5.1, the caller's session, whether the console's can be told and a token be
   // duplicated, the caller's desktop, and what happens. RunAsUser leaves its token open.

@@ -23,6 +23,10 @@ struct DesktopScope {
       SetThreadDesktop(desktop);
     }
   }
+  // On a desktop that Wine opens on this process's own display: that of the first desktop belongs
+  // to whoever was there first, and may be none. A process keeps the display of its first window.
+  DesktopScope()
+      : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}
   DesktopScope(const DesktopScope&) = delete;
   ~DesktopScope() {
     SetProcessWindowStation(previousStation);

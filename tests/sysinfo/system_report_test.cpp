@@ -20,10 +20,9 @@ TEST_CASE("a colour depth is low up to 16 bits and full from 32") {
 }
 
 TEST_CASE("the report has all its entries once and in order") {
-  REPLACE(SHGetSpecialFolderPathW,
-          [](auto original, auto owner, auto path, int folder, auto create) {
-            return folder == CSIDL_STARTMENU ? FALSE : original(owner, path, folder, create);
-          });
+  REPLACE(SHGetSpecialFolderPathW, [](auto original, auto... given) {
+    return std::get<2>(std::tuple(given...)) == CSIDL_STARTMENU ? FALSE : original(given...);
+  });
   const StandInKey user(HKEY_CURRENT_USER);
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   const wchar_t* const system = L"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment";

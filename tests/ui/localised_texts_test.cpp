@@ -45,9 +45,7 @@ TEST_CASE("all occurrences in a buffer of eight characters are replaced") {
 }
 
 TEST_CASE("a window's labels and buttons are rewritten, its other controls are not") {
-  // On a desktop of its own, for which Wine opens the display that this process has.
-  const std::wstring name = L"kelvo test " + std::to_wstring(GetCurrentProcessId());
-  const DesktopScope scope(nullptr, name.c_str());
+  const DesktopScope scope;
   const auto make = [](const std::wstring& kind, const std::wstring& text, HWND parent) {
     return CreateWindowExW(0, kind.c_str(), text.c_str(), parent == nullptr ? 0 : WS_CHILD, 0, 0, 9,
                            9, parent, nullptr, nullptr, nullptr);
@@ -73,9 +71,9 @@ TEST_CASE("a window's labels and buttons are rewritten, its other controls are n
   }
   CHECK(RewriteWindowTexts(windows[1]) == TRUE);
   for (std::size_t i = 0; i < std::size(rows); ++i) {
-    wchar_t text[2048] = L"";
-    GetWindowTextW(windows[i + 1], text, 2048);
-    CHECK(text == rows[i][2]);
+    std::wstring text(2048, L'\0');
+    GetWindowTextW(windows[i + 1], text.data(), 2048);
+    CHECK(text.c_str() == rows[i][2]);
   }
   TextSubstitutions().clear();
 }

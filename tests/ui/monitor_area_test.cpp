@@ -1,6 +1,9 @@
 #include "lib/ui/monitor_area.h"
 
+#include "tests/support/desktop_scope.h"
+
 TEST_CASE("the nearest monitor's area is given where it can be told, else the primary one's") {
+  const DesktopScope scope;
   const ReplacedExport find(
       "MonitorFromPoint", +[](POINT point, DWORD flags) {
         return reinterpret_cast<HMONITOR>(INT_PTR{point.x} * static_cast<int>(flags));
@@ -18,7 +21,6 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
   const std::tuple<int, LONG, const char*> rows[] = {
       {2, 5, ""}, {1, 5, ""}, {2, 0, ""}, {2, 5, "MonitorFromPoint"}, {2, 5, "GetMonitorInfoA"}};
   for (const auto& [monitors, x, missing] : rows) {
-    CAPTURE(monitors, x, missing);
     const MONITORINFO& expected = &monitors == &std::get<0>(rows[0]) ? nearest : primary;
     REPLACE(GetSystemMetrics, [&](auto original, int index) {
       return index == SM_CMONITORS ? monitors : original(index);
