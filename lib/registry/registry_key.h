@@ -12,8 +12,7 @@ namespace kelvo {
 //     key's default value. All texts are NUL-terminated.
 //   - Each operation opens the key, does one thing and closes it again.
 //   - A status is 0 for success, otherwise the Windows error code of the failing call, or -1 where
-//   the
-//     operation says that it passes no code on.
+//     the operation says that it passes no code on.
 
 // ORed into the access mask of every key that is opened or created here, and passed to
 // RegDeleteKeyExW. A program that wants another registry view sets KEY_WOW64_64KEY or

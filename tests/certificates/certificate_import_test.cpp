@@ -49,6 +49,6 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
     const std::wstring path = ProgramPath(std::wstring(L"certificates\\") + file);
     CHECK((ImportCertToTrustedPublishers(path.c_str()) == result && open.size() == leftOpen));
   }
-  CHECK(CertificatesInStore(L"TrustedPublisher") == 1);
+  CHECK(SubjectsInStore(L"TrustedPublisher") == L"Tessalin Test Publisher");
   CHECK(ImportCertToSystemStore(L"missing.cer", L"no such store") == ERROR_FILE_NOT_FOUND);
 }

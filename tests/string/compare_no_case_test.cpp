@@ -3,14 +3,14 @@
 #include <clocale>
 
 TEST_CASE("texts are compared by their lower-case units") {
-  // Below U+0100 only A to Z are folded; above, whatever the system maps to one unit. Units are
-  // unsigned.
+  // Below U+0100 only A to Z are folded; above, whatever the system maps to one unit.
   using Row = std::tuple<const wchar_t*, const wchar_t*, int>;
-  const auto rows = std::to_array(
-      {Row(L"Foo", L"fOO", 0), Row(L"a", L"ab", -L'b'), Row(L"AB", L"a", L'b'),
-       Row(L"Z", L"[", L'z' - L'['), Row(L"\u00C9", L"\u00E9", -0x20),
-       Row(L"\u0416", L"a", 0x0436 - L'a'), Row(L"\u0130x", L"\u0130X", 0),
-       Row(L"\uFFFF", L"\uFFFE", 1), Row(L"", L"", 0), Row(L"\uFFFF", L"a", 0xFFFF - L'a')});
+  const auto rows =
+      std::to_array({Row(L"Foo", L"fOO", 0), Row(L"a", L"ab", -L'b'), Row(L"AB", L"a", L'b'),
+                     Row(L"Z", L"[", L'z' - L'['), Row(L"\u00C9", L"\u00E9", -0x20),
+                     Row(L"\u0416", L"a", 0x0436 - L'a'), Row(L"\u0130x", L"\u0130X", 0),
+                     Row(L"\uFFFF", L"\uFFFE", 1), Row(L"", L"", 0), Row(L"\u0416", L"\u0436", 0),
+                     Row(L"\uFFFF", L"a", 0xFFFF - L'a')});
   for (const auto& [a, b, difference] : rows) {
     CAPTURE(a, b);
     CHECK(CompareNoCase(a, b) == difference);

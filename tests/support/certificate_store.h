@@ -8,17 +8,19 @@
 
 namespace kelvo::test {
 
-// The number of certificates in a system store of the local machine.
-inline int CertificatesInStore(const wchar_t* name) {
+// The subjects of the certificates in a system store of the local machine.
+inline std::wstring SubjectsInStore(const wchar_t* name) {
   HCERTSTORE store =
       CertOpenStore(CERT_STORE_PROV_SYSTEM_W, 0, 0, CERT_SYSTEM_STORE_LOCAL_MACHINE, name);
-  int count = 0;
+  std::wstring subjects;
   PCCERT_CONTEXT certificate = nullptr;
   while ((certificate = CertEnumCertificatesInStore(store, certificate)) != nullptr) {
-    ++count;
+    wchar_t subject[99];
+    CertGetNameStringW(certificate, CERT_NAME_SIMPLE_DISPLAY_TYPE, 0, nullptr, subject, 99);
+    subjects += subject;
   }
   CertCloseStore(store, 0);
-  return count;
+  return subjects;
 }
 
 // Takes all certificates out of both stores that the tool uses.

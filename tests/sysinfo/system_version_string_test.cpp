@@ -5,11 +5,15 @@
 
 #include "lib/registry/registry_string.h"
 #include "lib/sysinfo/system_description.h"
+#include "lib/sysinfo/windows_release.h"
 
 const WString kCutShort = L"catch(unhandled exception) while querying system version";
 const WString kNt = L"Microsoft Windows NT ";
 
-TEST_CASE("each Windows has the line that windows_names.txt gives it") {
+TEST_CASE("each Windows has the line and the answers that windows_names.txt gives it") {
+  bool (*const predicates[])(const OSVERSIONINFOW&) = {
+      IsWin95, IsWin98, IsWinNT,         IsWin2000,       IsWinXP,        IsWinVista,
+      IsWin7,  IsWin8,  IsWinServer2003, IsWinServer2008, IsWinServer2012};
   std::istringstream cases(ReadBytes(ProgramPath(L"expected\\windows_names.txt")));
   int count = 0;
   std::string given;
@@ -21,20 +25,24 @@ TEST_CASE("each Windows has the line that windows_names.txt gives it") {
     unsigned type = 0;
     int metric = 0;
     DWORD product = 0;
-    char pack[129] = "";
+    char told[12] = "", pack[129] = "";
     REQUIRE(std::sscanf(given.c_str(),
                         "platform %lu, %lu.%lu, suites %hx, type %u, architecture %hu, metric %d, "
-                        "product %lx, pack \"%128[^\"]\"",
+                        "product %lx, is %11[01], pack \"%128[^\"]\"",
                         &version.dwPlatformId, &version.dwMajorVersion, &version.dwMinorVersion,
-                        &version.wSuiteMask, &type, &facts.architecture, &metric, &product,
-                        pack) >= 8);
+                        &version.wSuiteMask, &type, &facts.architecture, &metric, &product, told,
+                        pack) >= 9);
     std::copy_n(pack, std::strlen(pack), version.szCSDVersion);
     version.wProductType = static_cast<BYTE>(type);
     facts.metric = metric;
     facts.product = product != 0 ? std::optional(product) : std::nullopt;
     CHECK(DescribeSystem(facts).c_str() == std::wstring(line.begin(), line.end()));
+    for (const auto& predicate : predicates) {
+      const bool answer = predicate(reinterpret_cast<const OSVERSIONINFOW&>(version));
+      CHECK(answer == (told[&predicate - predicates] == '1'));
+    }
   }
-  CHECK(count == 55);
+  CHECK(count == 56);
 }
 
 TEST_CASE("a raised answer breaks the line off where it is needed, and nowhere else") {

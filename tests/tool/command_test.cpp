@@ -32,7 +32,7 @@ struct Rehearsal {
   ~Rehearsal() { std::filesystem::current_path(ProgramPath(L"")); }
 
   // Runs a command line of cmd.exe and tells all that came of it: what it wrote, its exit code, the
-  // list of applications and the number of certificates in each store, then the journal.
+  // list of applications and the certificates in each store, then the journal.
   static std::string Run(const std::wstring& command) {
     std::filesystem::remove("journal");
     // 9009 is what cmd.exe says when Wine fails to start a program, as under load it does.
@@ -42,8 +42,8 @@ struct Rehearsal {
     }
     CHECK(run.errors.empty());
     const WString state =
-        FormatText(L"= %08lX [%s] %d %d\r\n", run.exitCode, Applications().c_str(),
-                   CertificatesInStore(L"TrustedPublisher"), CertificatesInStore(L"CA"));
+        FormatText(L"= %08lX [%s] [%s] [%s]\r\n", run.exitCode, Applications().c_str(),
+                   SubjectsInStore(L"TrustedPublisher").c_str(), SubjectsInStore(L"CA").c_str());
     return run.output + Ascii(state.c_str()) + ReadBytes("journal");
   }
 

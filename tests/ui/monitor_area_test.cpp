@@ -18,10 +18,12 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
   GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &primary);
   const MONITORINFO nearest{40, {10, 1, 2, 40}, {10, 11, 12, 13}, 0};
   // The number of monitors, the point's x (0: no monitor there), a function that is missing.
-  const std::tuple<int, LONG, const char*> rows[] = {
-      {2, 5, ""}, {1, 5, ""}, {2, 0, ""}, {2, 5, "MonitorFromPoint"}, {2, 5, "GetMonitorInfoA"}};
-  for (const auto& [monitors, x, missing] : rows) {
-    const MONITORINFO& expected = &monitors == &std::get<0>(rows[0]) ? nearest : primary;
+  using Row = std::tuple<int, LONG, const char*, bool>;
+  const auto rows =
+      std::to_array({Row(2, 5, "", true), Row(1, 5, "", false), Row(2, 0, "", false),
+                     Row(2, 5, "MonitorFromPoint", false), Row(2, 5, "GetMonitorInfoA", false)});
+  for (const auto& [monitors, x, missing, isNearest] : rows) {
+    const MONITORINFO& expected = isNearest ? nearest : primary;
     REPLACE(GetSystemMetrics, [&](auto original, int index) {
       return index == SM_CMONITORS ? monitors : original(index);
     });

@@ -9,5 +9,6 @@ TEST_CASE("a message filter is changed from Windows 7 on where the function is t
     const auto windows = PretendWindows(2, 6, minor);
     const ReplacedExport filter("ChangeWindowMessageFilterEx", function);
     CHECK(AllowWindowMessage(nullptr, 9, 1, nullptr) == answer);
+    CHECK_FALSE(AllowWindowMessage(nullptr, 9, 0, nullptr));
   }
 }

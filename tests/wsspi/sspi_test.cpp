@@ -16,7 +16,8 @@ TEST_CASE("the interface is tried again after each failure and loaded once") {
       wsspi::SspiInitialize();
     } catch (wsspi::SspiException* thrown) {
       const std::unique_ptr<wsspi::SspiException> failure(thrown);
-      return failure->file == L"wsspi" && failure->line == line && failure->code == code;
+      CHECK((failure->file == L"wsspi" && failure->detail == 0));
+      return failure->line == line && failure->code == code;
     }
     return false;
   };
