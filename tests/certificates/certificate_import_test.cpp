@@ -21,13 +21,12 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
       CHECK((provider == CERT_STORE_PROV_SYSTEM_W && encoding == 0x10001 && flags == 0x24000));
       return const_cast<void*>(*open.insert(original(provider, encoding, unused, flags, name)));
     });
-    REPLACE(CryptQueryObject, [&](auto original, DWORD object, auto path, DWORD content,
-                                  DWORD format, DWORD flags, auto encoding, auto contentType,
-                                  auto formatType, auto store, auto message, auto context) {
+    REPLACE(CryptQueryObject, [&](auto original, auto... given) {
+      const auto [object, path, content, format, flags, encoding, contentType, formatType, store,
+                  message, context] = std::tuple(given...);
       CHECK((object == 1 && content == 0x3FFE && format == 0xE && flags == 0));
       CHECK((*encoding + *contentType + *formatType == 0 && !*store && !message && !*context));
-      const BOOL found = original(object, path, content, format, flags, encoding, contentType,
-                                  formatType, store, message, context);
+      const BOOL found = original(given...);
       open.insert({*store, *context});
       open.erase(nullptr);
       return SetLastError(ERROR_SHARING_VIOLATION), found;

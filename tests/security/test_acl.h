@@ -1,10 +1,8 @@
 #pragma once
 
-#include <windows.h>
+#include "tests/support/testing.h"
 
 #include <sddl.h>
-
-#include "tests/support/testing.h"
 
 namespace kelvo::test {
 

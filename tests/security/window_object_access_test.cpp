@@ -80,8 +80,7 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
 }
 
 TEST_CASE("a privilege set holds the names that the system knows") {
-  const wchar_t* const names[] = {L"SeNoSuchPrivilege", L"SeDebugPrivilege", L"", L"SeTcbPrivilege",
-                                  nullptr};
+  const LPCWSTR names[] = {L"SeNoSuch", L"SeDebugPrivilege", L"", L"SeTcbPrivilege", nullptr};
   for (const auto& [useBuiltIn, expected] : {std::pair(FALSE, 2U), {TRUE, 28U}}) {
     DWORD count = 0;
     const OwnedLocalMemory<TOKEN_PRIVILEGES> set(CreateTokenPriv(&count, names, useBuiltIn));

@@ -15,8 +15,7 @@ struct ChildResult {
   std::string output, errors;
 };
 
-// Runs a command line to its end and returns the whole exit code and what it wrote to standard
-// output and to standard error, byte by byte.
+// Runs a command line to its end; gives the whole exit code and what it wrote, byte by byte.
 inline ChildResult RunChild(std::wstring commandLine) {
   const ScratchFolder folder;
   SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};

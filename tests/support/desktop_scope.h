@@ -44,9 +44,9 @@ struct DesktopScope {
 // "station\desktop" of this process and thread.
 inline std::wstring CurrentDesktop() {
   wchar_t station[99] = L"", desktop[99] = L"";
+  HDESK const current = GetThreadDesktop(GetCurrentThreadId());
   GetUserObjectInformationW(GetProcessWindowStation(), UOI_NAME, station, 198, nullptr);
-  GetUserObjectInformationW(GetThreadDesktop(GetCurrentThreadId()), UOI_NAME, desktop, 198,
-                            nullptr);
+  GetUserObjectInformationW(current, UOI_NAME, desktop, 198, nullptr);
   return station + std::wstring(L"\\") + desktop;
 }
 

@@ -6,7 +6,6 @@
 #include <catch.hpp>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 namespace kelvo::test {

@@ -33,9 +33,8 @@ inline void* SwapImport(const std::string& function, void* target) {
   throw std::runtime_error("this program does not import " + function);
 }
 
-// As long as it lives, calls to an imported function go to `replacement`: a lambda, which may keep
-// state by reference, with the original function as its first parameter and then the function's
-// own.
+// As long as it lives, calls to an imported function go to `replacement`: a lambda that takes the
+// original function and then that function's own parameters.
 template <typename Function, typename Replacement>
 struct ReplacedImport;
 

@@ -38,7 +38,6 @@ struct StandInKey {
     REQUIRE(CreateRegistryKey(HKEY_CURRENT_USER, scratch.c_str(), empty) == 0);
     REQUIRE(RegOverridePredefKey(predefined, empty.get()) == 0);
   }
-  StandInKey(const StandInKey&) = delete;
   ~StandInKey() { RegOverridePredefKey(predefined, nullptr); }
 
   ScratchKey scratch;

@@ -16,31 +16,28 @@ TEST_CASE("each Windows has the line and the answers that windows_names.txt give
       IsWin7,  IsWin8,  IsWinServer2003, IsWinServer2008, IsWinServer2012};
   std::istringstream cases(ReadBytes(ProgramPath(L"expected\\windows_names.txt")));
   int count = 0;
-  std::string given;
-  for (std::string line; std::getline(cases, given) && std::getline(cases, line); ++count) {
+  for (std::string given, line; std::getline(cases, given) && std::getline(cases, line); ++count) {
     CAPTURE(given);
     SystemFacts facts;
     OSVERSIONINFOEXW& version = facts.version;
     version.dwBuildNumber = 0xABCD0000 + 1381;
-    unsigned type = 0;
-    int metric = 0;
-    DWORD product = 0;
+    DWORD type = 0, metric = 0, product = 0;
     char told[12] = "", pack[129] = "";
-    REQUIRE(std::sscanf(given.c_str(),
-                        "platform %lu, %lu.%lu, suites %hx, type %u, architecture %hu, metric %d, "
-                        "product %lx, is %11[01], pack \"%128[^\"]\"",
-                        &version.dwPlatformId, &version.dwMajorVersion, &version.dwMinorVersion,
-                        &version.wSuiteMask, &type, &facts.architecture, &metric, &product, told,
-                        pack) >= 9);
+    REQUIRE(
+        std::sscanf(given.c_str(),
+                    "platform %lu, %lu.%lu, suites %hx, type %lu, architecture %hu, metric %lu, "
+                    "product %lx, is %11[01], pack \"%128[^\"]\"",
+                    &version.dwPlatformId, &version.dwMajorVersion, &version.dwMinorVersion,
+                    &version.wSuiteMask, &type, &facts.architecture, &metric, &product, told,
+                    pack) >= 9);
     std::copy_n(pack, std::strlen(pack), version.szCSDVersion);
     version.wProductType = static_cast<BYTE>(type);
-    facts.metric = metric;
+    facts.metric = static_cast<int>(metric);
     facts.product = product != 0 ? std::optional(product) : std::nullopt;
     CHECK(DescribeSystem(facts).c_str() == std::wstring(line.begin(), line.end()));
-    for (const auto& predicate : predicates) {
-      const bool answer = predicate(reinterpret_cast<const OSVERSIONINFOW&>(version));
-      CHECK(answer == (told[&predicate - predicates] == '1'));
-    }
+    CHECK(std::equal(std::begin(predicates), std::end(predicates), told, [&](auto is, char one) {
+      return is(reinterpret_cast<const OSVERSIONINFOW&>(version)) == (one == '1');
+    }));
   }
   CHECK(count == 56);
 }

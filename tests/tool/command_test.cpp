@@ -13,9 +13,8 @@ static std::wstring Applications() {
   return isThere ? list : L"none";
 }
 
-// A copy of sorrel.exe with the simulator's libraries and certificates beside it in a folder of its
-// own, which is the current one, on a machine with no dependent application recorded and both
-// certificate stores empty.
+// sorrel.exe with the simulator's libraries and certificates in a folder of its own, the current
+// one, on a machine with no dependent application recorded and both certificate stores empty.
 struct Rehearsal {
   Rehearsal() {
     for (const wchar_t* const file :

@@ -19,10 +19,9 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
   const MONITORINFO nearest{40, {10, 1, 2, 40}, {10, 11, 12, 13}, 0};
   // The number of monitors, the point's x (0: no monitor there), a function that is missing.
   using Row = std::tuple<int, LONG, const char*, bool>;
-  const auto rows =
-      std::to_array({Row(2, 5, "", true), Row(1, 5, "", false), Row(2, 0, "", false),
-                     Row(2, 5, "MonitorFromPoint", false), Row(2, 5, "GetMonitorInfoA", false)});
-  for (const auto& [monitors, x, missing, isNearest] : rows) {
+  for (const auto& [monitors, x, missing, isNearest] :
+       {Row(2, 5, "", true), Row(1, 5, "", false), Row(2, 0, "", false),
+        Row(2, 5, "MonitorFromPoint", false), Row(2, 5, "GetMonitorInfoA", false)}) {
     const MONITORINFO& expected = isNearest ? nearest : primary;
     REPLACE(GetSystemMetrics, [&](auto original, int index) {
       return index == SM_CMONITORS ? monitors : original(index);
