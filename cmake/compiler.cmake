@@ -1,4 +1,4 @@
-# What every target is compiled with, and which compilers are refused.
+# Which compilers are refused, and what our own targets are compiled with.
 
 include(CheckCSourceCompiles)
 
@@ -9,10 +9,10 @@ set(CMAKE_C_STANDARD 11)
 
 if(NOT MSVC)
   # __try and __except, which only the C files of lib/platform use.
-  set(KELVO_STRUCTURED_EXCEPTIONS_FLAG -fms-extensions)
+  set(KELVO_STRUCTURED_EXCEPTIONS_FLAGS -fms-extensions -Wno-language-extension-token)
 endif()
 
-set(CMAKE_REQUIRED_FLAGS ${KELVO_STRUCTURED_EXCEPTIONS_FLAG})
+list(JOIN KELVO_STRUCTURED_EXCEPTIONS_FLAGS " " CMAKE_REQUIRED_FLAGS)
 check_c_source_compiles("
   int main(void) { __try { return 0; } __except (1) { return 1; } }"
   KELVO_HAS_STRUCTURED_EXCEPTIONS)
@@ -25,21 +25,26 @@ if(NOT CMAKE_SIZEOF_VOID_P EQUAL 8)
   message(FATAL_ERROR "Only 64-bit Windows is supported.")
 endif()
 
-add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
-  WINVER=0x0A00 _WIN32_WINNT=0x0A00)
-include_directories(${PROJECT_SOURCE_DIR})
-
+# Linked privately by every target of this project, so that nothing of it reaches a consumer. Warnings become errors in
+# our presets only (CMAKE_COMPILE_WARNING_AS_ERROR).
+add_library(kelvo_build_options INTERFACE)
+target_compile_definitions(kelvo_build_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 if(MSVC)
-  add_compile_options(/W4 /WX /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
+  target_compile_definitions(kelvo_build_options INTERFACE WINVER=0x0A00 _WIN32_WINNT=0x0A00)
+  # C4996: the GetVersionEx family is deprecated but what the library is asked to report.
+  target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Zi)
-  # The GetVersionEx family is deprecated but what the library is asked to report.
-  add_compile_options(/wd4996)
-  add_link_options($<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG)
+  target_link_options(kelvo_build_options INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG)
 else()
-  add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-Wall>
-    $<$<COMPILE_LANGUAGE:C,CXX>:-Wextra> $<$<COMPILE_LANGUAGE:C,CXX>:-Wconversion>
-    $<$<COMPILE_LANGUAGE:C,CXX>:-Wshadow> $<$<COMPILE_LANGUAGE:C,CXX>:-Werror>
-    $<$<COMPILE_LANGUAGE:C,CXX>:-ffunction-sections>
-    $<$<COMPILE_LANGUAGE:C,CXX>:-fdata-sections>)
-  add_link_options(-municode -Wl,--gc-sections)
+  # The sources name functions of Windows 10 and look them up at run time, whatever Windows a consumer's project is for.
+  target_compile_options(kelvo_build_options INTERFACE
+    "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>"
+    "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
+  target_link_options(kelvo_build_options INTERFACE -Wl,--gc-sections)
+endif()
+
+# For a program that begins with wmain.
+add_library(kelvo_wide_main INTERFACE)
+if(NOT MSVC)
+  target_link_options(kelvo_wide_main INTERFACE -municode)
 endif()

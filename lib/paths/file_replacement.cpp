@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "lib/paths/trailing_backslash.h"
+#include "lib/paths/internal/trailing_backslash.h"
 #include "lib/string/wstring.h"
 #include "lib/sysinfo/windows_release.h"
 
@@ -37,7 +37,7 @@ WString ShortName(const wchar_t* path) {
 void AddToWininit(const wchar_t* source, const wchar_t* target) {
   std::array<wchar_t, 256> directory{};
   GetWindowsDirectoryW(directory.data(), static_cast<UINT>(directory.size()));
-  if (!EnsureTrailingBackslash(directory)) {
+  if (!internal::EnsureTrailingBackslash(directory)) {
     return;
   }
   const WString file = WString(directory.data()) + L"WININIT.INI";

@@ -3,7 +3,7 @@
 #include <array>
 #include <cwchar>
 
-#include "lib/paths/trailing_backslash.h"
+#include "lib/paths/internal/trailing_backslash.h"
 
 namespace kelvo {
 
@@ -23,7 +23,7 @@ bool CutToDirectory() {
   if (lastBackslash != nullptr) {
     *lastBackslash = L'\0';
   }
-  return EnsureTrailingBackslash(moduleDirectory);
+  return internal::EnsureTrailingBackslash(moduleDirectory);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "lib/paths/shell_folder_path.h"
 
 #include "lib/paths/module_directory.h"
-#include "lib/paths/trailing_backslash.h"
+#include "lib/paths/internal/trailing_backslash.h"
 #include "lib/registry/registry_string.h"
 
 namespace kelvo {
@@ -28,7 +28,7 @@ bool GetShellFolderPath(const HMODULE* module, std::span<wchar_t, MAX_PATH> out,
   for (const auto& [root, key] : places) {
     const WString subkey = WString(kExplorer) + key;
     if (RegistryReadStoredString(root, subkey.c_str(), valueName, out.data(), out.size()) > 0 &&
-        EnsureTrailingBackslash(out)) {
+        internal::EnsureTrailingBackslash(out)) {
       return true;
     }
   }

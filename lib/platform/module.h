@@ -6,14 +6,19 @@
 
 namespace kelvo {
 
-// A library that this process loaded and frees again with FreeLibrary. A module that is only looked
-// up (GetModuleHandleW) is a plain HMODULE.
-struct LoadedModule {
+namespace internal {
+
+struct ModuleTraits {
   using Handle = HMODULE;
   static Handle None() { return nullptr; }
   static void Close(Handle handle) { FreeLibrary(handle); }
 };
-using OwnedModule = Owned<LoadedModule>;
+
+}  // namespace internal
+
+// A library that this process loaded and frees again with FreeLibrary. A module that is only looked
+// up (GetModuleHandleW) is a plain HMODULE.
+using OwnedModule = Owned<internal::ModuleTraits>;
 
 // The function that `module` exports under `name` (GetProcAddress), or null when the module is null
 // or has no such export; GetLastError then tells why the lookup failed.

@@ -50,41 +50,49 @@ class Owned {
   Handle handle_ = Kind::None();
 };
 
-// Processes, threads, tokens, mutexes: closed with CloseHandle, null when there is none.
-struct KernelObject {
+namespace internal {
+
+struct KernelObjectTraits {
   using Handle = HANDLE;
   static Handle None() { return nullptr; }
   static void Close(Handle handle) { CloseHandle(handle); }
 };
-using OwnedKernelObject = Owned<KernelObject>;
 
-// What CreateFileW opens: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
-struct File {
+struct FileTraits {
   using Handle = HANDLE;
   static Handle None() { return INVALID_HANDLE_VALUE; }
   static void Close(Handle handle) { CloseHandle(handle); }
 };
-using OwnedFile = Owned<File>;
 
-// What LocalAlloc allocated, or a Windows function that leaves LocalFree to its caller; null when
-// there is none.
 template <typename Content>
-struct LocalMemory {
+struct LocalMemoryTraits {
   using Handle = Content*;
   static Handle None() { return nullptr; }
   static void Close(Handle handle) { LocalFree(const_cast<std::remove_cv_t<Content>*>(handle)); }
 };
-template <typename Content>
-using OwnedLocalMemory = Owned<LocalMemory<Content>>;
 
-// What HeapAlloc took from the process's heap (GetProcessHeap); null when there is none.
 template <typename Content>
-struct ProcessHeapMemory {
+struct ProcessHeapMemoryTraits {
   using Handle = Content*;
   static Handle None() { return nullptr; }
   static void Close(Handle handle) { HeapFree(GetProcessHeap(), 0, handle); }
 };
+
+}  // namespace internal
+
+// Processes, threads, tokens, mutexes: closed with CloseHandle, null when there is none.
+using OwnedKernelObject = Owned<internal::KernelObjectTraits>;
+
+// What CreateFileW opens: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
+using OwnedFile = Owned<internal::FileTraits>;
+
+// What LocalAlloc allocated, or a Windows function that leaves LocalFree to its caller; null when
+// there is none.
 template <typename Content>
-using OwnedProcessHeapMemory = Owned<ProcessHeapMemory<Content>>;
+using OwnedLocalMemory = Owned<internal::LocalMemoryTraits<Content>>;
+
+// What HeapAlloc took from the process's heap (GetProcessHeap); null when there is none.
+template <typename Content>
+using OwnedProcessHeapMemory = Owned<internal::ProcessHeapMemoryTraits<Content>>;
 
 }  // namespace kelvo

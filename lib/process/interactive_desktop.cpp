@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
-#include "lib/process/window_objects.h"
-#include "lib/security/guarded_operation.h"
+#include "lib/process/internal/window_objects.h"
+#include "lib/security/internal/guarded_operation.h"
 
 namespace kelvo {
 
@@ -33,18 +33,18 @@ bool EqualsIgnoringAsciiCase(std::wstring_view a, std::wstring_view b) {
 
 bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names) {
   if (!ReadName(station, names.station)) {
-    return StepFailed(L"RunAsUser GetUserObjectInformation On Current WinStat Failed");
+    return internal::StepFailed(L"RunAsUser GetUserObjectInformation On Current WinStat Failed");
   }
   return ReadName(desktop, names.desktop) ||
-         StepFailed(L"RunAsUser GetUserObjectInformation On Current Desktop Failed");
+         internal::StepFailed(L"RunAsUser GetUserObjectInformation On Current Desktop Failed");
 }
 
 BOOL IsOnInteractiveDesktop() {
   // Closed in the reverse of this order.
-  OwnedDesktop desktop;
-  OwnedWindowStation station;
+  internal::OwnedDesktop desktop;
+  internal::OwnedWindowStation station;
   DesktopNames names;
-  GuardedCall([&] {
+  internal::GuardedCall([&] {
     station.reset(GetProcessWindowStation());
     desktop.reset(GetThreadDesktop(GetCurrentThreadId()));
     ReadDesktopNames(station.get(), desktop.get(), names);

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "lib/platform/module.h"
-#include "lib/platform/windows_version.h"
+#include "lib/platform/internal/windows_version.h"
 #include "lib/sysinfo/windows_release.h"
 
 namespace kelvo {
@@ -56,7 +56,7 @@ bool ReadParameters(HANDLE process, ProcessParameters& parameters) {
 }  // namespace
 
 DWORD GetProcessCommandLine(HANDLE process, void* buffer, DWORD bufferBytes) {
-  const OSVERSIONINFOW version = QueryWindowsVersion();
+  const OSVERSIONINFOW version = internal::QueryWindowsVersion();
   if (IsWin7(version) || !IsWinNT(version)) {
     return 0;
   }

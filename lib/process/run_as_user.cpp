@@ -1,11 +1,11 @@
 #include "lib/process/run_as_user.h"
 
 #include "lib/platform/owned.h"
-#include "lib/process/interactive_access.h"
+#include "lib/process/internal/interactive_access.h"
 #include "lib/process/interactive_desktop.h"
-#include "lib/process/primary_token.h"
-#include "lib/process/window_objects.h"
-#include "lib/security/guarded_operation.h"
+#include "lib/process/internal/primary_token.h"
+#include "lib/process/internal/window_objects.h"
+#include "lib/security/internal/guarded_operation.h"
 #include "lib/string/format_text.h"
 
 namespace kelvo {
@@ -15,8 +15,8 @@ namespace {
 // What a call holds from its steps to its clean-up.
 struct Launch {
   bool isOnInteractiveStation = false;
-  OwnedWindowStation keptStation;
-  OwnedDesktop keptDesktop;
+  internal::OwnedWindowStation keptStation;
+  internal::OwnedDesktop keptDesktop;
   OwnedProcessHeapMemory<SECURITY_DESCRIPTOR> descriptor;
   SECURITY_ATTRIBUTES attributes{};
   WString desktopPath;
@@ -44,14 +44,14 @@ bool AllowEveryone(Launch& launch) {
   launch.descriptor.reset(static_cast<SECURITY_DESCRIPTOR*>(
       HeapAlloc(GetProcessHeap(), 0, sizeof(SECURITY_DESCRIPTOR))));
   if (!launch.descriptor) {
-    return StepFailed(L"RunAsUser HeapAlloc PSECURITY_DESCRIPTOR Failed");
+    return internal::StepFailed(L"RunAsUser HeapAlloc PSECURITY_DESCRIPTOR Failed");
   }
   if (InitializeSecurityDescriptor(launch.descriptor.get(), SECURITY_DESCRIPTOR_REVISION) ==
       FALSE) {
-    return StepFailed(L"RunAsUser InitializeSecurityDescriptor Failed");
+    return internal::StepFailed(L"RunAsUser InitializeSecurityDescriptor Failed");
   }
   if (SetSecurityDescriptorDacl(launch.descriptor.get(), TRUE, nullptr, FALSE) == FALSE) {
-    return StepFailed(L"RunAsUser SetSecurityDescriptorDacl Failed");
+    return internal::StepFailed(L"RunAsUser SetSecurityDescriptorDacl Failed");
   }
   launch.attributes = {.nLength = sizeof(launch.attributes),
                        .lpSecurityDescriptor = launch.descriptor.get(),
@@ -68,7 +68,7 @@ bool StartProcess(HANDLE token, wchar_t* commandLine, Launch& launch) {
   SetLastError(ERROR_SUCCESS);
   if (CreateProcessAsUserW(token, nullptr, commandLine, &launch.attributes, &launch.attributes,
                            FALSE, 0, nullptr, nullptr, &startup, &started) == FALSE) {
-    return StepFailed(L"RunAsUser CreateProcessAsUser Failed");
+    return internal::StepFailed(L"RunAsUser CreateProcessAsUser Failed");
   }
   launch.process.reset(started.hProcess);
   launch.thread.reset(started.hThread);
@@ -104,18 +104,18 @@ BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process) {
   const HWINSTA station = GetProcessWindowStation();
   const HDESK desktop = GetThreadDesktop(GetCurrentThreadId());
   // Stays open, by design.
-  const HANDLE token = GuardedAnswer(HANDLE{nullptr}, OpenPrimaryToken);
+  const HANDLE token = internal::GuardedAnswer(HANDLE{nullptr}, internal::OpenPrimaryToken);
   if (token == nullptr) {
-    StepFailed(L"RunAsUser OpenProcessToken On Self Failed");
+    internal::StepFailed(L"RunAsUser OpenProcessToken On Self Failed");
     return FALSE;
   }
   Launch launch;
-  return GuardedOperation(
+  return internal::GuardedOperation(
       L"RunAsUser exception caught in __finally",
       [&] {
-        return EnableStartPrivileges() && KeepPlace(station, desktop, launch) &&
+        return internal::EnableStartPrivileges() && KeepPlace(station, desktop, launch) &&
                AllowEveryone(launch) &&
-               (launch.isOnInteractiveStation || MoveToInteractiveStation(token)) &&
+               (launch.isOnInteractiveStation || internal::MoveToInteractiveStation(token)) &&
                StartProcess(token, commandLine, launch);
       },
       [&] { CleanUp(launch, wait, process); });

@@ -19,12 +19,18 @@ namespace kelvo {
 // KEY_WOW64_32KEY before other threads use the registry.
 extern REGSAM RegistryAccessFlags;
 
-struct RegistryKey {
+namespace internal {
+
+struct RegistryKeyTraits {
   using Handle = HKEY;
   static Handle None() { return nullptr; }
   static void Close(Handle handle) { RegCloseKey(handle); }
 };
-using OwnedRegistryKey = Owned<RegistryKey>;
+
+}  // namespace internal
+
+// A key that this process opened, closed with RegCloseKey; null when there is none.
+using OwnedRegistryKey = Owned<internal::RegistryKeyTraits>;
 
 // Opens a key that exists (RegOpenKeyExW with `access` | RegistryAccessFlags); a null or empty
 // `subkey` opens `root` itself. On failure `key` owns nothing.

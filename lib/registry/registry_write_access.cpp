@@ -1,7 +1,7 @@
 #include "lib/registry/registry_write_access.h"
 
-#include "lib/platform/process_elevation.h"
-#include "lib/platform/windows_version.h"
+#include "lib/platform/internal/process_elevation.h"
+#include "lib/platform/internal/windows_version.h"
 #include "lib/registry/registry_key.h"
 #include "lib/registry/registry_number.h"
 
@@ -9,7 +9,8 @@ namespace kelvo {
 
 int RegistryCanWrite(HKEY root, const wchar_t* subkey) {
   constexpr const wchar_t* kProbe = L"RegCheck";
-  if (IsNtAtLeast(QueryWindowsVersion(), 6, 0) && !IsProcessElevated()) {
+  if (internal::IsNtAtLeast(internal::QueryWindowsVersion(), 6, 0) &&
+      !internal::IsProcessElevated()) {
     return 1;
   }
   if (RegistryWriteDword(root, subkey, kProbe, 1) != ERROR_SUCCESS) {

@@ -4,8 +4,8 @@
 #include <cstring>
 
 #include "lib/platform/owned.h"
-#include "lib/security/ace_view.h"
-#include "lib/security/guarded_operation.h"
+#include "lib/security/internal/ace_view.h"
+#include "lib/security/internal/guarded_operation.h"
 
 namespace kelvo {
 
@@ -18,10 +18,10 @@ bool MakeAce(BYTE type, BYTE flags, ACCESS_MASK mask, PSID sid,
   const DWORD sidLength = GetLengthSid(sid);
   ace.reset(static_cast<ACCESS_ALLOWED_ACE*>(LocalAlloc(LPTR, kSidOffset + sidLength)));
   if (!ace) {
-    return StepFailed(L"AllocateACE LocalAlloc Failed");
+    return internal::StepFailed(L"AllocateACE LocalAlloc Failed");
   }
   if (CopySid(sidLength, &ace.get()->SidStart, sid) == FALSE) {
-    return StepFailed(L"AllocateACE CopySid Failed");
+    return internal::StepFailed(L"AllocateACE CopySid Failed");
   }
   ace.get()->Header = {
       .AceType = type, .AceFlags = flags, .AceSize = static_cast<WORD>(kSidOffset + sidLength)};
@@ -33,17 +33,18 @@ bool MakeAce(BYTE type, BYTE flags, ACCESS_MASK mask, PSID sid,
 
 ACCESS_ALLOWED_ACE* AllocateACE(BYTE type, BYTE flags, ACCESS_MASK mask, PSID sid) {
   OwnedLocalMemory<ACCESS_ALLOWED_ACE> ace;
-  const bool made = GuardedAnswer(false, [&] { return MakeAce(type, flags, mask, sid, ace); });
+  const bool made =
+      internal::GuardedAnswer(false, [&] { return MakeAce(type, flags, mask, sid, ace); });
   return made ? ace.release() : nullptr;
 }
 
 BOOL EqualACE(const ACCESS_ALLOWED_ACE* a, const ACCESS_ALLOWED_ACE* b) {
-  return GuardedAnswer(FALSE, [&]() -> BOOL {
+  return internal::GuardedAnswer(FALSE, [&]() -> BOOL {
     if (a->Header.AceType != b->Header.AceType) {
       return FALSE;
     }
-    const PSID sidOfA = SidOfAce(a);
-    const PSID sidOfB = SidOfAce(b);
+    const PSID sidOfA = internal::SidOfAce(a);
+    const PSID sidOfB = internal::SidOfAce(b);
     if (sidOfA == nullptr || sidOfB == nullptr || std::memcmp(a, b, kSidOffset) != 0) {
       return FALSE;
     }

@@ -3,8 +3,8 @@
 #include <array>
 
 #include "lib/security/access_control_list.h"
-#include "lib/security/ace_view.h"
-#include "lib/security/guarded_operation.h"
+#include "lib/security/internal/ace_view.h"
+#include "lib/security/internal/guarded_operation.h"
 
 namespace kelvo {
 
@@ -13,24 +13,24 @@ namespace {
 DWORD FindInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace) {
   const std::optional<DWORD> rank = CanonicalRank(ace->Header);
   if (!rank) {
-    StepFailed(L"GetACEInsertionIndex Bad Ace Type");
+    internal::StepFailed(L"GetACEInsertionIndex Bad Ace Type");
     return kNoAceIndex;
   }
   ACL_SIZE_INFORMATION size{};
-  if (!QueryAclSize(acl, size)) {
-    StepFailed(L"GetACEInsertionIndex GetAclInformation Failed");
+  if (!internal::QueryAclSize(acl, size)) {
+    internal::StepFailed(L"GetACEInsertionIndex GetAclInformation Failed");
     return kNoAceIndex;
   }
   DWORD index = 0;
   for (; index < size.AceCount; ++index) {
-    const ACCESS_ALLOWED_ACE* const present = AceAt(acl, index);
+    const ACCESS_ALLOWED_ACE* const present = internal::AceAt(acl, index);
     if (present == nullptr) {
-      StepFailed(L"GetACEInsertionIndex GetAce Failed");
+      internal::StepFailed(L"GetACEInsertionIndex GetAce Failed");
       return index;
     }
     const std::optional<DWORD> presentRank = CanonicalRank(present->Header);
     if (!presentRank) {
-      StepFailed(L"GetACEInsertionIndex Bad Src Ace Type");
+      internal::StepFailed(L"GetACEInsertionIndex Bad Src Ace Type");
       return kNoAceIndex;
     }
     // In front of its equals, not behind them.
@@ -57,7 +57,7 @@ std::optional<DWORD> CanonicalRank(const ACE_HEADER& ace) {
 }
 
 DWORD GetACEInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace) {
-  return GuardedAnswer(kNoAceIndex, [&] { return FindInsertionIndex(acl, ace); });
+  return internal::GuardedAnswer(kNoAceIndex, [&] { return FindInsertionIndex(acl, ace); });
 }
 
 }  // namespace kelvo

@@ -3,8 +3,8 @@
 #include <aclapi.h>
 
 #include "lib/platform/owned.h"
-#include "lib/security/ace_view.h"
-#include "lib/security/guarded_operation.h"
+#include "lib/security/internal/ace_view.h"
+#include "lib/security/internal/guarded_operation.h"
 
 namespace kelvo {
 
@@ -19,11 +19,11 @@ bool IsDeny(const ACCESS_ALLOWED_ACE& ace) {
 // that GetAce refuses.
 bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
   for (DWORD index = aceCount - 1; index > 0; --index) {
-    const ACCESS_ALLOWED_ACE* const ace = AceAt(dacl, index);
+    const ACCESS_ALLOWED_ACE* const ace = internal::AceAt(dacl, index);
     const bool isDeny = ace != nullptr && IsDeny(*ace);
-    const PSID denied = isDeny ? SidOfAce(ace) : nullptr;
+    const PSID denied = isDeny ? internal::SidOfAce(ace) : nullptr;
     if (ace == nullptr || (isDeny && denied == nullptr)) {
-      return StepFailed(L"DeleteDenyACEofObject GetAce Failed");
+      return internal::StepFailed(L"DeleteDenyACEofObject GetAce Failed");
     }
     if (isDeny && EqualSid(denied, sid) != FALSE) {
       DeleteAce(dacl, index);
@@ -37,14 +37,14 @@ bool DeleteDenyAcesOfObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type,
   ACL* dacl = nullptr;
   if (GetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr, &dacl, nullptr,
                       descriptor.Receive()) != ERROR_SUCCESS) {
-    return StepFailed(L"DeleteDenyACEofObject GetSecurityInfo Failed");
+    return internal::StepFailed(L"DeleteDenyACEofObject GetSecurityInfo Failed");
   }
   if (dacl == nullptr) {
     return true;
   }
   ACL_SIZE_INFORMATION size{};
-  if (!QueryAclSize(dacl, size)) {
-    return StepFailed(L"DeleteDenyACEofObject GetAclInformation Failed");
+  if (!internal::QueryAclSize(dacl, size)) {
+    return internal::StepFailed(L"DeleteDenyACEofObject GetAclInformation Failed");
   }
   if (!DeleteDenyAces(sid, dacl, size.AceCount)) {
     return false;
@@ -52,14 +52,14 @@ bool DeleteDenyAcesOfObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type,
   // Also when nothing was deleted. The text names GetAce, although it is the write that failed.
   return SetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr, dacl,
                          nullptr) == ERROR_SUCCESS ||
-         StepFailed(L"DeleteDenyACEofObject SetSecurityInfo GetAce Failed");
+         internal::StepFailed(L"DeleteDenyACEofObject SetSecurityInfo GetAce Failed");
 }
 
 }  // namespace
 
 BOOL DeleteDenyACEofObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type) {
   OwnedLocalMemory<void> descriptor;
-  return GuardedOperation(
+  return internal::GuardedOperation(
       L"DeleteDenyACEofObject exception caught in __finally",
       [&] { return DeleteDenyAcesOfObject(sid, object, type, descriptor); },
       [&] { descriptor.reset(); });

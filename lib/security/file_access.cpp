@@ -7,8 +7,8 @@
 
 #include "lib/platform/module.h"
 #include "lib/platform/owned.h"
-#include "lib/security/ace_replacement.h"
-#include "lib/security/ace_view.h"
+#include "lib/security/internal/ace_replacement.h"
+#include "lib/security/internal/ace_view.h"
 
 namespace kelvo {
 
@@ -51,18 +51,18 @@ bool FindDacl(PSECURITY_DESCRIPTOR descriptor, ACL*& dacl, ACL_SIZE_INFORMATION&
     dacl = nullptr;
   }
   size = {.AceCount = 0, .AclBytesInUse = sizeof(ACL), .AclBytesFree = 0};
-  return dacl == nullptr || Succeeded(QueryAclSize(dacl, size) ? TRUE : FALSE,
+  return dacl == nullptr || Succeeded(internal::QueryAclSize(dacl, size) ? TRUE : FALSE,
                                       L"GetAclInformation() failed. Error %d\n");
 }
 
 bool ReadAces(ACL* dacl, DWORD count, PSID account, std::vector<ACCESS_ALLOWED_ACE*>& aces,
-              std::vector<AceFacts>& facts) {
+              std::vector<internal::AceFacts>& facts) {
   for (DWORD index = 0; index < count; ++index) {
-    ACCESS_ALLOWED_ACE* const ace = AceAt(dacl, index);
+    ACCESS_ALLOWED_ACE* const ace = internal::AceAt(dacl, index);
     if (!Succeeded(ace != nullptr ? TRUE : FALSE, L"GetAce() failed. Error %d\n")) {
       return false;
     }
-    const PSID owner = SidOfAce(ace);
+    const PSID owner = internal::SidOfAce(ace);
     aces.push_back(ace);
     facts.push_back({.isInherited = (ace->Header.AceFlags & INHERITED_ACE) != 0,
                      .isOfAccount = owner != nullptr && EqualSid(owner, account) != FALSE});
@@ -73,13 +73,13 @@ bool ReadAces(ACL* dacl, DWORD count, PSID account, std::vector<ACCESS_ALLOWED_A
 // Fills an initialized list with the entries of an old one, which may be null, and the new entry.
 bool FillDacl(ACL* oldDacl, DWORD count, PSID account, DWORD accessMask, ACL* newDacl) {
   std::vector<ACCESS_ALLOWED_ACE*> aces;
-  std::vector<AceFacts> facts;
+  std::vector<internal::AceFacts> facts;
   if (!ReadAces(oldDacl, count, account, aces, facts)) {
     return false;
   }
-  for (const DWORD index : ReplaceAcesOfAccount(facts)) {
+  for (const DWORD index : internal::ReplaceAcesOfAccount(facts)) {
     const bool added =
-        index == kAddedAce
+        index == internal::kAddedAce
             ? Succeeded(AddAccessAllowedAce(newDacl, ACL_REVISION, accessMask, account),
                         L"AddAccessAllowedAce() failed. Error %d\n")
             : Succeeded(

@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "lib/security/guarded_operation.h"
+#include "lib/security/internal/guarded_operation.h"
 
 namespace kelvo {
 
@@ -23,28 +23,28 @@ bool ReadDescriptor(HANDLE object, Buffers& buffers) {
   DWORD size = 0;
   if (GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, nullptr, 0, &size) != FALSE ||
       GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
-    return StepFailed(L"ModifySecurity GetKernelObjectSecurity Size Failed");
+    return internal::StepFailed(L"ModifySecurity GetKernelObjectSecurity Size Failed");
   }
   buffers.oldDescriptor = LocalAlloc(LPTR, size);
   if (buffers.oldDescriptor == nullptr) {
-    return StepFailed(L"ModifySecurity LocalAlloc Failed");
+    return internal::StepFailed(L"ModifySecurity LocalAlloc Failed");
   }
   return GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, buffers.oldDescriptor, size,
                                  &size) != FALSE ||
-         StepFailed(L"ModifySecurity GetKernelObjectSecurity Failed");
+         internal::StepFailed(L"ModifySecurity GetKernelObjectSecurity Failed");
 }
 
 bool AddCurrentUser(ACL* oldDacl, DWORD mask, ACL*& newDacl) {
   std::array<wchar_t, 1024> user{};
   auto length = static_cast<DWORD>(user.size());
   if (GetUserNameW(user.data(), &length) == FALSE) {
-    return StepFailed(L"ModifySecurity GetUserName Failed");
+    return internal::StepFailed(L"ModifySecurity GetUserName Failed");
   }
   EXPLICIT_ACCESSW access{};
   BuildExplicitAccessWithNameW(&access, user.data(), mask, GRANT_ACCESS, NO_INHERITANCE);
   access.Trustee.TrusteeType = TRUSTEE_IS_USER;
   return SetEntriesInAclW(1, &access, oldDacl, &newDacl) == ERROR_SUCCESS ||
-         StepFailed(L"ModifySecurity SetEntriesInAcl Failed");
+         internal::StepFailed(L"ModifySecurity SetEntriesInAcl Failed");
 }
 
 bool MakeAbsolute(Buffers& buffers) {
@@ -60,7 +60,7 @@ bool MakeAbsolute(Buffers& buffers) {
                           buffers.group, &groupSize) != FALSE;
   };
   if (convert() || GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
-    return StepFailed(L"ModifySecurity MakeAbsoluteSD Size Failed");
+    return internal::StepFailed(L"ModifySecurity MakeAbsoluteSD Size Failed");
   }
   buffers.descriptor = LocalAlloc(LPTR, descriptorSize);
   buffers.dacl = LocalAlloc(LPTR, daclSize);
@@ -70,9 +70,9 @@ bool MakeAbsolute(Buffers& buffers) {
   if (buffers.descriptor == nullptr || buffers.dacl == nullptr || buffers.sacl == nullptr ||
       buffers.owner == nullptr || buffers.group == nullptr) {
     // The text speaks of a SID, but it is memory that is short.
-    return StepFailed(L"ModifySecurity Invalid SID Found");
+    return internal::StepFailed(L"ModifySecurity Invalid SID Found");
   }
-  return convert() || StepFailed(L"ModifySecurity MakeAbsoluteSD Failed");
+  return convert() || internal::StepFailed(L"ModifySecurity MakeAbsoluteSD Failed");
 }
 
 bool GrantToCurrentUser(HANDLE object, DWORD mask, Buffers& buffers) {
@@ -84,16 +84,16 @@ bool GrantToCurrentUser(HANDLE object, DWORD mask, Buffers& buffers) {
     return false;
   }
   if (GetSecurityDescriptorDacl(buffers.oldDescriptor, &present, &oldDacl, &defaulted) == FALSE) {
-    return StepFailed(L"ModifySecurity GetSecurityDescriptorDacl Failed");
+    return internal::StepFailed(L"ModifySecurity GetSecurityDescriptorDacl Failed");
   }
   if (!AddCurrentUser(oldDacl, mask, newDacl) || !MakeAbsolute(buffers)) {
     return false;
   }
   if (SetSecurityDescriptorDacl(buffers.descriptor, present, newDacl, defaulted) == FALSE) {
-    return StepFailed(L"ModifySecurity SetSecurityDescriptorDacl Failed");
+    return internal::StepFailed(L"ModifySecurity SetSecurityDescriptorDacl Failed");
   }
   return SetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, buffers.descriptor) != FALSE ||
-         StepFailed(L"ModifySecurity SetKernelObjectSecurity Failed");
+         internal::StepFailed(L"ModifySecurity SetKernelObjectSecurity Failed");
 }
 
 // The wrong way round, and kept so: only buffers that are not there are freed, so none is.
@@ -110,11 +110,11 @@ void Release(const Buffers& buffers) {
 
 BOOL ModifySecurity(HANDLE object, DWORD mask) {
   Buffers buffers;
-  return GuardedOperation(
+  return internal::GuardedOperation(
       L"ModifySecurity exception caught in __finally",
       [&] {
         // What becomes of the steps does not change the answer, so the message above is never due.
-        GuardedCall([&] { GrantToCurrentUser(object, mask, buffers); });
+        internal::GuardedCall([&] { GrantToCurrentUser(object, mask, buffers); });
         return true;
       },
       [&] { Release(buffers); });

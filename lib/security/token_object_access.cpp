@@ -5,7 +5,7 @@
 
 #include "lib/platform/owned.h"
 #include "lib/security/deny_ace_removal.h"
-#include "lib/security/guarded_operation.h"
+#include "lib/security/internal/guarded_operation.h"
 #include "lib/security/window_object_access.h"
 
 namespace kelvo {
@@ -24,10 +24,10 @@ bool Read(HANDLE token, TOKEN_INFORMATION_CLASS kind, const wchar_t* failure,
   GetTokenInformation(token, kind, nullptr, 0, &size);
   information.reset(static_cast<Information*>(LocalAlloc(LPTR, size)));
   if (!information) {
-    return StepFailed(L"AllowTokenFullAccessToObject LocalAlloc Failed");
+    return internal::StepFailed(L"AllowTokenFullAccessToObject LocalAlloc Failed");
   }
   return GetTokenInformation(token, kind, information.get(), size, &size) != FALSE ||
-         StepFailed(failure);
+         internal::StepFailed(failure);
 }
 
 bool DeleteDenyAcesOfUser(HANDLE token, HANDLE object, SE_OBJECT_TYPE type, TokenHolders& holders) {
@@ -36,7 +36,7 @@ bool DeleteDenyAcesOfUser(HANDLE token, HANDLE object, SE_OBJECT_TYPE type, Toke
     return false;
   }
   return DeleteDenyACEofObject(holders.user.get()->User.Sid, object, type) != FALSE ||
-         StepFailed(L"AllowTokenFullAccessToObject DeleteDenyACEofObject User Failed");
+         internal::StepFailed(L"AllowTokenFullAccessToObject DeleteDenyACEofObject User Failed");
 }
 
 bool DeleteDenyAcesOfGroups(HANDLE token, HANDLE object, SE_OBJECT_TYPE type,
@@ -48,7 +48,8 @@ bool DeleteDenyAcesOfGroups(HANDLE token, HANDLE object, SE_OBJECT_TYPE type,
   const TOKEN_GROUPS& groups = *holders.groups.get();
   for (DWORD index = 0; index < groups.GroupCount; ++index) {
     if (DeleteDenyACEofObject(groups.Groups[index].Sid, object, type) == FALSE) {
-      return StepFailed(L"AllowTokenFullAccessToObject DeleteDenyACEofObject Groups Failed");
+      return internal::StepFailed(
+          L"AllowTokenFullAccessToObject DeleteDenyACEofObject Groups Failed");
     }
   }
   return true;
@@ -67,10 +68,10 @@ bool NamesDesktop(const wchar_t* typeName) {
 bool AllowUser(PSID user, HANDLE object, const wchar_t* typeName) {
   if (NamesDesktop(typeName)) {
     return AllowAccessToDesktop(user, static_cast<HDESK>(object)) != FALSE ||
-           StepFailed(L"AllowTokenFullAccessToObject AllowAccessToDesktop Failed");
+           internal::StepFailed(L"AllowTokenFullAccessToObject AllowAccessToDesktop Failed");
   }
   return AllowAccessToWinSta(user, static_cast<HWINSTA>(object)) != FALSE ||
-         StepFailed(L"AllowTokenFullAccessToObject AllowAccessToWinSta Failed");
+         internal::StepFailed(L"AllowTokenFullAccessToObject AllowAccessToWinSta Failed");
 }
 
 }  // namespace
@@ -81,7 +82,7 @@ BOOL AllowTokenFullAccessToObject(HANDLE token, HANDLE object, SE_OBJECT_TYPE ty
     return FALSE;
   }
   TokenHolders holders;
-  return GuardedOperation(
+  return internal::GuardedOperation(
       L"AllowTokenFullAccessToObject exception caught in __finally",
       [&] {
         if (!DeleteDenyAcesOfUser(token, object, type, holders) ||
@@ -89,7 +90,7 @@ BOOL AllowTokenFullAccessToObject(HANDLE token, HANDLE object, SE_OBJECT_TYPE ty
           return false;
         }
         if (type != SE_WINDOW_OBJECT) {
-          return StepFailed(L"AllowTokenFullAccessToObject Wrong Object");
+          return internal::StepFailed(L"AllowTokenFullAccessToObject Wrong Object");
         }
         return AllowUser(holders.user.get()->User.Sid, object, typeName);
       },

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "lib/platform/owned.h"
-#include "lib/security/guarded_operation.h"
+#include "lib/security/internal/guarded_operation.h"
 
 namespace kelvo {
 
@@ -101,7 +101,7 @@ bool MakePrivileges(const wchar_t* const* names, DWORD* known, OwnedPrivileges& 
 
 BOOL EnablePrivilege(const wchar_t* name, BOOL enable) {
   OwnedKernelObject token;
-  return GuardedAnswer(FALSE, [&]() -> BOOL {
+  return internal::GuardedAnswer(FALSE, [&]() -> BOOL {
     TOKEN_PRIVILEGES privileges{};
     privileges.PrivilegeCount = 1;
     privileges.Privileges[0].Attributes = enable != FALSE ? SE_PRIVILEGE_ENABLED : 0;
@@ -117,7 +117,7 @@ BOOL EnablePrivilege(const wchar_t* name, BOOL enable) {
 TOKEN_PRIVILEGES* CreateTokenPriv(DWORD* count, const wchar_t* const* names, BOOL useBuiltIn) {
   OwnedPrivileges all;
   OwnedPrivileges result;
-  const BOOL made = GuardedOperation(
+  const BOOL made = internal::GuardedOperation(
       L"CreateTokenPriv exception caught in __finally",
       [&] {
         return MakePrivileges(useBuiltIn != FALSE ? kBuiltInPrivileges : names, count, all, result);

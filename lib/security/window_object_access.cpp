@@ -9,7 +9,7 @@
 #include "lib/security/access_control_entry.h"
 #include "lib/security/access_control_list.h"
 #include "lib/security/canonical_order.h"
-#include "lib/security/guarded_operation.h"
+#include "lib/security/internal/guarded_operation.h"
 
 namespace kelvo {
 
@@ -53,15 +53,15 @@ constexpr std::size_t kStackSize = 1024 - 16;
 bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,
               DWORD size) {
   if (InitializeAcl(built, size, ACL_REVISION) == FALSE) {
-    return StepFailed(kind.initializeFailed);
+    return internal::StepFailed(kind.initializeFailed);
   }
   if (CopyACL(built, dacl) == FALSE) {
-    return StepFailed(kind.copyFailed);
+    return internal::StepFailed(kind.copyFailed);
   }
   // An entry for which no index is found goes to the end: kNoAceIndex is MAXDWORD.
   return AddAce(built, ACL_REVISION, GetACEInsertionIndex(built, ace), ace, ace->Header.AceSize) !=
              FALSE ||
-         StepFailed(kind.addFailed);
+         internal::StepFailed(kind.addFailed);
 }
 
 bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
@@ -72,7 +72,7 @@ bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
   void* const scratch =
       size <= stack.size() ? stack.data() : HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, size);
   if (scratch == nullptr) {
-    return StepFailed(kind.allocationFailed);
+    return internal::StepFailed(kind.allocationFailed);
   }
   auto* const built = static_cast<ACL*>(scratch);
   if (!BuildAcl(kind, dacl, ace, built, size)) {
@@ -80,7 +80,7 @@ bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
   }
   return SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
                          built, nullptr) == ERROR_SUCCESS ||
-         StepFailed(kind.writeFailed);
+         internal::StepFailed(kind.writeFailed);
 }
 
 bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
@@ -88,7 +88,7 @@ bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
   ACL* dacl = nullptr;
   if (GetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &dacl,
                       nullptr, descriptor.Receive()) != ERROR_SUCCESS) {
-    return StepFailed(kind.readFailed);
+    return internal::StepFailed(kind.readFailed);
   }
   // Never freed.
   ACCESS_ALLOWED_ACE* const ace = AllocateACE(ACCESS_ALLOWED_ACE_TYPE, 0, kind.mask, sid);
@@ -102,7 +102,7 @@ bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
 
 BOOL AllowAccess(const WindowObjectKind& kind, PSID sid, HANDLE object) {
   OwnedLocalMemory<void> descriptor;
-  return GuardedOperation(
+  return internal::GuardedOperation(
       kind.cleanUp, [&] { return AllowInDacl(kind, sid, object, descriptor); },
       [&] { descriptor.reset(); });
 }

@@ -5,17 +5,18 @@
 #include <compare>
 
 #include "lib/string/wstring.h"
-#include "lib/sysinfo/fixed_file_version.h"
+#include "lib/sysinfo/internal/fixed_file_version.h"
 #include "lib/sysinfo/system_directories.h"
 
 namespace kelvo {
 
 int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int revision) {
-  FixedFileVersion version = ReadFixedFileVersion(path);
+  internal::FixedFileVersion version = internal::ReadFixedFileVersion(path);
   if (version.block == nullptr) {
     return 2;
   }
-  const auto order = version.Numbers() <=> FileVersionNumbers{major, minor, build, revision};
+  const auto order =
+      version.Numbers() <=> internal::FileVersionNumbers{major, minor, build, revision};
   if (order < 0) {
     return -1;
   }
@@ -25,7 +26,7 @@ int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int
 }
 
 bool GetFileVersionString(wchar_t* text, const wchar_t* path) {
-  const FixedFileVersion version = ReadFixedFileVersion(path);
+  const internal::FixedFileVersion version = internal::ReadFixedFileVersion(path);
   if (version.block == nullptr) {
     lstrcpyW(text, L"not available");
     return false;

@@ -1,23 +1,23 @@
 #include "lib/sysinfo/system_version_string.h"
 
-#include "lib/platform/guarded_call.h"
-#include "lib/sysinfo/system_description.h"
-#include "lib/sysinfo/system_facts.h"
+#include "lib/platform/internal/guarded_call.h"
+#include "lib/sysinfo/internal/system_description.h"
+#include "lib/sysinfo/internal/system_facts.h"
 
 namespace kelvo {
 
 WString GetSystemVersionString() {
-  SystemFacts facts;
-  const bool asked = GuardedCall([&] { facts = AskSystemFacts(); });
-  return asked ? DescribeSystem(facts) : WString(kDescriptionCutShort);
+  internal::SystemFacts facts;
+  const bool asked = internal::GuardedCall([&] { facts = internal::AskSystemFacts(); });
+  return asked ? internal::DescribeSystem(facts) : WString(internal::kDescriptionCutShort);
 }
 
 WString GetSystemVersionNumbers() {
   WString numbers;
-  const bool completed = GuardedCall([&] {
+  const bool completed = internal::GuardedCall([&] {
     OSVERSIONINFOEXW version{};
-    if (QueryVersionRecord(version) != VersionRecord::kNone) {
-      numbers = FormatVersionNumbers(version);
+    if (internal::QueryVersionRecord(version) != internal::VersionRecord::kNone) {
+      numbers = internal::FormatVersionNumbers(version);
     }
   });
   return completed && !numbers.empty() ? numbers : WString(L"0.0.0.0");

@@ -1,6 +1,6 @@
 #include "lib/sysinfo/vista_elevation.h"
 
-#include "lib/platform/process_elevation.h"
+#include "lib/platform/internal/process_elevation.h"
 #include "lib/sysinfo/windows_release.h"
 
 namespace kelvo {
@@ -14,10 +14,10 @@ bool HasElevationType(TOKEN_ELEVATION_TYPE wanted) {
 
 }  // namespace
 
-bool IsVistaProcessElevated() { return IsWinVista() && IsProcessElevated(); }
+bool IsVistaProcessElevated() { return IsWinVista() && internal::IsProcessElevated(); }
 
 bool GetVistaProcessElevationType(TOKEN_ELEVATION_TYPE& type) {
-  return IsWinVista() && ReadProcessElevationType(type);
+  return IsWinVista() && internal::ReadProcessElevationType(type);
 }
 
 bool IsVistaProcessElevationTypeDefault() { return HasElevationType(TokenElevationTypeDefault); }

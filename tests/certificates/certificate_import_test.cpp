@@ -5,6 +5,7 @@
 #include <set>
 
 #include "tests/support/certificate_store.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a certificate goes in once; all is closed but the store of an unreadable file") {
   // A file, whether adding is let through, the answer, handles left open.
@@ -14,7 +15,8 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
                                    Row(L"missing.cer", TRUE, ERROR_SHARING_VIOLATION, 1)});
   EmptyStores();
   for (const auto& [file, adds, result, leftOpen] : rows) {
-    CAPTURE(file, adds);
+    CAPTURE(file);
+    CAPTURE(adds);
     std::multiset<const void*> open;
     REPLACE(CertOpenStore, [&](auto original, LPCSTR provider, DWORD encoding, auto unused,
                                DWORD flags, const void* name) {

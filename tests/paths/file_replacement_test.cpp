@@ -1,6 +1,7 @@
 #include "lib/paths/file_replacement.h"
 
 #include "lib/paths/file_exists.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT.INI") {
   const ScratchFolder folder;

@@ -1,6 +1,7 @@
 #include "lib/paths/local_server_path.h"
 
 #include "lib/registry/registry_string.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a local server is the file that its class registers") {
   const ScratchFolder folder;

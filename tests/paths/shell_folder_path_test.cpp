@@ -1,6 +1,7 @@
 #include "lib/paths/shell_folder_path.h"
 
 #include "lib/registry/registry_string.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a shell folder comes from the first place that has one, else from the module") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);

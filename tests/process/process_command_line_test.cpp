@@ -2,6 +2,8 @@
 
 #include <winternl.h>
 
+#include "tests/support/testing.h"
+
 TEST_CASE("a command line is read where a process of an old NT has it") {
   static const void* block[6] = {};
   const void* parameters[30] = {};
@@ -18,7 +20,10 @@ TEST_CASE("a command line is read where a process of an old NT has it") {
       {2, 0, find, 1, 16, 0},  {2, 0, find, 0, 16, 0},   {2, 1, find, 3, 16, 0},
       {1, 0, find, 3, 16, 0},  {2, 0, nullptr, 3, 16, 0}};
   for (const auto& [platform, minor, query, good, size, answer] : rows) {
-    CAPTURE(platform, minor, good, size);
+    CAPTURE(platform);
+    CAPTURE(minor);
+    CAPTURE(good);
+    CAPTURE(size);
     const auto windows = PretendWindows(platform, 6, minor);
     std::vector<SIZE_T> reads;
     REPLACE(ReadProcessMemory,

@@ -1,6 +1,7 @@
 #include "lib/process/process_readiness.h"
 
 #include "lib/process/waiting_messages.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the time-out") {
   const std::wstring child = ProgramPath(L"test_child.exe");

@@ -2,6 +2,7 @@
 #include "lib/process/run_as_user.h"
 #include "lib/process/session_process.h"
 #include "tests/support/desktop_scope.h"
+#include "tests/support/testing.h"
 
 static std::string calls;
 

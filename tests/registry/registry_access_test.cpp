@@ -4,6 +4,7 @@
 #include "lib/registry/registry_string.h"
 #include "lib/registry/registry_value.h"
 #include "lib/registry/registry_write_access.h"
+#include "tests/support/testing.h"
 
 HKEY const kRoot = HKEY_CURRENT_USER;
 
@@ -45,7 +46,9 @@ TEST_CASE("write access is probed where a write would be real") {
   const DWORD rows[][5] = {
       {5, 0, 1, 0, 1}, {5, 0, 0, 1, 1}, {6, 1, 1, 0, 1}, {6, 1, 0, 1, 1}, {6, 0, 1, 1, 0}};
   for (const auto& [major, elevated, isWritable, answer, tries] : rows) {
-    CAPTURE(major, elevated, isWritable);
+    CAPTURE(major);
+    CAPTURE(elevated);
+    CAPTURE(isWritable);
     const ScratchKey key;
     DWORD tried = 0;
     const auto windows = PretendWindows(2, major, 0);

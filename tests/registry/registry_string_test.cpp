@@ -1,5 +1,7 @@
 #include "lib/registry/registry_string.h"
 
+#include "tests/support/testing.h"
+
 using namespace std::string_literals;
 
 static std::wstring Expanded(const wchar_t* text) {
@@ -45,7 +47,8 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
   const ScratchKey key;
   for (const auto& [type, stored, length, expected] : rows) {
     StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored);
-    CAPTURE(stored, length);
+    CAPTURE(stored);
+    CAPTURE(length);
     std::wstring buffer(length + 1, L'!');
     CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", buffer.data(),
                                    length) == expected.length());

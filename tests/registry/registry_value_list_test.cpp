@@ -1,5 +1,7 @@
 #include "lib/registry/registry_value_list.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("the values of a key are listed by name and text") {
   using namespace std::string_literals;
   const std::wstring all(16383, L'x');

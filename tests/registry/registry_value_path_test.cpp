@@ -1,5 +1,7 @@
 #include "lib/registry/registry_value_path.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("a full value path is split into root, key path and value name") {
   // A path without both parts is refused; without two separators it leaves the texts alone.
   const std::tuple<const wchar_t*, bool, HKEY, WString, WString> rows[] = {

@@ -3,6 +3,7 @@
 #include "lib/registry/registry_binary.h"
 #include "lib/registry/registry_key.h"
 #include "lib/registry/registry_number.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("numbers and bytes are read as written, a value is deleted and its key stays") {
   const ScratchKey scratch;

@@ -1,5 +1,7 @@
 #include "lib/registry/registry_view.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("reflection is switched where Windows has the function, a view has its access bit") {
   const auto succeed = +[](HKEY key) { return key == HKEY_USERS ? 0L : 6L; };
   const auto fail = +[](HKEY) { return 5L; };

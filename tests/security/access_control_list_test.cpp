@@ -9,6 +9,7 @@
 #include "lib/security/deny_ace_removal.h"
 #include "lib/trace/trace_sink.h"
 #include "tests/security/test_acl.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("the last of equal entries is found, copies keep all, sizes count all") {
   TestAce wanted{.flags = 2, .mask = 7};
@@ -42,7 +43,8 @@ TEST_CASE("a new entry goes in front of the first of its own rank and keeps the 
     return CanonicalRank({a.type, a.flags, 0}) < CanonicalRank({b.type, b.flags, 0});
   };
   for (int round = 0; round < 100; ++round) {
-    CAPTURE(kSeed, round);
+    CAPTURE(kSeed);
+    CAPTURE(round);
     std::vector<TestAce> aces(random() % 30);
     std::generate(aces.begin(), aces.end(), randomAce);
     std::sort(aces.begin(), aces.end(), inOrder);

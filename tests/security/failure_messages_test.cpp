@@ -16,6 +16,7 @@
 #include "lib/trace/trace_sink.h"
 #include "tests/security/test_acl.h"
 #include "tests/support/desktop_scope.h"
+#include "tests/support/testing.h"
 
 constexpr Failing kFailing[] = {
     FAILING(OpenProcessToken), FAILING(GetTokenInformation), FAILING(AdjustTokenPrivileges),

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "tests/security/test_acl.h"
+#include "tests/support/testing.h"
 
 // Lets administrators into a file whose access list, as text, is `list`, and returns what that
 // printed. Not a real file: Wine keeps only the mode bits of a list.

@@ -6,6 +6,7 @@
 #include "lib/security/token_privileges.h"
 #include "tests/security/test_acl.h"
 #include "tests/support/desktop_scope.h"
+#include "tests/support/testing.h"
 
 static TestAce localService;
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";

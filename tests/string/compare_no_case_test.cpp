@@ -2,6 +2,8 @@
 
 #include <clocale>
 
+#include "tests/support/testing.h"
+
 TEST_CASE("texts are compared by their lower-case units") {
   // Below U+0100 only A to Z are folded; above, whatever the system maps to one unit.
   using Row = std::tuple<const wchar_t*, const wchar_t*, int>;
@@ -12,7 +14,8 @@ TEST_CASE("texts are compared by their lower-case units") {
                      Row(L"\uFFFF", L"\uFFFE", 1), Row(L"", L"", 0), Row(L"\u0416", L"\u0436", 0),
                      Row(L"\uFFFF", L"a", 0xFFFF - L'a')});
   for (const auto& [a, b, difference] : rows) {
-    CAPTURE(a, b);
+    CAPTURE(a);
+    CAPTURE(b);
     CHECK(CompareNoCase(a, b) == difference);
   }
   REQUIRE(std::setlocale(LC_CTYPE, "") != nullptr);

@@ -1,5 +1,7 @@
 #include "lib/string/string_tokenizer.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("a text is split at the whole delimiter, in time that grows with its length") {
   std::wstring list, listed;
   for (int i = 0; i < 100'000; ++i) {
@@ -18,7 +20,9 @@ TEST_CASE("a text is split at the whole delimiter, in time that grows with its l
        Row(run, L";", true, L""), Row(run, L";", false, std::wstring(1'000'000, L'|')),
        Row(list, L";", true, listed)});
   for (const auto& [text, delimiter, collapse, expected] : rows) {
-    CAPTURE(text.substr(0, 20), delimiter, collapse);
+    CAPTURE(text.substr(0, 20));
+    CAPTURE(delimiter);
+    CAPTURE(collapse);
     std::wstring items;
     StringTokenizer tokens(WString{text}, delimiter, collapse);
     while (tokens.HasMoreTokens()) {

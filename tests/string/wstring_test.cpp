@@ -1,5 +1,7 @@
 #include "lib/string/wstring.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("a text takes over null, parts of itself and nothing that does not fit") {
   CHECK((WString(nullptr).empty() && WString(L"brindle").AssignCString(nullptr).empty()));
   for (const wchar_t* const original : {L"seven__", L"a text that does not fit into the object"}) {
@@ -12,7 +14,7 @@ TEST_CASE("a text takes over null, parts of itself and nothing that does not fit
     text.assign(text, 1, 2);
     CHECK(text == WString(std::wstring_view(original).substr(3, 2)));
     CHECK_THROWS_WITH(text.erase(3), "invalid string position");
-    CHECK_THROWS_WITH(text.substr(3), "invalid string position");
+    CHECK_THROWS_WITH(static_cast<void>(text.substr(3)), "invalid string position");
     CHECK_THROWS_WITH(text.assign(text, 3), "invalid string position");
     CHECK_THROWS_WITH(text.resize(text.max_size() + 1), "string too long");
     CHECK_THROWS_WITH(text.append({L"", text.max_size()}), "string too long");

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <catch.hpp>
+#include <doctest.h>
 #include <string>
 
 #include "lib/platform/owned.h"
@@ -25,10 +25,11 @@ inline ChildResult RunChild(std::wstring commandLine) {
   };
   const OwnedFile output = create("output");
   const OwnedFile errors = create("errors");
-  STARTUPINFOW startup{.cb = sizeof(startup),
-                       .dwFlags = STARTF_USESTDHANDLES,
-                       .hStdOutput = output.get(),
-                       .hStdError = errors.get()};
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdOutput = output.get();
+  startup.hStdError = errors.get();
   PROCESS_INFORMATION started{};
   // Under load Wine now and then answers a start with ERROR_INTERNAL_ERROR.
   for (DWORD pause = 0; CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0,

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <catch.hpp>
+#include <doctest.h>
 #include <filesystem>
 #include <fstream>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <catch.hpp>
+#include <doctest.h>
 #include <string>
 
 #include "lib/registry/registry_key.h"

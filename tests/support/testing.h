@@ -1,12 +1,13 @@
 #pragma once
 
-// What nearly all tests use. Compiled once, as the precompiled header of all of them.
+// What nearly all tests use.
 
 #include <windows.h>
 
+#include <doctest.h>
+
 #include <algorithm>
 #include <array>
-#include <catch.hpp>
 #include <optional>
 #include <string>
 #include <tuple>
@@ -18,13 +19,24 @@
 #include "tests/support/replaced_import.h"
 #include "tests/support/scratch_key.h"
 
-namespace kelvo {
+// How a failed check shows a text.
+template <>
+struct doctest::StringMaker<std::wstring> {
+  static doctest::String convert(const std::wstring& text) {
+    std::string shown(text.length() * 3, '\0');
+    shown.resize(static_cast<std::size_t>(
+        WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.length()), shown.data(),
+                            static_cast<int>(shown.length()), nullptr, nullptr)));
+    return ("\"" + shown + "\"").c_str();
+  }
+};
 
-inline std::ostream& operator<<(std::ostream& out, const WString& text) {
-  return out << Catch::Detail::stringify(std::wstring(text.c_str()));
-}
-
-}  // namespace kelvo
+template <>
+struct doctest::StringMaker<kelvo::WString> {
+  static doctest::String convert(const kelvo::WString& text) {
+    return StringMaker<std::wstring>::convert(std::wstring(std::wstring_view(text)));
+  }
+};
 
 // Test files are about nothing else.
 using namespace kelvo;

@@ -1,6 +1,7 @@
 #include "lib/sysinfo/computer_name.h"
 #include "lib/sysinfo/system_directories.h"
 #include "lib/sysinfo/user_name.h"
+#include "tests/support/testing.h"
 
 static std::wstring told;
 

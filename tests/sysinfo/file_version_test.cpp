@@ -5,6 +5,7 @@
 #include "lib/sysinfo/common_controls_version.h"
 #include "lib/sysinfo/file_version_text.h"
 #include "lib/sysinfo/internet_explorer_version.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a file's version is compared, and its memory kept when it is not lower") {
   const std::wstring file = ProgramPath(L"versioned_english.dll");

@@ -1,5 +1,6 @@
 #include "lib/sysinfo/administrators.h"
 #include "lib/sysinfo/vista_elevation.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("an administrator is whose token lists the group") {
   const std::tuple<DWORD, DWORD, WELL_KNOWN_SID_TYPE, BOOL, bool> rows[] = {

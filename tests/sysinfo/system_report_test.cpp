@@ -5,6 +5,7 @@
 #include "lib/registry/registry_string.h"
 #include "lib/registry/registry_value.h"
 #include "lib/sysinfo/color_depth.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a colour depth is low up to 16 bits and full from 32") {
   const int rows[][4] = {{1, 16, 1, 0}, {1, 17, 0, 0}, {1, 24, 0, 0},

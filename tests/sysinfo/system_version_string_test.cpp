@@ -4,8 +4,9 @@
 #include <sstream>
 
 #include "lib/registry/registry_string.h"
-#include "lib/sysinfo/system_description.h"
+#include "lib/sysinfo/internal/system_description.h"
 #include "lib/sysinfo/windows_release.h"
+#include "tests/support/testing.h"
 
 const WString kCutShort = L"catch(unhandled exception) while querying system version";
 const WString kNt = L"Microsoft Windows NT ";
@@ -18,7 +19,7 @@ TEST_CASE("each Windows has the line and the answers that windows_names.txt give
   int count = 0;
   for (std::string given, line; std::getline(cases, given) && std::getline(cases, line); ++count) {
     CAPTURE(given);
-    SystemFacts facts;
+    internal::SystemFacts facts;
     OSVERSIONINFOEXW& version = facts.version;
     version.dwBuildNumber = 0xABCD0000 + 1381;
     DWORD type = 0, metric = 0, product = 0;
@@ -34,7 +35,7 @@ TEST_CASE("each Windows has the line and the answers that windows_names.txt give
     version.wProductType = static_cast<BYTE>(type);
     facts.metric = static_cast<int>(metric);
     facts.product = product != 0 ? std::optional(product) : std::nullopt;
-    CHECK(DescribeSystem(facts).c_str() == std::wstring(line.begin(), line.end()));
+    CHECK(internal::DescribeSystem(facts).c_str() == std::wstring(line.begin(), line.end()));
     CHECK(std::equal(std::begin(predicates), std::end(predicates), told, [&](auto is, char one) {
       return is(reinterpret_cast<const OSVERSIONINFOW&>(version)) == (one == '1');
     }));
@@ -43,15 +44,15 @@ TEST_CASE("each Windows has the line and the answers that windows_names.txt give
 }
 
 TEST_CASE("a raised answer breaks the line off where it is needed, and nowhere else") {
-  SystemFacts facts;
+  internal::SystemFacts facts;
   facts.version = {284, 4, 0, 1381, 2, L"service pack 6", 0, 0, 0, 0, 0};
-  facts.hasHotfixQ246009 = Answer<bool>::Raised();
-  CHECK(DescribeSystem(facts) == kNt + kCutShort);
+  facts.hasHotfixQ246009 = internal::Answer<bool>::Raised();
+  CHECK(internal::DescribeSystem(facts) == kNt + kCutShort);
   facts.version.szCSDVersion[13] = L'5';
-  CHECK(DescribeSystem(facts) == kNt + L"(4.0.1381 service pack 5)");
-  facts.record = VersionRecord::kShort;
-  facts.productOption = Answer<ProductOption>::Raised();
-  CHECK(DescribeSystem(facts) == kNt + kCutShort);
+  CHECK(internal::DescribeSystem(facts) == kNt + L"(4.0.1381 service pack 5)");
+  facts.record = internal::VersionRecord::kShort;
+  facts.productOption = internal::Answer<internal::ProductOption>::Raised();
+  CHECK(internal::DescribeSystem(facts) == kNt + kCutShort);
 }
 
 TEST_CASE("a question that fails or raises leaves its text") {

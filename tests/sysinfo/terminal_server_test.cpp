@@ -1,6 +1,7 @@
 #include "lib/sysinfo/terminal_server.h"
 
 #include "lib/registry/registry_value.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a product suite is found in its list, a terminal server by what its Windows offers") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);

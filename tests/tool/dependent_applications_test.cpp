@@ -1,5 +1,7 @@
 #include "tool/dependent_applications.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("a name is added unless it occurs in the list, and removed whatever its case") {
   // A list, a name, and the list to write; "-" for none.
   const WString added[][3] = {
@@ -9,7 +11,8 @@ TEST_CASE("a name is added unless it occurs in the list, and removed whatever it
       {L";;a", L";b;;", L"a;;b"},    {L"", L";;", L""},
       {L"a", L" b ", L"a; b "},      {L"\u0416", L"\u0436", L"\u0416;\u0436"}};
   for (const auto& [list, name, result] : added) {
-    CAPTURE(list, name);
+    CAPTURE(list);
+    CAPTURE(name);
     CHECK(ListWithApplication(list, name.c_str()).value_or(L"-") == result);
   }
   using Row = std::tuple<WString, WString, WString>;
@@ -19,7 +22,8 @@ TEST_CASE("a name is added unless it occurs in the list, and removed whatever it
                      Row(L"a;b", L"", L"a;b"), Row(L"a;b", L"a;b", L"a;b"),
                      Row(L"\u0416;x", L"\u0436", L"x"), Row(L"\u00C9", L"\u00E9", L"\u00C9")});
   for (const auto& [list, name, result] : removed) {
-    CAPTURE(list, name);
+    CAPTURE(list);
+    CAPTURE(name);
     CHECK(ListWithoutApplication(list, name.c_str()) == result);
   }
 }

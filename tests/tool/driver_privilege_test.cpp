@@ -1,5 +1,7 @@
 #include "tool/driver_privilege.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("each failing call of the privilege step is told with its code, in one wording") {
   const std::string line = "ERR: OpenProcessToken failed, err = ";
   // The call that fails, RegDeleteValueW for none; the last error behind a successful adjustment.

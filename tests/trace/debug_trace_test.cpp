@@ -1,5 +1,7 @@
 #include "lib/trace/debug_trace.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("a trace line is a time and a message of any length") {
   std::wstring written;
   REPLACE(GetSystemTime, [](auto, auto* time) { *time = {2014, 3, 3, 5, 7, 8, 9, 45}; });

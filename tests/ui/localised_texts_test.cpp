@@ -3,6 +3,7 @@
 #include "lib/ui/text_substitution.h"
 #include "lib/ui/window_texts.h"
 #include "tests/support/desktop_scope.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("a module tells the languages of its first string table; kinship chooses one") {
   using Languages = std::vector<LANGID>;
@@ -35,7 +36,9 @@ TEST_CASE("all occurrences in a buffer of eight characters are replaced") {
       {L"12345678", L"1", L"x", nullptr},  {L"123a", L"a", L"4567", L"1234567"},
       {L"aa45", L"a", L"012", L"0120124"}, {L"aa", L"a", L"01234567", L"0123456"}};
   for (const auto& [text, search, replacement, result] : rows) {
-    CAPTURE(text, search, replacement);
+    CAPTURE(text);
+    CAPTURE(search);
+    CAPTURE(replacement);
     wchar_t buffer[] = L"........####";
     std::copy_n(text, std::min(std::wcslen(text) + 1, std::size_t{8}), buffer);
     CHECK(ReplaceAllInBuffer(buffer, 8, search, replacement) == (result != nullptr));

@@ -1,6 +1,7 @@
 #include "lib/ui/monitor_area.h"
 
 #include "tests/support/desktop_scope.h"
+#include "tests/support/testing.h"
 
 TEST_CASE("the nearest monitor's area is given where it can be told, else the primary one's") {
   const DesktopScope scope;

@@ -1,5 +1,7 @@
 #include "lib/ui/window_message_filter.h"
 
+#include "tests/support/testing.h"
+
 TEST_CASE("a message filter is changed from Windows 7 on where the function is there") {
   const auto change = +[](HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT* status) {
     return window == nullptr && message == 9 && action == 1 && status == nullptr ? 2 : FALSE;

@@ -1,5 +1,6 @@
 #include "lib/wsspi/sspi_exception.h"
 #include "lib/wsspi/sspi_loader.h"
+#include "tests/support/testing.h"
 
 // One case: what one step leaves in the process is what the next one starts from.
 TEST_CASE("the interface is tried again after each failure and loaded once") {

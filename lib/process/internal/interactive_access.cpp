@@ -1,0 +1,50 @@
+#include "lib/process/internal/interactive_access.h"
+
+#include "lib/process/interactive_desktop.h"
+#include "lib/process/internal/window_objects.h"
+#include "lib/security/internal/guarded_operation.h"
+#include "lib/security/token_object_access.h"
+
+namespace kelvo::internal {
+
+namespace {
+
+constexpr ACCESS_MASK kReadAndWriteDacl = READ_CONTROL | WRITE_DAC;
+
+// Null when it cannot be opened or set.
+HWINSTA SetInteractiveStation() {
+  OwnedWindowStation station(OpenWindowStationW(kInteractiveStation, FALSE, kReadAndWriteDacl));
+  if (!station) {
+    StepFailed(L"RunAsUser Open WinStat With WRITE_DAC Failed");
+    return nullptr;
+  }
+  if (SetProcessWindowStation(station.get()) == FALSE) {
+    StepFailed(L"RunAsUser SetProcessWindowStation to hwinstaNew Failed");
+    return nullptr;
+  }
+  // Stays open, as the desktop does below.
+  return station.release();
+}
+
+}  // namespace
+
+bool MoveToInteractiveStation(HANDLE token) {
+  const HWINSTA station = SetInteractiveStation();
+  if (station == nullptr) {
+    return false;
+  }
+  SetLastError(ERROR_SUCCESS);
+  // Only its access list is wanted: the thread is not switched to it.
+  const HDESK desktop = OpenDesktopW(kInteractiveDesktop, 0, FALSE, kReadAndWriteDacl);
+  if (desktop == nullptr) {
+    return StepFailed(L"RunAsUser Open Desktop With WRITE_DAC Failed");
+  }
+  if (AllowTokenFullAccessToObject(token, station, SE_WINDOW_OBJECT, L"WinStat") == FALSE) {
+    return StepFailed(
+        L"RunAsUser AllowTokenFullAccessToObject for Self Token on hwinstaNew Failed");
+  }
+  return AllowTokenFullAccessToObject(token, desktop, SE_WINDOW_OBJECT, L"Desktop") != FALSE ||
+         StepFailed(L"RunAsUser AllowTokenFullAccessToObject for Self Token on hdeskNew Failed");
+}
+
+}  // namespace kelvo::internal

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <windows.h>
+
+namespace kelvo::internal {
+
+// Makes "WinSta0" this process's window station and opens it and its desktop "Default" to the
+// token's user (AllowTokenFullAccessToObject). The thread keeps its desktop. Both handles stay
+// open, by design. Returns false when a step fails, which is traced; a station that the process
+// has moved to stays its own.
+bool MoveToInteractiveStation(HANDLE token);
+
+}  // namespace kelvo::internal

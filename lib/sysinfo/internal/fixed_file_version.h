@@ -1,0 +1,38 @@
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+
+#include "lib/platform/owned.h"
+
+namespace kelvo::internal {
+
+// Moveable memory of GlobalAlloc, locked as long as it is owned.
+struct LockedGlobalMemory {
+  using Handle = HGLOBAL;
+  static Handle None() { return nullptr; }
+  static void Close(Handle handle) {
+    GlobalUnlock(handle);
+    GlobalFree(handle);
+  }
+};
+using OwnedLockedGlobalMemory = Owned<LockedGlobalMemory>;
+
+// Major, minor, build and revision.
+using FileVersionNumbers = std::array<int, 4>;
+
+struct FixedFileVersion {
+  // Holds the file's whole version resource.
+  OwnedLockedGlobalMemory memory;
+  // Its fixed block, within `memory`; null when the file has none or it cannot be read.
+  const VS_FIXEDFILEINFO* block = nullptr;
+
+  // Needs a block.
+  [[nodiscard]] FileVersionNumbers Numbers() const;
+};
+
+// Reads the version resource of a file (GetFileVersionInfoW) and finds its fixed block.
+FixedFileVersion ReadFixedFileVersion(const wchar_t* path);
+
+}  // namespace kelvo::internal
