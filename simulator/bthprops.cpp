@@ -1,6 +1,7 @@
 // Stands in for the system's Bluetooth control-panel library.
 
 #include <windows.h>
+
 #include <bluetoothapis.h>
 
 #include "lib/string/format_text.h"

@@ -1,7 +1,7 @@
 #include "lib/paths/shell_folder_path.h"
 
-#include "lib/paths/module_directory.h"
 #include "lib/paths/internal/trailing_backslash.h"
+#include "lib/paths/module_directory.h"
 #include "lib/registry/registry_string.h"
 
 namespace kelvo {

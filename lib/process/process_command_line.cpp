@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "lib/platform/module.h"
 #include "lib/platform/internal/windows_version.h"
+#include "lib/platform/module.h"
 #include "lib/sysinfo/windows_release.h"
 
 namespace kelvo {

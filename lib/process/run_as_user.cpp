@@ -1,8 +1,8 @@
 #include "lib/process/run_as_user.h"
 
 #include "lib/platform/owned.h"
-#include "lib/process/internal/interactive_access.h"
 #include "lib/process/interactive_desktop.h"
+#include "lib/process/internal/interactive_access.h"
 #include "lib/process/internal/primary_token.h"
 #include "lib/process/internal/window_objects.h"
 #include "lib/security/internal/guarded_operation.h"

@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-#include <algorithm>
 #include <doctest.h>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <string>

@@ -2,8 +2,8 @@
 
 #include "lib/string/format_text.h"
 #include "tests/support/certificate_store.h"
-#include "tool/dependent_applications.h"
 #include "tests/support/testing.h"
+#include "tool/dependent_applications.h"
 
 // The list of dependent applications in the registry; "none" when there is no such value.
 static std::wstring Applications() {
