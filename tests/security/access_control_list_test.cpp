@@ -3,6 +3,7 @@
 #include <aclapi.h>
 
 #include <cstring>
+#include <functional>
 #include <random>
 
 #include "lib/security/canonical_order.h"

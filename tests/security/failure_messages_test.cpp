@@ -16,18 +16,22 @@
 #include "lib/trace/trace_sink.h"
 #include "tests/security/test_acl.h"
 #include "tests/support/desktop_scope.h"
+#include "tests/support/failing_call.h"
 #include "tests/support/testing.h"
 
-constexpr Failing kFailing[] = {
-    FAILING(OpenProcessToken), FAILING(GetTokenInformation), FAILING(AdjustTokenPrivileges),
-    FAILING(GetUserObjectInformationW), FAILING(HeapAlloc), FAILING(LocalAlloc), FAILING(CopySid),
-    FAILING(GetSecurityInfo), FAILING(GetAclInformation), FAILING(GetAce), FAILING(InitializeAcl),
-    FAILING(AddAce), FAILING(SetSecurityInfo), FAILING(InitializeSecurityDescriptor),
-    FAILING(GetKernelObjectSecurity), FAILING(GetSecurityDescriptorDacl), FAILING(GetUserNameW),
-    FAILING(SetEntriesInAclW), FAILING(MakeAbsoluteSD), FAILING(SetSecurityDescriptorDacl),
-    FAILING(SetKernelObjectSecurity), FAILING(OpenWindowStationW), FAILING(OpenDesktopW),
+constexpr FailingCall kFailing[] = {
+    SETS_LAST_ERROR(OpenProcessToken), SETS_LAST_ERROR(GetTokenInformation),
+    SETS_LAST_ERROR(AdjustTokenPrivileges), SETS_LAST_ERROR(GetUserObjectInformationW),
+    SETS_LAST_ERROR(HeapAlloc), SETS_LAST_ERROR(LocalAlloc), SETS_LAST_ERROR(CopySid),
+    RETURNS_ERROR(GetSecurityInfo), SETS_LAST_ERROR(GetAclInformation), SETS_LAST_ERROR(GetAce),
+    SETS_LAST_ERROR(InitializeAcl), SETS_LAST_ERROR(AddAce), RETURNS_ERROR(SetSecurityInfo),
+    SETS_LAST_ERROR(InitializeSecurityDescriptor), SETS_LAST_ERROR(GetKernelObjectSecurity),
+    SETS_LAST_ERROR(GetSecurityDescriptorDacl), SETS_LAST_ERROR(GetUserNameW),
+    RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
+    SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
+    SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
     // Last: when it fails to restore the station, that is lost.
-    FAILING(SetProcessWindowStation)};
+    SETS_LAST_ERROR(SetProcessWindowStation)};
 
 static std::wstring operation;
 static std::wstring traced;
@@ -83,7 +87,7 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   std::set<std::wstring> outcomes;
   for (const auto& [name, succeeds] : operations) {
     operation = name;
-    const auto isReached = [&](Failing failing, int nth, bool throws) {
+    const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
       // A restoring call may have been the one that failed.
       SetProcessWindowStation(scope.station);
       SetThreadDesktop(scope.desktop);
@@ -93,11 +97,11 @@ TEST_CASE("each failing call has its message, then the operation its own") {
       }
       traced.clear();
       bool succeeded = false;
-      const bool wasReached = failing(nth, throws, [&] { succeeded = succeeds(); });
+      const bool wasReached = failing.run(nth, throws, [&] { succeeded = succeeds(); });
       outcomes.insert(operation + (succeeded ? L" succeeds" : L" fails") + traced + L"\n");
       return wasReached;
     };
-    for (const Failing failing : kFailing) {
+    for (const FailingCall& failing : kFailing) {
       for (const bool throws : {false, true}) {
         for (int nth = 1; isReached(failing, nth, throws); ++nth) {
         }

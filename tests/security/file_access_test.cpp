@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "tests/security/test_acl.h"
+#include "tests/support/failing_call.h"
 #include "tests/support/testing.h"
 
 // Lets administrators into a file whose access list, as text, is `list`, and returns what that
@@ -48,24 +49,24 @@ TEST_CASE("an account's explicit entries give way to the new one, once and again
 }
 
 TEST_CASE("each failing call is named and leaves the file alone") {
-  const std::pair<Failing, std::string> rows[] = {
-      {FAILING(GetFileSecurityW), "GetFileSecurity() failed. "},
-      {FAILING(HeapAlloc), "HeapAlloc() failed. "},
-      {FAILING(InitializeSecurityDescriptor), "InitializeSecurityDescriptor() failed."},
-      {FAILING(GetSecurityDescriptorDacl), "GetSecurityDescriptorDacl() failed. "},
-      {FAILING(GetAclInformation), "GetAclInformation() failed. "},
-      {FAILING(InitializeAcl), "InitializeAcl() failed. "},
-      {FAILING(GetAce), "GetAce() failed. "},
-      {FAILING(AddAce), "AddAce() failed. "},
-      {FAILING(AddAccessAllowedAce), "AddAccessAllowedAce() failed. "},
-      {FAILING(SetSecurityDescriptorDacl), "SetSecurityDescriptorDacl() failed. "},
-      {FAILING(GetSecurityDescriptorControl), "GetSecurityDescriptorControl() failed."},
-      {FAILING(SetFileSecurityW), "SetFileSecurity() failed. "}};
+  const std::pair<FailingCall, std::string> rows[] = {
+      {SETS_LAST_ERROR(GetFileSecurityW), "GetFileSecurity() failed. "},
+      {SETS_LAST_ERROR(HeapAlloc), "HeapAlloc() failed. "},
+      {SETS_LAST_ERROR(InitializeSecurityDescriptor), "InitializeSecurityDescriptor() failed."},
+      {SETS_LAST_ERROR(GetSecurityDescriptorDacl), "GetSecurityDescriptorDacl() failed. "},
+      {SETS_LAST_ERROR(GetAclInformation), "GetAclInformation() failed. "},
+      {SETS_LAST_ERROR(InitializeAcl), "InitializeAcl() failed. "},
+      {SETS_LAST_ERROR(GetAce), "GetAce() failed. "},
+      {SETS_LAST_ERROR(AddAce), "AddAce() failed. "},
+      {SETS_LAST_ERROR(AddAccessAllowedAce), "AddAccessAllowedAce() failed. "},
+      {SETS_LAST_ERROR(SetSecurityDescriptorDacl), "SetSecurityDescriptorDacl() failed. "},
+      {SETS_LAST_ERROR(GetSecurityDescriptorControl), "GetSecurityDescriptorControl() failed."},
+      {SETS_LAST_ERROR(SetFileSecurityW), "SetFileSecurity() failed. "}};
   const std::wstring before = L"D:AI(A;;FR;;;WD)(A;ID;FR;;;WD)";
   std::wstring list = before;
   for (const auto& [failing, message] : rows) {
     std::string printed;
-    for (int nth = 1; failing(nth, false, [&] { printed = PrintedBy(list); }); ++nth) {
+    for (int nth = 1; failing.run(nth, false, [&] { printed = PrintedBy(list); }); ++nth) {
       CHECK((printed == message + "Error 1234\n" && list == before));
     }
     CHECK((printed.empty() && std::exchange(list, before) != before));

@@ -2,16 +2,22 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <map>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
+// Replaces functions of Windows for the code under test, until the end of a block.
+//
+// One that the program imports, by a lambda that takes the original and its arguments:
+//   REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
+// One that is looked up at run time, by a function of the same type, or by null where this Windows
+// is to lack it:
+//   const ReplacedExport native("GetNativeSystemInfo", nullptr);
+
 namespace kelvo::test {
 
-// Sends the calls that this program makes to an imported function to `target`, and returns where
-// they went before.
+// Directs this program's calls of an imported function to `target` and returns the previous target.
 inline void* SwapImport(const std::string& function, void* target) {
   auto* const image = reinterpret_cast<BYTE*>(GetModuleHandleW(nullptr));
   const auto* const headers = reinterpret_cast<IMAGE_NT_HEADERS*>(
@@ -33,8 +39,8 @@ inline void* SwapImport(const std::string& function, void* target) {
   throw std::runtime_error("this program does not import " + function);
 }
 
-// As long as it lives, calls to an imported function go to `replacement`: a lambda that takes the
-// original function and then that function's own parameters.
+// While it lives, `replacement` is called in place of an imported function, with the original
+// function and then that function's own arguments.
 template <typename Function, typename Replacement>
 struct ReplacedImport;
 
@@ -66,46 +72,12 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
   return {function, std::move(replacement)};
 }
 
-// Until the end of the block:
-// REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
 #define REPLACE(function, ...)    \
   const auto replaced##function = \
       ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)
 
-// As long as what it returns lives, GetVersionExW tells of this Windows, build 1381.
-inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
-                           const wchar_t* servicePack = L"") {
-  const auto tell = [=](auto, OSVERSIONINFOW* record) -> BOOL {
-    const DWORD size = record->dwOSVersionInfoSize;
-    *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
-    lstrcpyW(record->szCSDVersion, servicePack);
-    // NT 4.0 does not know the extended record.
-    return major != 4 || size == sizeof(*record);
-  };
-  return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", tell);
-}
-
-// Runs `call` while the nth call to a function fails with the error 1234, which it sets or returns,
-// or throws; answers whether there was one.
-using Call = std::function<void()>;
-using Failing = bool (*)(int nth, bool throws, const Call& call);
-#define FAILING(function)                                                                          \
-  [](int nth, bool throws, const Call& call) {                                                     \
-    REPLACE(function, [&](auto original, auto... parameters) {                                     \
-      using Result = decltype(original(parameters...));                                            \
-      constexpr bool kReturnsIt = sizeof(Result) == sizeof(long) && !std::is_same_v<Result, BOOL>; \
-      if (--nth != 0) {                                                                            \
-        return original(parameters...);                                                            \
-      }                                                                                            \
-      SetLastError(1234);                                                                          \
-      return throws ? throw 1 : kReturnsIt ? Result(1234) : Result{};                              \
-    });                                                                                            \
-    call();                                                                                        \
-    return nth <= 0;                                                                               \
-  }
-
-// As long as it lives, GetProcAddress gives `function` for the export `name` of whatever module;
-// null stands for a Windows that does not have it.
+// While it lives, GetProcAddress returns `function` for the export `name` of any module; null
+// stands for a Windows that does not have it.
 struct ReplacedExport {
   ReplacedExport(const char* exported, void* function) : name(exported) {
     replaced[name] = reinterpret_cast<FARPROC>(function);

@@ -16,6 +16,7 @@
 #include "lib/string/wstring.h"
 #include "tests/support/child_process.h"
 #include "tests/support/files.h"
+#include "tests/support/pretended_windows.h"
 #include "tests/support/replaced_import.h"
 #include "tests/support/scratch_key.h"
 

@@ -1,15 +1,16 @@
 #include "tool/driver_privilege.h"
 
+#include "tests/support/failing_call.h"
 #include "tests/support/testing.h"
 
 TEST_CASE("each failing call of the privilege step is told with its code, in one wording") {
   const std::string line = "ERR: OpenProcessToken failed, err = ";
   // The call that fails, RegDeleteValueW for none; the last error behind a successful adjustment.
-  const std::tuple<Failing, DWORD, std::string> rows[] = {
-      {FAILING(OpenProcessToken), 0, line + "000004D2\r\n"},
-      {FAILING(LookupPrivilegeValueW), 0, line + "000004D2\r\n"},
-      {FAILING(RegDeleteValueW), ERROR_NOT_ALL_ASSIGNED, line + "00000514\r\n"},
-      {FAILING(RegDeleteValueW), ERROR_SUCCESS, ""}};
+  const std::tuple<FailingCall, DWORD, std::string> rows[] = {
+      {SETS_LAST_ERROR(OpenProcessToken), 0, line + "000004D2\r\n"},
+      {SETS_LAST_ERROR(LookupPrivilegeValueW), 0, line + "000004D2\r\n"},
+      {SETS_LAST_ERROR(RegDeleteValueW), ERROR_NOT_ALL_ASSIGNED, line + "00000514\r\n"},
+      {SETS_LAST_ERROR(RegDeleteValueW), ERROR_SUCCESS, ""}};
   for (const auto& [failing, adjusted, output] : rows) {
     int open = 0;
     std::string written;
@@ -36,7 +37,7 @@ TEST_CASE("each failing call of the privilege step is told with its code, in one
       return (*done = size) != 0;
     });
     bool isEnabled = false;
-    failing(1, false, [&] { isEnabled = EnableLoadDriverPrivilege(); });
+    failing.run(1, false, [&] { isEnabled = EnableLoadDriverPrivilege(); });
     CHECK((isEnabled == output.empty() && open == 0 && written == output));
   }
 }

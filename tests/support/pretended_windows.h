@@ -1,0 +1,23 @@
+#pragma once
+
+#include <windows.h>
+
+#include "tests/support/replaced_import.h"
+
+namespace kelvo::test {
+
+// While what it returns lives, GetVersionExW reports this Windows, build 1381:
+//   const auto vista = PretendWindows(VER_PLATFORM_WIN32_NT, 6, 0);
+inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
+                           const wchar_t* servicePack = L"") {
+  const auto report = [=](auto, OSVERSIONINFOW* record) -> BOOL {
+    const DWORD size = record->dwOSVersionInfoSize;
+    *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
+    lstrcpyW(record->szCSDVersion, servicePack);
+    // NT 4.0 does not know the extended record.
+    return major != 4 || size == sizeof(*record);
+  };
+  return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", report);
+}
+
+}  // namespace kelvo::test
