@@ -25,8 +25,8 @@ if(NOT CMAKE_SIZEOF_VOID_P EQUAL 8)
   message(FATAL_ERROR "Only 64-bit Windows is supported.")
 endif()
 
-# Linked privately by every target of this project, so that nothing of it reaches a consumer. Warnings become errors in
-# our presets only (CMAKE_COMPILE_WARNING_AS_ERROR).
+# How every target of this project is compiled: linked privately, so that nothing of it reaches a consumer. Warnings
+# become errors in our presets only (CMAKE_COMPILE_WARNING_AS_ERROR).
 add_library(kelvo_build_options INTERFACE)
 target_compile_definitions(kelvo_build_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 if(MSVC)
@@ -34,17 +34,21 @@ if(MSVC)
   # C4996: the GetVersionEx family is deprecated but what the library is asked to report.
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Zi)
-  target_link_options(kelvo_build_options INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG)
 else()
   # The sources name functions of Windows 10 and look them up at run time, whatever Windows a consumer's project is for.
   target_compile_options(kelvo_build_options INTERFACE
     "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>"
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
-  target_link_options(kelvo_build_options INTERFACE -Wl,--gc-sections)
 endif()
 
-# For a program that begins with wmain.
-add_library(kelvo_wide_main INTERFACE)
-if(NOT MSVC)
-  target_link_options(kelvo_wide_main INTERFACE -municode)
+# How our programs are linked besides; kelvo_wide_program is for one that begins with wmain.
+add_library(kelvo_program INTERFACE)
+target_link_libraries(kelvo_program INTERFACE kelvo_build_options)
+add_library(kelvo_wide_program INTERFACE)
+target_link_libraries(kelvo_wide_program INTERFACE kelvo_program)
+if(MSVC)
+  target_link_options(kelvo_program INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG)
+else()
+  target_link_options(kelvo_program INTERFACE -Wl,--gc-sections)
+  target_link_options(kelvo_wide_program INTERFACE -municode)
 endif()

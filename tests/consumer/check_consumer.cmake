@@ -1,0 +1,22 @@
+# cmake -D source=... -D build=... -D toolchain=... -D wine=... -P check_consumer.cmake
+
+# Not from a cache: what a consumer would configure is what is tested.
+file(REMOVE_RECURSE ${build}/CMakeCache.txt ${build}/CMakeFiles)
+execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET COMMAND ${CMAKE_COMMAND} -G Ninja -S ${source} -B ${build}
+  -D CMAKE_TOOLCHAIN_FILE=${toolchain} -D CMAKE_BUILD_TYPE=Release
+  "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601"
+  "-DCMAKE_C_FLAGS=-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601"
+  -D CMAKE_PROJECT_kelvo_consumer_INCLUDE=${CMAKE_CURRENT_LIST_DIR}/own_targets.cmake)
+execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE log COMMAND ${CMAKE_COMMAND} --build ${build})
+
+execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE tests COMMAND ${CMAKE_CTEST_COMMAND} --test-dir ${build} -N)
+if(NOT tests MATCHES "Total Tests: 0")
+  message(SEND_ERROR "the consumer's own list of tests is not empty:\n${tests}")
+endif()
+
+foreach(program consumer whole_library)
+  execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE output COMMAND ${wine} ${build}/${program}.exe)
+  if(NOT output MATCHES "^[^\n]*Windows [^\n]*\r?\none\r?\ntwo\r?\n$")
+    message(SEND_ERROR "${program} wrote:\n${output}")
+  endif()
+endforeach()

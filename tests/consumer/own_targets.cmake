@@ -1,0 +1,7 @@
+# What a consumer may have of its own: tests, a target of a common name, and a program that links all of the library, so
+# that no library of Windows that it needs is forgotten.
+enable_testing()
+add_custom_target(benchmarks)
+add_executable(whole_library main.cpp)
+# lld lacks the --push-state that CMake's own WHOLE_ARCHIVE needs.
+target_link_libraries(whole_library PRIVATE -Wl,--whole-archive kelvo::kelvo -Wl,--no-whole-archive)
