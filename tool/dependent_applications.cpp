@@ -15,14 +15,10 @@ namespace kelvo {
 namespace {
 
 constexpr const wchar_t* kSeparator = L";";
-constexpr const wchar_t* kValueName = L"applications";
-
-WString ReadList() {
-  return RegistryReadString(HKEY_LOCAL_MACHINE, ServiceParametersKey, kValueName, L"");
-}
 
 void WriteList(const WString& list) {
-  RegistryWriteString(HKEY_LOCAL_MACHINE, ServiceParametersKey, kValueName, list.c_str());
+  RegistryWriteString(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName,
+                      list.c_str());
 }
 
 WString WithoutOuterSeparators(std::wstring_view list) {
@@ -35,6 +31,22 @@ WString WithoutOuterSeparators(std::wstring_view list) {
 
 }  // namespace
 
+WString ReadApplicationList() {
+  return RegistryReadString(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName, L"");
+}
+
+std::vector<WString> ApplicationsInList(const WString& list) {
+  std::vector<WString> names;
+  for (StringTokenizer items(list, kSeparator, true); items.HasMoreTokens();) {
+    names.push_back(items.NextToken());
+  }
+  return names;
+}
+
+bool IsSameApplication(const WString& item, const wchar_t* name) {
+  return CompareNoCase(item.c_str(), name) == 0;
+}
+
 std::optional<WString> ListWithApplication(const WString& list, const wchar_t* name) {
   if (list.find(name) != WString::npos) {
     return std::nullopt;
@@ -44,9 +56,8 @@ std::optional<WString> ListWithApplication(const WString& list, const wchar_t* n
 
 WString ListWithoutApplication(const WString& list, const wchar_t* name) {
   WString kept;
-  for (StringTokenizer items(list, kSeparator, true); items.HasMoreTokens();) {
-    const WString item = items.NextToken();
-    if (CompareNoCase(item.c_str(), name) != 0) {
+  for (const WString& item : ApplicationsInList(list)) {
+    if (!IsSameApplication(item, name)) {
       kept += item;
       kept += kSeparator;
     }
@@ -55,17 +66,17 @@ WString ListWithoutApplication(const WString& list, const wchar_t* name) {
 }
 
 bool AddDependentApplication(const wchar_t* name) {
-  if (const auto list = ListWithApplication(ReadList(), name)) {
+  if (const auto list = ListWithApplication(ReadApplicationList(), name)) {
     WriteList(*list);
   }
   return true;
 }
 
 bool RemoveDependentApplication(const wchar_t* name, bool& noneLeft) {
-  const WString list = ListWithoutApplication(ReadList(), name);
+  const WString list = ListWithoutApplication(ReadApplicationList(), name);
   noneLeft = list.empty();
   if (noneLeft) {
-    RegistryDeleteValue(HKEY_LOCAL_MACHINE, ServiceParametersKey, kValueName);
+    RegistryDeleteValue(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName);
     Report(L"OK: No more dependant applications\n");
   } else {
     // Also when nothing was dropped: another party's stray separators go.

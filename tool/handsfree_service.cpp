@@ -9,9 +9,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr GUID HandsfreeServiceClassGuid = {
-    0x3ABB9028, 0xBEAE, 0x4BF1, {0xAC, 0xD7, 0x5C, 0xD7, 0xD5, 0xE4, 0xE0, 0xCA}};
-
 DWORD SetServiceInfo(HMODULE library, bool enable) {
   BLUETOOTH_LOCAL_SERVICE_INFO service{};
   service.Enabled = enable ? TRUE : FALSE;
