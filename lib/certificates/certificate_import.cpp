@@ -1,25 +1,11 @@
 #include "lib/certificates/certificate_import.h"
 
-#include <wincrypt.h>
-
-#include "lib/platform/owned.h"
+#include "lib/certificates/certificate_handles.h"
 #include "lib/wsspi/sspi_loader.h"
 
 namespace kelvo {
 
 namespace {
-
-struct CertificateStore {
-  using Handle = HCERTSTORE;
-  static Handle None() { return nullptr; }
-  static void Close(Handle handle) { CertCloseStore(handle, 0); }
-};
-
-struct CertificateContext {
-  using Handle = PCCERT_CONTEXT;
-  static Handle None() { return nullptr; }
-  static void Close(Handle handle) { CertFreeCertificateContext(handle); }
-};
 
 // The content types that Windows knew when this set was fixed; newer headers add to
 // CERT_QUERY_CONTENT_FLAG_ALL.
@@ -31,7 +17,7 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   if (!wsspi::IsSspiInitialized()) {
     wsspi::SspiInitialize();
   }
-  Owned<CertificateStore> systemStore(
+  OwnedCertificateStore systemStore(
       CertOpenStore(CERT_STORE_PROV_SYSTEM_W, X509_ASN_ENCODING | PKCS_7_ASN_ENCODING, 0,
                     CERT_SYSTEM_STORE_LOCAL_MACHINE | CERT_STORE_OPEN_EXISTING_FLAG, storeName));
   if (!systemStore) {
@@ -39,8 +25,8 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   }
 
   // Owners close in the reverse of this order: the context, the file's store, the system store.
-  Owned<CertificateStore> fileStore;
-  Owned<CertificateContext> certificate;
+  OwnedCertificateStore fileStore;
+  OwnedCertificate certificate;
   DWORD encodingType = 0;
   DWORD contentType = 0;
   DWORD formatType = 0;
