@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "examples/visible_text.h"
+#include "lib/string/visible_text.h"
 
 namespace kelvo {
 
@@ -27,7 +27,7 @@ std::vector<Line> CollectLines() {
   std::vector<Line> lines;
   lines.reserve(report.size());
   for (const auto& [name, text] : report) {
-    lines.emplace_back(VisibleUtf8(name), VisibleUtf8(text));
+    lines.emplace_back(ToVisibleUtf8(name), ToVisibleUtf8(text));
   }
   return lines;
 }

@@ -1,4 +1,4 @@
-#include "examples/visible_text.h"
+#include "lib/string/visible_text.h"
 
 #include <windows.h>
 
@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "lib/string/format_text.h"
+#include "lib/string/utf8.h"
 
 namespace kelvo {
 
@@ -25,18 +26,9 @@ bool ActsOnTerminal(wchar_t unit) {
   });
 }
 
-std::string ToUtf8(std::wstring_view text) {
-  // No unit of UTF-16 takes more than three bytes.
-  std::string utf8(text.length() * 3, '\0');
-  utf8.resize(static_cast<std::size_t>(
-      WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.length()), utf8.data(),
-                          static_cast<int>(utf8.size()), nullptr, nullptr)));
-  return utf8;
-}
-
 }  // namespace
 
-std::string VisibleUtf8(std::wstring_view text) {
+std::string ToVisibleUtf8(std::wstring_view text) {
   WString visible;
   for (std::size_t i = 0; i < text.length(); ++i) {
     if (i + 1 < text.length() && IS_SURROGATE_PAIR(text[i], text[i + 1])) {
