@@ -35,20 +35,34 @@ if(MSVC)
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Zi)
 else()
+  # No file may say where it was built.
+  target_compile_options(kelvo_build_options INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
   # The sources name functions of Windows 10 and look them up at run time, whatever Windows a consumer's project is for.
   target_compile_options(kelvo_build_options INTERFACE
     "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>"
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
 endif()
 
-# How our programs are linked besides; kelvo_wide_program is for one that begins with wmain.
+# Debug information for the .pdb of a program that is shipped: for it and for the libraries in it.
+add_library(kelvo_debug_information INTERFACE)
+if(NOT MSVC)
+  target_compile_options(kelvo_debug_information INTERFACE
+    "$<$<COMPILE_LANGUAGE:C,CXX>:-g;-gcodeview;-gno-codeview-command-line;-ffile-compilation-dir=.;-fdebug-compilation-dir=.>")
+endif()
+
+# How our programs are linked besides: hardened, with the checksum in the header (-release), and the same bytes wherever
+# they were built. kelvo_wide_program is for one that begins with wmain, kelvo_shipped_program for one that is shipped:
+# what a debugger needs stands in a .pdb beside it.
 add_library(kelvo_program INTERFACE)
 target_link_libraries(kelvo_program INTERFACE kelvo_build_options)
 add_library(kelvo_wide_program INTERFACE)
 target_link_libraries(kelvo_wide_program INTERFACE kelvo_program)
+add_library(kelvo_shipped_program INTERFACE)
+target_link_libraries(kelvo_shipped_program INTERFACE kelvo_wide_program kelvo_debug_information)
 if(MSVC)
-  target_link_options(kelvo_program INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG)
+  target_link_options(kelvo_program INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG /CETCOMPAT /RELEASE /Brepro /PDBALTPATH:%_PDB%)
 else()
-  target_link_options(kelvo_program INTERFACE -Wl,--gc-sections)
+  target_link_options(kelvo_program INTERFACE -Wl,--gc-sections -Wl,-Xlink=-cetcompat -Wl,-Xlink=-release -Wl,-Xlink=-Brepro)
   target_link_options(kelvo_wide_program INTERFACE -municode)
+  target_link_options(kelvo_shipped_program INTERFACE -s -Wl,--pdb= -Wl,-Xlink=-pdbaltpath:%_PDB% -Wl,-Xlink=-pdbsourcepath:/sorrel)
 endif()

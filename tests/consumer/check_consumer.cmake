@@ -1,8 +1,16 @@
 # cmake -D source=... -D build=... -D toolchain=... -D wine=... -P check_consumer.cmake
+# Where `prefix` is set the library must be the package installed there, else it is built from its sources.
+
+if(prefix)
+  set(library -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
+    -D all_headers=${all_headers})
+else()
+  set(library -D CMAKE_DISABLE_FIND_PACKAGE_kelvo=ON)
+endif()
 
 # Not from a cache: what a consumer would configure is what is tested.
 file(REMOVE_RECURSE ${build}/CMakeCache.txt ${build}/CMakeFiles)
-execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET COMMAND ${CMAKE_COMMAND} -G Ninja -S ${source} -B ${build}
+execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET COMMAND ${CMAKE_COMMAND} -G Ninja -S ${source} -B ${build} ${library}
   -D CMAKE_TOOLCHAIN_FILE=${toolchain} -D CMAKE_BUILD_TYPE=Release
   "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601"
   "-DCMAKE_C_FLAGS=-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601"

@@ -2,6 +2,6 @@
 # that no library of Windows that it needs is forgotten.
 enable_testing()
 add_custom_target(benchmarks)
-add_executable(whole_library main.cpp)
+add_executable(whole_library main.cpp ${all_headers})
 # lld lacks the --push-state that CMake's own WHOLE_ARCHIVE needs.
 target_link_libraries(whole_library PRIVATE -Wl,--whole-archive kelvo::kelvo -Wl,--no-whole-archive)

@@ -1,0 +1,48 @@
+# Installs into an empty folder and looks at what is there:
+# cmake -D project=... -D source_folder=... -D folder=... -D toolchain=... -D wine=... -P check_installed.cmake
+
+cmake_minimum_required(VERSION 3.25)
+
+# install_into(prefix ARGUMENT...)   leaves the list of installed files in `files`
+function(install_into prefix)
+  file(REMOVE_RECURSE ${prefix})
+  execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET
+    COMMAND ${CMAKE_COMMAND} --install ${project} --prefix ${prefix} ${ARGN})
+  file(GLOB_RECURSE found LIST_DIRECTORIES false RELATIVE ${prefix} ${prefix}/*)
+  set(files ${found} PARENT_SCOPE)
+endfunction()
+
+# What a component holds, to the file.
+foreach(component "tool;bin/sorrel.exe" "symbols;bin/sorrel.pdb"
+    "simulator;share/sorrel/simulator/Tessalin.inf;share/sorrel/simulator/bthprops.cpl;share/sorrel/simulator/difxapi.dll")
+  list(POP_FRONT component name)
+  install_into(${folder}/${name} --component ${name})
+  if(NOT files STREQUAL component)
+    message(SEND_ERROR "The component ${name} holds ${files}, not ${component}")
+  endif()
+endforeach()
+
+install_into(${folder}/all)
+foreach(expected bin/sorrel.exe lib/libkelvo.a lib/cmake/kelvo/kelvo-config.cmake include/kelvo/lib/string/wstring.h
+    share/doc/sorrel/README.md share/doc/sorrel/docs/simulator.md share/doc/kelvo/library.md)
+  if(NOT expected IN_LIST files)
+    message(SEND_ERROR "${expected} is not installed")
+  endif()
+endforeach()
+foreach(file ${files})
+  file(STRINGS ${folder}/all/${file} found LIMIT_COUNT 1 REGEX "${source_folder}")
+  if(file MATCHES "internal|_test|\\.pdb$" OR found)
+    message(SEND_ERROR "${file} must not be installed, or not as it is: ${found}")
+  endif()
+endforeach()
+
+# A consumer's project, itself from what is installed; its second program includes each public header.
+list(FILTER files INCLUDE REGEX "\\.h$")
+list(TRANSFORM files REPLACE "include/kelvo/(.*)" "#include \"\\1\"\n")
+string(JOIN "" includes ${files})
+set(prefix ${folder}/all)
+set(all_headers ${folder}/all_headers.cpp)
+file(WRITE ${all_headers} "${includes}")
+set(source ${prefix}/share/doc/kelvo/examples/consumer)
+set(build ${folder}/consumer)
+include(${CMAKE_CURRENT_LIST_DIR}/../consumer/check_consumer.cmake)
