@@ -8,7 +8,7 @@ install(FILES $<TARGET_FILE_DIR:sorrel>/sorrel.pdb DESTINATION bin COMPONENT sym
 
 # The tree is the repository's, so that the pages' links hold.
 install(FILES README.md CHANGELOG.md DESTINATION share/doc/sorrel COMPONENT documentation OPTIONAL)
-install(DIRECTORY docs DESTINATION share/doc/sorrel COMPONENT documentation)
+install(DIRECTORY docs installers DESTINATION share/doc/sorrel COMPONENT documentation)
 
 install(TARGETS kelvo_simulator_bthprops kelvo_simulator_difxapi LIBRARY DESTINATION share/sorrel/simulator
   COMPONENT simulator)

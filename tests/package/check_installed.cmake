@@ -24,7 +24,8 @@ endforeach()
 
 install_into(${folder}/all)
 foreach(expected bin/sorrel.exe lib/libkelvo.a lib/cmake/kelvo/kelvo-config.cmake include/kelvo/lib/string/wstring.h
-    share/doc/sorrel/README.md share/doc/sorrel/docs/simulator.md share/doc/kelvo/library.md)
+    share/doc/sorrel/README.md share/doc/sorrel/docs/simulator.md share/doc/sorrel/installers/cmd/run_sorrel.cmd
+    share/doc/kelvo/library.md)
   if(NOT expected IN_LIST files)
     message(SEND_ERROR "${expected} is not installed")
   endif()

@@ -1,18 +1,9 @@
 #include <sstream>
 
 #include "lib/string/format_text.h"
+#include "tests/support/applications.h"
 #include "tests/support/certificate_store.h"
 #include "tests/support/testing.h"
-#include "tool/dependent_applications.h"
-
-// The list of dependent applications in the registry; "none" when there is no such value.
-static std::wstring Applications() {
-  wchar_t list[2048];
-  DWORD size = sizeof(list);
-  const bool isThere = RegGetValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications",
-                                    RRF_RT_REG_SZ, nullptr, list, &size) == ERROR_SUCCESS;
-  return isThere ? list : L"none";
-}
 
 // sorrel.exe with the simulator's libraries and certificates in a folder of its own, the current
 // one, on a machine with no dependent application recorded and both certificate stores empty.

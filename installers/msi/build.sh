@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# build.sh FOLDER OUTPUT.msi   makes the package of brindle.wxs. FOLDER holds sorrel.exe, run_sorrel.cmd, difxapi.dll,
+# Tessalin.inf and what belongs to it, trusted.cer and trusted_i.cer.
+set -euo pipefail
+source=$(realpath "$(dirname "$0")/brindle.wxs")
+output=$(realpath -m "$2")
+rm -f "$output"
+(cd "$1" && wixl -a x64 -o "$output" "$source")
+
+# wixl 0.101 cannot write these two actions.
+add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
+  msibuild "$output" -q "INSERT INTO CustomAction (Action, Type, Source, Target) VALUES ('$1', $2, '$3', '$4')"
+  msibuild "$output" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
+}
+
+# A product that fails takes its application off the list again. The tool comes out of the package itself, since the
+# installed one may be gone by then. 3394: a program in the package, deferred, on rollback, as the system, errors ignored.
+add_action UndoPrepareService 3394 sorrel 'uninstall none brindle' 'NOT Installed' 4002
+
+# A deferred action cannot ask for a restart, so one that runs when all is done looks into the log. 101: JScript, errors
+# ignored; mode 6: restart at the end.
+add_action AskForRestart 101 '' 'log = new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(Session.Property("WindowsFolder") + "Logs\\sorrel.log"); while (!log.AtEndOfStream) if (log.ReadLine() == "Reboot required") Session.Mode(6) = true;' 'NOT REMOVE="ALL"' 6601

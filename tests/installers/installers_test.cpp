@@ -1,0 +1,151 @@
+#include "tests/support/applications.h"
+#include "tests/support/certificate_store.h"
+#include "tests/support/testing.h"
+
+// The bytes of this log are those of the last run.
+static const wchar_t* const kLog = L"C:\\windows\\logs\\sorrel.log";
+
+// How a setup is run. `folder` is where the product goes.
+struct Installer {
+  std::filesystem::path folder;
+  std::wstring install, installBadCertificate, uninstall;
+  DWORD failure = 1603;
+  bool takesBack = true;
+};
+
+// What the simulator is told, and what a setup makes of it.
+struct Case {
+  const char* name;
+  DWORD code;
+  const wchar_t* driver = L"0";
+  const wchar_t* reboot = L"0";
+  std::wstring log = L"1,0,one";
+  const wchar_t* crash = L"0";
+  bool bluetooth = true;
+  bool badCertificate = false;
+};
+
+static std::wstring Events(int count) {
+  return count == 0 ? L""
+                    : L"1,0,ERR: Reboot required by none of these many words|" + Events(count - 1);
+}
+
+static std::vector<Case> Cases(DWORD failure) {
+  const std::wstring longLine = L"1,0," + std::wstring(1002, L'x') + L"ERR: amid a line|";
+  return {
+      {"driver installed", 0},
+      {"preinstalled", 0, L"0xE000020B"},
+      {"preinstalled, the other code", 0, L"0xE0000301"},
+      {"no update needed", 0, L"0x103"},
+      {"publisher not trusted", failure, L"0xE0000242"},
+      {"driver fails", failure, L"5"},
+      {"restart", 3010, L"0", L"1"},
+      {"failure and restart", failure, L"5", L"1"},
+      {"long log, success", 0, L"0", L"0", Events(30) + longLine},
+      {"long log, failure", failure, L"0xE0000242", L"0", Events(30)},
+      {"long log, restart", 3010, L"0", L"1", Events(30)},
+      {"the tool ends abnormally", failure, L"0", L"0", L"1,0,last", L"1"},
+      {"no Bluetooth library", 0, L"0", L"0", L"1,0,one", L"0", false},
+      {"no certificate", failure, L"0", L"0", L"1,0,one", L"0", true, true},
+  };
+}
+
+static DWORD RegisteredProducts() {
+  HKEY key = nullptr;
+  RegCreateKeyW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
+                &key);
+  const OwnedRegistryKey owned(key);
+  DWORD count = 0;
+  RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr, nullptr,
+                   nullptr, nullptr, nullptr);
+  return count;
+}
+
+static void Prepare(const Installer& installer, const Case& row) {
+  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_RESULT", row.driver);
+  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_REBOOT", row.reboot);
+  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", row.log.c_str());
+  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_CRASH", row.crash);
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ, L"kite", 10);
+  EmptyStores();
+  std::filesystem::remove(kLog);
+  std::filesystem::create_directories(installer.folder);
+  std::filesystem::remove(installer.folder / "bthprops.cpl");
+  if (row.bluetooth) {
+    std::filesystem::copy_file(ProgramPath(L"simulator\\bthprops.cpl"),
+                               installer.folder / "bthprops.cpl");
+  }
+}
+
+static void CheckEachCase(const Installer& installer) {
+  for (const Case& row : Cases(installer.failure)) {
+    INFO(row.name);
+    Prepare(installer, row);
+    const DWORD products = RegisteredProducts();
+    CHECK(RunChild(row.badCertificate ? installer.installBadCertificate : installer.install)
+              .exitCode == row.code);
+    const bool failed = row.code == installer.failure;
+    const std::string log = ReadBytes(kLog);
+    CHECK(log.find("INFO: 1 - ") != std::string::npos);
+    const bool missing = log.find("ERR: no Bluetooth") != std::string::npos;
+    CHECK(missing == !row.bluetooth);
+    CHECK(SubjectsInStore(L"TrustedPublisher") ==
+          (row.badCertificate ? L"" : L"Tessalin Test Publisher"));
+    CHECK(SubjectsInStore(L"CA") == L"Tessalin Test Publisher");
+    if (!failed) {
+      CHECK(Applications() == L"kite;brindle");
+      CHECK(RunChild(installer.uninstall).exitCode == 0);
+    } else if (!installer.takesBack) {
+      RunChild(installer.uninstall);
+    }
+    CHECK(Applications() == L"kite");
+    CHECK(RegisteredProducts() == products);
+    CHECK(std::filesystem::exists(installer.folder / "sorrel.exe") == !installer.takesBack);
+  }
+}
+
+TEST_CASE("run_sorrel.cmd") {
+  const ScratchFolder scratch;
+  const std::filesystem::path folder = scratch / L"\u017Dlu\u0165 & Co";
+  std::filesystem::create_directories(folder);
+  for (const auto& file :
+       std::filesystem::directory_iterator(ProgramPath(L"installers\\good\\files"))) {
+    std::filesystem::copy_file(file.path(), folder / file.path().filename());
+  }
+  const std::wstring run = L"cmd /s /c \"\"" + std::wstring(folder / "run_sorrel.cmd\" ");
+  const std::wstring inf = L"\"" + std::wstring(folder / "Tessalin.inf") + L"\" ";
+  const std::wstring good = L"\"" + std::wstring(folder / "trusted.cer") + L"\" ";
+  const std::wstring other = L"\"" + std::wstring(folder / "trusted_i.cer") + L"\" brindle\"";
+  CheckEachCase({.folder = folder,
+                 .install = run + L"install " + inf + good + other,
+                 .installBadCertificate = run + L"install " + inf + inf + other,
+                 .uninstall = run + L"uninstall " + inf + L"brindle\"",
+                 .takesBack = false});
+}
+
+TEST_CASE("the NSIS setup") {
+  const ScratchFolder scratch;
+  const std::filesystem::path folder = scratch / L"\u017Dlu\u0165 & Co";
+  const auto setup = [&](const wchar_t* kind) {
+    return L"\"" + ProgramPath(kind) + L"\\brindle_setup.exe\" /S /D=" + std::wstring(folder);
+  };
+  CheckEachCase({.folder = folder,
+                 .install = setup(L"installers\\good"),
+                 .installBadCertificate = setup(L"installers\\bad"),
+                 .uninstall = L"\"" + std::wstring(folder / "uninstall.exe") + L"\" /S _?=" +
+                              std::wstring(folder)});
+}
+
+TEST_CASE("the MSI package") {
+  // No product of an earlier build may hold on to the files.
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
+  const auto package = [&](const wchar_t* way, const wchar_t* kind) {
+    return L"msiexec /qn " + std::wstring(way) + L" \"" + ProgramPath(kind) + L"\\brindle.msi\"";
+  };
+  CheckEachCase({.folder = L"C:\\Program Files\\Brindle",
+                 .install = package(L"/i", L"installers\\good"),
+                 .installBadCertificate = package(L"/i", L"installers\\bad"),
+                 .uninstall = package(L"/x", L"installers\\good"),
+                 // Windows' own engine ends with 1603.
+                 .failure = ERROR_FUNCTION_FAILED});
+}
