@@ -10,9 +10,9 @@ install(FILES $<TARGET_FILE_DIR:sorrel>/sorrel.pdb DESTINATION bin COMPONENT sym
 install(FILES README.md CHANGELOG.md DESTINATION share/doc/sorrel COMPONENT documentation OPTIONAL)
 install(DIRECTORY docs installers DESTINATION share/doc/sorrel COMPONENT documentation)
 
-install(TARGETS kelvo_simulator_bthprops kelvo_simulator_difxapi LIBRARY DESTINATION share/sorrel/simulator
+install(TARGETS kelvo_simulator_bthprops kelvo_simulator_difxapi LIBRARY DESTINATION lib/sorrel/simulator
   COMPONENT simulator)
-install(FILES simulator/Tessalin.inf DESTINATION share/sorrel/simulator COMPONENT simulator)
+install(FILES simulator/Tessalin.inf DESTINATION lib/sorrel/simulator COMPONENT simulator)
 
 install(TARGETS kelvo_lib EXPORT kelvo ARCHIVE DESTINATION lib COMPONENT sdk)
 install(DIRECTORY lib DESTINATION include/kelvo COMPONENT sdk
@@ -22,3 +22,24 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/kelvo-config-version.cmak
 install(FILES ${PROJECT_BINARY_DIR}/kelvo-config-version.cmake DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(FILES docs/library.md CHANGELOG.md DESTINATION share/doc/kelvo COMPONENT sdk OPTIONAL)
 install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONENT sdk)
+
+# Three archives, which unpack into one folder. What is in them is signed before and accounted for afterwards.
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
+set(CPACK_ARCHIVE_TOOL_FILE_NAME sorrel-${PROJECT_VERSION}-win64)
+set(CPACK_ARCHIVE_SDK_FILE_NAME kelvo-${PROJECT_VERSION}-win64-sdk)
+set(CPACK_ARCHIVE_SYMBOLS_FILE_NAME sorrel-${PROJECT_VERSION}-win64-symbols)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/sign_programs.cmake)
+set(CPACK_POST_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/account_for_packages.cmake)
+set(CPACK_SOURCE_FOLDER ${PROJECT_SOURCE_DIR})
+set(CPACK_COMPILER ${CMAKE_CXX_COMPILER} --target=${CMAKE_CXX_COMPILER_TARGET})
+include(CPack)
+foreach(component tool documentation simulator)
+  cpack_add_component(${component} GROUP tool)
+endforeach()
+cpack_add_component(sdk GROUP sdk)
+cpack_add_component(symbols GROUP symbols)

@@ -14,7 +14,7 @@ endfunction()
 
 # What a component holds, to the file.
 foreach(component "tool;bin/sorrel.exe" "symbols;bin/sorrel.pdb"
-    "simulator;share/sorrel/simulator/Tessalin.inf;share/sorrel/simulator/bthprops.cpl;share/sorrel/simulator/difxapi.dll")
+    "simulator;lib/sorrel/simulator/Tessalin.inf;lib/sorrel/simulator/bthprops.cpl;lib/sorrel/simulator/difxapi.dll")
   list(POP_FRONT component name)
   install_into(${folder}/${name} --component ${name})
   if(NOT files STREQUAL component)
