@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstring>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -17,26 +18,33 @@
 
 namespace kelvo::test {
 
-// Directs this program's calls of an imported function to `target` and returns the previous target.
-inline void* SwapImport(const std::string& function, void* target) {
-  auto* const image = reinterpret_cast<BYTE*>(GetModuleHandleW(nullptr));
+// Directs a module's calls of an imported function to `target` and returns the previous target.
+inline void* SwapImport(const std::string& function, void* target,
+                        HMODULE module = GetModuleHandleW(nullptr)) {
+  auto* const image = reinterpret_cast<BYTE*>(module);
   const auto* const headers = reinterpret_cast<IMAGE_NT_HEADERS*>(
       image + reinterpret_cast<IMAGE_DOS_HEADER*>(image)->e_lfanew);
   const auto* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(
       image + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
   for (; library->Name != 0; ++library) {
-    const auto* const names = reinterpret_cast<ULONG_PTR*>(image + library->OriginalFirstThunk);
-    for (int i = 0; names[i] != 0; ++i) {
-      if (!IMAGE_SNAP_BY_ORDINAL(names[i]) &&
-          function == reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(image + names[i])->Name) {
-        auto* const slot = reinterpret_cast<void**>(image + library->FirstThunk) + i;
+    // mingw's import libraries align pointers at 4 bytes only: they are copied out and in.
+    ULONG_PTR name = 0;
+    for (DWORD at = 0;
+         std::memcpy(&name, image + library->OriginalFirstThunk + at, sizeof(name)), name != 0;
+         at += sizeof(name)) {
+      if (!IMAGE_SNAP_BY_ORDINAL(name) &&
+          function == reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(image + name)->Name) {
+        auto* const slot = image + library->FirstThunk + at;
+        void* previous = nullptr;
         DWORD protection = 0;
-        VirtualProtect(slot, sizeof(*slot), PAGE_READWRITE, &protection);
-        return std::exchange(*slot, target);
+        VirtualProtect(slot, sizeof(previous), PAGE_READWRITE, &protection);
+        std::memcpy(&previous, slot, sizeof(previous));
+        std::memcpy(slot, &target, sizeof(target));
+        return previous;
       }
     }
   }
-  throw std::runtime_error("this program does not import " + function);
+  throw std::runtime_error("this module does not import " + function);
 }
 
 // While it lives, `replacement` is called in place of an imported function, with the original
