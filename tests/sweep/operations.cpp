@@ -1,0 +1,96 @@
+#include "tests/sweep/operations.h"
+
+#include <array>
+
+#include "lib/paths/file_exists.h"
+#include "lib/paths/shell_folder_path.h"
+#include "lib/registry/registry_binary.h"
+#include "lib/registry/registry_key_tree.h"
+#include "lib/registry/registry_number.h"
+#include "lib/registry/registry_string.h"
+#include "lib/registry/registry_value_list.h"
+#include "lib/security/token_privileges.h"
+#include "lib/sysinfo/administrators.h"
+#include "lib/sysinfo/computer_name.h"
+#include "lib/sysinfo/file_version.h"
+#include "lib/sysinfo/file_version_text.h"
+#include "lib/sysinfo/system_directories.h"
+#include "lib/sysinfo/user_name.h"
+#include "tool/command_line.h"
+#include "tool/dependent_applications.h"
+
+using namespace kelvo;
+
+namespace {
+
+// The exit code, or what is returned; an exception that leaves a command ends the program with 3.
+template <typename Run>
+std::wstring Answer(Run run) {
+  try {
+    return std::wstring(std::wstring_view(run()));
+  } catch (...) {
+    return L"an exception";
+  }
+}
+
+WString Text(long long number) { return std::to_wstring(number).c_str(); }
+// What differs from machine to machine.
+WString IsThere(const WString& text) { return text.empty() ? L"nothing" : L"a text"; }
+
+WString ReadList() {
+  WString texts;
+  for (const auto& [name, text] : ReadRegistryKeyValues(HKEY_LOCAL_MACHINE, ServiceParametersKey)) {
+    texts += name + L"=" + text;
+  }
+  return texts;
+}
+
+WString WriteAndDelete() {
+  const std::string bytes = "1";
+  const LSTATUS written =
+      RegistryWriteBinary(HKEY_CURRENT_USER, L"Software\\kelvo\\sweep", L"n", bytes);
+  std::string read;
+  const LSTATUS found =
+      RegistryReadBinary(HKEY_CURRENT_USER, L"Software\\kelvo\\sweep", L"n", read);
+  const LSTATUS deleted = RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"Software", L"kelvo");
+  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo");
+  return Text(written) + L" " + Text(found) + L" " + Text(read == bytes) + L" " + Text(deleted);
+}
+
+#define COMMAND(list, ...)                                                             \
+  Operation {                                                                          \
+    #__VA_ARGS__, list, [] {                                                           \
+      const std::array words = {L"sorrel.exe", __VA_ARGS__};                           \
+      return Answer([&] { return Text(RunCommandLine(words.size(), words.data())); }); \
+    }                                                                                  \
+  }
+#define CALL(...)                                                            \
+  Operation {                                                                \
+    #__VA_ARGS__, L"%OS%", [] { return Answer([] { return __VA_ARGS__; }); } \
+  }
+
+}  // namespace
+
+extern "C" __declspec(dllexport) const Operation operations[] = {
+    COMMAND(L"kite", L"install", L"C:\\Tessalin.inf", L"binary.cer", L"base64.cer", L"brindle"),
+    COMMAND(L"kite", L"install", L"C:\\a", L"none.cer", L"none.cer", L"kite"),
+    COMMAND(L"kite;brindle", L"uninstall", L"C:\\Tessalin.inf", L"brindle"),
+    COMMAND(L"kite", L"uninstall", L"C:\\Tessalin.inf", L"kite"),
+    COMMAND(L"kite", L"register"),
+    COMMAND(L"kite", L"unregister"),
+    COMMAND(L"kite", L"register", L"brindle"),
+    COMMAND(L"kite;brindle", L"unregister", L"kite"),
+    COMMAND(L"kite", L"unregister", L"kite"),
+    CALL(ReadList()),
+    CALL(WriteAndDelete()),
+    CALL(Text(RegistryReadDword(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"none", 7))),
+    CALL(Text(FileExists(L"binary.cer"))),
+    CALL(Text(CompareFileVersion(L"..\\versioned_english.dll", 1, 2, 3, 65536))),
+    CALL(GetFileVersionText(L"..\\versioned_english.dll")),
+    CALL(IsThere(GetSystemDirectoryPath())),
+    CALL(IsThere(GetComputerNetbiosName())),
+    CALL(IsThere(GetComputerNameFQ())),
+    CALL(IsThere(GetUserNameFQ())),
+    CALL(Text(IsAdmin())),
+    CALL(Text(EnablePrivilege(L"SeBackupPrivilege", TRUE))),
+    {nullptr, nullptr, nullptr}};
