@@ -1,5 +1,5 @@
 # Packs what is built, once signed with a throw-away certificate and once as it is, and looks into the archives:
-# cmake -D project=... -D folder=... -D osslsigncode=... -D openssl=... -D wine=... -P check_package.cmake
+# cmake -D project=... -D version=... -D folder=... -D osslsigncode=... -D openssl=... -D wine=... -P check_package.cmake
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -22,7 +22,7 @@ run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/un
 # Each archive is told with its sum, and only the signature makes a difference.
 foreach(kind signed unsigned)
   file(GLOB made RELATIVE ${folder}/${kind} ${folder}/${kind}/*.*)
-  if(NOT made STREQUAL "kelvo-1.0.0-win64-sdk.zip;sorrel-1.0.0-win64-symbols.zip;sorrel-1.0.0-win64.spdx.json;sorrel-1.0.0-win64.zip")
+  if(NOT made STREQUAL "kelvo-${version}-win64-sdk.zip;sorrel-${version}-win64-symbols.zip;sorrel-${version}-win64.spdx.json;sorrel-${version}-win64.zip")
     message(SEND_ERROR "Packed were ${made}")
   endif()
   foreach(file ${made})
@@ -43,9 +43,9 @@ foreach(archive same same other other)
 endforeach()
 
 # What the bill of materials says of the program is so, and its signature is good.
-file(READ ${folder}/signed/sorrel-1.0.0-win64.spdx.json bill)
-file(ARCHIVE_EXTRACT INPUT ${folder}/signed/sorrel-1.0.0-win64.zip DESTINATION ${folder})
-set(program ${folder}/sorrel-1.0.0-win64/bin/sorrel.exe)
+file(READ ${folder}/signed/sorrel-${version}-win64.spdx.json bill)
+file(ARCHIVE_EXTRACT INPUT ${folder}/signed/sorrel-${version}-win64.zip DESTINATION ${folder})
+set(program ${folder}/sorrel-${version}-win64/bin/sorrel.exe)
 file(SHA256 ${program} sum)
 string(FIND "${bill}" "\"checksumValue\" : \"${sum}\"" place)
 if(place LESS 0)
