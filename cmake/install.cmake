@@ -3,8 +3,8 @@
 
 include(CMakePackageConfigHelpers)
 
-install(TARGETS sorrel RUNTIME DESTINATION bin COMPONENT tool)
-install(FILES $<TARGET_FILE_DIR:sorrel>/sorrel.pdb DESTINATION bin COMPONENT symbols EXCLUDE_FROM_ALL)
+install(TARGETS sorrel sorrel_status RUNTIME DESTINATION bin COMPONENT tool)
+install(FILES $<TARGET_FILE_DIR:sorrel>/sorrel.pdb $<TARGET_FILE_DIR:sorrel>/sorrel_status.pdb DESTINATION bin COMPONENT symbols EXCLUDE_FROM_ALL)
 
 # The tree is the repository's, so that the pages' links hold.
 install(FILES README.md CHANGELOG.md DESTINATION share/doc/sorrel COMPONENT documentation OPTIONAL)

@@ -5,12 +5,12 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "lib/string/visible_text.h"
+#include "lib/ui/utf8_output.h"
 
 namespace kelvo {
 
@@ -48,18 +48,11 @@ bool Print(const std::vector<Line>& lines) {
     all.append(width - std::min(width, CountCharacters(name)), ' ');
     all += "  " + text + "\n";
   }
-  return std::fwrite(all.data(), 1, all.size(), stdout) == all.size() && std::fflush(stdout) == 0;
+  return WriteUtf8(STD_OUTPUT_HANDLE, all);
 }
 
 }  // namespace
 
 }  // namespace kelvo
 
-extern "C" int wmain() {
-  // What a console takes the bytes for; a file or a pipe takes them as they are.
-  const UINT previous = GetConsoleOutputCP();
-  SetConsoleOutputCP(CP_UTF8);
-  const bool printed = kelvo::Print(kelvo::CollectLines());
-  SetConsoleOutputCP(previous);
-  return printed ? 0 : 1;
-}
+extern "C" int wmain() { return kelvo::Print(kelvo::CollectLines()) ? 0 : 1; }

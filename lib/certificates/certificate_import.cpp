@@ -49,11 +49,11 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
 }
 
 DWORD ImportCertToTrustedPublishers(const wchar_t* file) {
-  return ImportCertToSystemStore(file, L"TrustedPublisher");
+  return ImportCertToSystemStore(file, kTrustedPublisherStore);
 }
 
 DWORD ImportCertToIntermediateCA(const wchar_t* file) {
-  return ImportCertToSystemStore(file, L"CA");
+  return ImportCertToSystemStore(file, kIntermediateCaStore);
 }
 
 }  // namespace kelvo

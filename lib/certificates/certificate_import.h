@@ -15,6 +15,9 @@ namespace kelvo {
 // Loads the security support interface first and lets its wsspi::SspiException* pass.
 DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName);
 
+inline constexpr const wchar_t* kTrustedPublisherStore = L"TrustedPublisher";
+inline constexpr const wchar_t* kIntermediateCaStore = L"CA";
+
 // Into "TrustedPublisher": whose signed driver packages are installed without a question.
 DWORD ImportCertToTrustedPublishers(const wchar_t* file);
 

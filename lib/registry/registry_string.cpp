@@ -14,7 +14,7 @@ namespace kelvo {
 
 namespace {
 
-constexpr DWORD kReadLength = 1024;
+constexpr DWORD kReadLength = kMaxRegistryStringSize / sizeof(wchar_t);
 constexpr DWORD kExpandedLength = MAX_PATH;
 
 enum class Expansion { kNone, kWhereTypeSays };

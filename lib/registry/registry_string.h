@@ -8,6 +8,9 @@
 
 namespace kelvo {
 
+// In bytes; RegistryReadString takes a longer value for one that cannot be used.
+inline constexpr DWORD kMaxRegistryStringSize = 2048;
+
 // The value's text when it is a REG_SZ or REG_EXPAND_SZ of at most 2,048 bytes, otherwise
 // `defaultText`: for a missing key or value, another type and a longer value alike. An empty stored
 // text is an answer, not a missing one. The text ends at its first NUL, or with the data when that

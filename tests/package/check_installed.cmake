@@ -13,7 +13,7 @@ function(install_into prefix)
 endfunction()
 
 # What a component holds, to the file.
-foreach(component "tool;bin/sorrel.exe" "symbols;bin/sorrel.pdb"
+foreach(component "tool;bin/sorrel.exe;bin/sorrel_status.exe" "symbols;bin/sorrel.pdb;bin/sorrel_status.pdb"
     "simulator;lib/sorrel/simulator/Tessalin.inf;lib/sorrel/simulator/bthprops.cpl;lib/sorrel/simulator/difxapi.dll")
   list(POP_FRONT component name)
   install_into(${folder}/${name} --component ${name})

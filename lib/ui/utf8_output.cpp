@@ -1,0 +1,49 @@
+#include "lib/ui/utf8_output.h"
+
+#include <limits>
+#include <string>
+
+namespace kelvo {
+
+namespace {
+
+std::string WithCarriageReturns(std::string_view text) {
+  std::string lines;
+  lines.reserve(text.length());
+  for (const char byte : text) {
+    lines += byte == '\n' ? "\r" : "";
+    lines += byte;
+  }
+  return lines;
+}
+
+bool WriteToConsole(HANDLE console, const std::string& utf8) {
+  // No UTF-16 has more units than its UTF-8 has bytes.
+  std::wstring text(utf8.length(), L'\0');
+  const auto size = static_cast<int>(utf8.length());
+  const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text.data(), size);
+  DWORD written = 0;
+  return WriteConsoleW(console, text.data(), static_cast<DWORD>(length), &written, nullptr) !=
+             FALSE &&
+         written == static_cast<DWORD>(length);
+}
+
+}  // namespace
+
+bool WriteUtf8(DWORD device, std::string_view utf8) {
+  const std::string lines = WithCarriageReturns(utf8);
+  if (lines.empty() || lines.length() > std::numeric_limits<int>::max()) {
+    return lines.empty();
+  }
+  HANDLE const output = GetStdHandle(device);
+  DWORD mode = 0;
+  if (GetConsoleMode(output, &mode) != FALSE) {
+    return WriteToConsole(output, lines);
+  }
+  DWORD written = 0;
+  return WriteFile(output, lines.data(), static_cast<DWORD>(lines.length()), &written, nullptr) !=
+             FALSE &&
+         written == lines.length();
+}
+
+}  // namespace kelvo

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "lib/string/wstring.h"
+#include "status/item.h"
+
+namespace kelvo {
+
+// Where the driver installation interface is, and the version of its file.
+struct InterfaceFacts {
+  WString path;  // beside the program, or else in the system directory; empty for nowhere
+  WString version;
+};
+
+// Looks for the file; loads nothing.
+InterfaceFacts QueryInterface();
+
+Item DescribeInterface(const InterfaceFacts& facts);
+
+}  // namespace kelvo
