@@ -1,0 +1,36 @@
+#include "status/command_line.h"
+
+#include "tests/support/testing.h"
+
+TEST_CASE("words are taken as they stand, or told to be wrong") {
+  using Kind = CommandLine::Kind;
+  struct Row {
+    std::vector<const wchar_t*> words;
+    Kind kind;
+    std::vector<WString> applications;
+    WString mistake;
+  };
+  const Row rows[] = {
+      {{}, Kind::kQuestions, {}, L""},
+      {{L"--application", L"a,b", L"--application=", L"--application=-\u00FF\u0416\xDE00\xFFFF"},
+       Kind::kQuestions,
+       {L"a,b", L"", L"-\u00FF\u0416\xDE00\xFFFF"},
+       L""},
+      {{L"--application", L"--json"}, Kind::kQuestions, {L"--json"}, L""},
+      {{L"--version", L"--help"}, Kind::kHelp, {}, L""},
+      {{L"--version"}, Kind::kVersion, {}, L""},
+      {{L"--application"}, Kind::kWrong, {}, L"Option 'application' is missing an argument"},
+      {{L"--Json"}, Kind::kWrong, {}, L"Option 'Json' does not exist"},
+      {{L"\u0416\xD800"}, Kind::kWrong, {}, L"Unexpected word '\u0416\xD800'"},
+      {{L"--", L"x"}, Kind::kWrong, {}, L"Unexpected word 'x'"},
+  };
+  for (const auto& [words, kind, applications, mistake] : rows) {
+    std::vector<const wchar_t*> all{L"sorrel_status.exe"};
+    all.insert(all.end(), words.begin(), words.end());
+    const CommandLine line = ParseCommandLine(static_cast<int>(all.size()), all.data());
+    CAPTURE(mistake);
+    CHECK(line.kind == kind);
+    CHECK(line.questions.applications == applications);
+    CHECK(line.mistake == mistake);
+  }
+}
