@@ -1,5 +1,5 @@
 # What the program's file needs and says:
-# cmake -D program=... -D readobj=... -D osslsigncode=... -D source_folder=... -P check_program_file.cmake
+# cmake -D program=... -D libraries=... -D late=... -D most_bytes=... -D readobj=... -D osslsigncode=... -D source_folder=... -P check_program_file.cmake
 
 execute_process(COMMAND ${readobj} --coff-imports ${program} OUTPUT_VARIABLE imports
   COMMAND_ERROR_IS_FATAL ANY)
@@ -8,15 +8,16 @@ string(REGEX MATCHALL "import {\n  name: [^\n]+" needed "${imports}")
 list(TRANSFORM needed REPLACE "import {\n  name: " "")
 list(REMOVE_DUPLICATES needed)
 list(SORT needed)
-if(NOT needed STREQUAL "advapi32.dll;crypt32.dll;kernel32.dll;msvcrt.dll")
+list(JOIN needed "," needed)
+if(NOT needed STREQUAL libraries)
   message(SEND_ERROR "${program} needs other libraries than every Windows has: ${needed}")
 endif()
-if(NOT imports MATCHES "delayimport {\n  name: crypt32.dll")
-  message(SEND_ERROR "${program} does not load crypt32.dll late")
+if(late AND NOT imports MATCHES "delayimport {\n  name: ${late}")
+  message(SEND_ERROR "${program} does not load ${late} late")
 endif()
 
 file(SIZE ${program} size)
-if(size GREATER 102400)
+if(size GREATER most_bytes)
   message(SEND_ERROR "${program} has grown to ${size} bytes")
 endif()
 
