@@ -1,0 +1,84 @@
+// Registry values of any type, size and length, read by each reader.
+
+#include "lib/registry/registry_binary.h"
+#include "lib/registry/registry_number.h"
+#include "lib/registry/registry_string.h"
+#include "lib/registry/registry_value_list.h"
+#include "torture/input.h"
+
+namespace kelvo::torture {
+
+namespace {
+
+constexpr const wchar_t* kKey = L"Software\\kelvo torture";
+constexpr const wchar_t* kName = L"value";
+
+// What the readers take for the text: up to the first NUL, half a unit as one of its own.
+std::wstring TextIn(const std::string& data) {
+  std::wstring text((data.size() + 1) / 2, L'\0');
+  std::memcpy(text.data(), data.data(), data.size());
+  return text.substr(0, text.find(L'\0'));
+}
+
+std::string AnyData(Input& input) {
+  if (input.Chance()) {
+    return input.Bytes(input.Chance() ? 9 : 2100);
+  }
+  const std::wstring text = input.Text(1030, L"ab");
+  return {reinterpret_cast<const char*>(text.c_str()), (text.length() * 2) + input.Number(2)};
+}
+
+void ReadValue(Input& input) {
+  constexpr DWORD kTypes[] = {REG_SZ,     REG_EXPAND_SZ, REG_SZ,   REG_DWORD,
+                              REG_BINARY, REG_MULTI_SZ,  REG_NONE, 77};
+  const DWORD type = kTypes[input.Number(7)];
+  const std::string data = AnyData(input);
+  // Copied without what stands behind it, where Windows might find a NUL.
+  const GuardedMemory stored(data, input.Chance());
+  RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, type, stored.As<void>(),
+                  static_cast<DWORD>(data.size()));
+
+  const std::wstring text = TextIn(data);
+  const bool isText = type == REG_SZ || type == REG_EXPAND_SZ;
+  const bool isExpanded = type == REG_EXPAND_SZ && text.find(L'%') != std::wstring::npos;
+  const WString read = RegistryReadString(HKEY_CURRENT_USER, kKey, kName, L"default");
+  const bool fits = isText && data.size() <= 2048;
+  // An expansion that does not fit into its buffer is the stored text again.
+  if (!isExpanded && (type != REG_EXPAND_SZ || text.length() < 259)) {
+    Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is what is stored");
+  }
+  // Often what the value just fills.
+  const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
+  const GuardedMemory buffer(std::wstring(length, L'x'), input.Chance());
+  const std::size_t stays =
+      RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);
+  Expect(length == 0 || stays < length, "the text ends within the buffer");
+  if (isText && length != 0 && data.size() <= length * 2) {
+    Expect(std::wstring(buffer.As<wchar_t>()) == text.substr(0, length - 1),
+           "the buffer has the text");
+  }
+  RegistryReadStringBuffer(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);
+
+  std::string bytes = "untouched";
+  RegistryReadBinary(HKEY_CURRENT_USER, kKey, kName, bytes);
+  Expect(bytes == (type == REG_BINARY && !data.empty() ? data : "untouched"),
+         "the bytes are what is stored");
+
+  DWORD number = 0;
+  std::memcpy(&number, data.data(), std::min<std::size_t>(data.size(), 4));
+  const bool isNumber = type == REG_DWORD && data.size() <= 4;
+  Expect(RegistryReadDword(HKEY_CURRENT_USER, kKey, kName, 7) == (isNumber ? number : 7),
+         "the number is what is stored");
+
+  const NameTextList list = ReadRegistryKeyValues(HKEY_CURRENT_USER, kKey);
+  Expect(list.size() == (isText || type == REG_DWORD ? 1 : 0), "texts and numbers are listed");
+  if (type == REG_SZ) {
+    Expect(std::wstring_view(list[0].second) == text, "the listed text is what is stored");
+  }
+}
+
+}  // namespace
+
+std::vector<Target> RegistryTargets() { return {{"registry values", ReadValue, "kernelbase"}}; }
+
+}  // namespace kelvo::torture
