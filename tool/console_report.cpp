@@ -16,7 +16,7 @@ std::string ToConsoleBytes(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.length() + 1);
   for (const wchar_t unit : text) {
-    // Also behind a CR, which system texts bring along.
+    // Also after a CR, which system texts bring along.
     if (unit == L'\n') {
       bytes += '\r';
     }
@@ -52,14 +52,12 @@ void Report(const wchar_t* format, ...) {
 WString FormatSystemMessage(DWORD code) {
   constexpr DWORD kMessageLength = 2000;
   WString buffer(kMessageLength, L'\0');
-  FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, code,
-                 MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), buffer.data(), kMessageLength, nullptr);
-  return {buffer.c_str()};
-}
-
-void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description,
-                              PVOID /*context*/) {
-  Report(L"INFO: %d - %08lX - %s\n", event, error, description != nullptr ? description : L"");
+  // Cut to 0 on failure too: a text with inserts, which get no arguments here, may be left half
+  // done.
+  buffer.resize(FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, code,
+                               MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), buffer.data(),
+                               kMessageLength, nullptr));
+  return buffer;
 }
 
 }  // namespace kelvo

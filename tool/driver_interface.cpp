@@ -1,11 +1,34 @@
 #include "tool/driver_interface.h"
 
+#include "lib/paths/file_exists.h"
+#include "lib/string/wstring.h"
+#include "lib/sysinfo/system_directories.h"
+#include "tool/console_report.h"
+
 namespace kelvo {
 
+namespace {
+
+constexpr const wchar_t* kLibraryName = L"difxapi.dll";
+
+// With its last backslash; empty when it cannot be told.
+WString ProgramDirectory() {
+  constexpr DWORD kMaxPathLength = 0x8000;
+  WString path(kMaxPathLength, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), kMaxPathLength));
+  path.resize(path.rfind(L"\\") + 1);
+  return path;
+}
+
+WString LibraryPath() {
+  const WString ownCopy = ProgramDirectory() + kLibraryName;
+  return FileExists(ownCopy.c_str()) ? ownCopy : WString(GetSystemDirectoryPath()) + kLibraryName;
+}
+
+}  // namespace
+
 bool BindDriverInterface(DriverInterface& driver) {
-  // Not the current folder and not the path: what is found there runs with administrative rights.
-  driver.library.reset(LoadLibraryExW(
-      L"difxapi.dll", nullptr, LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32));
+  driver.library.reset(LoadLibraryW(LibraryPath().c_str()));
   if (!driver.library) {
     return false;
   }
@@ -15,6 +38,16 @@ bool BindDriverInterface(DriverInterface& driver) {
   }
   driver.installPackage = KELVO_FIND_FUNCTION(driver.library.get(), DriverPackageInstallW);
   return driver.installPackage != nullptr;
+}
+
+void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description,
+                              PVOID /*context*/) noexcept {
+  try {
+    Report(L"INFO: %d - %08lX - %s\n", event, error, description != nullptr ? description : L"");
+  } catch (...) {
+    // It would unwind through the interface and cut the installation off.
+    return;
+  }
 }
 
 }  // namespace kelvo

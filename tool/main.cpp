@@ -1,3 +1,7 @@
 #include "tool/command_line.h"
+#include "tool/library_search.h"
 
-extern "C" int wmain(int argc, wchar_t** argv) { return kelvo::RunCommandLine(argc, argv); }
+extern "C" int wmain(int argc, wchar_t** argv) {
+  kelvo::NarrowLibrarySearch();
+  return kelvo::RunCommandLine(argc, argv);
+}

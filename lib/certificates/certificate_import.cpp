@@ -1,6 +1,11 @@
 #include "lib/certificates/certificate_import.h"
 
-#include "lib/certificates/certificate_handles.h"
+#include <wincrypt.h>
+
+#include <memory>
+#include <type_traits>
+
+#include "lib/platform/module.h"
 #include "lib/wsspi/sspi_loader.h"
 
 namespace kelvo {
@@ -11,41 +16,89 @@ namespace {
 // CERT_QUERY_CONTENT_FLAG_ALL.
 constexpr DWORD kContentTypes = 0x3FFE;
 
+// crypt32.dll is bound at run time, so that a program that imports no certificate starts without
+// it, and one that misses a function of it gets an error code.
+struct Crypt32 {
+  decltype(&CertOpenStore) openStore = nullptr;
+  decltype(&CryptQueryObject) queryObject = nullptr;
+  decltype(&CertAddCertificateContextToStore) addCertificate = nullptr;
+  decltype(&CertFreeCertificateContext) freeCertificate = nullptr;
+  decltype(&CertCloseStore) closeStore = nullptr;
+};
+
+// Returns the error of the load or lookup that failed. The library stays loaded, since a store may
+// stay open.
+DWORD BindCrypt32(Crypt32& bound) {
+  const HMODULE library = LoadLibraryW(L"crypt32.dll");
+  if (library == nullptr) {
+    return GetLastError();
+  }
+  const auto find = [library](auto& function, const char* name) {
+    function = FindFunction<std::remove_pointer_t<std::remove_reference_t<decltype(function)>>>(
+        library, name);
+    return function != nullptr;
+  };
+  const bool isComplete = find(bound.openStore, "CertOpenStore") &&
+                          find(bound.queryObject, "CryptQueryObject") &&
+                          find(bound.addCertificate, "CertAddCertificateContextToStore") &&
+                          find(bound.freeCertificate, "CertFreeCertificateContext") &&
+                          find(bound.closeStore, "CertCloseStore");
+  return isComplete ? ERROR_SUCCESS : GetLastError();
+}
+
+struct StoreCloser {
+  decltype(&CertCloseStore) close;
+  void operator()(HCERTSTORE store) const { close(store, 0); }
+};
+using BoundStore = std::unique_ptr<void, StoreCloser>;
+
+struct CertificateFreer {
+  decltype(&CertFreeCertificateContext) free;
+  void operator()(PCCERT_CONTEXT certificate) const { free(certificate); }
+};
+using BoundCertificate = std::unique_ptr<const CERT_CONTEXT, CertificateFreer>;
+
+DWORD AddFromFile(const Crypt32& crypt32, const wchar_t* file, BoundStore& systemStore) {
+  DWORD encodingType = 0;
+  DWORD contentType = 0;
+  DWORD formatType = 0;
+  HCERTSTORE store = nullptr;
+  const void* context = nullptr;
+  if (crypt32.queryObject(CERT_QUERY_OBJECT_FILE, file, kContentTypes, CERT_QUERY_FORMAT_FLAG_ALL,
+                          0, &encodingType, &contentType, &formatType, &store, nullptr,
+                          &context) == FALSE) {
+    const DWORD error = GetLastError();
+    // Kept open on this path: one handle for each file that cannot be read is accepted.
+    static_cast<void>(systemStore.release());
+    return error;
+  }
+  const BoundStore fileStore(store, {crypt32.closeStore});
+  const BoundCertificate certificate(static_cast<PCCERT_CONTEXT>(context),
+                                     {crypt32.freeCertificate});
+  if (certificate && crypt32.addCertificate(systemStore.get(), certificate.get(),
+                                            CERT_STORE_ADD_REPLACE_EXISTING, nullptr) == FALSE) {
+    return GetLastError();
+  }
+  return ERROR_SUCCESS;
+}
+
 }  // namespace
 
 DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   if (!wsspi::IsSspiInitialized()) {
     wsspi::SspiInitialize();
   }
-  OwnedCertificateStore systemStore(
-      CertOpenStore(CERT_STORE_PROV_SYSTEM_W, X509_ASN_ENCODING | PKCS_7_ASN_ENCODING, 0,
-                    CERT_SYSTEM_STORE_LOCAL_MACHINE | CERT_STORE_OPEN_EXISTING_FLAG, storeName));
-  if (!systemStore) {
-    return GetLastError();
-  }
-
-  // Owners close in the reverse of this order: the context, the file's store, the system store.
-  OwnedCertificateStore fileStore;
-  OwnedCertificate certificate;
-  DWORD encodingType = 0;
-  DWORD contentType = 0;
-  DWORD formatType = 0;
-  const void* context = nullptr;
-  if (CryptQueryObject(CERT_QUERY_OBJECT_FILE, file, kContentTypes, CERT_QUERY_FORMAT_FLAG_ALL, 0,
-                       &encodingType, &contentType, &formatType, fileStore.Receive(), nullptr,
-                       &context) == FALSE) {
-    const DWORD error = GetLastError();
-    // Kept open on this path: one handle for each file that cannot be read is accepted.
-    systemStore.release();
+  // All functions before the first call: nothing is left half done for want of one.
+  Crypt32 crypt32;
+  const DWORD error = BindCrypt32(crypt32);
+  if (error != ERROR_SUCCESS) {
     return error;
   }
-  certificate.reset(static_cast<PCCERT_CONTEXT>(context));
-  if (certificate &&
-      CertAddCertificateContextToStore(systemStore.get(), certificate.get(),
-                                       CERT_STORE_ADD_REPLACE_EXISTING, nullptr) == FALSE) {
-    return GetLastError();
-  }
-  return ERROR_SUCCESS;
+  BoundStore systemStore(
+      crypt32.openStore(CERT_STORE_PROV_SYSTEM_W, X509_ASN_ENCODING | PKCS_7_ASN_ENCODING, 0,
+                        CERT_SYSTEM_STORE_LOCAL_MACHINE | CERT_STORE_OPEN_EXISTING_FLAG, storeName),
+      {crypt32.closeStore});
+  return systemStore ? AddFromFile(crypt32, file, systemStore) : GetLastError();
 }
 
 DWORD ImportCertToTrustedPublishers(const wchar_t* file) {

@@ -1,6 +1,7 @@
 #include "lib/registry/registry_key_tree.h"
 
 #include <array>
+#include <vector>
 
 #include "lib/platform/module.h"
 #include "lib/registry/registry_key.h"
@@ -15,33 +16,27 @@ constexpr REGSAM kDeleteSubkeys =
 constexpr REGSAM kDeleteValues = kDeleteSubkeys | KEY_QUERY_VALUE;
 constexpr DWORD kNameLength = 255;
 
-// NOLINTBEGIN(misc-no-recursion): a registry path is at most 512 keys deep
+// The loops always ask for index 0: what stood there before has been deleted.
 
-// Both loops ask for index 0 each time: the one before is gone.
-
-LSTATUS DeleteSubkeys(HKEY root, const wchar_t* path) {
-  for (;;) {
-    OwnedRegistryKey key;
-    std::array<wchar_t, kNameLength> name{};
-    DWORD length = kNameLength;
-    if (OpenRegistryKey(root, path, kDeleteSubkeys, key) != ERROR_SUCCESS ||
-        RegEnumKeyExW(key.get(), 0, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
-            ERROR_SUCCESS) {
-      return ERROR_SUCCESS;
-    }
-    const LSTATUS status = RegistryDeleteKeyTree(root, path, name.data());
-    if (status != ERROR_SUCCESS) {
-      return status;
-    }
+// Empty when there is no subkey or the key does not open.
+WString FirstSubkey(HKEY root, const WString& path) {
+  OwnedRegistryKey key;
+  std::array<wchar_t, kNameLength> name{};
+  DWORD length = kNameLength;
+  if (OpenRegistryKey(root, path.c_str(), kDeleteSubkeys, key) != ERROR_SUCCESS ||
+      RegEnumKeyExW(key.get(), 0, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
+          ERROR_SUCCESS) {
+    return {};
   }
+  return {name.data()};
 }
 
-LSTATUS DeleteValues(HKEY root, const wchar_t* path) {
+LSTATUS DeleteValues(HKEY root, const WString& path) {
   for (;;) {
     OwnedRegistryKey key;
     std::array<wchar_t, kNameLength> name{};
     DWORD length = kNameLength;
-    if (OpenRegistryKey(root, path, kDeleteValues, key) != ERROR_SUCCESS ||
+    if (OpenRegistryKey(root, path.c_str(), kDeleteValues, key) != ERROR_SUCCESS ||
         RegEnumValueW(key.get(), 0, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
             ERROR_SUCCESS) {
       return ERROR_SUCCESS;
@@ -53,15 +48,15 @@ LSTATUS DeleteValues(HKEY root, const wchar_t* path) {
   }
 }
 
-LSTATUS DeleteEmptyKey(HKEY root, const wchar_t* parentPath, const wchar_t* keyName) {
+LSTATUS DeleteEmptyKey(HKEY root, const WString& parentPath, const WString& keyName) {
   OwnedRegistryKey parent;
-  const LSTATUS status = OpenRegistryKey(root, parentPath, kDeleteSubkeys, parent);
+  const LSTATUS status = OpenRegistryKey(root, parentPath.c_str(), kDeleteSubkeys, parent);
   if (status != ERROR_SUCCESS) {
     return status;
   }
   auto* const deleteKeyEx = KELVO_FIND_FUNCTION(GetModuleHandleW(L"advapi32.dll"), RegDeleteKeyExW);
-  return deleteKeyEx != nullptr ? deleteKeyEx(parent.get(), keyName, RegistryAccessFlags, 0)
-                                : RegDeleteKeyW(parent.get(), keyName);
+  return deleteKeyEx != nullptr ? deleteKeyEx(parent.get(), keyName.c_str(), RegistryAccessFlags, 0)
+                                : RegDeleteKeyW(parent.get(), keyName.c_str());
 }
 
 }  // namespace
@@ -70,14 +65,29 @@ LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_
   if (WString(parentPath).empty() || WString(keyName).empty()) {
     return ERROR_ACCESS_DENIED;
   }
-  const WString path = WString(parentPath) + L"\\" + keyName;
-  LSTATUS status = DeleteSubkeys(root, path.c_str());
-  if (status == ERROR_SUCCESS) {
-    status = DeleteValues(root, path.c_str());
+  // The key that is emptied now, and where the path of each key from keyName down to it ends for
+  // its parent. Not a recursion: others decide how deep a tree is.
+  WString path = WString(parentPath) + L"\\" + keyName;
+  std::vector<std::size_t> parentLengths{WString(parentPath).length()};
+  while (!parentLengths.empty()) {
+    const WString subkey = FirstSubkey(root, path);
+    if (!subkey.empty()) {
+      parentLengths.push_back(path.length());
+      path += L"\\" + subkey;
+      continue;
+    }
+    LSTATUS status = DeleteValues(root, path);
+    if (status == ERROR_SUCCESS) {
+      status = DeleteEmptyKey(root, path.substr(0, parentLengths.back()),
+                              path.substr(parentLengths.back() + 1));
+    }
+    if (status != ERROR_SUCCESS) {
+      return status;
+    }
+    path.resize(parentLengths.back());
+    parentLengths.pop_back();
   }
-  return status == ERROR_SUCCESS ? DeleteEmptyKey(root, parentPath, keyName) : status;
+  return ERROR_SUCCESS;
 }
-
-// NOLINTEND(misc-no-recursion)
 
 }  // namespace kelvo

@@ -18,12 +18,12 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
     CAPTURE(file);
     CAPTURE(adds);
     std::multiset<const void*> open;
-    REPLACE(CertOpenStore, [&](auto original, LPCSTR provider, DWORD encoding, auto unused,
-                               DWORD flags, const void* name) {
+    REPLACE_LOOKUP(CertOpenStore, [&](auto original, LPCSTR provider, DWORD encoding, auto unused,
+                                      DWORD flags, const void* name) {
       CHECK((provider == CERT_STORE_PROV_SYSTEM_W && encoding == 0x10001 && flags == 0x24000));
       return const_cast<void*>(*open.insert(original(provider, encoding, unused, flags, name)));
     });
-    REPLACE(CryptQueryObject, [&](auto original, auto... given) {
+    REPLACE_LOOKUP(CryptQueryObject, [&](auto original, auto... given) {
       const auto [object, path, content, format, flags, encoding, contentType, formatType, store,
                   message, context] = std::tuple(given...);
       CHECK((object == 1 && content == 0x3FFE && format == 0xE && flags == 0));
@@ -33,23 +33,50 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
       open.erase(nullptr);
       return SetLastError(ERROR_SHARING_VIOLATION), found;
     });
-    REPLACE(CertAddCertificateContextToStore,
-            [&](auto original, auto store, auto certificate, DWORD disposition, auto copy) {
-              CHECK((disposition == 3 && copy == nullptr));
-              const BOOL done = adds && original(store, certificate, disposition, copy);
-              return SetLastError(ERROR_ACCESS_DENIED), done;
-            });
+    REPLACE_LOOKUP(CertAddCertificateContextToStore,
+                   [&](auto original, auto store, auto certificate, DWORD disposition, auto copy) {
+                     CHECK((disposition == 3 && copy == nullptr));
+                     const BOOL done = adds && original(store, certificate, disposition, copy);
+                     return SetLastError(ERROR_ACCESS_DENIED), done;
+                   });
     // Cleaning up must not hide what the failing call said.
     const auto close = [&](auto original, auto handle, auto... rest) {
       open.erase(open.find(handle));
       original(handle, rest...);
       return SetLastError(ERROR_SUCCESS), TRUE;
     };
-    REPLACE(CertCloseStore, close);
-    REPLACE(CertFreeCertificateContext, close);
+    REPLACE_LOOKUP(CertCloseStore, close);
+    REPLACE_LOOKUP(CertFreeCertificateContext, close);
     const std::wstring path = ProgramPath(std::wstring(L"certificates\\") + file);
     CHECK((ImportCertToTrustedPublishers(path.c_str()) == result && open.size() == leftOpen));
   }
   CHECK(SubjectsInStore(L"TrustedPublisher") == L"Tessalin Test Publisher");
   CHECK(ImportCertToSystemStore(L"missing.cer", L"no such store") == ERROR_FILE_NOT_FOUND);
+}
+
+TEST_CASE("without crypt32.dll or one of its functions nothing is touched and the error says so") {
+  EmptyStores();
+  int opened = 0;
+  REPLACE_LOOKUP(CertOpenStore,
+                 [&](auto original, auto... given) { return ++opened, original(given...); });
+  const std::wstring path = ProgramPath(L"certificates\\binary.cer");
+  const auto import = [&] { return ImportCertToTrustedPublishers(path.c_str()); };
+  {
+    REPLACE(LoadLibraryW, [](auto original, LPCWSTR name) {
+      CHECK(name == std::wstring(L"crypt32.dll"));
+      return original(L"no such library.dll");
+    });
+    CHECK(import() == ERROR_MOD_NOT_FOUND);
+  }
+  for (const char* const missing : {"CryptQueryObject", "CertAddCertificateContextToStore",
+                                    "CertFreeCertificateContext", "CertCloseStore"}) {
+    CAPTURE(missing);
+    const ReplacedExport nothing(missing, nullptr);
+    CHECK(import() == ERROR_PROC_NOT_FOUND);
+  }
+  CHECK(opened == 0);
+  CHECK(import() == ERROR_SUCCESS);
+  CHECK(opened == 1);
+  const ReplacedExport nothing("CertOpenStore", nullptr);
+  CHECK(import() == ERROR_PROC_NOT_FOUND);
 }

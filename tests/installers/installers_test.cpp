@@ -101,7 +101,7 @@ static void CheckEachCase(const Installer& installer) {
     CHECK(missing == !row.bluetooth);
     CHECK(SubjectsInStore(L"TrustedPublisher") ==
           (row.badCertificate ? L"" : L"Tessalin Test Publisher"));
-    CHECK(SubjectsInStore(L"CA") == L"Tessalin Test Publisher");
+    CHECK(SubjectsInStore(L"CA") == L"Tessalin Test Authority");
     if (!failed) {
       CHECK(Applications() == L"kite;brindle");
       CHECK(RunChild(installer.uninstall).exitCode == 0);

@@ -11,7 +11,9 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
   using Row = std::tuple<WString, WString>;
   const auto modules = std::to_array(
       {Row(L"C:\\a b\\c.exe", L"C:\\a b\\"), Row(L"", L""), Row(deep + WString(10, L'n'), deep),
-       Row(deep + WString(11, L'n'), L""), Row(WString(253, L'n'), WString(253, L'n') + L"\\"),
+       Row(deep + WString(11, L'n'), deep), Row(deep + WString(300, L'n'), deep),
+       Row(WString(253, L'n') + L"\\a", WString(253, L'n') + L"\\"),
+       Row(WString(254, L'n') + L"\\a", L""), Row(WString(253, L'n'), WString(253, L'n') + L"\\"),
        Row(WString(254, L'n'), L"")});
   for (const auto& [path, directory] : modules) {
     REPLACE(GetModuleFileNameW, [&](auto, auto, auto to, DWORD size) {

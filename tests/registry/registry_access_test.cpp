@@ -90,3 +90,20 @@ TEST_CASE("a key goes with everything below it, with and without RegDeleteKeyExW
     CHECK((!exists(L"\\tree") && exists(L"\\kept") && seenView == (function == nullptr)));
   }
 }
+
+TEST_CASE("a tree of any depth is deleted without a stack for it") {
+  const ScratchKey key;
+  OwnedRegistryKey deepest;
+  REQUIRE(CreateRegistryKey(kRoot, (key + L"\\tree").c_str(), deepest) == 0);
+  // Windows ends a tree at 512 levels, Wine does not.
+  for (int level = 0; level < 1'600; ++level) {
+    OwnedRegistryKey below;
+    if (CreateRegistryKey(deepest.get(), L"k", below) != 0) {
+      break;
+    }
+    deepest = std::move(below);
+  }
+  deepest.reset();
+  CHECK(RegistryDeleteKeyTree(kRoot, key.c_str(), L"tree") == 0);
+  CHECK_FALSE(RegistryKeyExists(kRoot, (key + L"\\tree").c_str()));
+}

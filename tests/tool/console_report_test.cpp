@@ -1,0 +1,33 @@
+#include "tool/console_report.h"
+
+#include "tests/support/testing.h"
+#include "tool/driver_interface.h"
+
+TEST_CASE("a code's text is the system's, whole, or empty when it cannot be had") {
+  DWORD answer = 0;
+  REPLACE(FormatMessageW, [&](auto, DWORD flags, auto source, DWORD code, DWORD language,
+                              LPWSTR buffer, DWORD size, auto* arguments) {
+    CHECK(flags == 0x1000);
+    CHECK(source == nullptr);
+    CHECK(code == 0xC1);
+    CHECK(language == 0x400);
+    CHECK(size == 2000);
+    CHECK(arguments == nullptr);
+    // What a failing call leaves behind, too.
+    lstrcpyW(buffer, L"half a text");
+    return answer;
+  });
+  CHECK(FormatSystemMessage(0xC1) == L"");
+  answer = 11;
+  CHECK(FormatSystemMessage(0xC1) == L"half a text");
+}
+
+TEST_CASE("nothing leaves the log callback") {
+  bool writes = false;
+  REPLACE(WriteFile, [&](auto...) {
+    writes = true;
+    return writes ? throw std::bad_alloc() : TRUE;
+  });
+  DifxLogCallback(DIFXAPI_ERROR, 5, nullptr, nullptr);
+  CHECK(writes);
+}

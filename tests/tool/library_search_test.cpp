@@ -1,0 +1,50 @@
+#include "tool/library_search.h"
+
+#include "tests/support/testing.h"
+#include "tool/driver_interface.h"
+
+TEST_CASE("libraries come from the program's folder and the system's alone") {
+  static DWORD directories;
+  static BOOL isSupported;
+  const auto set = +[](DWORD given) { return directories = given, isSupported; };
+  struct Row {
+    decltype(set) function;
+    BOOL isSupported;
+    DWORD directories;
+    bool isCurrentFolderTakenOut;
+  };
+  for (const Row& row :
+       {Row{set, TRUE, 0xA00, false}, Row{set, FALSE, 0xA00, true}, Row{nullptr, FALSE, 0, true}}) {
+    directories = 0;
+    isSupported = row.isSupported;
+    bool isTakenOut = false;
+    const ReplacedExport replaced("SetDefaultDllDirectories", row.function);
+    REPLACE(SetDllDirectoryW,
+            [&](auto, LPCWSTR path) { return isTakenOut = path == std::wstring(), TRUE; });
+    NarrowLibrarySearch();
+    CHECK(directories == row.directories);
+    CHECK(isTakenOut == row.isCurrentFolderTakenOut);
+  }
+}
+
+TEST_CASE("the driver installation interface is loaded by its path, beside the program first") {
+  const ScratchFolder folder;
+  std::wstring asked;
+  REPLACE(GetModuleFileNameW, [&](auto, auto, auto to, DWORD size) {
+    lstrcpynW(to, (folder / L"sorrel.exe").c_str(), static_cast<int>(size));
+    return static_cast<DWORD>(lstrlenW(to));
+  });
+  REPLACE(GetSystemDirectoryW, [](auto, auto to, UINT) -> UINT {
+    return static_cast<UINT>(lstrlenW(lstrcpyW(to, L"S:\\system")));
+  });
+  REPLACE(LoadLibraryW, [&](auto, LPCWSTR name) {
+    return asked = name, SetLastError(ERROR_BAD_EXE_FORMAT), nullptr;
+  });
+  DriverInterface driver;
+  CHECK_FALSE(BindDriverInterface(driver));
+  CHECK(GetLastError() == ERROR_BAD_EXE_FORMAT);
+  CHECK(asked == L"S:\\system\\difxapi.dll");
+  const std::wstring ownCopy = folder.Write("difxapi.dll", "");
+  CHECK_FALSE(BindDriverInterface(driver));
+  CHECK(asked == ownCopy);
+}
