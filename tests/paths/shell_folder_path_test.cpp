@@ -16,12 +16,15 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
        Row(WString(254, L'n') + L"\\a", L""), Row(WString(253, L'n'), WString(253, L'n') + L"\\"),
        Row(WString(254, L'n'), L"")});
   for (const auto& [path, directory] : modules) {
-    REPLACE(GetModuleFileNameW, [&](auto, auto, auto to, DWORD size) {
+    HMODULE const module = GetModuleHandleW(L"kernel32.dll");
+    REPLACE(GetModuleFileNameW, [&](auto, HMODULE asked, auto to, DWORD size) {
+      CHECK(asked == module);
       lstrcpynW(to, path.c_str(), static_cast<int>(size));
       return std::min(static_cast<DWORD>(path.length()), size);
     });
-    const bool isFound = GetShellFolderPath(nullptr, out, L"Personal");
-    CHECK((isFound == !directory.empty() && out == directory));
+    const bool isFound = GetShellFolderPath(&module, out, L"Personal");
+    CHECK(isFound == !directory.empty());
+    CHECK(out == directory);
   }
   const std::tuple<HKEY, const wchar_t*, WString, WString> rows[] = {
       {HKEY_LOCAL_MACHINE, L"Shell Folders", L"D:\\machine", L"D:\\machine\\"},

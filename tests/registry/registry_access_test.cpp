@@ -3,6 +3,7 @@
 #include "lib/registry/registry_number.h"
 #include "lib/registry/registry_string.h"
 #include "lib/registry/registry_value.h"
+#include "lib/registry/registry_value_list.h"
 #include "lib/registry/registry_write_access.h"
 #include "tests/support/testing.h"
 
@@ -13,6 +14,7 @@ TEST_CASE("each operation asks for its rights and the view, and closes what it o
   const std::pair<Operation, std::vector<REGSAM>> rows[] = {
       {[](auto* path) { RegistryReadString(kRoot, path, L"n", L""); }, {0x20119}},
       {[](auto* path) { RegistryValueExists(kRoot, path, L"n"); }, {0x20119}},
+      {[](auto* path) { ReadRegistryKeyValues(kRoot, path); }, {0x20119}},
       {[](auto* path) { RegistryWriteDword(kRoot, path, L"n", 1); }, {0x20106}},
       {[](auto* path) { RegistryDeleteValue(kRoot, path, L"n"); }, {0x102}},
       {[](auto* path) { RegistryDeleteKeyTree(kRoot, path, L"sub"); },

@@ -65,9 +65,14 @@ TEST_CASE("a window's labels and buttons are rewritten, its other controls are n
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},
       {L"Edit", L"Kelvo", L"Kelvo"},
       {L"Button", L"a Kelvo! b", L"c ab c"},
+      {L"kelvo StaticText", L"Kelvo", L"kelvo"},
       {L"ListBox", L"Kelvo", L"Kelvo"},
       {L"STATIC", L"Kelvo" + most, L"kelvo" + most},
       {L"Static", L"Kelvo" + most + L"yz", L"Kelvo" + most + L"y"}};
+  WNDCLASSW textClass{};
+  textClass.lpfnWndProc = DefWindowProcW;
+  textClass.lpszClassName = L"kelvo StaticText";
+  RegisterClassW(&textClass);
   std::vector<HWND> windows = {nullptr};
   for (const auto& [kind, text, result] : rows) {
     windows.push_back(make(kind, text, windows.back()));

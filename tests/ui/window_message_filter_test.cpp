@@ -3,14 +3,34 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("a message filter is changed from Windows 7 on where the function is there") {
-  const auto change = +[](HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT* status) {
-    return window == nullptr && message == 9 && action == 1 && status == nullptr ? 2 : FALSE;
+  struct Call {
+    HWND window;
+    UINT message;
+    DWORD action;
+    CHANGEFILTERSTRUCT* status;
+    bool operator==(const Call&) const = default;
   };
-  for (const auto& [minor, function, answer] :
-       {std::tuple(0U, change, false), {1U, change, true}, {1U, decltype(change){}, false}}) {
-    const auto windows = PretendWindows(2, 6, minor);
-    const ReplacedExport filter("ChangeWindowMessageFilterEx", function);
-    CHECK(AllowWindowMessage(nullptr, 9, 1, nullptr) == answer);
-    CHECK_FALSE(AllowWindowMessage(nullptr, 9, 0, nullptr));
+  static Call seen;
+  static BOOL answer;
+  const auto change = +[](HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT* status) {
+    return seen = {window, message, action, status}, answer;
+  };
+  struct Row {
+    DWORD minor;
+    decltype(change) function;
+    BOOL functionAnswer;
+    bool answer;
+  };
+  CHANGEFILTERSTRUCT status{};
+  const Call given{GetDesktopWindow(), 9, MSGFLT_DISALLOW, &status};
+  for (const Row& row : {Row{0, change, TRUE, false}, Row{1, change, 2, true},
+                         Row{1, change, FALSE, false}, Row{1, nullptr, TRUE, false}}) {
+    const auto windows = PretendWindows(2, 6, row.minor);
+    const ReplacedExport filter("ChangeWindowMessageFilterEx", row.function);
+    seen = {};
+    answer = row.functionAnswer;
+    CHECK(AllowWindowMessage(given.window, given.message, given.action, given.status) ==
+          row.answer);
+    CHECK((seen == given) == (row.minor == 1 && row.function != nullptr));
   }
 }
