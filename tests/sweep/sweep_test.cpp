@@ -35,6 +35,7 @@ static const auto kWatched = std::to_array<Watched>({
     WATCH(GetComputerNameW, FALSE, kNone),
     WATCH(GetFileVersionInfoSizeW, 0, kNone),
     WATCH(GetFileVersionInfoW, FALSE, kNone),
+    WATCH(GetModuleFileNameW, 0, kNone),
     WATCH(GetProcAddress, 0, kNone),
     WATCH(GetStdHandle, -1, kNone),
     WATCH(GetSystemDirectoryW, 0, kNone),
@@ -88,13 +89,17 @@ static BOOL WINAPI KeepWritten(HANDLE, const void* bytes, DWORD size, DWORD* don
   return (*done = size) != 0;
 }
 
-// A list of applications recorded, no certificate in either store; the simulator's libraries
-// loaded, where an operation finds them by their names.
+// As if the program stood beside the simulator's libraries.
+static DWORD WINAPI NameSimulatedProgram(HMODULE, LPWSTR path, DWORD size) {
+  return static_cast<DWORD>(ProgramPath(L"simulator\\sorrel.exe").copy(path, size - 1));
+}
+
+// A list of applications recorded, no certificate in either store; the simulator's
+// Bluetooth library loaded, where an operation finds it by its name.
 struct Machine {
   Machine() {
     std::filesystem::current_path(ProgramPath(L"certificates"));
     LoadLibraryW(ProgramPath(L"simulator\\bthprops.cpl").c_str());
-    LoadLibraryW(ProgramPath(L"simulator\\difxapi.dll").c_str());
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", journal.c_str());
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", L"1,0,Copying|3,5");
   }
@@ -118,6 +123,7 @@ struct Machine {
     written.clear();
     WatchImports(library.get(), kWatched);
     interception.originals["GetProcAddress"] = reinterpret_cast<void*>(FindIntercepted);
+    interception.originals["GetModuleFileNameW"] = reinterpret_cast<void*>(NameSimulatedProgram);
     interception.originals["WriteFile"] = reinterpret_cast<void*>(KeepWritten);
     const std::wstring answer = internal::GuardedAnswer(std::wstring(L"died"), operation->run);
     // Before the library is unloaded.
