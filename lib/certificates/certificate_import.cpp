@@ -26,24 +26,20 @@ struct Crypt32 {
   decltype(&CertCloseStore) closeStore = nullptr;
 };
 
-// Returns the error of the load or lookup that failed. The library stays loaded, since a store may
-// stay open.
-DWORD BindCrypt32(Crypt32& bound) {
+// False, with the last error set, when the library or a function of it is missing. The library
+// stays loaded, since a store may stay open.
+bool BindCrypt32(Crypt32& bound) {
   const HMODULE library = LoadLibraryW(L"crypt32.dll");
-  if (library == nullptr) {
-    return GetLastError();
-  }
   const auto find = [library](auto& function, const char* name) {
     function = FindFunction<std::remove_pointer_t<std::remove_reference_t<decltype(function)>>>(
         library, name);
     return function != nullptr;
   };
-  const bool isComplete = find(bound.openStore, "CertOpenStore") &&
-                          find(bound.queryObject, "CryptQueryObject") &&
-                          find(bound.addCertificate, "CertAddCertificateContextToStore") &&
-                          find(bound.freeCertificate, "CertFreeCertificateContext") &&
-                          find(bound.closeStore, "CertCloseStore");
-  return isComplete ? ERROR_SUCCESS : GetLastError();
+  return library != nullptr && find(bound.openStore, "CertOpenStore") &&
+         find(bound.queryObject, "CryptQueryObject") &&
+         find(bound.addCertificate, "CertAddCertificateContextToStore") &&
+         find(bound.freeCertificate, "CertFreeCertificateContext") &&
+         find(bound.closeStore, "CertCloseStore");
 }
 
 struct StoreCloser {
@@ -69,7 +65,7 @@ DWORD AddFromFile(const Crypt32& crypt32, const wchar_t* file, BoundStore& syste
                           &context) == FALSE) {
     const DWORD error = GetLastError();
     // Kept open on this path: one handle for each file that cannot be read is accepted.
-    static_cast<void>(systemStore.release());
+    static_cast<void>(systemStore.release());  // NOLINT(bugprone-unused-return-value): as above
     return error;
   }
   const BoundStore fileStore(store, {crypt32.closeStore});
@@ -90,9 +86,8 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   }
   // All functions before the first call: nothing is left half done for want of one.
   Crypt32 crypt32;
-  const DWORD error = BindCrypt32(crypt32);
-  if (error != ERROR_SUCCESS) {
-    return error;
+  if (!BindCrypt32(crypt32)) {
+    return GetLastError();
   }
   BoundStore systemStore(
       crypt32.openStore(CERT_STORE_PROV_SYSTEM_W, X509_ASN_ENCODING | PKCS_7_ASN_ENCODING, 0,
