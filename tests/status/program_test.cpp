@@ -23,7 +23,7 @@ struct Machine {
         "DriverVer = 01/01/2026,1.0.0.0\r\n[Strings]\r\nMaker = \"Tessalin rehearsal\"\r\n";
     folder.Write("Tessalin.inf", inf);
     std::filesystem::create_directory(folder / "other");
-    folder.Write("other/Tessalin.inf", inf + ";");
+    folder.Write("other/Tessalin.inf", std::regex_replace(inf, std::regex("2026"), "2027"));
     std::filesystem::current_path(folder / "");
     RegDeleteTreeW(HKEY_LOCAL_MACHINE, ServiceParametersKey);
     EmptyStores();
@@ -71,6 +71,7 @@ static std::string StatesFromJson(const ChildResult& run) {
   std::string states;
   const auto report = nlohmann::json::parse(run.output);
   CHECK(report["schema"] == 1);
+  CHECK((report["state"] == "unknown") == (run.exitCode == 3));
   for (const auto& item : report["items"]) {
     states += item["state"].get<std::string>() + "\n";
   }
