@@ -62,8 +62,9 @@ foreach(archive ${CPACK_PACKAGE_FILES})
   relate(DOCUMENT DESCRIBES ${name})
 endforeach()
 
-# What of the toolchain is inside our programs: a library of it, its name and its licence.
-foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1" "libmingwex.a;mingw-w64-runtime;ZPL-2.1")
+# What of others is inside our programs: a library of the compiler's or a header, its name and its licence.
+foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1" "libmingwex.a;mingw-w64-runtime;ZPL-2.1"
+    "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT" "/usr/include/cxxopts.hpp;cxxopts;MIT")
   list(GET part 0 library)
   list(GET part 1 name)
   list(GET part 2 licence)

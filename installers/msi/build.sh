@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# build.sh FOLDER OUTPUT.msi   makes the package of brindle.wxs. FOLDER holds sorrel.exe, run_sorrel.cmd, difxapi.dll,
-# Tessalin.inf and what belongs to it, trusted.cer and trusted_i.cer.
+# build.sh FOLDER OUTPUT.msi   makes the package of brindle.wxs. FOLDER holds sorrel.exe, sorrel_status.exe,
+# run_sorrel.cmd, Tessalin.inf and what belongs to it, trusted.cer and trusted_i.cer.
 set -euo pipefail
 source=$(realpath "$(dirname "$0")/brindle.wxs")
 output=$(realpath -m "$2")

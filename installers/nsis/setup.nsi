@@ -1,6 +1,6 @@
 ; A setup of an application "Brindle" that relies on the hands-free service:
 ;   makensis -DFILES=FOLDER -DOUTPUT=FILE setup.nsi
-; FOLDER holds sorrel.exe, difxapi.dll, Tessalin.inf and what belongs to it, trusted.cer and trusted_i.cer.
+; FOLDER holds sorrel.exe, sorrel_status.exe, Tessalin.inf and what belongs to it, trusted.cer and trusted_i.cer.
 
 Unicode true
 Target amd64-unicode
@@ -22,7 +22,7 @@ UninstPage instfiles
 
 !macro RemoveProduct
   Delete "$INSTDIR\sorrel.exe"
-  Delete "$INSTDIR\difxapi.dll"
+  Delete "$INSTDIR\sorrel_status.exe"
   Delete "$INSTDIR\Tessalin.inf"
   Delete "$INSTDIR\trusted.cer"
   Delete "$INSTDIR\trusted_i.cer"
@@ -34,7 +34,7 @@ UninstPage instfiles
 Section
   SetOutPath "$INSTDIR"
   File "${FILES}/sorrel.exe"
-  File "${FILES}/difxapi.dll"
+  File "${FILES}/sorrel_status.exe"
   File "${FILES}/Tessalin.inf"
   File "${FILES}/trusted.cer"
   File "${FILES}/trusted_i.cer"

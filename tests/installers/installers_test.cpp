@@ -76,14 +76,22 @@ static void Prepare(const Installer& installer, const Case& row) {
   EmptyStores();
   std::filesystem::remove(kLog);
   std::filesystem::create_directories(installer.folder);
-  std::filesystem::remove(installer.folder / "bthprops.cpl");
-  if (row.bluetooth) {
-    std::filesystem::copy_file(ProgramPath(L"simulator\\bthprops.cpl"),
-                               installer.folder / "bthprops.cpl");
+  for (const auto& [file, isThere] :
+       {std::pair(L"difxapi.dll", true), {L"bthprops.cpl", row.bluetooth}}) {
+    std::filesystem::remove(installer.folder / file);
+    if (isThere) {
+      std::filesystem::copy_file(ProgramPath(L"simulator") + L"\\" + file, installer.folder / file);
+    }
   }
 }
 
+// What the companion ends with: 0 present, 1 absent.
+static DWORD Status(const std::wstring& words) {
+  return RunChild(L"\"" + ProgramPath(L"sorrel_status.exe") + L"\" " + words).exitCode;
+}
+
 static void CheckEachCase(const Installer& installer) {
+  const std::wstring good = L"\"" + ProgramPath(L"installers\\good\\files\\");
   std::vector<Case> cases = Cases(installer.failure);
   if (!installer.readsItself) {
     cases.resize(kCasesOfInstaller);
@@ -95,6 +103,8 @@ static void CheckEachCase(const Installer& installer) {
     CHECK(RunChild(row.badCertificate ? installer.installBadCertificate : installer.install)
               .exitCode == row.code);
     const bool failed = row.code == installer.failure;
+    CHECK(Status(L"--publisher " + good + L"trusted.cer\" --intermediate " + good +
+                 L"trusted_i.cer\"") == (row.badCertificate ? 1 : 0));
     const std::string log = ReadBytes(kLog);
     CHECK(log.find("INFO: 1 - ") != std::string::npos);
     const bool missing = log.find("ERR: no Bluetooth") != std::string::npos;
@@ -103,11 +113,13 @@ static void CheckEachCase(const Installer& installer) {
           (row.badCertificate ? L"" : L"Tessalin Test Publisher"));
     CHECK(SubjectsInStore(L"CA") == L"Tessalin Test Authority");
     if (!failed) {
+      CHECK(Status(L"--application brindle") == 0);
       CHECK(Applications() == L"kite;brindle");
       CHECK(RunChild(installer.uninstall).exitCode == 0);
     } else if (!installer.takesBack) {
       RunChild(installer.uninstall);
     }
+    CHECK(Status(L"--application brindle") == 1);
     CHECK(Applications() == L"kite");
     CHECK(RegisteredProducts() == products);
     CHECK(std::filesystem::exists(installer.folder / "sorrel.exe") == !installer.takesBack);
