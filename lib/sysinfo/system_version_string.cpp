@@ -1,26 +1,177 @@
 #include "lib/sysinfo/system_version_string.h"
 
+#include <windows.h>
+
+#include <array>
+#include <cwchar>
+#include <iterator>
+#include <string_view>
+
 #include "lib/platform/internal/guarded_call.h"
-#include "lib/sysinfo/internal/system_description.h"
-#include "lib/sysinfo/internal/system_facts.h"
+#include "lib/platform/module.h"
+#include "lib/registry/registry_key.h"
+#include "lib/string/compare_no_case.h"
+#include "lib/string/format_text.h"
+#include "lib/sysinfo/internal/nt_name.h"
 
 namespace kelvo {
 
+namespace {
+
+constexpr const wchar_t* kProductOptions = L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions";
+constexpr const wchar_t* kHotfix =
+    L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009";
+
+// Which of its two records GetVersionExW filled: the extended one of 284 bytes, or the short one of
+// 276, which leaves suites and product type zero.
+enum class VersionRecord { kExtended, kShort, kNone };
+
+// `version` must be all zero.
+VersionRecord QueryVersionRecord(OSVERSIONINFOEXW& version) {
+  auto* const record = reinterpret_cast<OSVERSIONINFOW*>(&version);
+  version.dwOSVersionInfoSize = sizeof(OSVERSIONINFOEXW);
+  if (GetVersionExW(record) != FALSE) {
+    return VersionRecord::kExtended;
+  }
+  version.dwOSVersionInfoSize = sizeof(OSVERSIONINFOW);
+  return GetVersionExW(record) != FALSE ? VersionRecord::kShort : VersionRecord::kNone;
+}
+
+WORD QueryArchitecture() {
+  SYSTEM_INFO system{};
+  auto* const getNativeInfo =
+      KELVO_FIND_FUNCTION(GetModuleHandleW(L"kernel32.dll"), GetNativeSystemInfo);
+  (getNativeInfo != nullptr ? getNativeInfo : GetSystemInfo)(&system);
+  return system.wProcessorArchitecture;
+}
+
+// Only the low half of the build number: Windows 9x keeps the version in the other.
+WORD Build(const OSVERSIONINFOEXW& version) { return LOWORD(version.dwBuildNumber); }
+
+WString FormatNumbers(const OSVERSIONINFOEXW& version) {
+  return FormatText(L"(%i.%i.%i)", version.dwMajorVersion, version.dwMinorVersion, Build(version));
+}
+
+void Append9xName(const OSVERSIONINFOEXW& version, WString& text) {
+  struct Release {
+    DWORD minor;
+    const wchar_t* name;
+    std::wstring_view editionLetters;
+    const wchar_t* edition;
+  };
+  static constexpr Release kReleases[] = {
+      {0, L"Microsoft Windows 95 ", L"CB", L"OSR2 "},
+      {10, L"Microsoft Windows 98 ", L"A", L"SE "},
+      {90, L"Microsoft Windows Millennium Edition", L"", L""},
+  };
+  for (const Release& release : kReleases) {
+    if (version.dwMajorVersion == 4 && version.dwMinorVersion == release.minor) {
+      text += release.name;
+      if (release.editionLetters.find(version.szCSDVersion[1]) != std::wstring_view::npos) {
+        text += release.edition;
+      }
+    }
+  }
+}
+
+// Adds what the extended record would have told; false when the line ends here.
+bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
+  if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductOptions, 0, KEY_QUERY_VALUE, key.Receive()) !=
+      ERROR_SUCCESS) {
+    text += L"error obtaining Windows NT4 registry information";
+    return false;
+  }
+  constexpr DWORD kLength = 100;
+  // One more than the registry is told of, for a value stored without a terminator.
+  std::array<wchar_t, kLength + 1> type{};
+  DWORD size = kLength * sizeof(wchar_t);
+  if (RegQueryValueExW(key.get(), L"ProductType", nullptr, nullptr,
+                       reinterpret_cast<BYTE*>(type.data()), &size) != ERROR_SUCCESS ||
+      size > kLength * sizeof(wchar_t)) {
+    // The key has always been left open here.
+    key.release();
+    text += L"error obtaining Windows NT4 registry product information";
+    return false;
+  }
+  key.reset();
+  struct Product {
+    const wchar_t* type;
+    const wchar_t* text;
+  };
+  static constexpr Product kProducts[] = {
+      {L"WINNT", L"Workstation "}, {L"LANMANNT", L"Server "}, {L"SERVERNT", L"Advanced Server "}};
+  for (const Product& product : kProducts) {
+    if (CompareNoCase(type.data(), product.type) == 0) {
+      text += product.text;
+    }
+  }
+  text += FormatText(L"%d.%d ", version.dwMajorVersion, version.dwMinorVersion);
+  return true;
+}
+
+void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
+  const auto& stored = version.szCSDVersion;
+  const WString servicePack(std::wstring_view(stored, wcsnlen(stored, std::size(stored))));
+  if (version.dwMajorVersion == 4 && CompareNoCase(servicePack.c_str(), L"Service Pack 6") == 0) {
+    const bool hasHotfix = RegOpenKeyExW(HKEY_LOCAL_MACHINE, kHotfix, 0, KEY_QUERY_VALUE,
+                                         key.Receive()) == ERROR_SUCCESS;
+    text += FormatText(L"%s (Build %d)", hasHotfix ? L"Service Pack 6a" : servicePack.c_str(),
+                       Build(version));
+  } else if (servicePack.empty()) {
+    text += FormatNumbers(version);
+  } else {
+    text += FormatText(L"(%i.%i.%i %s)", version.dwMajorVersion, version.dwMinorVersion,
+                       Build(version), servicePack.c_str());
+  }
+}
+
+// Builds the line from empty. `key` owns what is open when an exception ends it.
+void Describe(OwnedRegistryKey& key, WString& text) {
+  OSVERSIONINFOEXW version{};
+  const VersionRecord record = QueryVersionRecord(version);
+  if (record == VersionRecord::kNone) {
+    text = L"queryingg OSVERSIONINFOEX and OSVERSIONINFO failed...";
+    return;
+  }
+  const WORD architecture = QueryArchitecture();
+  switch (version.dwPlatformId) {
+    case VER_PLATFORM_WIN32s:
+      text = L"Microsoft Win32s";
+      break;
+    case VER_PLATFORM_WIN32_WINDOWS:
+      Append9xName(version, text);
+      break;
+    case VER_PLATFORM_WIN32_NT:
+      internal::AppendNtName(version, architecture, text);
+      if (record == VersionRecord::kExtended || AppendProductType(version, key, text)) {
+        AppendNumbers(version, key, text);
+      }
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace
+
 WString GetSystemVersionString() {
-  internal::SystemFacts facts;
-  const bool asked = internal::GuardedCall([&] { facts = internal::AskSystemFacts(); });
-  return asked ? internal::DescribeSystem(facts) : WString(internal::kDescriptionCutShort);
+  OwnedRegistryKey key;
+  WString text;
+  if (!internal::GuardedCall([&] { Describe(key, text); })) {
+    text += L"catch(unhandled exception) while querying system version";
+  }
+  return text;
 }
 
 WString GetSystemVersionNumbers() {
   WString numbers;
-  const bool completed = internal::GuardedCall([&] {
+  internal::GuardedCall([&] {
     OSVERSIONINFOEXW version{};
-    if (internal::QueryVersionRecord(version) != internal::VersionRecord::kNone) {
-      numbers = internal::FormatVersionNumbers(version);
+    if (QueryVersionRecord(version) != VersionRecord::kNone) {
+      numbers = FormatNumbers(version);
     }
   });
-  return completed && !numbers.empty() ? numbers : WString(L"0.0.0.0");
+  return numbers.empty() ? WString(L"0.0.0.0") : numbers;
 }
 
 }  // namespace kelvo

@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/module.h"
 #include "lib/string/format_text.h"
 #include "lib/sysinfo/internal/product_edition.h"
 
@@ -15,12 +16,12 @@ struct SuiteText {
   const wchar_t* text;
 };
 
-bool HasSuite(const SystemFacts& facts, DWORD suite) {
-  return (facts.version.wSuiteMask & suite) != 0;
+bool HasSuite(const OSVERSIONINFOEXW& version, DWORD suite) {
+  return (version.wSuiteMask & suite) != 0;
 }
 
-void AppendArchitecture(const SystemFacts& facts, WString& text) {
-  switch (facts.architecture) {
+void AppendArchitecture(WORD architecture, WString& text) {
+  switch (architecture) {
     case PROCESSOR_ARCHITECTURE_AMD64:
       text += L"x64 ";
       break;
@@ -28,41 +29,45 @@ void AppendArchitecture(const SystemFacts& facts, WString& text) {
       text += L"x86 ";
       break;
     default:
-      text += FormatText(L"Architecture %04x ", facts.architecture);
+      text += FormatText(L"Architecture %04x ", architecture);
   }
 }
 
-void AppendServerMode(const SystemFacts& facts, WString& text) {
-  if (HasSuite(facts, VER_SUITE_TERMINAL) && !HasSuite(facts, VER_SUITE_SINGLEUSERTS)) {
+void AppendServerMode(const OSVERSIONINFOEXW& version, WString& text) {
+  if (HasSuite(version, VER_SUITE_TERMINAL) && !HasSuite(version, VER_SUITE_SINGLEUSERTS)) {
     text += L"(Application Server Mode) ";
   }
 }
 
 // Windows Vista to 8.1 and their servers.
-void AppendNt6Name(const SystemFacts& facts, WString& text) {
+void AppendNt6Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& text) {
   static constexpr const wchar_t* kWorkstations[] = {L"Windows Vista ", L"Windows 7 ",
                                                      L"Windows 8 ", L"Windows 8.1 "};
   static constexpr const wchar_t* kServers[] = {L"Windows Server 2008 ", L"Windows Server 2008 R2 ",
                                                 L"Windows Server 2012 ",
                                                 L"Windows Server 2012 R2 "};
-  const auto& names = facts.version.wProductType == VER_NT_WORKSTATION ? kWorkstations : kServers;
-  if (facts.version.dwMinorVersion < std::size(names)) {
-    text += names[facts.version.dwMinorVersion];
+  const auto& names = version.wProductType == VER_NT_WORKSTATION ? kWorkstations : kServers;
+  if (version.dwMinorVersion < std::size(names)) {
+    text += names[version.dwMinorVersion];
   }
-  if (HasSuite(facts, VER_SUITE_PERSONAL)) {
+  if (HasSuite(version, VER_SUITE_PERSONAL)) {
     text += L"Home ";
   }
-  if (const std::optional<DWORD> product = facts.product.Get()) {
-    text += ProductEditionText(*product);
+  auto* const getProductInfo =
+      KELVO_FIND_FUNCTION(GetModuleHandleW(L"kernel32.dll"), GetProductInfo);
+  if (getProductInfo != nullptr) {
+    DWORD type = PRODUCT_UNDEFINED;
+    getProductInfo(version.dwMajorVersion, version.dwMinorVersion, 0, 0, &type);
+    text += ProductEditionText(type);
     text += L" ";
-    AppendServerMode(facts, text);
+    AppendServerMode(version, text);
   }
-  AppendArchitecture(facts, text);
+  AppendArchitecture(architecture, text);
 }
 
-// There is no name for the 64-bit Windows XP, which shares this version.
-const wchar_t* Server2003Name(const SystemFacts& facts) {
-  if (facts.metric.Get() == SM_SERVERR2) {
+// The 64-bit Windows XP shares this version and has no name of its own.
+const wchar_t* Server2003Name(const OSVERSIONINFOEXW& version) {
+  if (GetSystemMetrics(SM_SERVERR2) != 0) {
     return L"Microsoft Windows Server 2003 R2 ";
   }
   static constexpr SuiteText kNames[] = {
@@ -71,15 +76,15 @@ const wchar_t* Server2003Name(const SystemFacts& facts) {
       {VER_SUITE_WH_SERVER, L"Windows Home Server"},
   };
   for (const auto& [suite, name] : kNames) {
-    if (HasSuite(facts, suite)) {
+    if (HasSuite(version, suite)) {
       return name;
     }
   }
   return L"Microsoft Windows Server 2003 ";
 }
 
-void AppendServer2003Name(const SystemFacts& facts, WString& text) {
-  text += Server2003Name(facts);
+void AppendServer2003Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& text) {
+  text += Server2003Name(version);
   static constexpr SuiteText kSuites[] = {
       {VER_SUITE_DATACENTER, L"Datacenter "},
       {VER_SUITE_ENTERPRISE, L"Enterprise "},
@@ -87,43 +92,41 @@ void AppendServer2003Name(const SystemFacts& facts, WString& text) {
       {VER_SUITE_BACKOFFICE, L"+BackOffice "},
   };
   for (const auto& [suite, name] : kSuites) {
-    if (HasSuite(facts, suite)) {
+    if (HasSuite(version, suite)) {
       text += name;
     }
   }
-  AppendArchitecture(facts, text);
-  AppendServerMode(facts, text);
+  AppendArchitecture(architecture, text);
+  AppendServerMode(version, text);
 }
 
-const wchar_t* XpName(const SystemFacts& facts) {
-  switch (facts.metric.Get()) {
-    case SM_STARTER:
-      return L"Windows XP Starter ";
-    // A Tablet PC has no name of its own.
-    case SM_MEDIACENTER:
-    case SM_TABLETPC:
-      return L"Windows XP Media Center ";
-    default:
-      break;
+const wchar_t* XpName(const OSVERSIONINFOEXW& version) {
+  if (GetSystemMetrics(SM_STARTER) != 0) {
+    return L"Windows XP Starter ";
   }
-  if (HasSuite(facts, VER_SUITE_PERSONAL)) {
+  // A Tablet PC has no name of its own.
+  if (GetSystemMetrics(SM_MEDIACENTER) != 0 || GetSystemMetrics(SM_TABLETPC) != 0) {
+    return L"Windows XP Media Center ";
+  }
+  if (HasSuite(version, VER_SUITE_PERSONAL)) {
     return L"Windows XP Home ";
   }
-  return HasSuite(facts, VER_SUITE_EMBEDDEDNT) ? L"Windows XP Embedded" : L"Microsoft Windows XP ";
+  return HasSuite(version, VER_SUITE_EMBEDDEDNT) ? L"Windows XP Embedded"
+                                                 : L"Microsoft Windows XP ";
 }
 
-void AppendNt5Name(const SystemFacts& facts, WString& text) {
-  switch (facts.version.dwMinorVersion) {
+void AppendNt5Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& text) {
+  switch (version.dwMinorVersion) {
     case 0:
       text += L"Microsoft Windows 2000 ";
       break;
     case 1:
-      if (!GuardedCall([&] { text += XpName(facts); })) {
+      if (!GuardedCall([&] { text += XpName(version); })) {
         text += L"catched(GetSystemMetrics) Microsoft Windows XP ";
       }
       break;
     case 2:
-      if (!GuardedCall([&] { AppendServer2003Name(facts, text); })) {
+      if (!GuardedCall([&] { AppendServer2003Name(version, architecture, text); })) {
         text += L"catched(GetSystemMetrics) Windows Server 2003";
       }
       break;
@@ -134,12 +137,12 @@ void AppendNt5Name(const SystemFacts& facts, WString& text) {
 
 }  // namespace
 
-void AppendNtName(const SystemFacts& facts, WString& text) {
-  const DWORD major = facts.version.dwMajorVersion;
+void AppendNtName(const OSVERSIONINFOEXW& version, WORD architecture, WString& text) {
+  const DWORD major = version.dwMajorVersion;
   if (major == 6) {
-    AppendNt6Name(facts, text);
+    AppendNt6Name(version, architecture, text);
   } else if (major == 5) {
-    AppendNt5Name(facts, text);
+    AppendNt5Name(version, architecture, text);
   } else if (major < 5) {
     text += L"Microsoft Windows NT ";
   }

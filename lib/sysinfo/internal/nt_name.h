@@ -1,13 +1,15 @@
 #pragma once
 
+#include <windows.h>
+
 #include "lib/string/wstring.h"
-#include "lib/sysinfo/internal/system_facts.h"
 
 namespace kelvo::internal {
 
-// Appends the name of a Windows of the NT line, with its edition, its suites and, from NT 5.2 on,
-// the processor; nothing for a release after NT 6. What an exception left of the name stays in
-// `text`: for NT 5.1 and 5.2 a replacement follows it, for NT 6 the exception goes through.
-void AppendNtName(const SystemFacts& facts, WString& text);
+// Appends the name of a Windows of the NT line with its edition and suites, and for NT 5.2 and 6
+// the processor; nothing for a release after NT 6. Asks GetSystemMetrics for NT 5.1 and 5.2; an
+// exception there is caught, and a text of its own follows what `text` holds by then. Asks
+// GetProductInfo (looked up at run time) for NT 6; an exception there is not caught.
+void AppendNtName(const OSVERSIONINFOEXW& version, WORD architecture, WString& text);
 
 }  // namespace kelvo::internal
