@@ -10,6 +10,7 @@ static UINT WINAPI TellDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(told.length()) + (told.length() < size ? 0 : 1);
 }
 
+// The first character says which format was asked for.
 static BOOL WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
   const ULONG room = std::exchange(*size, static_cast<ULONG>(told.length() + 1));
   SetLastError(ERROR_MORE_DATA);
@@ -21,36 +22,61 @@ static BOOL WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
   return TRUE;
 }
 
-TEST_CASE("directories end in one backslash and fit their buffers") {
+static WString x(std::size_t count) { return {count, L'x'}; }
+
+TEST_CASE("directories end in one separator and fit their buffers") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return TellDirectory(to...); });
-  const auto x = [](std::size_t count) { return WString(count, L'x'); };
-  using Row = std::tuple<WString, WString, WString>;
-  const auto rows = std::to_array({Row(L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"),
-                                   Row(L"C:/x/", L"C:/x/", L"C:/x/"), Row(L"", L"", L""),
-                                   Row(x(510), x(510) + L"\\", x(510) + L"\\"),
-                                   Row(x(1023), L"", x(1023) + L"\\"), Row(x(1024), L"", L"")});
+  struct Row {
+    WString directory, systemPath, wow64Path;
+  };
+  const Row rows[] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
+                      {L"C:/x/", L"C:/x/", L"C:/x/"},
+                      {L"", L"", L""},
+                      {x(510), x(510) + L"\\", x(510) + L"\\"},
+                      {x(511), L"", x(511) + L"\\"},
+                      {x(1023), L"", x(1023) + L"\\"},
+                      {x(1024), L"", L""}};
   for (const auto& [directory, systemPath, wow64Path] : rows) {
     told = directory.c_str();
     const ReplacedExport wow64("GetSystemWow64DirectoryW", &TellDirectory);
     CHECK(GetSystemWow64DirectoryPath() == wow64Path);
-    CHECK((GetSystemDirectoryPath() == systemPath && GetNativeSystemDirectoryPath() == systemPath));
+    CHECK(GetSystemDirectoryPath() == systemPath);
+    CHECK(GetNativeSystemDirectoryPath() == systemPath);
   }
   const ReplacedExport missing("GetSystemWow64DirectoryW", nullptr);
   CHECK(GetSystemWow64DirectoryPath().empty());
 }
 
-TEST_CASE("the plain name of account and computer stands in for a missing full one") {
-  for (const std::size_t length : {0U, 99U, 255U, 1000U}) {
-    const ReplacedExport user("GetUserNameExW", &TellName);
-    const ReplacedExport computer("GetComputerNameExW", &TellName);
-    told.assign(length, L'p');
-    const WString rest(told.substr(0, length == 0 ? 0 : length - 1));
-    CHECK(GetUserNameFQ() == (length == 0 ? GetAccountName() : WString(L"8") + rest));
-    CHECK(GetComputerNameFQ() == (length == 0 ? GetComputerNetbiosName() : WString(L"3") + rest));
-    CHECK(GetComputerDomain() == (length == 0 ? WString() : WString(L"2") + rest));
+TEST_CASE("names of any length are read in the format asked for") {
+  const ReplacedExport user("GetUserNameExW", &TellName);
+  const ReplacedExport computer("GetComputerNameExW", &TellName);
+  for (const std::size_t length : {1U, 99U, 100U, 255U, 256U, 1000U}) {
+    told.assign(length, L'x');
+    CHECK(GetUserNameInFormat(NameUnknown).empty());
+    CHECK(GetUserNameInFormat(NameSamCompatible) == L"2" + x(length - 1));
+    CHECK(GetUserNameFQ() == L"8" + x(length - 1));
+    CHECK(GetComputerNameFQ() == L"3" + x(length - 1));
+    CHECK(GetComputerDomain() == L"2" + x(length - 1));
   }
-  const ReplacedExport user("GetUserNameExW", nullptr);
-  const ReplacedExport computer("GetComputerNameExW", nullptr);
-  CHECK(GetUserNameFQ() == _wgetenv(L"USERNAME"));
-  CHECK((GetComputerNameFQ() == GetComputerNetbiosName() && GetComputerDomain().empty()));
+}
+
+TEST_CASE("the plain name of account and computer stands in for a missing full one") {
+  const auto tell = [](auto, wchar_t* name, DWORD* size) {
+    return TellDirectory(name, *size) < *size ? TRUE : FALSE;
+  };
+  REPLACE(GetUserNameW, tell);
+  REPLACE(GetComputerNameW, tell);
+  const auto fail = +[](int, wchar_t*, ULONG*) -> BOOL { return FALSE; };
+  for (const auto function : {fail, decltype(fail)(nullptr)}) {
+    const ReplacedExport user("GetUserNameExW", function);
+    const ReplacedExport computer("GetComputerNameExW", function);
+    for (const std::size_t length : {15U, 16U, 100U, 101U, 256U, 257U}) {
+      told.assign(length, L'x');
+      CHECK(GetAccountName() == x(length > 256 ? 0 : length));
+      CHECK(GetUserNameFQ() == x(length > 100 ? 0 : length));
+      CHECK(GetComputerNetbiosName() == x(length > 15 ? 0 : length));
+      CHECK(GetComputerNameFQ() == x(length > 15 ? 0 : length));
+      CHECK(GetComputerDomain().empty());
+    }
+  }
 }
