@@ -21,7 +21,7 @@ struct AllocatedSid {
 };
 using OwnedSid = Owned<AllocatedSid>;
 
-// The token that counts for the calling thread.
+// The token that the calling thread acts under.
 OwnedKernelObject OpenEffectiveToken() {
   OwnedKernelObject token;
   if (OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive()) == FALSE &&

@@ -6,9 +6,9 @@ namespace kelvo {
 
 namespace {
 
-// A little below 2 to the power of 32.
-constexpr double kFewestFullColors = 4294697000.0;
-constexpr double kMostLowColors = 65536.0;
+// A little less than 2 to the power of 32.
+constexpr double kMinFullColors = 4294697000.0;
+constexpr double kMaxLowColors = 65536.0;
 
 double CountDeviceColors(HDC device) {
   return std::pow(2.0, GetDeviceCaps(device, PLANES) * GetDeviceCaps(device, BITSPIXEL));
@@ -31,11 +31,11 @@ double CountColors(HDC device) {
 
 }  // namespace
 
-bool IsFullResolution(HDC device) { return CountColors(device) >= kFewestFullColors; }
+bool IsFullResolution(HDC device) { return CountColors(device) >= kMinFullColors; }
 
 bool IsLowResolution(HDC device) {
   const double colors = CountColors(device);
-  return colors > 0.0 && colors <= kMostLowColors;
+  return colors > 0.0 && colors <= kMaxLowColors;
 }
 
 }  // namespace kelvo

@@ -4,14 +4,14 @@
 
 namespace kelvo {
 
-// How many colours a device shows: 2 to the power of its planes times its bits per pixel
-// (GetDeviceCaps). Both ask the desktop window's device when none is given, and are false when that
-// cannot be had.
+// How many bits a pixel of a device has: its planes times its bits per plane (GetDeviceCaps with
+// PLANES and BITSPIXEL). Both operations ask the desktop window's device when `device` is null,
+// release it again, and return false when there is none.
 
-// 32 bits per pixel or more; 24 do not count.
+// Returns true for 32 bits per pixel or more; 24 do not count.
 bool IsFullResolution(HDC device = nullptr);
 
-// 16 bits per pixel or fewer.
+// Returns true for 16 bits per pixel or fewer.
 bool IsLowResolution(HDC device = nullptr);
 
 }  // namespace kelvo

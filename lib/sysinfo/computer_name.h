@@ -4,15 +4,17 @@
 
 namespace kelvo {
 
-// The computer's NetBIOS name (GetComputerNameW), at most 15 characters; empty on failure.
+// The names of this computer. All may let std::bad_alloc out.
+
+// Returns the NetBIOS name (GetComputerNameW), of at most 15 characters; empty on failure.
 WString GetComputerNetbiosName();
 
-// The computer's fully qualified DNS name (GetComputerNameExW, looked up at run time); when that
-// gives nothing, its NetBIOS name (GetComputerNameW). Empty on failure.
+// Returns the fully qualified DNS name (GetComputerNameExW, looked up at run time); when there is
+// none, or Windows does not have the function, the NetBIOS name. Empty on failure.
 WString GetComputerNameFQ();
 
-// The DNS domain that the computer belongs to (GetComputerNameExW, looked up at run time). Empty on
-// failure, outside a domain, and on a Windows without the function.
+// Returns the DNS domain that the computer belongs to (GetComputerNameExW, looked up at run time).
+// Empty outside a domain, on failure, and when Windows does not have the function.
 WString GetComputerDomain();
 
 }  // namespace kelvo

@@ -12,26 +12,30 @@ namespace kelvo {
 
 int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int revision) {
   internal::FixedFileVersion version = internal::ReadFixedFileVersion(path);
-  if (version.block == nullptr) {
+  if (!version.numbers) {
     return 2;
   }
   const auto order =
-      version.Numbers() <=> internal::FileVersionNumbers{major, minor, build, revision};
+      *version.numbers <=> internal::FileVersionNumbers{major, minor, build, revision};
   if (order < 0) {
     return -1;
   }
-  // These two answers have never freed the resource.
+  // The results 1 and 0 have never freed the resource.
   version.memory.release();
   return order > 0 ? 1 : 0;
 }
 
+int CompareFileVersionNumbers(const wchar_t* path, int major, int minor, int build, int revision) {
+  return CompareFileVersion(path, major, minor, build, revision);
+}
+
 bool GetFileVersionString(wchar_t* text, const wchar_t* path) {
   const internal::FixedFileVersion version = internal::ReadFixedFileVersion(path);
-  if (version.block == nullptr) {
+  if (!version.numbers) {
     lstrcpyW(text, L"not available");
     return false;
   }
-  const auto [major, minor, build, revision] = version.Numbers();
+  const auto [major, minor, build, revision] = *version.numbers;
   wsprintfW(text, L"%u.%u.%u.%u", major, minor, build, revision);
   return true;
 }

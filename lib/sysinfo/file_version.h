@@ -1,18 +1,33 @@
 #pragma once
 
+#include <cstddef>
+
 namespace kelvo {
 
-// How the version in a file's version resource stands to major.minor.build.revision: 1 when it is
-// higher, 0 when equal, -1 when lower, 2 when the file has no version resource or it cannot be
-// read. The answers 1 and 0 leave the memory that the resource was read into allocated and locked.
+// The numbers in the fixed block of a file's version resource (GetFileVersionInfoW,
+// VerQueryValueW). A null path, a file without such a block and one whose block does not lie inside
+// its resource have no version.
+
+// Compares a file's version with major.minor.build.revision: returns 1 when the file's is higher, 0
+// when equal, -1 when lower, 2 when it has none. The results 1 and 0 leave the memory that the
+// resource was read into allocated and locked.
 int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int revision);
 
-// Writes the version in a file's version resource as "major.minor.build.revision" into `text`, or
-// "not available" where there is none. `text` must have room for 32 characters. True only when
-// numbers were written.
+// Calls CompareFileVersion: a second name for it.
+int CompareFileVersionNumbers(const wchar_t* path, int major, int minor, int build, int revision);
+
+// The room, in characters with the NUL, that every version text fits into.
+constexpr std::size_t kFileVersionStringCapacity = 32;
+
+// Writes the version of the file `path` as "major.minor.build.revision" into `text`, which must
+// have room for kFileVersionStringCapacity characters. Returns false, and writes "not available",
+// when there is none.
 bool GetFileVersionString(wchar_t* text, const wchar_t* path);
 
-// The same for a file of the system directory, given by name; always true.
+// Writes the version of a file in the system directory, given by name, as
+// "major.minor.build.revision" into `text`, which must have room for kFileVersionStringCapacity
+// characters; "not available" when there is none. Always returns true. Overwrites the buffer of
+// GetSystemDirectoryPath. May let std::bad_alloc out.
 bool GetSystemFileVersionString(wchar_t* text, const wchar_t* fileName);
 
 }  // namespace kelvo

@@ -2,13 +2,13 @@
 
 #include <windows.h>
 
-#include <algorithm>
-#include <cstddef>
 #include <cwchar>
+#include <span>
 #include <string_view>
 #include <vector>
 
 #include "lib/string/format_text.h"
+#include "lib/sysinfo/internal/version_value.h"
 
 namespace kelvo {
 
@@ -25,19 +25,16 @@ std::vector<BYTE> ReadVersionResource(const wchar_t* path) {
   return resource;
 }
 
-// The path below which the texts of the first translation stand; empty when there is none.
-WString FileVersionPath(const std::vector<BYTE>& resource) {
-  void* translation = nullptr;
-  UINT size = 0;
-  if (VerQueryValueW(resource.data(), L"\\VarFileInfo\\Translation", &translation, &size) ==
-          FALSE ||
-      size < 4) {
+// The path of the first translation's text; empty when there is no translation.
+WString FileVersionPath(std::span<const BYTE> resource) {
+  const std::span<const BYTE> value =
+      internal::FindVersionValue(resource, L"\\VarFileInfo\\Translation", sizeof(BYTE));
+  if (value.size() < 4) {
     return {};
   }
   // Language, then code page.
-  const auto* const bytes = static_cast<const BYTE*>(translation);
-  return FormatText(L"\\StringFileInfo\\%02x%02x%02x%02x\\FileVersion", bytes[1], bytes[0],
-                    bytes[3], bytes[2]);
+  return FormatText(L"\\StringFileInfo\\%02x%02x%02x%02x\\FileVersion", value[1], value[0],
+                    value[3], value[2]);
 }
 
 }  // namespace
@@ -48,18 +45,13 @@ WString GetFileVersionText(const wchar_t* path) {
     return {};
   }
   const WString textPath = FileVersionPath(resource);
-  void* found = nullptr;
-  UINT length = 0;
-  if (textPath.empty() ||
-      VerQueryValueW(resource.data(), textPath.c_str(), &found, &length) == FALSE) {
+  if (textPath.empty()) {
     return {};
   }
-  // The length is what the file claims: the text ends with the resource at the latest.
-  const auto* const text = static_cast<const wchar_t*>(found);
-  const auto left =
-      static_cast<std::size_t>(resource.data() + resource.size() - static_cast<const BYTE*>(found));
-  const std::size_t longest = std::min<std::size_t>(length, left / sizeof(wchar_t));
-  return WString(std::wstring_view(text, wcsnlen(text, longest)));
+  const std::span<const BYTE> value =
+      internal::FindVersionValue(resource, textPath.c_str(), sizeof(wchar_t));
+  const auto* const text = reinterpret_cast<const wchar_t*>(value.data());
+  return WString(std::wstring_view(text, wcsnlen(text, value.size() / sizeof(wchar_t))));
 }
 
 }  // namespace kelvo

@@ -2,15 +2,18 @@
 
 namespace kelvo {
 
-// The first parameter of both is ignored; `version` is major, minor, build and revision.
+// Both operations ignore their first parameter. `version` is major, minor, build and revision.
 
-// True when the browser's "Shdocvw.dll" in the system directory has this version or a higher one
-// (CompareFileVersion).
+// Returns true when "Shdocvw.dll" in the system directory has this version or a higher one; false
+// when the file is missing or has no version. Overwrites the buffer of GetSystemDirectoryPath and
+// leaves the memory of the version resource allocated when it returns true. May let std::bad_alloc
+// out.
 bool IsIEVersionAtLeast(const void* ignored, const int (&version)[4]);
 
-// The name of the release with exactly this version, up to 5.5. Stands in one process-wide buffer
-// of 256 characters, which the next call overwrites; a version without a name leaves there what the
-// last one with a name gave, an empty text at first.
+// Returns the name of the Internet Explorer release, from 3.0 to 5.5, that has exactly this
+// version. The text is in one buffer of 256 characters for the whole process, which the next call
+// overwrites. For a version without a name the buffer keeps the last name found; at first it is
+// empty.
 const wchar_t* GetIEVersionName(const void* ignored, const int (&version)[4]);
 
 }  // namespace kelvo

@@ -19,7 +19,7 @@ bool EndsInSeparator(const wchar_t* path, std::size_t length) {
 }  // namespace
 
 const wchar_t* GetSystemDirectoryPath() {
-  // One character less than there is, which is the backslash's.
+  // Leaves room for the backslash.
   constexpr UINT kCapacity = std::tuple_size_v<decltype(systemDirectory)> - 1;
   const UINT length = GetSystemDirectoryW(systemDirectory.data(), kCapacity);
   if (length == 0 || length >= kCapacity) {
@@ -44,7 +44,7 @@ WString GetSystemWow64DirectoryPath() {
   return EndsInSeparator(buffer.data(), length) ? path : path + L"\\";
 }
 
-// A 64-bit process knows no redirection that would have to be switched off and on again around it.
+// File-system redirection does not apply to a 64-bit process, so there is none to switch off.
 WString GetNativeSystemDirectoryPath() { return {GetSystemDirectoryPath()}; }
 
 }  // namespace kelvo

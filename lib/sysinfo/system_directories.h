@@ -4,18 +4,22 @@
 
 namespace kelvo {
 
-// The directories of Windows' own libraries, each ending in a backslash and empty when it cannot be
-// told. Their names do not say Get...Directory alone, which are macros of windows.h.
+// The directories of Windows' own libraries. Each path ends in a separator, a backslash being added
+// where Windows gives none, and is empty on failure. The names end in Path because windows.h
+// defines GetSystemDirectory and GetSystemWow64Directory as macros.
 
-// The system directory (GetSystemDirectoryW). Stands in one process-wide buffer of 512 characters,
-// which every call overwrites.
+// Returns the system directory (GetSystemDirectoryW), of at most 510 characters and the separator;
+// empty when it is longer. The text is in one buffer for the whole process, which every call
+// overwrites, and so do the operations of this library that look into the system directory.
 const wchar_t* GetSystemDirectoryPath();
 
-// The directory of the 32-bit libraries on a 64-bit Windows (GetSystemWow64DirectoryW, looked up at
-// run time), at most 1,023 characters. Empty also where Windows lacks the function.
+// Returns the directory of the 32-bit libraries on a 64-bit Windows (GetSystemWow64DirectoryW,
+// looked up at run time), of at most 1,023 characters and the separator. Empty when Windows does
+// not have the function. May let std::bad_alloc out.
 WString GetSystemWow64DirectoryPath();
 
-// The system directory, never redirected to the one of the 32-bit libraries.
+// Returns the system directory that 64-bit programs see, which in a 64-bit process is the path of
+// GetSystemDirectoryPath; overwrites its buffer. May let std::bad_alloc out.
 WString GetNativeSystemDirectoryPath();
 
 }  // namespace kelvo

@@ -4,11 +4,14 @@
 
 namespace kelvo {
 
-// Fills `report`, emptied first, with what this library finds out about the running system, the
+// Empties `report` and fills it with what this library finds out about the running system, the
 // process and the user, for a log or a support dialog: always the same names in the same order,
-// then one entry for each variable of the user's and of the system's environment, as the registry
-// keeps them. Every query answers something: "0", an empty text, or "failed to query " with the
-// name of a shell folder. An environment key that does not open adds no entries.
+// then one entry for each variable of the user's and of the system's environment as the registry
+// stores them (HKEY_CURRENT_USER "Environment" and HKEY_LOCAL_MACHINE
+// "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). Shell folders come from
+// SHGetSpecialFolderPathW and are not created. A query that fails has the value "0", an empty text,
+// or "failed to query " and the name of a shell folder; an environment key that does not open adds
+// no entries. May let std::bad_alloc out and leaves `report` incomplete then.
 void CollectSystemReport(NameTextList& report);
 
 }  // namespace kelvo

@@ -6,7 +6,6 @@
 
 #include "lib/platform/module.h"
 #include "lib/platform/owned.h"
-#include "lib/registry/registry_key.h"
 
 namespace kelvo {
 
@@ -60,8 +59,8 @@ bool IsProductSuiteInstalled(const wchar_t* suiteName) {
       size == 0) {
     return false;
   }
-  // Twice the size, as the value may grow before it is read, then two units for a list stored
-  // without terminators, which the registry is not told of.
+  // Twice the size, since the value may grow before it is read; then two characters that the
+  // registry is not told of, which end a list stored without terminators.
   size *= 2;
   const OwnedLocalMemory<wchar_t> list(
       static_cast<wchar_t*>(LocalAlloc(LPTR, SIZE_T{size} + (2 * sizeof(wchar_t)))));

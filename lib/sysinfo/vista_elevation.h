@@ -4,16 +4,18 @@
 
 namespace kelvo {
 
-// How the process's token stands to elevation. Every answer is false on a Windows before NT 6.0 and
-// when the token cannot be opened for TOKEN_QUERY or read.
+// How far the process's token is elevated (GetTokenInformation). Every operation returns false on a
+// Windows before NT 6.0 and when the token cannot be opened for TOKEN_QUERY or read.
 
-// Whether the token is elevated now.
+// Returns true when the token is elevated (TokenElevation).
 bool IsVistaProcessElevated();
 
-// Gives the token's elevation type; leaves `type` alone when the answer is false.
+// Stores the token's elevation type (TokenElevationType) and returns true; leaves `type` alone when
+// it returns false.
 bool GetVistaProcessElevationType(TOKEN_ELEVATION_TYPE& type);
 
-// Whether the type is TokenElevationTypeDefault (no linked token), -Full (elevated) or -Limited.
+// Return true when the type is TokenElevationTypeDefault (the token has no linked one),
+// TokenElevationTypeFull (it is the elevated one of two) or TokenElevationTypeLimited (the other).
 bool IsVistaProcessElevationTypeDefault();
 bool IsVistaProcessElevationTypeFull();
 bool IsVistaProcessElevationTypeLimited();

@@ -4,14 +4,16 @@
 
 namespace kelvo {
 
-// Which Windows release runs: each answer means this release or a later one of its line, and says
-// nothing about workstation or server, so the server names answer exactly as their workstation
-// twins do. The forms without an argument ask GetVersionExW afresh, whose record is all zero when
-// it fails; every answer is then false. A program without a manifest that names Windows 8.1 or
-// later is told 6.2 there.
+// Which Windows runs. IsWin95 means that line alone, every other name its release or a later one:
+// IsWin98 on Windows 9x, the rest on NT. The answers ignore whether it is a workstation or a
+// server, so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
+//
+// The forms without an argument ask GetVersionExW on each call and return false when it fails. To a
+// program whose manifest does not name Windows 8.1 or later it reports 6.2 from there on.
 
+// Windows 9x with minor version 0.
 bool IsWin95(const OSVERSIONINFOW& version);
-// Windows Millennium Edition counts too.
+// Windows 9x with any other minor version, Windows Millennium Edition included.
 bool IsWin98(const OSVERSIONINFOW& version);
 bool IsWinNT(const OSVERSIONINFOW& version);
 bool IsWin2000(const OSVERSIONINFOW& version);
@@ -19,6 +21,7 @@ bool IsWinXP(const OSVERSIONINFOW& version);
 bool IsWinVista(const OSVERSIONINFOW& version);
 bool IsWin7(const OSVERSIONINFOW& version);
 bool IsWin8(const OSVERSIONINFOW& version);
+// True on the 64-bit Windows XP too, which has the version of Server 2003.
 bool IsWinServer2003(const OSVERSIONINFOW& version);
 bool IsWinServer2008(const OSVERSIONINFOW& version);
 bool IsWinServer2012(const OSVERSIONINFOW& version);

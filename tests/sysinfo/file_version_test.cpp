@@ -2,6 +2,9 @@
 
 #include <shlwapi.h>
 
+#include <cstring>
+
+#include "lib/platform/module.h"
 #include "lib/sysinfo/common_controls_version.h"
 #include "lib/sysinfo/file_version_text.h"
 #include "lib/sysinfo/internet_explorer_version.h"
@@ -12,35 +15,102 @@ TEST_CASE("a file's version is compared, and its memory kept when it is not lowe
   int freed = 0;
   REPLACE(GlobalUnlock, [&](auto...) { return ++freed; });
   REPLACE(GlobalFree, [&](auto...) { return ++freed, nullptr; });
-  const int rows[][6] = {{1, 2, 3, 65535, 0, 0}, {1, 2, 3, 65536, -1, 2}, {1, 2, 3, 65534, 1, 0},
-                         {1, 2, 4, 0, -1, 2},    {1, 2, 2, 65536, 1, 0},  {1, 3, 0, 0, -1, 2},
-                         {1, 1, 9, 9, 1, 0},     {2, 0, 0, 0, -1, 2},     {0, 9, 9, 9, 1, 0}};
-  for (const auto& [major, minor, build, revision, answer, released] : rows) {
-    CHECK(CompareFileVersion(file.c_str(), major, minor, build, revision) == answer);
+  struct Row {
+    int major, minor, build, revision, order, released;
+  };
+  const Row rows[] = {{1, 2, 3, 65535, 0, 0}, {1, 2, 3, 65536, -1, 2}, {1, 2, 3, 65534, 1, 0},
+                      {1, 2, 4, 0, -1, 2},    {1, 2, 2, 65536, 1, 0},  {1, 3, 0, 0, -1, 2},
+                      {1, 1, 9, 9, 1, 0},     {2, 0, 0, 0, -1, 2},     {0, 9, 9, 9, 1, 0}};
+  for (const auto& [major, minor, build, revision, order, released] : rows) {
+    CHECK(CompareFileVersion(file.c_str(), major, minor, build, revision) == order);
+    CHECK(std::exchange(freed, 0) == released);
+    CHECK(CompareFileVersionNumbers(file.c_str(), major, minor, build, revision) == order);
     CHECK(std::exchange(freed, 0) == released);
   }
   REPLACE(VerQueryValueW, [](auto...) { return FALSE; });
-  CHECK((CompareFileVersion(file.c_str(), 0, 0, 0, 0) == 2 && freed == 2));
+  CHECK(CompareFileVersion(file.c_str(), 0, 0, 0, 0) == 2);
+  CHECK(freed == 2);
 }
 
 TEST_CASE("a file's version is written as numbers and as its own text") {
-  const WString rows[][3] = {{L"versioned_english.dll", L"1.2.3.65535", L"1.2 \u017E"},
-                             {L"versioned_german.dll", L"1.2.3.65535", L"eins"},
-                             {L"versioned_without_text.dll", L"1.2.3.65535", L""},
-                             {L"no such file", L"not available", L""}};
+  struct Row {
+    WString file, numbers, text;
+  };
+  const Row rows[] = {{L"versioned_english.dll", L"1.2.3.65535", L"1.2 \u017E"},
+                      {L"versioned_german.dll", L"1.2.3.65535", L"eins"},
+                      {L"versioned_without_text.dll", L"1.2.3.65535", L""},
+                      {L"no such file", L"not available", L""}};
   for (const auto& [file, numbers, text] : rows) {
     const std::wstring path = ProgramPath(file.c_str());
-    wchar_t written[32];
+    wchar_t written[kFileVersionStringCapacity];
     CHECK(GetFileVersionString(written, path.c_str()) == (numbers.c_str()[0] == L'1'));
-    CHECK((written == numbers && GetFileVersionText(path.c_str()) == text));
+    CHECK(written == numbers);
+    CHECK(GetFileVersionText(path.c_str()) == text);
   }
-  // A text that claims more than its file holds ends with the file.
-  REPLACE(VerQueryValueW, [](auto original, auto block, auto* path, void** found, auto length) {
-    const BOOL answer = original(block, path, found, length);
-    *length = *path == L'\\' && path[1] == L'S' ? 60000 : *length;
-    return answer;
+}
+
+TEST_CASE("a resource shorter than its contents has no version, and none of foreign memory") {
+  const std::wstring sound = ProgramPath(L"versioned_english.dll");
+  const OwnedModule module(LoadLibraryExW(sound.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE));
+  // Where the resource lies, its size, a code page and nothing.
+  const auto* const entry = reinterpret_cast<const char*>(
+      FindResourceW(module.get(), MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION));
+  std::string bytes = ReadBytes(sound);
+  const std::size_t sizePlace = bytes.find(std::string(entry, 16)) + 4;
+  REPLACE(GlobalLock, [](auto original, auto memory) {
+    return std::memset(original(memory), 0x11, GlobalSize(memory));
   });
-  CHECK(GetFileVersionText(ProgramPath(L"versioned_german.dll").c_str()) == L"eins");
+  const ScratchFolder folder;
+  // 8 and 44 bytes; of 44 Windows makes a buffer that the whole block fits into.
+  for (const char size : {'\b', ','}) {
+    bytes.replace(sizePlace, 4, {size, 0, 0, 0});
+    const std::wstring hostile = folder.Write("hostile.dll", bytes);
+    wchar_t numbers[kFileVersionStringCapacity];
+    CHECK(GetFileVersionString(numbers, hostile.c_str()) == (size == ','));
+    CHECK(numbers == (size == ',' ? L"0.0.0.0" : std::wstring(L"not available")));
+    CHECK(GetFileVersionText(hostile.c_str()).empty());
+  }
+}
+
+TEST_CASE("a value that does not lie inside its resource is none, or ends with it") {
+  const std::wstring file = ProgramPath(L"versioned_german.dll");
+  DWORD ignored = 0;
+  const auto size = static_cast<std::ptrdiff_t>(GetFileVersionInfoSizeW(file.c_str(), &ignored));
+  struct Row {
+    // Of the path of the value that is replaced.
+    std::size_t pathLength;
+    std::ptrdiff_t place;
+    UINT length;
+    int order;
+    WString text;
+  };
+  constexpr std::ptrdiff_t kSound = -1;
+  constexpr std::size_t kBlock = 1, kTranslation = 24, kText = 36;
+  const Row rows[] = {{kBlock, size - 52, 52, -1, L"eins"}, {kBlock, kSound, 51, 2, L"eins"},
+                      {kBlock, size - 51, 52, 2, L"eins"},  {kBlock, -4, 52, 2, L"eins"},
+                      {kTranslation, kSound, 3, 0, L""},    {kTranslation, size - 3, 4, 0, L""},
+                      {kText, size - 4, 60000, 0, L"!!"},   {kText, size - 2, 0xFFFFFFFF, 0, L"!"},
+                      {kText, size - 4, 1, 0, L"!"},        {kText, size, 1, 0, L""},
+                      {kText, size + 2, 4, 0, L""},         {kText, -2, 4, 0, L""}};
+  for (const auto& [pathLength, place, length, order, text] : rows) {
+    CAPTURE(pathLength);
+    CAPTURE(place);
+    REPLACE(GetFileVersionInfoW, [&](auto original, auto... given) {
+      auto* const last = static_cast<wchar_t*>(std::get<3>(std::tuple(given...))) + size / 2;
+      const BOOL read = original(given...);
+      return last[-1] = last[-2] = L'!', read;
+    });
+    REPLACE(VerQueryValueW, [&](auto original, auto block, auto* path, auto found, auto claimed) {
+      const BOOL answer = original(block, path, found, claimed);
+      if (std::wcslen(path) == pathLength) {
+        *found = place == kSound ? *found : static_cast<char*>(const_cast<void*>(block)) + place;
+        *claimed = length;
+      }
+      return answer;
+    });
+    CHECK(CompareFileVersion(file.c_str(), 1, 2, 3, 65535) == order);
+    CHECK(GetFileVersionText(file.c_str()) == text);
+  }
 }
 
 TEST_CASE("the browser's file is looked for in the system directory, its name kept") {

@@ -1,11 +1,26 @@
 #include "lib/sysinfo/internal/fixed_file_version.h"
 
+#include <cstring>
+#include <span>
+
+#include "lib/sysinfo/internal/version_value.h"
+
 namespace kelvo::internal {
 
-FileVersionNumbers FixedFileVersion::Numbers() const {
-  return {HIWORD(block->dwFileVersionMS), LOWORD(block->dwFileVersionMS),
-          HIWORD(block->dwFileVersionLS), LOWORD(block->dwFileVersionLS)};
+namespace {
+
+std::optional<FileVersionNumbers> FindNumbers(std::span<const BYTE> resource) {
+  const std::span<const BYTE> value = FindVersionValue(resource, L"\\", sizeof(BYTE));
+  VS_FIXEDFILEINFO block{};
+  if (value.size() < sizeof(block)) {
+    return std::nullopt;
+  }
+  std::memcpy(&block, value.data(), sizeof(block));
+  return FileVersionNumbers{HIWORD(block.dwFileVersionMS), LOWORD(block.dwFileVersionMS),
+                            HIWORD(block.dwFileVersionLS), LOWORD(block.dwFileVersionLS)};
 }
+
+}  // namespace
 
 FixedFileVersion ReadFixedFileVersion(const wchar_t* path) {
   FixedFileVersion version;
@@ -16,12 +31,13 @@ FixedFileVersion ReadFixedFileVersion(const wchar_t* path) {
   }
   version.memory.reset(GlobalAlloc(GMEM_MOVEABLE, size));
   void* const resource = GlobalLock(version.memory.get());
-  void* block = nullptr;
-  UINT length = 0;
-  if (resource != nullptr && GetFileVersionInfoW(path, 0, size, resource) != FALSE &&
-      VerQueryValueW(resource, L"\\", &block, &length) != FALSE &&
-      length >= sizeof(VS_FIXEDFILEINFO)) {
-    version.block = static_cast<const VS_FIXEDFILEINFO*>(block);
+  if (resource == nullptr) {
+    return version;
+  }
+  // The size is more than what is read from the file.
+  std::memset(resource, 0, size);
+  if (GetFileVersionInfoW(path, 0, size, resource) != FALSE) {
+    version.numbers = FindNumbers({static_cast<const BYTE*>(resource), size});
   }
   return version;
 }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <optional>
 
 #include "lib/platform/owned.h"
 
@@ -25,14 +26,11 @@ using FileVersionNumbers = std::array<int, 4>;
 struct FixedFileVersion {
   // Holds the file's whole version resource.
   OwnedLockedGlobalMemory memory;
-  // Its fixed block, within `memory`; null when the file has none or it cannot be read.
-  const VS_FIXEDFILEINFO* block = nullptr;
-
-  // Needs a block.
-  [[nodiscard]] FileVersionNumbers Numbers() const;
+  // From its fixed block; nothing when the file has none or it cannot be read.
+  std::optional<FileVersionNumbers> numbers;
 };
 
-// Reads the version resource of a file (GetFileVersionInfoW) and finds its fixed block.
+// Reads the version resource of a file (GetFileVersionInfoW) and the numbers of its fixed block.
 FixedFileVersion ReadFixedFileVersion(const wchar_t* path);
 
 }  // namespace kelvo::internal
