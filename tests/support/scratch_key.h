@@ -31,16 +31,17 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
   REQUIRE(RegSetKeyValueW(root, subkey, name, type, units.data(), size) == ERROR_SUCCESS);
 }
 
-// As long as it lives, this process finds an empty key in place of one of Windows' predefined keys.
+// As long as it lives, this process finds `key`, empty at first, in place of one of Windows'
+// predefined keys. Tests write and delete through `key`, never through the predefined one.
 struct StandInKey {
-  explicit StandInKey(HKEY key) : predefined(key) {
-    OwnedRegistryKey empty;
-    REQUIRE(CreateRegistryKey(HKEY_CURRENT_USER, scratch.c_str(), empty) == 0);
-    REQUIRE(RegOverridePredefKey(predefined, empty.get()) == 0);
+  explicit StandInKey(HKEY replaced) : predefined(replaced) {
+    REQUIRE(CreateRegistryKey(HKEY_CURRENT_USER, scratch.c_str(), key) == 0);
+    REQUIRE(RegOverridePredefKey(predefined, key.get()) == 0);
   }
   ~StandInKey() { RegOverridePredefKey(predefined, nullptr); }
 
   ScratchKey scratch;
+  OwnedRegistryKey key;
   HKEY predefined;
 };
 

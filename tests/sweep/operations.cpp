@@ -11,11 +11,15 @@
 #include "lib/registry/registry_value_list.h"
 #include "lib/security/token_privileges.h"
 #include "lib/sysinfo/administrators.h"
+#include "lib/sysinfo/color_depth.h"
+#include "lib/sysinfo/common_controls_version.h"
 #include "lib/sysinfo/computer_name.h"
 #include "lib/sysinfo/file_version.h"
 #include "lib/sysinfo/file_version_text.h"
 #include "lib/sysinfo/system_directories.h"
+#include "lib/sysinfo/terminal_server.h"
 #include "lib/sysinfo/user_name.h"
+#include "lib/sysinfo/vista_elevation.h"
 #include "tool/command_line.h"
 #include "tool/dependent_applications.h"
 
@@ -92,5 +96,9 @@ extern "C" __declspec(dllexport) const Operation operations[] = {
     CALL(IsThere(GetComputerNameFQ())),
     CALL(IsThere(GetUserNameFQ())),
     CALL(Text(IsAdmin())),
+    CALL(Text(IsVistaProcessElevated())),
+    CALL(Text(IsProductSuiteInstalled(L"none"))),
+    CALL(Text(IsLowResolution())),
+    CALL(IsThere(Text(GetComCtlVersionPacked()))),
     CALL(Text(EnablePrivilege(L"SeBackupPrivilege", TRUE))),
     {nullptr, nullptr, nullptr}};

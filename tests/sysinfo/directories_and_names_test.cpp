@@ -26,16 +26,13 @@ static WString x(std::size_t count) { return {count, L'x'}; }
 
 TEST_CASE("directories end in one separator and fit their buffers") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return TellDirectory(to...); });
-  struct Row {
-    WString directory, systemPath, wow64Path;
-  };
-  const Row rows[] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
-                      {L"C:/x/", L"C:/x/", L"C:/x/"},
-                      {L"", L"", L""},
-                      {x(510), x(510) + L"\\", x(510) + L"\\"},
-                      {x(511), L"", x(511) + L"\\"},
-                      {x(1023), L"", x(1023) + L"\\"},
-                      {x(1024), L"", L""}};
+  const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
+                             {L"C:/x/", L"C:/x/", L"C:/x/"},
+                             {L"", L"", L""},
+                             {x(510), x(510) + L"\\", x(510) + L"\\"},
+                             {x(511), L"", x(511) + L"\\"},
+                             {x(1023), L"", x(1023) + L"\\"},
+                             {x(1024), L"", L""}};
   for (const auto& [directory, systemPath, wow64Path] : rows) {
     told = directory.c_str();
     const ReplacedExport wow64("GetSystemWow64DirectoryW", &TellDirectory);
@@ -47,36 +44,30 @@ TEST_CASE("directories end in one separator and fit their buffers") {
   CHECK(GetSystemWow64DirectoryPath().empty());
 }
 
-TEST_CASE("names of any length are read in the format asked for") {
-  const ReplacedExport user("GetUserNameExW", &TellName);
-  const ReplacedExport computer("GetComputerNameExW", &TellName);
-  for (const std::size_t length : {1U, 99U, 100U, 255U, 256U, 1000U}) {
-    told.assign(length, L'x');
-    CHECK(GetUserNameInFormat(NameUnknown).empty());
-    CHECK(GetUserNameInFormat(NameSamCompatible) == L"2" + x(length - 1));
-    CHECK(GetUserNameFQ() == L"8" + x(length - 1));
-    CHECK(GetComputerNameFQ() == L"3" + x(length - 1));
-    CHECK(GetComputerDomain() == L"2" + x(length - 1));
-  }
-}
-
-TEST_CASE("the plain name of account and computer stands in for a missing full one") {
+TEST_CASE("names have the format asked for; plain ones stand in for account and computer") {
   const auto tell = [](auto, wchar_t* name, DWORD* size) {
     return TellDirectory(name, *size) < *size ? TRUE : FALSE;
   };
   REPLACE(GetUserNameW, tell);
   REPLACE(GetComputerNameW, tell);
+  const std::size_t lengths[] = {1, 15, 16, 100, 101, 255, 256, 257, 1000};
   const auto fail = +[](int, wchar_t*, ULONG*) -> BOOL { return FALSE; };
-  for (const auto function : {fail, decltype(fail)(nullptr)}) {
+  for (const auto function : {&TellName, fail, decltype(fail)(nullptr)}) {
     const ReplacedExport user("GetUserNameExW", function);
     const ReplacedExport computer("GetComputerNameExW", function);
-    for (const std::size_t length : {15U, 16U, 100U, 101U, 256U, 257U}) {
+    for (const std::size_t length : lengths) {
       told.assign(length, L'x');
+      // What is expected where TellName is asked for a format, and where the plain name stands in.
+      const auto name = [&](const WString& format, std::size_t maxPlain) {
+        const WString plain = x(length > maxPlain ? 0 : length);
+        return function == &TellName ? format + x(length - 1) : plain;
+      };
       CHECK(GetAccountName() == x(length > 256 ? 0 : length));
-      CHECK(GetUserNameFQ() == x(length > 100 ? 0 : length));
-      CHECK(GetComputerNetbiosName() == x(length > 15 ? 0 : length));
-      CHECK(GetComputerNameFQ() == x(length > 15 ? 0 : length));
-      CHECK(GetComputerDomain().empty());
+      CHECK(GetUserNameInFormat(NameSamCompatible) == name(L"2", 0));
+      CHECK(GetUserNameInFormat(NameUnknown).empty());
+      CHECK(GetUserNameFQ() == name(L"8", 100));
+      CHECK(GetComputerNameFQ() == name(L"3", 15));
+      CHECK(GetComputerDomain() == name(L"2", 0));
     }
   }
 }

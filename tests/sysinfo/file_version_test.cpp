@@ -3,151 +3,132 @@
 #include <shlwapi.h>
 
 #include <cstring>
+#include <sstream>
 
 #include "lib/platform/module.h"
+#include "lib/string/utf8.h"
 #include "lib/sysinfo/common_controls_version.h"
 #include "lib/sysinfo/file_version_text.h"
 #include "lib/sysinfo/internet_explorer_version.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("a file's version is compared, and its memory kept when it is not lower") {
-  const std::wstring file = ProgramPath(L"versioned_english.dll");
-  int freed = 0;
-  REPLACE(GlobalUnlock, [&](auto...) { return ++freed; });
-  REPLACE(GlobalFree, [&](auto...) { return ++freed, nullptr; });
-  struct Row {
-    int major, minor, build, revision, order, released;
-  };
-  const Row rows[] = {{1, 2, 3, 65535, 0, 0}, {1, 2, 3, 65536, -1, 2}, {1, 2, 3, 65534, 1, 0},
-                      {1, 2, 4, 0, -1, 2},    {1, 2, 2, 65536, 1, 0},  {1, 3, 0, 0, -1, 2},
-                      {1, 1, 9, 9, 1, 0},     {2, 0, 0, 0, -1, 2},     {0, 9, 9, 9, 1, 0}};
-  for (const auto& [major, minor, build, revision, order, released] : rows) {
-    CHECK(CompareFileVersion(file.c_str(), major, minor, build, revision) == order);
-    CHECK(std::exchange(freed, 0) == released);
-    CHECK(CompareFileVersionNumbers(file.c_str(), major, minor, build, revision) == order);
-    CHECK(std::exchange(freed, 0) == released);
-  }
-  REPLACE(VerQueryValueW, [](auto...) { return FALSE; });
-  CHECK(CompareFileVersion(file.c_str(), 0, 0, 0, 0) == 2);
-  CHECK(freed == 2);
-}
-
-TEST_CASE("a file's version is written as numbers and as its own text") {
-  struct Row {
-    WString file, numbers, text;
-  };
-  const Row rows[] = {{L"versioned_english.dll", L"1.2.3.65535", L"1.2 \u017E"},
-                      {L"versioned_german.dll", L"1.2.3.65535", L"eins"},
-                      {L"versioned_without_text.dll", L"1.2.3.65535", L""},
-                      {L"no such file", L"not available", L""}};
-  for (const auto& [file, numbers, text] : rows) {
-    const std::wstring path = ProgramPath(file.c_str());
-    wchar_t written[kFileVersionStringCapacity];
-    CHECK(GetFileVersionString(written, path.c_str()) == (numbers.c_str()[0] == L'1'));
-    CHECK(written == numbers);
-    CHECK(GetFileVersionText(path.c_str()) == text);
-  }
-}
-
-TEST_CASE("a resource shorter than its contents has no version, and none of foreign memory") {
-  const std::wstring sound = ProgramPath(L"versioned_english.dll");
-  const OwnedModule module(LoadLibraryExW(sound.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE));
+// A file like another whose resource directory claims that its version resource has `size` bytes.
+static void WriteCutVersion(const std::wstring& file, const std::wstring& cutFile, char size) {
+  const OwnedModule module(LoadLibraryExW(file.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE));
   // Where the resource lies, its size, a code page and nothing.
   const auto* const entry = reinterpret_cast<const char*>(
       FindResourceW(module.get(), MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION));
-  std::string bytes = ReadBytes(sound);
-  const std::size_t sizePlace = bytes.find(std::string(entry, 16)) + 4;
+  std::string bytes = ReadBytes(file);
+  bytes.replace(bytes.find(std::string(entry, 16)) + 4, 4, {size, 0, 0, 0});
+  std::ofstream(std::filesystem::path(cutFile), std::ios::binary) << bytes;
+}
+
+TEST_CASE("the versions of sound and hostile files are those of file_versions.txt") {
+  WriteCutVersion(ProgramPath(L"versioned_german.dll"), ProgramPath(L"versioned_8.dll"), 8);
+  WriteCutVersion(ProgramPath(L"versioned_german.dll"), ProgramPath(L"versioned_44.dll"), 44);
+  int freed = 0;
+  REPLACE(GlobalUnlock, [&](auto original, auto memory) { return ++freed, original(memory); });
+  REPLACE(GlobalFree, [&](auto original, auto memory) { return ++freed, original(memory); });
+  // What lies in memory before and, as "!!", after the resource.
   REPLACE(GlobalLock, [](auto original, auto memory) {
     return std::memset(original(memory), 0x11, GlobalSize(memory));
   });
-  const ScratchFolder folder;
-  // 8 and 44 bytes; of 44 Windows makes a buffer that the whole block fits into.
-  for (const char size : {'\b', ','}) {
-    bytes.replace(sizePlace, 4, {size, 0, 0, 0});
-    const std::wstring hostile = folder.Write("hostile.dll", bytes);
-    wchar_t numbers[kFileVersionStringCapacity];
-    CHECK(GetFileVersionString(numbers, hostile.c_str()) == (size == ','));
-    CHECK(numbers == (size == ',' ? L"0.0.0.0" : std::wstring(L"not available")));
-    CHECK(GetFileVersionText(hostile.c_str()).empty());
+  DWORD size = 0;
+  REPLACE(GetFileVersionInfoW, [&](auto original, auto file, auto, DWORD room, void* data) {
+    const BOOL read = original(file, 0, room, data);
+    auto* const end = static_cast<wchar_t*>(data) + (size = room) / 2;
+    end[-1] = end[-2] = L'!';
+    return read;
+  });
+  // The file asked about; the path of the value that is moved, where to, and the length it claims.
+  char name[99] = "", from[9] = "";
+  int numbers[4], offset = 0;
+  std::size_t pathLength = 0;
+  UINT length = 0;
+  REPLACE(VerQueryValueW, [&](auto original, auto block, auto* path, auto found, auto claimed) {
+    const BOOL answer = original(block, path, found, claimed);
+    if (std::wcslen(path) == pathLength) {
+      auto* const start = *from == 'f' ? static_cast<const void*>(*found) : block;
+      *found = (char*)start + (*from == 'e' ? size : 0) + offset;
+      *claimed = length;
+    }
+    return answer;
+  });
+  std::istringstream cases(ReadBytes(ProgramPath(L"expected\\file_versions.txt")));
+  std::string seen;
+  for (std::string given, answer; std::getline(cases, given) && std::getline(cases, answer);) {
+    pathLength = 0;
+    std::sscanf(given.c_str(), "%98s %d.%d.%d.%d, path of %zu, %8[a-z] %d, length %u", name,
+                &numbers[0], &numbers[1], &numbers[2], &numbers[3], &pathLength, from, &offset,
+                &length);
+    const std::wstring path = ProgramPath(std::filesystem::path(name));
+    seen += given + "\n";
+    for (const auto compare : {CompareFileVersion, CompareFileVersionNumbers}) {
+      freed = 0;
+      seen += std::to_string(
+          std::apply(compare, std::tuple_cat(std::tuple(path.c_str()), std::to_array(numbers))));
+      seen += " (freed " + std::to_string(freed) + ") ";
+    }
+    wchar_t written[kFileVersionStringCapacity];
+    seen += GetFileVersionString(written, path.c_str()) ? "true " : "false ";
+    seen += Ascii(written) + " \"" + ToUtf8(GetFileVersionText(path.c_str())) + "\"\n";
   }
-}
-
-TEST_CASE("a value that does not lie inside its resource is none, or ends with it") {
-  const std::wstring file = ProgramPath(L"versioned_german.dll");
-  DWORD ignored = 0;
-  const auto size = static_cast<std::ptrdiff_t>(GetFileVersionInfoSizeW(file.c_str(), &ignored));
-  struct Row {
-    // Of the path of the value that is replaced.
-    std::size_t pathLength;
-    std::ptrdiff_t place;
-    UINT length;
-    int order;
-    WString text;
-  };
-  constexpr std::ptrdiff_t kSound = -1;
-  constexpr std::size_t kBlock = 1, kTranslation = 24, kText = 36;
-  const Row rows[] = {{kBlock, size - 52, 52, -1, L"eins"}, {kBlock, kSound, 51, 2, L"eins"},
-                      {kBlock, size - 51, 52, 2, L"eins"},  {kBlock, -4, 52, 2, L"eins"},
-                      {kTranslation, kSound, 3, 0, L""},    {kTranslation, size - 3, 4, 0, L""},
-                      {kText, size - 4, 60000, 0, L"!!"},   {kText, size - 2, 0xFFFFFFFF, 0, L"!"},
-                      {kText, size - 4, 1, 0, L"!"},        {kText, size, 1, 0, L""},
-                      {kText, size + 2, 4, 0, L""},         {kText, -2, 4, 0, L""}};
-  for (const auto& [pathLength, place, length, order, text] : rows) {
-    CAPTURE(pathLength);
-    CAPTURE(place);
-    REPLACE(GetFileVersionInfoW, [&](auto original, auto... given) {
-      auto* const last = static_cast<wchar_t*>(std::get<3>(std::tuple(given...))) + size / 2;
-      const BOOL read = original(given...);
-      return last[-1] = last[-2] = L'!', read;
-    });
-    REPLACE(VerQueryValueW, [&](auto original, auto block, auto* path, auto found, auto claimed) {
-      const BOOL answer = original(block, path, found, claimed);
-      if (std::wcslen(path) == pathLength) {
-        *found = place == kSound ? *found : static_cast<char*>(const_cast<void*>(block)) + place;
-        *claimed = length;
-      }
-      return answer;
-    });
-    CHECK(CompareFileVersion(file.c_str(), 1, 2, 3, 65535) == order);
-    CHECK(GetFileVersionText(file.c_str()) == text);
-  }
+  CheckAgainstFile(seen, L"file_versions.txt");
 }
 
 TEST_CASE("the browser's file is looked for in the system directory, its name kept") {
-  wchar_t text[32];
+  wchar_t text[kFileVersionStringCapacity];
   int version[4];
+  const auto parse = [&](const std::string& numbers) {
+    auto& [major, minor, build, revision] = version;
+    std::sscanf(numbers.c_str(), "%d.%d.%d.%d", &major, &minor, &build, &revision);
+  };
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
-  REQUIRE(swscanf(text, L"%d.%d.%d.%d", &version[0], &version[1], &version[2], &version[3]) == 4);
+  parse(Ascii(text));
   CHECK(IsIEVersionAtLeast(nullptr, version));
-  CHECK_FALSE(IsIEVersionAtLeast(nullptr, (++version[3], version)));
-  CHECK((GetSystemFileVersionString(text, L"no such file") && text == WString(L"not available")));
-  const std::wstring sp1 = L"Internet Explorer 5.01 SP1 (Windows 95/98 and  Windows NT 4.0) ";
-  CHECK(GetIEVersionName(nullptr, {5, 50, 4134, 601}) == std::wstring());
-  CHECK(GetIEVersionName(nullptr, {5, 50, 4134, 600}) == std::wstring(L"Internet Explorer 5.5"));
-  CHECK(GetIEVersionName(nullptr, {5, 0, 3105, 106}) == sp1);
-  CHECK(GetIEVersionName(nullptr, {6, 0, 0, 0}) == sp1);
+  ++version[3];
+  CHECK_FALSE(IsIEVersionAtLeast(nullptr, version));
+  REPLACE(GetSystemDirectoryW, [](auto, auto to, auto) { return lstrcpyW(to, L"C:\\none"), 7U; });
+  CHECK_FALSE(IsIEVersionAtLeast(nullptr, {0, 0, 0, 0}));
+  CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
+  CHECK(text == WString(L"not available"));
+  std::string seen = Ascii(GetIEVersionName(nullptr, {5, 50, 4134, 601}));
+  std::istringstream cases(ReadBytes(ProgramPath(L"expected\\browser_names.txt")));
+  for (std::string given; std::getline(cases, given);) {
+    parse(given);
+    const std::wstring name = GetIEVersionName(nullptr, version);
+    seen += given.substr(0, given.find('=') + 1) + Ascii(name) + "\n";
+    CHECK(GetIEVersionName(nullptr, {6, 0, 0, 0}) == name);
+  }
+  CheckAgainstFile(seen, L"browser_names.txt");
 }
 
 TEST_CASE("the common controls tell their version, or are 4.0 when they cannot") {
+  static HRESULT result;
   const auto tell = +[](DLLVERSIONINFO* version) -> HRESULT {
-    version->dwMajorVersion = version->cbSize == 20 ? 6 : 0;
-    version->dwMinorVersion = 0x1000A;
-    return S_FALSE;
+    *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};
+    return result;
   };
-  const auto fail = +[](DLLVERSIONINFO*) -> HRESULT { return E_ABORT; };
-  const std::tuple<decltype(fail), HRESULT, DWORD, DWORD, DWORD> rows[] = {
-      {tell, S_FALSE, 6, 0x1000A, 0x6000A},
-      {fail, E_FAIL, 77, 77, 0},
-      {nullptr, S_OK, 4, 0, 0x40000}};
-  DWORD numbers[2];
-  for (const auto& [function, result, major, minor, packed] : rows) {
-    const ReplacedExport version("DllGetVersion", function);
-    numbers[0] = numbers[1] = 77;
-    CHECK(GetComCtlVersion(&numbers[0], &numbers[1]) == result);
-    CHECK((numbers[0] == major && numbers[1] == minor && GetComCtlVersionPacked() == packed));
+  struct Row {
+    decltype(tell) getVersion;
+    HRESULT told, result;
+    DWORD major, minor, packed;
+  };
+  const Row rows[] = {{tell, S_FALSE, S_FALSE, 6, 0x1000A, 0x6000A},
+                      {tell, E_ABORT, E_FAIL, 77, 77, 0},
+                      {nullptr, E_ABORT, S_OK, 4, 0, 0x40000}};
+  DWORD major, minor;
+  for (const Row& row : rows) {
+    const ReplacedExport version("DllGetVersion", row.getVersion);
+    result = row.told;
+    major = minor = 77;
+    CHECK(GetComCtlVersion(&major, &minor) == row.result);
+    CHECK(major == row.major);
+    CHECK(minor == row.minor);
+    CHECK(GetComCtlVersionPacked() == row.packed);
   }
-  CHECK(GetComCtlVersion(nullptr, numbers) == E_INVALIDARG);
-  CHECK(GetComCtlVersion(numbers, nullptr) == E_INVALIDARG);
+  CHECK(GetComCtlVersion(nullptr, &minor) == E_INVALIDARG);
+  CHECK(GetComCtlVersion(&major, nullptr) == E_INVALIDARG);
   REPLACE(LoadLibraryW, [](auto...) { return nullptr; });
   CHECK(GetComCtlVersionPacked() == 0);
 }
