@@ -43,8 +43,10 @@ TEST_CASE("each entry of the report asks what its name says") {
   });
   REPLACE(GetVersion, [&](auto) { return release; });
   const ReplacedExport verify(
-      "VerifyVersionInfoA",
-      +[](OSVERSIONINFOEXA*, DWORD, DWORDLONG) { return Has("terminal suite") ? TRUE : FALSE; });
+      "VerifyVersionInfoA", +[](OSVERSIONINFOEXA* record, DWORD kind, DWORDLONG mask) -> BOOL {
+        return record->wSuiteMask == 0x10 && kind == 0x40 &&
+               mask == VerSetConditionMask(0, 0x40, VER_AND) && Has("terminal suite");
+      });
   REPLACE(OpenThreadToken, [](auto, auto, DWORD access, BOOL asSelf, auto) {
     CHECK(access == TOKEN_QUERY);
     CHECK(asSelf == TRUE);
@@ -94,6 +96,11 @@ TEST_CASE("each entry of the report asks what its name says") {
                           L"SYSTEM\\CurrentControlSet\\Control\\Session Manager\\Environment",
                           L"OURS", L"everybody's");
     }
+    if (Has("terminal suite")) {
+      RegSetKeyValueW(machineKey.key.get(), L"System\\CurrentControlSet\\Control\\ProductOptions",
+                      L"ProductSuite", REG_MULTI_SZ, L"Terminal Server\0", 34);
+    }
+    const ReplacedExport absent(Has("old ntdll") ? "VerSetConditionMask" : "", nullptr);
     CollectSystemReport(report);
     seen += given + "\n is";
     for (const auto& [name, text] : report) {
