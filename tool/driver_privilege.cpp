@@ -7,7 +7,7 @@ namespace kelvo {
 
 bool EnableLoadDriverPrivilege() {
   // Only the last error tells: the adjustment succeeds also when the token lacks the privilege.
-  const DWORD error = EnableProcessPrivilege(L"SeLoadDriverPrivilege").error;
+  const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {
     // One wording for all three calls; the code tells them apart.
     Report(L"ERR: OpenProcessToken failed, err = %08lX\n", error);

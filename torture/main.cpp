@@ -11,7 +11,7 @@
 #include <sstream>
 #include <string>
 
-#include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/guarded_call.h"
 #include "torture/input.h"
 
 namespace kelvo::torture {
@@ -62,7 +62,7 @@ void TryInput(const Target& target, std::uint64_t number) {
   currentInput = number;
   Input input(number);
   const int faultsBefore = wineFaults;
-  const bool completed = internal::GuardedCall([&] { target.run(input); });
+  const bool completed = GuardedCall([&] { target.run(input); });
   Expect(completed || wineFaults != faultsBefore, "an exception left the operation");
 }
 

@@ -32,11 +32,12 @@ bool EqualsIgnoringAsciiCase(std::wstring_view a, std::wstring_view b) {
 }  // namespace
 
 bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names) {
-  if (!ReadName(station, names.station)) {
-    return internal::StepFailed(L"RunAsUser GetUserObjectInformation On Current WinStat Failed");
+  if (!internal::Check(ReadName(station, names.station),
+                       L"RunAsUser GetUserObjectInformation On Current WinStat Failed")) {
+    return false;
   }
-  return ReadName(desktop, names.desktop) ||
-         internal::StepFailed(L"RunAsUser GetUserObjectInformation On Current Desktop Failed");
+  return internal::Check(ReadName(desktop, names.desktop),
+                         L"RunAsUser GetUserObjectInformation On Current Desktop Failed");
 }
 
 BOOL IsOnInteractiveDesktop() {
@@ -44,7 +45,7 @@ BOOL IsOnInteractiveDesktop() {
   internal::OwnedDesktop desktop;
   internal::OwnedWindowStation station;
   DesktopNames names;
-  internal::GuardedCall([&] {
+  GuardedCall([&] {
     station.reset(GetProcessWindowStation());
     desktop.reset(GetThreadDesktop(GetCurrentThreadId()));
     ReadDesktopNames(station.get(), desktop.get(), names);

@@ -1,8 +1,7 @@
 #include "lib/process/process_readiness.h"
 
-#include "lib/platform/owned.h"
+#include "lib/process/internal/started_process.h"
 #include "lib/process/waiting_messages.h"
-#include "lib/string/wstring.h"
 #include "lib/sysinfo/terminal_server.h"
 #include "lib/sysinfo/windows_release.h"
 
@@ -12,23 +11,14 @@ namespace {
 
 constexpr DWORD kPollPauseMs = 100;
 
-struct StartedProcess {
-  OwnedKernelObject process;
-  OwnedKernelObject thread;
-};
-
-bool StartProcess(const wchar_t* exePath, const wchar_t* arguments, StartedProcess& program) {
-  WString commandLine = WString(L"\"") + exePath + L"\" " + arguments;
+internal::StartedProcess StartProgram(const wchar_t* exePath, const wchar_t* arguments) {
+  WString commandLine = internal::QuotedCommandLine(exePath, arguments);
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION started{};
-  if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS,
-                     nullptr, nullptr, &startup, &started) == FALSE) {
-    return false;
-  }
-  program.process.reset(started.hProcess);
-  program.thread.reset(started.hThread);
-  return true;
+  CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS,
+                 nullptr, nullptr, &startup, &started);
+  return internal::StartedProcess(started);
 }
 
 StartResult WaitForMutex(const WString& name, bool pumpMessages, DWORD timeoutMs) {
@@ -55,9 +45,8 @@ StartResult StartProcessAndWaitForMutex(const wchar_t* exePath, const wchar_t* a
                                         DWORD timeoutMs) {
   const bool global = IsWin2000() || IsWinNTTerminalServer();
   const WString name = WString(global ? L"Global\\" : L"") + mutexName;
-  StartedProcess program;
-  return StartProcess(exePath, arguments, program) ? WaitForMutex(name, pumpMessages, timeoutMs)
-                                                   : kNotStarted;
+  const internal::StartedProcess program = StartProgram(exePath, arguments);
+  return program.process ? WaitForMutex(name, pumpMessages, timeoutMs) : kNotStarted;
 }
 
 }  // namespace kelvo

@@ -3,7 +3,7 @@
 #include <windows.h>
 #include <wtsapi32.h>
 
-#include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/guarded_call.h"
 #include "lib/platform/module.h"
 #include "lib/string/compare_no_case.h"
 #include "lib/sysinfo/computer_name.h"
@@ -19,7 +19,7 @@ std::int32_t GetRemoteClientName(wchar_t* buffer, int capacity) {
   }
   std::int32_t answer = -1;
   wchar_t* name = nullptr;
-  internal::GuardedCall([&] {
+  GuardedCall([&] {
     DWORD size = 0;
     if (query(WTS_CURRENT_SERVER_HANDLE, WTS_CURRENT_SESSION, WTSClientName, &name, &size) ==
             FALSE ||
@@ -32,7 +32,7 @@ std::int32_t GetRemoteClientName(wchar_t* buffer, int capacity) {
     }
   });
   // On its own, so that the text is freed whatever happened above.
-  internal::GuardedCall([&] {
+  GuardedCall([&] {
     if (name != nullptr) {
       freeMemory(name);
     }

@@ -1,12 +1,15 @@
 #include "lib/process/run_as_user.h"
 
+#include <utility>
+
 #include "lib/platform/owned.h"
 #include "lib/process/interactive_desktop.h"
 #include "lib/process/internal/interactive_access.h"
 #include "lib/process/internal/primary_token.h"
+#include "lib/process/internal/started_process.h"
 #include "lib/process/internal/window_objects.h"
 #include "lib/security/internal/guarded_operation.h"
-#include "lib/string/format_text.h"
+#include "lib/string/wstring.h"
 
 namespace kelvo {
 
@@ -20,8 +23,7 @@ struct Launch {
   OwnedProcessHeapMemory<SECURITY_DESCRIPTOR> descriptor;
   SECURITY_ATTRIBUTES attributes{};
   WString desktopPath;
-  OwnedKernelObject process;
-  OwnedKernelObject thread;
+  internal::StartedProcess started;
 };
 
 bool KeepPlace(HWINSTA station, HDESK desktop, Launch& launch) {
@@ -43,15 +45,19 @@ bool KeepPlace(HWINSTA station, HDESK desktop, Launch& launch) {
 bool AllowEveryone(Launch& launch) {
   launch.descriptor.reset(static_cast<SECURITY_DESCRIPTOR*>(
       HeapAlloc(GetProcessHeap(), 0, sizeof(SECURITY_DESCRIPTOR))));
-  if (!launch.descriptor) {
-    return internal::StepFailed(L"RunAsUser HeapAlloc PSECURITY_DESCRIPTOR Failed");
+  if (!internal::Check(launch.descriptor.get() != nullptr,
+                       L"RunAsUser HeapAlloc PSECURITY_DESCRIPTOR Failed")) {
+    return false;
   }
-  if (InitializeSecurityDescriptor(launch.descriptor.get(), SECURITY_DESCRIPTOR_REVISION) ==
-      FALSE) {
-    return internal::StepFailed(L"RunAsUser InitializeSecurityDescriptor Failed");
+  if (!internal::Check(InitializeSecurityDescriptor(launch.descriptor.get(),
+                                                    SECURITY_DESCRIPTOR_REVISION) != FALSE,
+                       L"RunAsUser InitializeSecurityDescriptor Failed")) {
+    return false;
   }
-  if (SetSecurityDescriptorDacl(launch.descriptor.get(), TRUE, nullptr, FALSE) == FALSE) {
-    return internal::StepFailed(L"RunAsUser SetSecurityDescriptorDacl Failed");
+  if (!internal::Check(
+          SetSecurityDescriptorDacl(launch.descriptor.get(), TRUE, nullptr, FALSE) != FALSE,
+          L"RunAsUser SetSecurityDescriptorDacl Failed")) {
+    return false;
   }
   launch.attributes = {.nLength = sizeof(launch.attributes),
                        .lpSecurityDescriptor = launch.descriptor.get(),
@@ -60,19 +66,17 @@ bool AllowEveryone(Launch& launch) {
 }
 
 bool StartProcess(HANDLE token, wchar_t* commandLine, Launch& launch) {
-  launch.desktopPath = FormatText(L"%s\\%s", kInteractiveStation, kInteractiveDesktop);
+  launch.desktopPath = WString(kInteractiveStation) + L"\\" + kInteractiveDesktop;
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   startup.lpDesktop = launch.desktopPath.data();
   PROCESS_INFORMATION started{};
   SetLastError(ERROR_SUCCESS);
-  if (CreateProcessAsUserW(token, nullptr, commandLine, &launch.attributes, &launch.attributes,
-                           FALSE, 0, nullptr, nullptr, &startup, &started) == FALSE) {
-    return internal::StepFailed(L"RunAsUser CreateProcessAsUser Failed");
-  }
-  launch.process.reset(started.hProcess);
-  launch.thread.reset(started.hThread);
-  return true;
+  CreateProcessAsUserW(token, nullptr, commandLine, &launch.attributes, &launch.attributes, FALSE,
+                       0, nullptr, nullptr, &startup, &started);
+  launch.started = internal::StartedProcess(started);
+  return internal::Check(static_cast<bool>(launch.started.process),
+                         L"RunAsUser CreateProcessAsUser Failed");
 }
 
 void CleanUp(Launch& launch, BOOL wait, HANDLE* process) {
@@ -84,15 +88,14 @@ void CleanUp(Launch& launch, BOOL wait, HANDLE* process) {
     // The thread never left it.
     SetThreadDesktop(launch.keptDesktop.get());
   }
-  if (launch.process) {
+  if (launch.started.process) {
     if (wait != FALSE) {
-      WaitForSingleObject(launch.process.get(), INFINITE);
+      WaitForSingleObject(launch.started.process.get(), INFINITE);
     }
     if (process != nullptr) {
-      *process = launch.process.release();
+      *process = launch.started.process.release();
     }
-    launch.process.reset();
-    launch.thread.reset();
+    launch.started = {};
   }
   launch.keptDesktop.reset();
   launch.keptStation.reset();
@@ -103,12 +106,16 @@ void CleanUp(Launch& launch, BOOL wait, HANDLE* process) {
 BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process) {
   const HWINSTA station = GetProcessWindowStation();
   const HDESK desktop = GetThreadDesktop(GetCurrentThreadId());
-  // Stays open, by design.
-  const HANDLE token = internal::GuardedAnswer(HANDLE{nullptr}, internal::OpenPrimaryToken);
-  if (token == nullptr) {
-    internal::StepFailed(L"RunAsUser OpenProcessToken On Self Failed");
+  OwnedKernelObject ownToken;
+  GuardedCall([&] {
+    OpenProcessToken(GetCurrentProcess(), TOKEN_ASSIGN_PRIMARY | TOKEN_DUPLICATE | TOKEN_QUERY,
+                     ownToken.Receive());
+  });
+  if (!internal::Check(static_cast<bool>(ownToken), L"RunAsUser OpenProcessToken On Self Failed")) {
     return FALSE;
   }
+  // Stays open, by design.
+  const HANDLE token = internal::DuplicateAsPrimary(std::move(ownToken)).release();
   Launch launch;
   return internal::GuardedOperation(
       L"RunAsUser exception caught in __finally",

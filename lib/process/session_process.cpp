@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "lib/platform/owned.h"
 #include "lib/process/interactive_desktop.h"
+#include "lib/process/internal/primary_token.h"
+#include "lib/process/internal/started_process.h"
 #include "lib/process/run_as_user.h"
 #include "lib/process/user_session.h"
-#include "lib/string/wstring.h"
 #include "lib/sysinfo/windows_release.h"
 
 namespace kelvo {
@@ -22,47 +22,44 @@ bool RunsInConsoleSession() {
 // A token to start a process with, for the user of the console session; null when there is none.
 OwnedKernelObject TokenOfConsoleUser() {
   OwnedKernelObject token;
-  if (!QueryUserTokenOfSession(GetActiveConsoleSessionId(), token.Receive())) {
-    return token;
-  }
-  OwnedKernelObject duplicate;
-  // Level 3; a primary token makes no use of it.
-  const BOOL duplicated = DuplicateTokenEx(token.get(), MAXIMUM_ALLOWED, nullptr,
-                                           SecurityDelegation, TokenPrimary, duplicate.Receive());
-  return duplicated != FALSE ? std::move(duplicate) : std::move(token);
+  return QueryUserTokenOfSession(GetActiveConsoleSessionId(), token.Receive())
+             ? internal::DuplicateAsPrimary(std::move(token))
+             : OwnedKernelObject();
 }
 
-bool Start(WString& commandLine, const OwnedKernelObject& token, PROCESS_INFORMATION& started) {
+internal::StartedProcess Start(WString& commandLine, const OwnedKernelObject& token) {
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
+  PROCESS_INFORMATION started{};
   wchar_t* const line = commandLine.data();
-  const BOOL created = token ? CreateProcessAsUserW(token.get(), nullptr, line, nullptr, nullptr,
-                                                    FALSE, 0, nullptr, nullptr, &startup, &started)
-                             : CreateProcessW(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr,
-                                              nullptr, &startup, &started);
-  return created != FALSE;
+  if (token) {
+    CreateProcessAsUserW(token.get(), nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                         &startup, &started);
+  } else {
+    CreateProcessW(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started);
+  }
+  return internal::StartedProcess(started);
 }
 
 }  // namespace
 
 bool LaunchInUserSession(const wchar_t* exePath, const wchar_t* arguments, bool wait,
                          HANDLE* processHandle) {
-  WString commandLine = WString(L"\"") + exePath + L"\" " + arguments;
+  WString commandLine = internal::QuotedCommandLine(exePath, arguments);
   const bool asConsoleUser = IsWinXP() || !RunsInConsoleSession();
   if (!asConsoleUser && IsOnInteractiveDesktop() == FALSE) {
     return RunAsUser(commandLine.data(), wait ? TRUE : FALSE, processHandle) != FALSE;
   }
-  PROCESS_INFORMATION started{};
-  if (!Start(commandLine, asConsoleUser ? TokenOfConsoleUser() : OwnedKernelObject(), started)) {
+  internal::StartedProcess started =
+      Start(commandLine, asConsoleUser ? TokenOfConsoleUser() : OwnedKernelObject());
+  if (!started.process) {
     return false;
   }
-  OwnedKernelObject process(started.hProcess);
-  const OwnedKernelObject thread(started.hThread);
   if (wait) {
-    WaitForSingleObject(process.get(), INFINITE);
+    WaitForSingleObject(started.process.get(), INFINITE);
   }
   if (processHandle != nullptr) {
-    *processHandle = process.release();  // the caller closes it
+    *processHandle = started.process.release();  // the caller closes it
   }
   return true;
 }

@@ -5,7 +5,7 @@
 namespace kelvo {
 
 bool EnableShutdownPrivilege() {
-  const PrivilegeOutcome outcome = EnableProcessPrivilege(L"SeShutdownPrivilege");
+  const PrivilegeOutcome outcome = EnablePrivilegeWithOutcome(L"SeShutdownPrivilege");
   return outcome.adjusted != FALSE && outcome.error == ERROR_SUCCESS;
 }
 

@@ -1,6 +1,5 @@
 #include "lib/security/access_control_entry.h"
 
-#include <cstddef>
 #include <cstring>
 
 #include "lib/platform/owned.h"
@@ -11,17 +10,18 @@ namespace kelvo {
 
 namespace {
 
-constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
+using internal::kSidOffset;
 
 bool MakeAce(BYTE type, BYTE flags, ACCESS_MASK mask, PSID sid,
              OwnedLocalMemory<ACCESS_ALLOWED_ACE>& ace) {
   const DWORD sidLength = GetLengthSid(sid);
   ace.reset(static_cast<ACCESS_ALLOWED_ACE*>(LocalAlloc(LPTR, kSidOffset + sidLength)));
-  if (!ace) {
-    return internal::StepFailed(L"AllocateACE LocalAlloc Failed");
+  if (!internal::Check(ace.get() != nullptr, L"AllocateACE LocalAlloc Failed")) {
+    return false;
   }
-  if (CopySid(sidLength, &ace.get()->SidStart, sid) == FALSE) {
-    return internal::StepFailed(L"AllocateACE CopySid Failed");
+  if (!internal::Check(CopySid(sidLength, &ace.get()->SidStart, sid) != FALSE,
+                       L"AllocateACE CopySid Failed")) {
+    return false;
   }
   ace.get()->Header = {
       .AceType = type, .AceFlags = flags, .AceSize = static_cast<WORD>(kSidOffset + sidLength)};
@@ -33,14 +33,13 @@ bool MakeAce(BYTE type, BYTE flags, ACCESS_MASK mask, PSID sid,
 
 ACCESS_ALLOWED_ACE* AllocateACE(BYTE type, BYTE flags, ACCESS_MASK mask, PSID sid) {
   OwnedLocalMemory<ACCESS_ALLOWED_ACE> ace;
-  const bool made =
-      internal::GuardedAnswer(false, [&] { return MakeAce(type, flags, mask, sid, ace); });
+  const bool made = GuardedAnswer(false, [&] { return MakeAce(type, flags, mask, sid, ace); });
   return made ? ace.release() : nullptr;
 }
 
 BOOL EqualACE(const ACCESS_ALLOWED_ACE* a, const ACCESS_ALLOWED_ACE* b) {
-  return internal::GuardedAnswer(FALSE, [&]() -> BOOL {
-    if (a->Header.AceType != b->Header.AceType) {
+  return GuardedAnswer(FALSE, [&]() -> BOOL {
+    if (internal::HeaderOfAce(a).AceType != internal::HeaderOfAce(b).AceType) {
       return FALSE;
     }
     const PSID sidOfA = internal::SidOfAce(a);

@@ -11,26 +11,23 @@ namespace kelvo {
 namespace {
 
 DWORD FindInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace) {
-  const std::optional<DWORD> rank = CanonicalRank(ace->Header);
-  if (!rank) {
-    internal::StepFailed(L"GetACEInsertionIndex Bad Ace Type");
+  const std::optional<DWORD> rank = CanonicalRank(internal::HeaderOfAce(ace));
+  if (!internal::Check(rank.has_value(), L"GetACEInsertionIndex Bad Ace Type")) {
     return kNoAceIndex;
   }
   ACL_SIZE_INFORMATION size{};
-  if (!internal::QueryAclSize(acl, size)) {
-    internal::StepFailed(L"GetACEInsertionIndex GetAclInformation Failed");
+  if (!internal::Check(internal::QueryAclSize(acl, size),
+                       L"GetACEInsertionIndex GetAclInformation Failed")) {
     return kNoAceIndex;
   }
   DWORD index = 0;
   for (; index < size.AceCount; ++index) {
-    const ACCESS_ALLOWED_ACE* const present = internal::AceAt(acl, index);
-    if (present == nullptr) {
-      internal::StepFailed(L"GetACEInsertionIndex GetAce Failed");
+    const void* const present = internal::AceAt(acl, index);
+    if (!internal::Check(present != nullptr, L"GetACEInsertionIndex GetAce Failed")) {
       return index;
     }
-    const std::optional<DWORD> presentRank = CanonicalRank(present->Header);
-    if (!presentRank) {
-      internal::StepFailed(L"GetACEInsertionIndex Bad Src Ace Type");
+    const std::optional<DWORD> presentRank = CanonicalRank(internal::HeaderOfAce(present));
+    if (!internal::Check(presentRank.has_value(), L"GetACEInsertionIndex Bad Src Ace Type")) {
       return kNoAceIndex;
     }
     // In front of its equals, not behind them.
@@ -57,7 +54,7 @@ std::optional<DWORD> CanonicalRank(const ACE_HEADER& ace) {
 }
 
 DWORD GetACEInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace) {
-  return internal::GuardedAnswer(kNoAceIndex, [&] { return FindInsertionIndex(acl, ace); });
+  return GuardedAnswer(kNoAceIndex, [&] { return FindInsertionIndex(acl, ace); });
 }
 
 }  // namespace kelvo

@@ -10,22 +10,28 @@ namespace kelvo {
 
 namespace {
 
-bool IsDeny(const ACCESS_ALLOWED_ACE& ace) {
-  return ace.Header.AceType == ACCESS_DENIED_ACE_TYPE ||
-         ace.Header.AceType == ACCESS_DENIED_OBJECT_ACE_TYPE;
+bool IsDeny(const void* ace) {
+  const BYTE type = internal::HeaderOfAce(ace).AceType;
+  return type == ACCESS_DENIED_ACE_TYPE || type == ACCESS_DENIED_OBJECT_ACE_TYPE;
 }
 
 // Stops before index 0, whose entry is never examined. A list without entries starts at an index
 // that GetAce refuses.
 bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
   for (DWORD index = aceCount - 1; index > 0; --index) {
-    const ACCESS_ALLOWED_ACE* const ace = internal::AceAt(dacl, index);
-    const bool isDeny = ace != nullptr && IsDeny(*ace);
-    const PSID denied = isDeny ? internal::SidOfAce(ace) : nullptr;
-    if (ace == nullptr || (isDeny && denied == nullptr)) {
-      return internal::StepFailed(L"DeleteDenyACEofObject GetAce Failed");
+    const void* const ace = internal::AceAt(dacl, index);
+    if (!internal::Check(ace != nullptr, L"DeleteDenyACEofObject GetAce Failed")) {
+      return false;
     }
-    if (isDeny && EqualSid(denied, sid) != FALSE) {
+    if (!IsDeny(ace)) {
+      continue;
+    }
+    const PSID denied = internal::SidOfAce(ace);
+    // An entry that is too short for its SID counts as one that cannot be read.
+    if (!internal::Check(denied != nullptr, L"DeleteDenyACEofObject GetAce Failed")) {
+      return false;
+    }
+    if (EqualSid(denied, sid) != FALSE) {
       DeleteAce(dacl, index);
     }
   }
@@ -35,24 +41,26 @@ bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
 bool DeleteDenyAcesOfObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type,
                             OwnedLocalMemory<void>& descriptor) {
   ACL* dacl = nullptr;
-  if (GetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr, &dacl, nullptr,
-                      descriptor.Receive()) != ERROR_SUCCESS) {
-    return internal::StepFailed(L"DeleteDenyACEofObject GetSecurityInfo Failed");
+  if (!internal::Check(GetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                                       &dacl, nullptr, descriptor.Receive()) == ERROR_SUCCESS,
+                       L"DeleteDenyACEofObject GetSecurityInfo Failed")) {
+    return false;
   }
   if (dacl == nullptr) {
     return true;
   }
   ACL_SIZE_INFORMATION size{};
-  if (!internal::QueryAclSize(dacl, size)) {
-    return internal::StepFailed(L"DeleteDenyACEofObject GetAclInformation Failed");
+  if (!internal::Check(internal::QueryAclSize(dacl, size),
+                       L"DeleteDenyACEofObject GetAclInformation Failed")) {
+    return false;
   }
   if (!DeleteDenyAces(sid, dacl, size.AceCount)) {
     return false;
   }
   // Also when nothing was deleted. The text names GetAce, although it is the write that failed.
-  return SetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr, dacl,
-                         nullptr) == ERROR_SUCCESS ||
-         internal::StepFailed(L"DeleteDenyACEofObject SetSecurityInfo GetAce Failed");
+  return internal::Check(SetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                                         dacl, nullptr) == ERROR_SUCCESS,
+                         L"DeleteDenyACEofObject SetSecurityInfo GetAce Failed");
 }
 
 }  // namespace

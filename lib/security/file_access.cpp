@@ -2,109 +2,135 @@
 
 #include <sddl.h>
 
+#include <cstddef>
 #include <cwchar>
-#include <vector>
 
 #include "lib/platform/module.h"
 #include "lib/platform/owned.h"
-#include "lib/security/internal/ace_replacement.h"
 #include "lib/security/internal/ace_view.h"
 
 namespace kelvo {
 
 namespace {
 
-bool Succeeded(BOOL answer, const wchar_t* messageFormat) {
-  if (answer == FALSE) {
+// Returns `succeeded`. When a step failed, prints `messageFormat` with the last error first.
+bool Check(bool succeeded, const wchar_t* messageFormat) {
+  if (!succeeded) {
     std::wprintf(messageFormat, static_cast<int>(GetLastError()));
   }
-  return answer != FALSE;
+  return succeeded;
 }
 
 template <typename Content>
 bool Allocate(DWORD size, OwnedProcessHeapMemory<Content>& memory) {
   memory.reset(static_cast<Content*>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, size)));
-  return Succeeded(memory ? TRUE : FALSE, L"HeapAlloc() failed. Error %d\n");
+  return Check(static_cast<bool>(memory), L"HeapAlloc() failed. Error %d\n");
 }
 
-bool ReadDescriptor(const wchar_t* path, OwnedProcessHeapMemory<void>& descriptor) {
+// The security descriptor of a file, which holds its DACL.
+struct Descriptor {
+  OwnedProcessHeapMemory<void> memory;
+  DWORD size = 0;
+};
+
+bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
   DWORD size = 0;
   if (GetFileSecurityW(path, DACL_SECURITY_INFORMATION, nullptr, 0, &size) != FALSE) {
     return false;  // a file without anything to read is refused without a word
   }
-  return Succeeded(GetLastError() == ERROR_INSUFFICIENT_BUFFER ? TRUE : FALSE,
-                   L"GetFileSecurity() failed. Error %d\n") &&
-         Allocate(size, descriptor) &&
-         Succeeded(GetFileSecurityW(path, DACL_SECURITY_INFORMATION, descriptor.get(), size, &size),
-                   L"GetFileSecurity() failed. Error %d\n");
+  read.size = size;
+  return Check(GetLastError() == ERROR_INSUFFICIENT_BUFFER,
+               L"GetFileSecurity() failed. Error %d\n") &&
+         Allocate(size, read.memory) &&
+         Check(GetFileSecurityW(path, DACL_SECURITY_INFORMATION, read.memory.get(), size, &size) !=
+                   FALSE,
+               L"GetFileSecurity() failed. Error %d\n");
 }
 
-// The DACL of a descriptor, null when it has none, and its size.
-bool FindDacl(PSECURITY_DESCRIPTOR descriptor, ACL*& dacl, ACL_SIZE_INFORMATION& size) {
+// GetAclInformation of a DACL that, with all its entries, lies inside the descriptor.
+bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFORMATION& size) {
+  const auto offset = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(dacl) -
+                                               static_cast<const BYTE*>(descriptor.memory.get()));
+  if (offset > descriptor.size || descriptor.size - offset < sizeof(ACL) ||
+      descriptor.size - offset < dacl->AclSize) {
+    SetLastError(ERROR_INVALID_ACL);
+    return false;
+  }
+  return internal::QueryAclSize(dacl, size);
+}
+
+// The descriptor's DACL, null when it has none, and its size.
+bool FindDacl(const Descriptor& descriptor, ACL*& dacl, ACL_SIZE_INFORMATION& size) {
   BOOL isPresent = FALSE;
   BOOL isDefaulted = FALSE;
-  if (!Succeeded(GetSecurityDescriptorDacl(descriptor, &isPresent, &dacl, &isDefaulted),
-                 L"GetSecurityDescriptorDacl() failed. Error %d\n")) {
+  if (!Check(GetSecurityDescriptorDacl(descriptor.memory.get(), &isPresent, &dacl, &isDefaulted) !=
+                 FALSE,
+             L"GetSecurityDescriptorDacl() failed. Error %d\n")) {
     return false;
   }
   if (isPresent == FALSE) {
     dacl = nullptr;
   }
   size = {.AceCount = 0, .AclBytesInUse = sizeof(ACL), .AclBytesFree = 0};
-  return dacl == nullptr || Succeeded(internal::QueryAclSize(dacl, size) ? TRUE : FALSE,
-                                      L"GetAclInformation() failed. Error %d\n");
+  return dacl == nullptr ||
+         Check(QueryDaclSize(descriptor, dacl, size), L"GetAclInformation() failed. Error %d\n");
 }
 
-bool ReadAces(ACL* dacl, DWORD count, PSID account, std::vector<ACCESS_ALLOWED_ACE*>& aces,
-              std::vector<internal::AceFacts>& facts) {
-  for (DWORD index = 0; index < count; ++index) {
-    ACCESS_ALLOWED_ACE* const ace = internal::AceAt(dacl, index);
-    if (!Succeeded(ace != nullptr ? TRUE : FALSE, L"GetAce() failed. Error %d\n")) {
+bool ReadAce(const ACL* dacl, DWORD index, void*& ace) {
+  ace = internal::AceAt(dacl, index);
+  return Check(ace != nullptr, L"GetAce() failed. Error %d\n");
+}
+
+bool AppendAce(ACL* dacl, void* ace) {
+  return Check(
+      AddAce(dacl, ACL_REVISION, MAXDWORD, ace, internal::HeaderOfAce(ace).AceSize) != FALSE,
+      L"AddAce() failed. Error %d\n");
+}
+
+bool IsOfAccount(const void* ace, PSID account) {
+  const PSID sid = internal::SidOfAce(ace);
+  return sid != nullptr && EqualSid(sid, account) != FALSE;
+}
+
+// Fills an empty list: with the explicit entries of other accounts, the new entry, and everything
+// from the first inherited entry on, whoever it is for. `oldDacl` may be null when `count` is 0.
+bool FillDacl(const ACL* oldDacl, DWORD count, PSID account, DWORD accessMask, ACL* newDacl) {
+  void* ace = nullptr;
+  DWORD index = 0;
+  for (; index < count; ++index) {
+    if (!ReadAce(oldDacl, index, ace)) {
       return false;
     }
-    const PSID owner = internal::SidOfAce(ace);
-    aces.push_back(ace);
-    facts.push_back({.isInherited = (ace->Header.AceFlags & INHERITED_ACE) != 0,
-                     .isOfAccount = owner != nullptr && EqualSid(owner, account) != FALSE});
+    if ((internal::HeaderOfAce(ace).AceFlags & INHERITED_ACE) != 0) {
+      break;
+    }
+    if (!IsOfAccount(ace, account) && !AppendAce(newDacl, ace)) {
+      return false;
+    }
   }
-  return true;
-}
-
-// Fills an initialized list with the entries of an old one, which may be null, and the new entry.
-bool FillDacl(ACL* oldDacl, DWORD count, PSID account, DWORD accessMask, ACL* newDacl) {
-  std::vector<ACCESS_ALLOWED_ACE*> aces;
-  std::vector<internal::AceFacts> facts;
-  if (!ReadAces(oldDacl, count, account, aces, facts)) {
+  if (!Check(AddAccessAllowedAce(newDacl, ACL_REVISION, accessMask, account) != FALSE,
+             L"AddAccessAllowedAce() failed. Error %d\n")) {
     return false;
   }
-  for (const DWORD index : internal::ReplaceAcesOfAccount(facts)) {
-    const bool added =
-        index == internal::kAddedAce
-            ? Succeeded(AddAccessAllowedAce(newDacl, ACL_REVISION, accessMask, account),
-                        L"AddAccessAllowedAce() failed. Error %d\n")
-            : Succeeded(
-                  AddAce(newDacl, ACL_REVISION, MAXDWORD, aces[index], aces[index]->Header.AceSize),
-                  L"AddAce() failed. Error %d\n");
-    if (!added) {
+  for (; index < count; ++index) {
+    if (!ReadAce(oldDacl, index, ace) || !AppendAce(newDacl, ace)) {
       return false;
     }
   }
   return true;
 }
 
-bool BuildDacl(PSECURITY_DESCRIPTOR oldDescriptor, PSID account, DWORD accessMask,
+bool BuildDacl(const Descriptor& oldDescriptor, PSID account, DWORD accessMask,
                OwnedProcessHeapMemory<ACL>& newDacl) {
   ACL* oldDacl = nullptr;
   ACL_SIZE_INFORMATION oldSize{};
   if (!FindDacl(oldDescriptor, oldDacl, oldSize)) {
     return false;
   }
-  // An ACCESS_ALLOWED_ACE already counts the first four bytes of its SID.
-  const DWORD newSize = oldSize.AclBytesInUse + sizeof(ACCESS_ALLOWED_ACE) + GetLengthSid(account) -
-                        sizeof(ACCESS_ALLOWED_ACE::SidStart);
+  const DWORD newSize = oldSize.AclBytesInUse + internal::kSidOffset + GetLengthSid(account);
   return Allocate(newSize, newDacl) &&
-         Succeeded(InitializeAcl(newDacl.get(), newSize, ACL_REVISION),
-                   L"InitializeAcl() failed. Error %d\n") &&
+         Check(InitializeAcl(newDacl.get(), newSize, ACL_REVISION) != FALSE,
+               L"InitializeAcl() failed. Error %d\n") &&
          FillDacl(oldDacl, oldSize.AceCount, account, accessMask, newDacl.get());
 }
 
@@ -123,13 +149,13 @@ bool CarryInheritanceOver(PSECURITY_DESCRIPTOR from, PSECURITY_DESCRIPTOR to) {
   }
   SECURITY_DESCRIPTOR_CONTROL old = 0;
   DWORD revision = 0;
-  if (!Succeeded(GetSecurityDescriptorControl(from, &old, &revision),
-                 L"GetSecurityDescriptorControl() failed.Error %d\n")) {
+  if (!Check(GetSecurityDescriptorControl(from, &old, &revision) != FALSE,
+             L"GetSecurityDescriptorControl() failed.Error %d\n")) {
     return false;
   }
   const SECURITY_DESCRIPTOR_CONTROL bits = InheritanceControl(old);
-  return bits == 0 ||
-         Succeeded(setControl(to, bits, bits), L"SetSecurityDescriptorControl() failed.Error %d\n");
+  return bits == 0 || Check(setControl(to, bits, bits) != FALSE,
+                            L"SetSecurityDescriptorControl() failed.Error %d\n");
 }
 
 }  // namespace
@@ -139,19 +165,19 @@ BOOL AddFileAccessRights(const wchar_t* path, const wchar_t* sid, DWORD accessMa
   if (ConvertStringSidToSidW(sid, account.Receive()) == FALSE) {
     return FALSE;
   }
-  OwnedProcessHeapMemory<void> oldDescriptor;
+  Descriptor oldDescriptor;
   OwnedProcessHeapMemory<ACL> newDacl;
   SECURITY_DESCRIPTOR newDescriptor{};
   const bool isWritten =
       ReadDescriptor(path, oldDescriptor) &&
-      Succeeded(InitializeSecurityDescriptor(&newDescriptor, SECURITY_DESCRIPTOR_REVISION),
-                L"InitializeSecurityDescriptor() failed.Error %d\n") &&
-      BuildDacl(oldDescriptor.get(), account.get(), accessMask, newDacl) &&
-      Succeeded(SetSecurityDescriptorDacl(&newDescriptor, TRUE, newDacl.get(), FALSE),
-                L"SetSecurityDescriptorDacl() failed. Error %d\n") &&
-      CarryInheritanceOver(oldDescriptor.get(), &newDescriptor) &&
-      Succeeded(SetFileSecurityW(path, DACL_SECURITY_INFORMATION, &newDescriptor),
-                L"SetFileSecurity() failed. Error %d\n");
+      Check(InitializeSecurityDescriptor(&newDescriptor, SECURITY_DESCRIPTOR_REVISION) != FALSE,
+            L"InitializeSecurityDescriptor() failed.Error %d\n") &&
+      BuildDacl(oldDescriptor, account.get(), accessMask, newDacl) &&
+      Check(SetSecurityDescriptorDacl(&newDescriptor, TRUE, newDacl.get(), FALSE) != FALSE,
+            L"SetSecurityDescriptorDacl() failed. Error %d\n") &&
+      CarryInheritanceOver(oldDescriptor.memory.get(), &newDescriptor) &&
+      Check(SetFileSecurityW(path, DACL_SECURITY_INFORMATION, &newDescriptor) != FALSE,
+            L"SetFileSecurity() failed. Error %d\n");
   return isWritten ? TRUE : FALSE;
 }
 

@@ -21,30 +21,33 @@ struct Buffers {
 
 bool ReadDescriptor(HANDLE object, Buffers& buffers) {
   DWORD size = 0;
-  if (GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, nullptr, 0, &size) != FALSE ||
-      GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
-    return internal::StepFailed(L"ModifySecurity GetKernelObjectSecurity Size Failed");
+  const bool isSized =
+      GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, nullptr, 0, &size) == FALSE &&
+      GetLastError() == ERROR_INSUFFICIENT_BUFFER;
+  if (!internal::Check(isSized, L"ModifySecurity GetKernelObjectSecurity Size Failed")) {
+    return false;
   }
   buffers.oldDescriptor = LocalAlloc(LPTR, size);
-  if (buffers.oldDescriptor == nullptr) {
-    return internal::StepFailed(L"ModifySecurity LocalAlloc Failed");
+  if (!internal::Check(buffers.oldDescriptor != nullptr, L"ModifySecurity LocalAlloc Failed")) {
+    return false;
   }
-  return GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, buffers.oldDescriptor, size,
-                                 &size) != FALSE ||
-         internal::StepFailed(L"ModifySecurity GetKernelObjectSecurity Failed");
+  return internal::Check(GetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION,
+                                                 buffers.oldDescriptor, size, &size) != FALSE,
+                         L"ModifySecurity GetKernelObjectSecurity Failed");
 }
 
 bool AddCurrentUser(ACL* oldDacl, DWORD mask, ACL*& newDacl) {
   std::array<wchar_t, 1024> user{};
   auto length = static_cast<DWORD>(user.size());
-  if (GetUserNameW(user.data(), &length) == FALSE) {
-    return internal::StepFailed(L"ModifySecurity GetUserName Failed");
+  if (!internal::Check(GetUserNameW(user.data(), &length) != FALSE,
+                       L"ModifySecurity GetUserName Failed")) {
+    return false;
   }
   EXPLICIT_ACCESSW access{};
   BuildExplicitAccessWithNameW(&access, user.data(), mask, GRANT_ACCESS, NO_INHERITANCE);
   access.Trustee.TrusteeType = TRUSTEE_IS_USER;
-  return SetEntriesInAclW(1, &access, oldDacl, &newDacl) == ERROR_SUCCESS ||
-         internal::StepFailed(L"ModifySecurity SetEntriesInAcl Failed");
+  return internal::Check(SetEntriesInAclW(1, &access, oldDacl, &newDacl) == ERROR_SUCCESS,
+                         L"ModifySecurity SetEntriesInAcl Failed");
 }
 
 bool MakeAbsolute(Buffers& buffers) {
@@ -59,20 +62,23 @@ bool MakeAbsolute(Buffers& buffers) {
                           static_cast<ACL*>(buffers.sacl), &saclSize, buffers.owner, &ownerSize,
                           buffers.group, &groupSize) != FALSE;
   };
-  if (convert() || GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
-    return internal::StepFailed(L"ModifySecurity MakeAbsoluteSD Size Failed");
+  if (!internal::Check(!convert() && GetLastError() == ERROR_INSUFFICIENT_BUFFER,
+                       L"ModifySecurity MakeAbsoluteSD Size Failed")) {
+    return false;
   }
   buffers.descriptor = LocalAlloc(LPTR, descriptorSize);
   buffers.dacl = LocalAlloc(LPTR, daclSize);
   buffers.sacl = LocalAlloc(LPTR, saclSize);
   buffers.owner = LocalAlloc(LPTR, ownerSize);
   buffers.group = LocalAlloc(LPTR, groupSize);
-  if (buffers.descriptor == nullptr || buffers.dacl == nullptr || buffers.sacl == nullptr ||
-      buffers.owner == nullptr || buffers.group == nullptr) {
-    // The text speaks of a SID, but it is memory that is short.
-    return internal::StepFailed(L"ModifySecurity Invalid SID Found");
+  const bool areAllocated = buffers.descriptor != nullptr && buffers.dacl != nullptr &&
+                            buffers.sacl != nullptr && buffers.owner != nullptr &&
+                            buffers.group != nullptr;
+  // The text speaks of a SID, but it is memory that is short.
+  if (!internal::Check(areAllocated, L"ModifySecurity Invalid SID Found")) {
+    return false;
   }
-  return convert() || internal::StepFailed(L"ModifySecurity MakeAbsoluteSD Failed");
+  return internal::Check(convert(), L"ModifySecurity MakeAbsoluteSD Failed");
 }
 
 bool GrantToCurrentUser(HANDLE object, DWORD mask, Buffers& buffers) {
@@ -83,17 +89,22 @@ bool GrantToCurrentUser(HANDLE object, DWORD mask, Buffers& buffers) {
   if (!ReadDescriptor(object, buffers)) {
     return false;
   }
-  if (GetSecurityDescriptorDacl(buffers.oldDescriptor, &present, &oldDacl, &defaulted) == FALSE) {
-    return internal::StepFailed(L"ModifySecurity GetSecurityDescriptorDacl Failed");
+  if (!internal::Check(
+          GetSecurityDescriptorDacl(buffers.oldDescriptor, &present, &oldDacl, &defaulted) != FALSE,
+          L"ModifySecurity GetSecurityDescriptorDacl Failed")) {
+    return false;
   }
   if (!AddCurrentUser(oldDacl, mask, newDacl) || !MakeAbsolute(buffers)) {
     return false;
   }
-  if (SetSecurityDescriptorDacl(buffers.descriptor, present, newDacl, defaulted) == FALSE) {
-    return internal::StepFailed(L"ModifySecurity SetSecurityDescriptorDacl Failed");
+  if (!internal::Check(
+          SetSecurityDescriptorDacl(buffers.descriptor, present, newDacl, defaulted) != FALSE,
+          L"ModifySecurity SetSecurityDescriptorDacl Failed")) {
+    return false;
   }
-  return SetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, buffers.descriptor) != FALSE ||
-         internal::StepFailed(L"ModifySecurity SetKernelObjectSecurity Failed");
+  return internal::Check(
+      SetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, buffers.descriptor) != FALSE,
+      L"ModifySecurity SetKernelObjectSecurity Failed");
 }
 
 // The wrong way round, and kept so: only buffers that are not there are freed, so none is.
@@ -110,14 +121,9 @@ void Release(const Buffers& buffers) {
 
 BOOL ModifySecurity(HANDLE object, DWORD mask) {
   Buffers buffers;
-  return internal::GuardedOperation(
-      L"ModifySecurity exception caught in __finally",
-      [&] {
-        // What becomes of the steps does not change the answer, so the message above is never due.
-        internal::GuardedCall([&] { GrantToCurrentUser(object, mask, buffers); });
-        return true;
-      },
-      [&] { Release(buffers); });
+  GuardedCall([&] { GrantToCurrentUser(object, mask, buffers); });
+  GuardedCall([&] { Release(buffers); });
+  return TRUE;
 }
 
 }  // namespace kelvo

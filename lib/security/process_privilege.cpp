@@ -1,23 +1,43 @@
 #include "lib/security/process_privilege.h"
 
+#include "lib/platform/guarded_call.h"
 #include "lib/platform/owned.h"
 
 namespace kelvo {
 
-PrivilegeOutcome EnableProcessPrivilege(const wchar_t* name) {
-  OwnedKernelObject token;
-  if (OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY,
-                       token.Receive()) == FALSE) {
-    return {.error = GetLastError()};
-  }
+namespace {
+
+BOOL AdjustPrivilege(HANDLE token, LUID privilege, bool enable) {
   TOKEN_PRIVILEGES privileges{};
   privileges.PrivilegeCount = 1;
-  privileges.Privileges[0].Attributes = SE_PRIVILEGE_ENABLED;
-  if (LookupPrivilegeValueW(nullptr, name, &privileges.Privileges[0].Luid) == FALSE) {
+  privileges.Privileges[0].Luid = privilege;
+  privileges.Privileges[0].Attributes = enable ? SE_PRIVILEGE_ENABLED : 0;
+  return AdjustTokenPrivileges(token, FALSE, &privileges, sizeof(privileges), nullptr, nullptr);
+}
+
+}  // namespace
+
+BOOL EnablePrivilege(const wchar_t* name, BOOL enable) {
+  OwnedKernelObject token;
+  return GuardedAnswer(FALSE, [&]() -> BOOL {
+    LUID privilege{};
+    if (LookupPrivilegeValueW(nullptr, name, &privilege) == FALSE ||
+        OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES, token.Receive()) == FALSE) {
+      return FALSE;
+    }
+    return AdjustPrivilege(token.get(), privilege, enable != FALSE);
+  });
+}
+
+PrivilegeOutcome EnablePrivilegeWithOutcome(const wchar_t* name) {
+  OwnedKernelObject token;
+  LUID privilege{};
+  if (OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY,
+                       token.Receive()) == FALSE ||
+      LookupPrivilegeValueW(nullptr, name, &privilege) == FALSE) {
     return {.error = GetLastError()};
   }
-  const BOOL adjusted =
-      AdjustTokenPrivileges(token.get(), FALSE, &privileges, sizeof(privileges), nullptr, nullptr);
+  const BOOL adjusted = AdjustPrivilege(token.get(), privilege, true);
   return {.adjusted = adjusted, .error = GetLastError()};
 }
 

@@ -4,8 +4,16 @@
 
 namespace kelvo {
 
+// Privileges in the token of this process, for the rest of its life: OpenProcessToken,
+// LookupPrivilegeValueW on this system, AdjustTokenPrivileges. `name` is Windows' name of the
+// privilege, such as "SeShutdownPrivilege".
+
+// Enables or disables a privilege. Returns TRUE when AdjustTokenPrivileges does, which is also so
+// for a privilege that the token does not hold; FALSE when a step fails, by an exception too.
+BOOL EnablePrivilege(const wchar_t* name, BOOL enable);
+
 struct PrivilegeOutcome {
-  // What AdjustTokenPrivileges answered; FALSE when it was not reached. TRUE does not mean that the
+  // What AdjustTokenPrivileges returned; FALSE when it was not reached. TRUE does not mean that the
   // token holds the privilege.
   BOOL adjusted = FALSE;
   // The last error after the call that failed or, when none did, after the adjustment:
@@ -13,9 +21,7 @@ struct PrivilegeOutcome {
   DWORD error = ERROR_SUCCESS;
 };
 
-// Enables the privilege `name` ("SeShutdownPrivilege") in the process's token, for the rest of the
-// process's life: OpenProcessToken, LookupPrivilegeValueW on this system, AdjustTokenPrivileges.
-// Each caller judges the outcome by its own rule.
-PrivilegeOutcome EnableProcessPrivilege(const wchar_t* name);
+// Enables a privilege and tells how that went, for callers that must know whether it is held.
+PrivilegeOutcome EnablePrivilegeWithOutcome(const wchar_t* name);
 
 }  // namespace kelvo

@@ -9,22 +9,23 @@ namespace {
 
 bool Read(HANDLE token, TOKEN_INFORMATION_CLASS kind, OwnedLocalMemory<void>& buffer) {
   DWORD size = 0;
-  if (GetTokenInformation(token, kind, nullptr, 0, &size) == FALSE &&
-      GetLastError() != ERROR_INSUFFICIENT_BUFFER) {
-    return internal::StepFailed(L"GetFromToken GetTokenInformation Size Failed");
+  if (!internal::Check(GetTokenInformation(token, kind, nullptr, 0, &size) != FALSE ||
+                           GetLastError() == ERROR_INSUFFICIENT_BUFFER,
+                       L"GetFromToken GetTokenInformation Size Failed")) {
+    return false;
   }
   buffer.reset(LocalAlloc(LPTR, size));
-  return (buffer && GetTokenInformation(token, kind, buffer.get(), size, &size) != FALSE) ||
-         internal::StepFailed(L"GetFromToken GetTokenInformation Failed");
+  return internal::Check(
+      (buffer && GetTokenInformation(token, kind, buffer.get(), size, &size) != FALSE),
+      L"GetFromToken GetTokenInformation Failed");
 }
 
 }  // namespace
 
 void* GetFromToken(HANDLE token, TOKEN_INFORMATION_CLASS kind) {
   OwnedLocalMemory<void> buffer;
-  return internal::GuardedAnswer(false, [&] { return Read(token, kind, buffer); })
-             ? buffer.release()
-             : nullptr;
+  return GuardedAnswer(false, [&] { return Read(token, kind, buffer); }) ? buffer.release()
+                                                                         : nullptr;
 }
 
 }  // namespace kelvo

@@ -23,11 +23,12 @@ bool Read(HANDLE token, TOKEN_INFORMATION_CLASS kind, const wchar_t* failure,
   DWORD size = 0;
   GetTokenInformation(token, kind, nullptr, 0, &size);
   information.reset(static_cast<Information*>(LocalAlloc(LPTR, size)));
-  if (!information) {
-    return internal::StepFailed(L"AllowTokenFullAccessToObject LocalAlloc Failed");
+  if (!internal::Check(information.get() != nullptr,
+                       L"AllowTokenFullAccessToObject LocalAlloc Failed")) {
+    return false;
   }
-  return GetTokenInformation(token, kind, information.get(), size, &size) != FALSE ||
-         internal::StepFailed(failure);
+  return internal::Check(GetTokenInformation(token, kind, information.get(), size, &size) != FALSE,
+                         failure);
 }
 
 bool DeleteDenyAcesOfUser(HANDLE token, HANDLE object, SE_OBJECT_TYPE type, TokenHolders& holders) {
@@ -35,8 +36,8 @@ bool DeleteDenyAcesOfUser(HANDLE token, HANDLE object, SE_OBJECT_TYPE type, Toke
             holders.user)) {
     return false;
   }
-  return DeleteDenyACEofObject(holders.user.get()->User.Sid, object, type) != FALSE ||
-         internal::StepFailed(L"AllowTokenFullAccessToObject DeleteDenyACEofObject User Failed");
+  return internal::Check(DeleteDenyACEofObject(holders.user.get()->User.Sid, object, type) != FALSE,
+                         L"AllowTokenFullAccessToObject DeleteDenyACEofObject User Failed");
 }
 
 bool DeleteDenyAcesOfGroups(HANDLE token, HANDLE object, SE_OBJECT_TYPE type,
@@ -47,9 +48,9 @@ bool DeleteDenyAcesOfGroups(HANDLE token, HANDLE object, SE_OBJECT_TYPE type,
   }
   const TOKEN_GROUPS& groups = *holders.groups.get();
   for (DWORD index = 0; index < groups.GroupCount; ++index) {
-    if (DeleteDenyACEofObject(groups.Groups[index].Sid, object, type) == FALSE) {
-      return internal::StepFailed(
-          L"AllowTokenFullAccessToObject DeleteDenyACEofObject Groups Failed");
+    if (!internal::Check(DeleteDenyACEofObject(groups.Groups[index].Sid, object, type) != FALSE,
+                         L"AllowTokenFullAccessToObject DeleteDenyACEofObject Groups Failed")) {
+      return false;
     }
   }
   return true;
@@ -67,11 +68,11 @@ bool NamesDesktop(const wchar_t* typeName) {
 
 bool AllowUser(PSID user, HANDLE object, const wchar_t* typeName) {
   if (NamesDesktop(typeName)) {
-    return AllowAccessToDesktop(user, static_cast<HDESK>(object)) != FALSE ||
-           internal::StepFailed(L"AllowTokenFullAccessToObject AllowAccessToDesktop Failed");
+    return internal::Check(AllowAccessToDesktop(user, static_cast<HDESK>(object)) != FALSE,
+                           L"AllowTokenFullAccessToObject AllowAccessToDesktop Failed");
   }
-  return AllowAccessToWinSta(user, static_cast<HWINSTA>(object)) != FALSE ||
-         internal::StepFailed(L"AllowTokenFullAccessToObject AllowAccessToWinSta Failed");
+  return internal::Check(AllowAccessToWinSta(user, static_cast<HWINSTA>(object)) != FALSE,
+                         L"AllowTokenFullAccessToObject AllowAccessToWinSta Failed");
 }
 
 }  // namespace
@@ -89,10 +90,9 @@ BOOL AllowTokenFullAccessToObject(HANDLE token, HANDLE object, SE_OBJECT_TYPE ty
             !DeleteDenyAcesOfGroups(token, object, type, holders)) {
           return false;
         }
-        if (type != SE_WINDOW_OBJECT) {
-          return internal::StepFailed(L"AllowTokenFullAccessToObject Wrong Object");
-        }
-        return AllowUser(holders.user.get()->User.Sid, object, typeName);
+        return internal::Check(type == SE_WINDOW_OBJECT,
+                               L"AllowTokenFullAccessToObject Wrong Object") &&
+               AllowUser(holders.user.get()->User.Sid, object, typeName);
       },
       [&] { holders = {}; });
 }

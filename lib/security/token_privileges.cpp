@@ -99,21 +99,6 @@ bool MakePrivileges(const wchar_t* const* names, DWORD* known, OwnedPrivileges& 
 
 }  // namespace
 
-BOOL EnablePrivilege(const wchar_t* name, BOOL enable) {
-  OwnedKernelObject token;
-  return internal::GuardedAnswer(FALSE, [&]() -> BOOL {
-    TOKEN_PRIVILEGES privileges{};
-    privileges.PrivilegeCount = 1;
-    privileges.Privileges[0].Attributes = enable != FALSE ? SE_PRIVILEGE_ENABLED : 0;
-    if (LookupPrivilegeValueW(nullptr, name, &privileges.Privileges[0].Luid) == FALSE ||
-        OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES, token.Receive()) == FALSE) {
-      return FALSE;
-    }
-    return AdjustTokenPrivileges(token.get(), FALSE, &privileges, sizeof(privileges), nullptr,
-                                 nullptr);
-  });
-}
-
 TOKEN_PRIVILEGES* CreateTokenPriv(DWORD* count, const wchar_t* const* names, BOOL useBuiltIn) {
   OwnedPrivileges all;
   OwnedPrivileges result;

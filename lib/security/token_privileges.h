@@ -4,10 +4,6 @@
 
 namespace kelvo {
 
-// Enables or disables a privilege of the process's token. TRUE when AdjustTokenPrivileges answers
-// so, which it does also for a privilege that the token does not hold. Nothing is traced.
-BOOL EnablePrivilege(const wchar_t* name, BOOL enable);
-
 // A privilege set with each named privilege that this system knows, enabled and enabled by default:
 // a block of 4 bytes and 12 for each, which the caller frees with LocalFree. `names` ends with a
 // null and may be null itself, which is an empty list; with `useBuiltIn` it is a list of the

@@ -28,7 +28,7 @@ struct WindowObjectKind {
 };
 
 constexpr WindowObjectKind kWindowStation = {
-    .mask = 0x000F037F,
+    .mask = STANDARD_RIGHTS_REQUIRED | WINSTA_ALL_ACCESS,
     .readFailed = L"AllowAccessToWinSta GetSecurityInfo Failed",
     .allocationFailed = L"AllowAccessToWinSta _malloca Failed",
     .initializeFailed = L"AllowAccessToWinSta InitializeAcl Failed",
@@ -38,7 +38,10 @@ constexpr WindowObjectKind kWindowStation = {
     .cleanUp = L"AllowAccessToWinSta exception caught in __finally"};
 
 constexpr WindowObjectKind kDesktop = {
-    .mask = 0x000F01FF,
+    .mask = STANDARD_RIGHTS_REQUIRED | DESKTOP_READOBJECTS | DESKTOP_CREATEWINDOW |
+            DESKTOP_CREATEMENU | DESKTOP_HOOKCONTROL | DESKTOP_JOURNALRECORD |
+            DESKTOP_JOURNALPLAYBACK | DESKTOP_ENUMERATE | DESKTOP_WRITEOBJECTS |
+            DESKTOP_SWITCHDESKTOP,
     .readFailed = L"AllowAccessToDesktop GetSecurityInfo Failed",
     .allocationFailed = L"AllowAccessToDesktop _alloc Failed",
     .initializeFailed = L"AllowAccessToDesktop Init ACL Failed",
@@ -52,43 +55,46 @@ constexpr std::size_t kStackSize = 1024 - 16;
 
 bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,
               DWORD size) {
-  if (InitializeAcl(built, size, ACL_REVISION) == FALSE) {
-    return internal::StepFailed(kind.initializeFailed);
+  if (!internal::Check(InitializeAcl(built, size, ACL_REVISION) != FALSE, kind.initializeFailed)) {
+    return false;
   }
-  if (CopyACL(built, dacl) == FALSE) {
-    return internal::StepFailed(kind.copyFailed);
+  if (!internal::Check(CopyACL(built, dacl) != FALSE, kind.copyFailed)) {
+    return false;
   }
   // An entry for which no index is found goes to the end: kNoAceIndex is MAXDWORD.
-  return AddAce(built, ACL_REVISION, GetACEInsertionIndex(built, ace), ace, ace->Header.AceSize) !=
-             FALSE ||
-         internal::StepFailed(kind.addFailed);
+  return internal::Check(AddAce(built, ACL_REVISION, GetACEInsertionIndex(built, ace), ace,
+                                ace->Header.AceSize) != FALSE,
+                         kind.addFailed);
 }
 
 bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
                  ACCESS_ALLOWED_ACE* ace) {
-  alignas(ACL) std::array<std::byte, kStackSize> stack{};
+  // ACL itself asks for 2 bytes, the entries in it for 4.
+  alignas(DWORD) std::array<std::byte, kStackSize> stack{};
   const DWORD size = CalculateACLSize(dacl, nullptr, 0, &ace, 1);
   // Not freed when it comes from the heap, as the entry is not.
   void* const scratch =
       size <= stack.size() ? stack.data() : HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, size);
-  if (scratch == nullptr) {
-    return internal::StepFailed(kind.allocationFailed);
+  if (!internal::Check(scratch != nullptr, kind.allocationFailed)) {
+    return false;
   }
   auto* const built = static_cast<ACL*>(scratch);
   if (!BuildAcl(kind, dacl, ace, built, size)) {
     return false;
   }
-  return SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
-                         built, nullptr) == ERROR_SUCCESS ||
-         internal::StepFailed(kind.writeFailed);
+  return internal::Check(SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION,
+                                         nullptr, nullptr, built, nullptr) == ERROR_SUCCESS,
+                         kind.writeFailed);
 }
 
 bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
                  OwnedLocalMemory<void>& descriptor) {
   ACL* dacl = nullptr;
-  if (GetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &dacl,
-                      nullptr, descriptor.Receive()) != ERROR_SUCCESS) {
-    return internal::StepFailed(kind.readFailed);
+  if (!internal::Check(
+          GetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                          &dacl, nullptr, descriptor.Receive()) == ERROR_SUCCESS,
+          kind.readFailed)) {
+    return false;
   }
   // Never freed.
   ACCESS_ALLOWED_ACE* const ace = AllocateACE(ACCESS_ALLOWED_ACE_TYPE, 0, kind.mask, sid);

@@ -7,7 +7,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/guarded_call.h"
 #include "lib/platform/module.h"
 #include "lib/registry/registry_key.h"
 #include "lib/string/compare_no_case.h"
@@ -157,7 +157,7 @@ void Describe(OwnedRegistryKey& key, WString& text) {
 WString GetSystemVersionString() {
   OwnedRegistryKey key;
   WString text;
-  if (!internal::GuardedCall([&] { Describe(key, text); })) {
+  if (!GuardedCall([&] { Describe(key, text); })) {
     text += L"catch(unhandled exception) while querying system version";
   }
   return text;
@@ -165,7 +165,7 @@ WString GetSystemVersionString() {
 
 WString GetSystemVersionNumbers() {
   WString numbers;
-  internal::GuardedCall([&] {
+  GuardedCall([&] {
     OSVERSIONINFOEXW version{};
     if (QueryVersionRecord(version) != VersionRecord::kNone) {
       numbers = FormatNumbers(version);

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/guarded_call.h"
 
 namespace kelvo {
 
@@ -17,7 +17,7 @@ void SetTraceSink(TraceSink sink) { traceSink = sink; }
 void TraceMessage(const wchar_t* tag, const wchar_t* message) {
   const TraceSink sink = traceSink;
   if (sink != nullptr) {
-    internal::GuardedCall([&] { sink(tag, message); });
+    GuardedCall([&] { sink(tag, message); });
   }
 }
 

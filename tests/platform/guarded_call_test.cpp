@@ -1,12 +1,12 @@
-#include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/guarded_call.h"
 
 #include "tests/support/testing.h"
 
 TEST_CASE("a guarded call answers whether its action came to an end") {
   bool reached = false;
-  CHECK((internal::GuardedCall([&] { reached = true; }) && reached));
-  CHECK_FALSE(internal::GuardedCall([] { throw 1; }));
-  CHECK_FALSE(internal::GuardedCall([] { *static_cast<volatile int*>(nullptr) = 1; }));
+  CHECK((GuardedCall([&] { reached = true; }) && reached));
+  CHECK_FALSE(GuardedCall([] { throw 1; }));
+  CHECK_FALSE(GuardedCall([] { *static_cast<volatile int*>(nullptr) = 1; }));
   CHECK_FALSE(
-      internal::GuardedCall([] { RaiseException(STATUS_INTEGER_DIVIDE_BY_ZERO, 0, 0, nullptr); }));
+      GuardedCall([] { RaiseException(STATUS_INTEGER_DIVIDE_BY_ZERO, 0, 0, nullptr); }));
 }

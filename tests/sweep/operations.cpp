@@ -9,7 +9,7 @@
 #include "lib/registry/registry_number.h"
 #include "lib/registry/registry_string.h"
 #include "lib/registry/registry_value_list.h"
-#include "lib/security/token_privileges.h"
+#include "lib/security/process_privilege.h"
 #include "lib/sysinfo/administrators.h"
 #include "lib/sysinfo/color_depth.h"
 #include "lib/sysinfo/common_controls_version.h"

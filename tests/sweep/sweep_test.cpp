@@ -4,7 +4,7 @@
 
 #include <security.h>
 
-#include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/guarded_call.h"
 #include "lib/platform/module.h"
 #include "lib/registry/registry_string.h"
 #include "lib/string/format_text.h"
@@ -127,7 +127,7 @@ struct Machine {
     interception.originals["GetProcAddress"] = reinterpret_cast<void*>(FindIntercepted);
     interception.originals["GetModuleFileNameW"] = reinterpret_cast<void*>(NameSimulatedProgram);
     interception.originals["WriteFile"] = reinterpret_cast<void*>(KeepWritten);
-    const std::wstring answer = internal::GuardedAnswer(std::wstring(L"died"), operation->run);
+    const std::wstring answer = GuardedAnswer(std::wstring(L"died"), operation->run);
     // Before the library is unloaded.
     calls = interception.calls;
     std::string leftOpen;

@@ -14,12 +14,11 @@ constexpr ACCESS_MASK kReadAndWriteDacl = READ_CONTROL | WRITE_DAC;
 // Null when it cannot be opened or set.
 HWINSTA SetInteractiveStation() {
   OwnedWindowStation station(OpenWindowStationW(kInteractiveStation, FALSE, kReadAndWriteDacl));
-  if (!station) {
-    StepFailed(L"RunAsUser Open WinStat With WRITE_DAC Failed");
+  if (!Check(station.get() != nullptr, L"RunAsUser Open WinStat With WRITE_DAC Failed")) {
     return nullptr;
   }
-  if (SetProcessWindowStation(station.get()) == FALSE) {
-    StepFailed(L"RunAsUser SetProcessWindowStation to hwinstaNew Failed");
+  if (!Check(SetProcessWindowStation(station.get()) != FALSE,
+             L"RunAsUser SetProcessWindowStation to hwinstaNew Failed")) {
     return nullptr;
   }
   // Stays open, as the desktop does below.
@@ -36,15 +35,15 @@ bool MoveToInteractiveStation(HANDLE token) {
   SetLastError(ERROR_SUCCESS);
   // Only its access list is wanted: the thread is not switched to it.
   const HDESK desktop = OpenDesktopW(kInteractiveDesktop, 0, FALSE, kReadAndWriteDacl);
-  if (desktop == nullptr) {
-    return StepFailed(L"RunAsUser Open Desktop With WRITE_DAC Failed");
+  if (!Check(desktop != nullptr, L"RunAsUser Open Desktop With WRITE_DAC Failed")) {
+    return false;
   }
-  if (AllowTokenFullAccessToObject(token, station, SE_WINDOW_OBJECT, L"WinStat") == FALSE) {
-    return StepFailed(
-        L"RunAsUser AllowTokenFullAccessToObject for Self Token on hwinstaNew Failed");
+  if (!Check(AllowTokenFullAccessToObject(token, station, SE_WINDOW_OBJECT, L"WinStat") != FALSE,
+             L"RunAsUser AllowTokenFullAccessToObject for Self Token on hwinstaNew Failed")) {
+    return false;
   }
-  return AllowTokenFullAccessToObject(token, desktop, SE_WINDOW_OBJECT, L"Desktop") != FALSE ||
-         StepFailed(L"RunAsUser AllowTokenFullAccessToObject for Self Token on hdeskNew Failed");
+  return Check(AllowTokenFullAccessToObject(token, desktop, SE_WINDOW_OBJECT, L"Desktop") != FALSE,
+               L"RunAsUser AllowTokenFullAccessToObject for Self Token on hdeskNew Failed");
 }
 
 }  // namespace kelvo::internal

@@ -1,28 +1,27 @@
 #include "lib/process/internal/primary_token.h"
 
-#include "lib/platform/owned.h"
+#include <utility>
+
+#include "lib/platform/guarded_call.h"
 #include "lib/security/internal/guarded_operation.h"
-#include "lib/security/token_privileges.h"
+#include "lib/security/process_privilege.h"
 
 namespace kelvo::internal {
 
-HANDLE OpenPrimaryToken() {
-  OwnedKernelObject token;
-  if (OpenProcessToken(GetCurrentProcess(), TOKEN_ASSIGN_PRIMARY | TOKEN_DUPLICATE | TOKEN_QUERY,
-                       token.Receive()) == FALSE) {
-    return nullptr;
-  }
-  HANDLE duplicate = nullptr;
-  if (DuplicateTokenEx(token.get(), MAXIMUM_ALLOWED, nullptr, SecurityDelegation, TokenPrimary,
-                       &duplicate) != FALSE) {
-    token.reset(duplicate);
-  }
-  return token.release();
+OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token) {
+  OwnedKernelObject duplicate;
+  // The level has no meaning for a primary token.
+  GuardedCall([&] {
+    DuplicateTokenEx(token.get(), MAXIMUM_ALLOWED, nullptr, SecurityDelegation, TokenPrimary,
+                     duplicate.Receive());
+  });
+  return duplicate ? std::move(duplicate) : std::move(token);
 }
 
 bool EnableStartPrivileges() {
-  if (EnablePrivilege(L"SeTakeOwnershipPrivilege", TRUE) == FALSE) {
-    return StepFailed(L"RunAsUser EnablePrivilege SeTakeOwnershipPrivilege Failed");
+  if (!Check(EnablePrivilege(L"SeTakeOwnershipPrivilege", TRUE) != FALSE,
+             L"RunAsUser EnablePrivilege SeTakeOwnershipPrivilege Failed")) {
+    return false;
   }
   for (const wchar_t* const name :
        {L"SeTcbPrivilege", L"SeChangeNotifyPrivilege", L"SeIncreaseQuotaPrivilege",

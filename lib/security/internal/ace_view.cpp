@@ -1,6 +1,6 @@
 #include "lib/security/internal/ace_view.h"
 
-#include <cstddef>
+#include <cstring>
 
 namespace kelvo::internal {
 
@@ -8,13 +8,13 @@ bool AreAcesInsideAcl(const ACL* acl) {
   if (acl == nullptr) {
     return false;
   }
+  const auto* const bytes = reinterpret_cast<const BYTE*>(acl);
   DWORD end = sizeof(ACL);
   for (DWORD left = acl->AceCount; left > 0; --left) {
     if (end + sizeof(ACE_HEADER) > acl->AclSize) {
       return false;
     }
-    const auto* const bytes = reinterpret_cast<const BYTE*>(acl);
-    const DWORD aceSize = reinterpret_cast<const ACE_HEADER*>(bytes + end)->AceSize;
+    const DWORD aceSize = HeaderOfAce(bytes + end).AceSize;
     if (aceSize < sizeof(ACE_HEADER)) {
       return false;
     }
@@ -31,22 +31,26 @@ bool QueryAclSize(const ACL* acl, ACL_SIZE_INFORMATION& size) {
   return GetAclInformation(const_cast<ACL*>(acl), &size, sizeof(size), AclSizeInformation) != FALSE;
 }
 
-ACCESS_ALLOWED_ACE* AceAt(const ACL* acl, DWORD index) {
+void* AceAt(const ACL* acl, DWORD index) {
   void* ace = nullptr;
-  return GetAce(const_cast<ACL*>(acl), index, &ace) != FALSE ? static_cast<ACCESS_ALLOWED_ACE*>(ace)
-                                                             : nullptr;
+  return GetAce(const_cast<ACL*>(acl), index, &ace) != FALSE ? ace : nullptr;
 }
 
-PSID SidOfAce(const ACCESS_ALLOWED_ACE* ace) {
-  constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
-  const DWORD aceSize = ace->Header.AceSize;
+ACE_HEADER HeaderOfAce(const void* ace) {
+  ACE_HEADER header{};
+  std::memcpy(&header, ace, sizeof(header));
+  return header;
+}
+
+PSID SidOfAce(const void* ace) {
+  const DWORD aceSize = HeaderOfAce(ace).AceSize;
   if (aceSize < kSidOffset + offsetof(SID, SubAuthority)) {
     return nullptr;
   }
-  const auto* const sid = reinterpret_cast<const SID*>(&ace->SidStart);
-  return kSidOffset + GetSidLengthRequired(sid->SubAuthorityCount) <= aceSize
-             ? const_cast<SID*>(sid)
-             : nullptr;
+  const BYTE* const sid = static_cast<const BYTE*>(ace) + kSidOffset;
+  const BYTE subAuthorities = sid[offsetof(SID, SubAuthorityCount)];
+  return kSidOffset + GetSidLengthRequired(subAuthorities) <= aceSize ? const_cast<BYTE*>(sid)
+                                                                      : nullptr;
 }
 
 }  // namespace kelvo::internal

@@ -4,9 +4,11 @@
 
 namespace kelvo::internal {
 
-bool StepFailed(const wchar_t* message) {
-  TraceMessage(L"RunAsEx", message);
-  return false;
+bool Check(bool succeeded, const wchar_t* message) {
+  if (!succeeded) {
+    TraceMessage(L"RunAsEx", message);
+  }
+  return succeeded;
 }
 
 }  // namespace kelvo::internal

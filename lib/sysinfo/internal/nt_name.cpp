@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/guarded_call.h"
 #include "lib/platform/module.h"
 #include "lib/string/format_text.h"
 #include "lib/sysinfo/internal/product_edition.h"

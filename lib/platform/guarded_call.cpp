@@ -1,4 +1,4 @@
-#include "lib/platform/internal/guarded_call.h"
+#include "lib/platform/guarded_call.h"
 
 #include "lib/platform/internal/structured_guard.h"
 
@@ -7,14 +7,14 @@ namespace kelvo::internal {
 namespace {
 
 struct Call {
-  void (*run)(void* context) = nullptr;
-  void* context = nullptr;
+  void (*run)(const void* context) = nullptr;
+  const void* context = nullptr;
   bool completed = false;
 };
 
 }  // namespace
 
-bool RunGuarded(void (*run)(void* context), void* context) {
+bool RunGuarded(void (*run)(const void* context), const void* context) {
   Call call{.run = run, .context = context};
   const int returned = RunUnderStructuredGuard(
       [](void* opaque) {
