@@ -76,6 +76,20 @@ TEST_CASE("the versions of sound and hostile files are those of file_versions.tx
   CheckAgainstFile(seen, L"file_versions.txt");
 }
 
+TEST_CASE("a block that does not lie inside the resource is not read") {
+  const std::wstring file = ProgramPath(L"versioned_english.dll");
+  const int size = static_cast<int>(GetFileVersionInfoSizeW(file.c_str(), nullptr));
+  for (const int left : {static_cast<int>(sizeof(VS_FIXEDFILEINFO)) - 1, 3, -2, size + 2}) {
+    CAPTURE(left);
+    REPLACE(VerQueryValueW, [&](auto, const void* resource, auto, void** found, UINT* length) {
+      *found = static_cast<BYTE*>(const_cast<void*>(resource)) + size - left;
+      return *length = 60000, TRUE;
+    });
+    CHECK(CompareFileVersion(file.c_str(), 0, 0, 0, 0) == 2);
+    CHECK((GetFileVersionText(file.c_str()).empty() || left > 3));
+  }
+}
+
 TEST_CASE("the browser's file is looked for in the system directory, its name kept") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
