@@ -13,7 +13,7 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
   const auto rows = std::to_array({Row(L"binary.cer", TRUE, 0, 0), Row(L"bundle.p7b", TRUE, 0, 0),
                                    Row(L"binary.cer", FALSE, ERROR_ACCESS_DENIED, 0),
                                    Row(L"missing.cer", TRUE, ERROR_SHARING_VIOLATION, 1)});
-  EmptyStores();
+  RemoveTestCertificates();
   for (const auto& [file, adds, result, leftOpen] : rows) {
     CAPTURE(file);
     CAPTURE(adds);
@@ -52,10 +52,11 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
   }
   CHECK(SubjectsInStore(L"TrustedPublisher") == L"Tessalin Test Publisher");
   CHECK(ImportCertToSystemStore(L"missing.cer", L"no such store") == ERROR_FILE_NOT_FOUND);
+  RemoveTestCertificates();
 }
 
 TEST_CASE("without crypt32.dll or one of its functions nothing is touched and the error says so") {
-  EmptyStores();
+  RemoveTestCertificates();
   int opened = 0;
   REPLACE_LOOKUP(CertOpenStore,
                  [&](auto original, auto... given) { return ++opened, original(given...); });

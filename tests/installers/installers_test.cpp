@@ -1,5 +1,4 @@
 #include "tests/support/applications.h"
-#include "tests/support/certificate_store.h"
 #include "tests/support/testing.h"
 
 // The log of the last run, in a prefix that is thrown away.
@@ -73,7 +72,7 @@ static void Prepare(const Installer& installer, const Case& row) {
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", row.log.c_str());
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_CRASH", row.crash);
   RegSetKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ, L"kite", 10);
-  EmptyStores();
+  RemoveTestCertificates();
   std::filesystem::remove(kLog);
   std::filesystem::create_directories(installer.folder);
   for (const auto& [file, isThere] :
@@ -91,6 +90,7 @@ static DWORD Status(const std::wstring& words) {
 }
 
 static void CheckEachCase(const Installer& installer) {
+  const CleanMachine machine;
   const std::wstring good = L"\"" + ProgramPath(L"installers\\good\\files\\");
   std::vector<Case> cases = Cases(installer.failure);
   if (!installer.readsItself) {

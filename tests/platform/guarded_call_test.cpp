@@ -7,6 +7,5 @@ TEST_CASE("a guarded call answers whether its action came to an end") {
   CHECK((GuardedCall([&] { reached = true; }) && reached));
   CHECK_FALSE(GuardedCall([] { throw 1; }));
   CHECK_FALSE(GuardedCall([] { *static_cast<volatile int*>(nullptr) = 1; }));
-  CHECK_FALSE(
-      GuardedCall([] { RaiseException(STATUS_INTEGER_DIVIDE_BY_ZERO, 0, 0, nullptr); }));
+  CHECK_FALSE(GuardedCall([] { RaiseException(STATUS_INTEGER_DIVIDE_BY_ZERO, 0, 0, nullptr); }));
 }

@@ -3,9 +3,8 @@
 #include <regex>
 #include <sstream>
 
-#include "tests/support/certificate_store.h"
+#include "tests/support/applications.h"
 #include "tests/support/testing.h"
-#include "tool/dependent_applications.h"
 
 // Both programs with the simulator's libraries, certificates and INF files in a folder of their
 // own, the current one, on a machine where nothing is installed.
@@ -25,14 +24,8 @@ struct Machine {
     std::filesystem::create_directory(folder / "other");
     folder.Write("other/Tessalin.inf", std::regex_replace(inf, std::regex("2026"), "2027"));
     std::filesystem::current_path(folder / "");
-    RegDeleteTreeW(HKEY_LOCAL_MACHINE, ServiceParametersKey);
-    EmptyStores();
   }
-  ~Machine() {
-    std::filesystem::current_path(ProgramPath(L""));
-    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications");
-    EmptyStores();
-  }
+  ~Machine() { std::filesystem::current_path(ProgramPath(L"")); }
 
   // Runs a command line of cmd.exe; what differs from run to run has a name in what it wrote.
   ChildResult Run(const std::wstring& command) const {
@@ -50,6 +43,7 @@ struct Machine {
     return run;
   }
 
+  CleanMachine clean;
   ScratchFolder folder;
 };
 

@@ -8,8 +8,9 @@
 
 namespace kelvo::test {
 
-// The subjects of the certificates in a system store of the local machine.
-inline std::wstring SubjectsInStore(const wchar_t* name) {
+// The subjects of this suite's certificates in a system store of the local machine; with `remove`,
+// these are then taken out of it. The machine's own certificates are left alone.
+inline std::wstring SubjectsInStore(const wchar_t* name, bool remove = false) {
   HCERTSTORE store =
       CertOpenStore(CERT_STORE_PROV_SYSTEM_W, 0, 0, CERT_SYSTEM_STORE_LOCAL_MACHINE, name);
   std::wstring subjects;
@@ -17,18 +18,32 @@ inline std::wstring SubjectsInStore(const wchar_t* name) {
   while ((certificate = CertEnumCertificatesInStore(store, certificate)) != nullptr) {
     wchar_t subject[99];
     CertGetNameStringW(certificate, CERT_NAME_SIMPLE_DISPLAY_TYPE, 0, nullptr, subject, 99);
+    if (!std::wstring(subject).starts_with(L"Tessalin Test ")) {
+      continue;
+    }
     subjects += subject;
+    BYTE hash[20];
+    DWORD size = sizeof(hash);
+    if (remove &&
+        CertGetCertificateContextProperty(certificate, CERT_SHA1_HASH_PROP_ID, hash, &size)) {
+      // Wine keeps what CertDeleteCertificateFromStore deletes.
+      std::wstring key =
+          L"Software\\Microsoft\\SystemCertificates\\" + std::wstring(name) + L"\\Certificates\\";
+      for (const BYTE byte : hash) {
+        wchar_t digits[3];
+        swprintf(digits, 3, L"%02X", byte);
+        key += digits;
+      }
+      RegDeleteTreeW(HKEY_LOCAL_MACHINE, key.c_str());
+    }
   }
   CertCloseStore(store, 0);
   return subjects;
 }
 
-// Takes all certificates out of both stores that the tool uses.
-inline void EmptyStores() {
-  for (const std::wstring store : {L"TrustedPublisher", L"CA"}) {
-    const std::wstring key = L"Software\\Microsoft\\SystemCertificates\\" + store;
-    RegDeleteTreeW(HKEY_LOCAL_MACHINE, (key + L"\\Certificates").c_str());
-  }
+inline void RemoveTestCertificates() {
+  SubjectsInStore(L"TrustedPublisher", true);
+  SubjectsInStore(L"CA", true);
 }
 
 }  // namespace kelvo::test

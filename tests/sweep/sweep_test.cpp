@@ -8,7 +8,7 @@
 #include "lib/platform/module.h"
 #include "lib/registry/registry_string.h"
 #include "lib/string/format_text.h"
-#include "tests/support/certificate_store.h"
+#include "tests/support/applications.h"
 #include "tests/support/testing.h"
 #include "tests/sweep/interception.h"
 #include "tests/sweep/operations.h"
@@ -118,7 +118,7 @@ struct Machine {
     name = operation->name;
     RegistryWriteString(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName,
                         operation->list);
-    EmptyStores();
+    RemoveTestCertificates();
     std::filesystem::remove(journal);
     interception = {};
     interception.failing = failing;
@@ -145,6 +145,7 @@ struct Machine {
 
   std::string name;
   std::map<std::string, int> calls;
+  CleanMachine clean;
   ScratchFolder folder;
   std::filesystem::path journal = folder / "journal";
 };

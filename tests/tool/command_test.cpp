@@ -2,7 +2,6 @@
 
 #include "lib/string/format_text.h"
 #include "tests/support/applications.h"
-#include "tests/support/certificate_store.h"
 #include "tests/support/testing.h"
 
 // sorrel.exe with the simulator's libraries and certificates in a folder of its own, the current
@@ -17,8 +16,6 @@ struct Rehearsal {
     }
     std::filesystem::current_path(folder / "");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
-    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications");
-    EmptyStores();
   }
   ~Rehearsal() { std::filesystem::current_path(ProgramPath(L"")); }
 
@@ -38,6 +35,7 @@ struct Rehearsal {
     return run.output + Ascii(state.c_str()) + ReadBytes("journal");
   }
 
+  CleanMachine machine;
   ScratchFolder folder;
 };
 
@@ -49,10 +47,12 @@ TEST_CASE("each command in transcript.txt does what stands under it") {
   std::istringstream transcript(ReadBytes(ProgramPath(L"expected\\transcript.txt")));
   std::string seen;
   for (std::string line; std::getline(transcript, line);) {
+    // As an editor of whatever system ends a line.
+    line.erase(std::min(line.find('\r'), line.size()));
     if (line.starts_with("# ")) {
-      seen += line + "\n\r\n";
+      seen += line + "\r\n\r\n";
     } else if (line.starts_with("> ")) {
-      seen += line + "\n" + Rehearsal::Run({line.begin() + 2, line.end() - 1}) + "\r\n";
+      seen += line + "\r\n" + Rehearsal::Run({line.begin() + 2, line.end()}) + "\r\n";
     }
   }
   CheckAgainstFile(seen, L"transcript.txt");
