@@ -76,37 +76,6 @@ TEST_CASE("the versions of sound and hostile files are those of file_versions.tx
   CheckAgainstFile(seen, L"file_versions.txt");
 }
 
-TEST_CASE("a block that does not lie inside the resource is not read") {
-  const std::wstring file = ProgramPath(L"versioned_english.dll");
-  const DWORD size = GetFileVersionInfoSizeW(file.c_str(), nullptr);
-  static wchar_t elsewhere[64] = L"elsewhere";
-  wchar_t redirected = L'\0';
-  bool endsOutside = false;
-  int asked = 0;
-  // The first unit of a query tells which it is: of the numbers, the translation or the text.
-  REPLACE(VerQueryValueW,
-          [&](auto original, const void* block, auto* path, auto found, auto length) {
-            ++asked;
-            const BOOL answer = original(block, path, found, length);
-            if (path[1] == redirected) {
-              const auto* const end = static_cast<const BYTE*>(block) + size;
-              *found = endsOutside ? const_cast<BYTE*>(end - sizeof(VS_FIXEDFILEINFO) + 1)
-                                   : static_cast<void*>(elsewhere);
-            }
-            return answer;
-          });
-  CHECK(CompareFileVersion(file.c_str(), 0, 0, 0, 0) == 2);
-  endsOutside = true;
-  CHECK(CompareFileVersion(file.c_str(), 0, 0, 0, 0) == 2);
-  endsOutside = false;
-  for (const auto& [query, queries] : {std::pair(L'V', 1), {L'S', 2}}) {
-    asked = 0;
-    redirected = query;
-    CHECK(GetFileVersionText(file.c_str()) == L"");
-    CHECK(asked == queries);
-  }
-}
-
 TEST_CASE("the browser's file is looked for in the system directory, its name kept") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
