@@ -12,8 +12,8 @@ bool RunGuarded(void (*run)(const void* context), const void* context);
 // `action`, which only uses it.
 template <typename Action>
 bool GuardedCall(const Action& action) {
-  return internal::RunGuarded(
-      [](const void* context) { (*static_cast<const Action*>(context))(); }, &action);
+  return internal::RunGuarded([](const void* context) { (*static_cast<const Action*>(context))(); },
+                              &action);
 }
 
 // Returns what `steps` returns, or `failure` when an exception ends them. Owners stay outside, as
