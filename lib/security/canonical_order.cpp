@@ -31,7 +31,7 @@ DWORD FindInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace) {
       return kNoAceIndex;
     }
     // In front of its equals, not behind them.
-    if (*presentRank >= *rank) {
+    if (presentRank >= rank) {
       return index;
     }
   }
