@@ -4,10 +4,12 @@
 
 TEST_CASE("a product suite is found in its list") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
-  REPLACE(RegOpenKeyExW, [](auto original, auto root, auto path, auto, REGSAM access, auto key) {
+  int open = 0;
+  REPLACE(RegOpenKeyExW, [&](auto original, auto root, auto path, auto, REGSAM access, auto key) {
     CHECK(access == (KEY_READ | KEY_WOW64_64KEY));
-    return original(root, path, 0, access, key);
+    return ++open, original(root, path, 0, access, key);
   });
+  REPLACE(RegCloseKey, [&](auto original, HKEY key) { return --open, original(key); });
   struct List {
     DWORD type;
     const wchar_t* data;
@@ -26,6 +28,7 @@ TEST_CASE("a product suite is found in its list") {
                     L"ProductSuite", type, data, size);
     CHECK(IsProductSuiteInstalled(L"Terminal Server") == isFound);
     CHECK_FALSE(IsProductSuiteInstalled(nullptr));
+    CHECK(open == 0);
   }
   RegistryAccessFlags = 0;
 }
