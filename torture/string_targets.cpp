@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include "lib/paths/long_path_prefix.h"
 #include "lib/string/compare_no_case.h"
 #include "lib/string/format_text.h"
 #include "lib/string/string_tokenizer.h"
+#include "lib/string/text_routines.h"
 #include "lib/string/visible_text.h"
 #include "lib/ui/text_substitution.h"
 #include "tool/dependent_applications.h"
@@ -100,28 +102,65 @@ void Format(Input& input) {
          "it is valid UTF-8");
 }
 
+// The text with each hit replaced, and how many there were.
+std::pair<std::wstring, std::size_t> Replace(const std::wstring& text, const std::wstring& search,
+                                             const std::wstring& replacement) {
+  std::wstring replaced;
+  std::size_t hits = 0;
+  std::size_t start = 0;
+  for (std::size_t hit = 0;
+       !search.empty() && (hit = text.find(search, start)) != std::wstring::npos;
+       start = hit + search.length()) {
+    replaced += text.substr(start, hit - start) + replacement;
+    ++hits;
+  }
+  return {replaced + text.substr(start), hits};
+}
+
 void Substitute(Input& input) {
   const std::wstring text = input.Text(20, L"aab");
   const std::wstring search = input.Text(3, L"ab");
   const std::wstring replacement = input.Text(6, L"abc");
   const std::size_t capacity = text.length() + input.Number(10);
-  std::wstring expected;
-  std::size_t start = 0;
-  for (std::size_t hit = 0;
-       !search.empty() && (hit = text.find(search, start)) != std::wstring::npos;
-       start = hit + search.length()) {
-    expected += text.substr(start, hit - start) + replacement;
-  }
+  const auto [all, hits] = Replace(text, search, replacement);
   const bool fits = text.length() < capacity;
-  expected = start == 0 || !fits ? text : (expected + text.substr(start)).substr(0, capacity - 1);
+  const std::wstring expected = hits == 0 || !fits ? text : all.substr(0, capacity - 1);
   const GuardedMemory buffer((text + L'\0' + std::wstring(capacity, L'x')).substr(0, capacity),
                              input.Chance());
   const BOOL replaced =
       ReplaceAllInBuffer(buffer.As<wchar_t>(), capacity, GuardedText(search, input.Chance()),
                          GuardedText(replacement, input.Chance()));
-  Expect((replaced != FALSE) == (start != 0 && fits), "it tells whether something was replaced");
+  Expect((replaced != FALSE) == (hits != 0 && fits), "it tells whether something was replaced");
   Expect(std::wstring(buffer.As<wchar_t>(), wcsnlen(buffer.As<wchar_t>(), capacity)) == expected,
          "the text is that of a plain replacement");
+}
+
+void Routines(Input& input) {
+  const std::wstring text = input.Text(30, L"aab");
+  const std::wstring search = input.Text(3, L"ab");
+  const std::wstring replacement = input.Text(6, L"abc");
+  const auto [all, hits] = Replace(text, search, replacement);
+  WString replaced(text);
+  Expect(ReplaceAll(replaced, GuardedText(search, input.Chance()),
+                    GuardedText(replacement, input.Chance())) == hits,
+         "each hit is counted");
+  Expect(Plain(replaced) == all, "the text is that of a plain replacement");
+  const std::size_t start = input.Number(40);
+  const std::size_t length = input.Number(40);
+  Expect(Plain(SubstringClamped(WString(text), start, length)) ==
+             text.substr(std::min(start, text.length()), length),
+         "a part is cut at the end");
+}
+
+void Prefixes(Input& input) {
+  const std::wstring path =
+      (input.Chance() ? L"C:\\" : L"") + input.Text(30, input.Chance() ? L"\\/.?:CUNx" : L"");
+  const GuardedText guarded(UpToNul(path), input.Chance());
+  const WString added = AddLongPathPrefix(guarded);
+  const WString removed = RemoveLongPathPrefix(guarded);
+  Expect(AddLongPathPrefix(added.c_str()) == added, "a prefix is put on once");
+  Expect(HasLongPathPrefix(guarded) || removed == WString(UpToNul(path)),
+         "nothing is taken off a path without a prefix");
 }
 
 std::wstring Join(const std::vector<std::wstring>& items) {
@@ -159,7 +198,8 @@ void EditList(Input& input) {
 
 std::vector<Target> StringTargets() {
   return {{"tokenizer", Tokenize}, {"comparison", Compare},      {"text", EditText},
-          {"format", Format},      {"substitution", Substitute}, {"applications", EditList}};
+          {"format", Format},      {"substitution", Substitute}, {"routines", Routines},
+          {"prefixes", Prefixes},  {"applications", EditList}};
 }
 
 }  // namespace kelvo::torture

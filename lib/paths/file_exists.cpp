@@ -6,19 +6,9 @@
 
 namespace kelvo {
 
-namespace {
-
-struct FileSearch {
-  using Handle = HANDLE;
-  static Handle None() { return INVALID_HANDLE_VALUE; }
-  static void Close(Handle handle) { FindClose(handle); }
-};
-
-}  // namespace
-
 bool FileExists(const wchar_t* path) {
   WIN32_FIND_DATAW found{};
-  return path != nullptr && static_cast<bool>(Owned<FileSearch>(FindFirstFileW(path, &found)));
+  return path != nullptr && static_cast<bool>(OwnedFileSearch(FindFirstFileW(path, &found)));
 }
 
 }  // namespace kelvo

@@ -78,6 +78,12 @@ struct ProcessHeapMemoryTraits {
   static void Close(Handle handle) { HeapFree(GetProcessHeap(), 0, handle); }
 };
 
+struct FileSearchTraits {
+  using Handle = HANDLE;
+  static Handle None() { return INVALID_HANDLE_VALUE; }
+  static void Close(Handle handle) { FindClose(handle); }
+};
+
 }  // namespace internal
 
 // Processes, threads, tokens, mutexes: closed with CloseHandle, null when there is none.
@@ -85,6 +91,9 @@ using OwnedKernelObject = Owned<internal::KernelObjectTraits>;
 
 // What CreateFileW opens: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
 using OwnedFile = Owned<internal::FileTraits>;
+
+// A search of FindFirstFileW: closed with FindClose, INVALID_HANDLE_VALUE when there is none.
+using OwnedFileSearch = Owned<internal::FileSearchTraits>;
 
 // What LocalAlloc allocated, or a Windows function that leaves LocalFree to its caller; null when
 // there is none.

@@ -2,41 +2,91 @@
 
 #include <windows.h>
 
+#include <array>
+#include <atomic>
 #include <clocale>
 #include <cwctype>
+#include <memory>
+#include <new>
 #include <string_view>
 
 namespace kelvo {
 
 namespace {
 
+// Each call into Windows costs far more than a unit, so 256 are mapped at once, when one of them is
+// first needed, and kept for the life of the process.
+using Page = std::array<wchar_t, 256>;
+
+wchar_t MapUnit(wchar_t unit) {
+  wchar_t mapped = unit;
+  // The invariant locale, so that the user's settings do not change which names are the same.
+  return LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, &unit, 1, &mapped, 1) == 1 ? mapped : unit;
+}
+
+// Null when memory is short.
+const Page* MakePage(wchar_t first) {
+  std::unique_ptr<Page> page(new (std::nothrow) Page);
+  Page units{};
+  for (wchar_t& unit : units) {
+    unit = first++;
+  }
+  constexpr int kCount = static_cast<int>(units.size());
+  if (page && LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, units.data(), kCount, page->data(),
+                           kCount) != kCount) {
+    page.reset();
+  }
+  return page.release();
+}
+
 wchar_t FoldInDefaultLocale(wchar_t unit) {
+  static std::array<std::atomic<const Page*>, 256> pages;
   if (unit < 0x100) {
     return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit - L'A' + L'a') : unit;
   }
-  wchar_t folded = unit;
-  // The invariant locale, so that the user's settings do not change which names are the same.
-  return LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, &unit, 1, &folded, 1) == 1 ? folded : unit;
+  std::atomic<const Page*>& place = pages[unit >> 8];
+  const Page* page = place.load(std::memory_order_acquire);
+  if (page == nullptr) {
+    page = MakePage(static_cast<wchar_t>(unit & 0xFF00));
+    const Page* other = nullptr;
+    if (page == nullptr) {
+      return MapUnit(unit);
+    }
+    if (!place.compare_exchange_strong(other, page)) {
+      // Another thread was faster.
+      delete page;
+      page = other;
+    }
+  }
+  return (*page)[unit & 0xFF];
 }
 
-wchar_t Fold(wchar_t unit, bool isDefaultLocale) {
-  if (unit == 0xFFFF) {
-    return unit;
+wchar_t FoldInLocale(wchar_t unit) { return static_cast<wchar_t>(std::towlower(unit)); }
+
+template <typename Fold>
+std::int32_t Compare(const wchar_t* a, const wchar_t* b, Fold fold) {
+  const auto folded = [fold](wchar_t unit) { return unit == 0xFFFF ? unit : fold(unit); };
+  for (;; ++a, ++b) {
+    if (*a == *b) {
+      if (*a == L'\0') {
+        return 0;
+      }
+      continue;
+    }
+    const wchar_t foldedA = folded(*a);
+    const wchar_t foldedB = folded(*b);
+    if (foldedA != foldedB) {
+      return std::int32_t{foldedA} - std::int32_t{foldedB};
+    }
   }
-  return isDefaultLocale ? FoldInDefaultLocale(unit) : static_cast<wchar_t>(std::towlower(unit));
 }
 
 }  // namespace
 
 std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b) {
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): asks, and changes nothing
   const bool isDefaultLocale = std::string_view(std::setlocale(LC_CTYPE, nullptr)) == "C";
-  for (;; ++a, ++b) {
-    const wchar_t foldedA = Fold(*a, isDefaultLocale);
-    const wchar_t foldedB = Fold(*b, isDefaultLocale);
-    if (foldedA == L'\0' || foldedA != foldedB) {
-      return std::int32_t{foldedA} - std::int32_t{foldedB};
-    }
-  }
+  return isDefaultLocale ? Compare(a, b, FoldInDefaultLocale) : Compare(a, b, FoldInLocale);
 }
 
 }  // namespace kelvo

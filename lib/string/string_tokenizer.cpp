@@ -10,6 +10,13 @@ StringTokenizer::StringTokenizer(WString text, WString delimiter, bool collapse)
   if (!collapse) {
     return;
   }
+  if (delimiter_.length() == 1) {
+    skipsRuns_ = true;
+    const std::size_t last = std::wstring_view(text_).find_last_not_of(delimiter_);
+    text_.resize(last + 1);
+    SkipRun();
+    return;
+  }
   CollapseRuns();
   if (std::wstring_view(text_).starts_with(delimiter_)) {
     text_.erase(0, delimiter_.length());
@@ -36,15 +43,28 @@ void StringTokenizer::CollapseRuns() {
   text_ = std::move(collapsed);
 }
 
-WString StringTokenizer::NextToken() {
-  const std::size_t start = next_;
-  const std::size_t end = text_.find(delimiter_, start);
-  if (end == WString::npos) {
-    next_ = text_.length();
-    return text_.substr(start);
+void StringTokenizer::SkipRun() {
+  const std::wstring_view text = text_;
+  while (next_ < text.length() && text[next_] == delimiter_.c_str()[0]) {
+    ++next_;
   }
-  next_ = end + delimiter_.length();
-  return text_.substr(start, end - start);
+}
+
+WString StringTokenizer::NextToken() {
+  const std::wstring_view text = text_;
+  const std::size_t start = next_;
+  // Searching for one unit is the cheaper search.
+  const std::size_t end = delimiter_.length() == 1 ? text.find(delimiter_.c_str()[0], start)
+                                                   : text.find(delimiter_, start);
+  if (end == std::wstring_view::npos) {
+    next_ = text.length();
+  } else {
+    next_ = end + delimiter_.length();
+    if (skipsRuns_) {
+      SkipRun();
+    }
+  }
+  return WString(text.substr(start, end - start));
 }
 
 }  // namespace kelvo

@@ -23,10 +23,14 @@ class StringTokenizer {
   WString NextToken();
 
  private:
+  // Rewrites the text without the repeated delimiters of a run. A delimiter of one unit, which
+  // cannot overlap itself, is left in place and skipped when an item is handed out.
   void CollapseRuns();
+  void SkipRun();
 
   WString text_;
   WString delimiter_;
+  bool skipsRuns_ = false;
   // What lies before it has been handed out. Cutting it off the front each time would cost the
   // square of the length.
   std::size_t next_ = 0;

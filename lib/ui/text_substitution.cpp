@@ -4,6 +4,8 @@
 #include <cwchar>
 #include <string_view>
 
+#include "lib/string/internal/text_replacement.h"
+
 namespace kelvo {
 
 BOOL ReplaceAllInBuffer(wchar_t* buffer, std::size_t capacity, const wchar_t* search,
@@ -14,18 +16,12 @@ BOOL ReplaceAllInBuffer(wchar_t* buffer, std::size_t capacity, const wchar_t* se
   const std::wstring_view text(buffer, wcsnlen(buffer, capacity));
   const std::wstring_view sought(search);
   const std::wstring_view inserted(replacement == nullptr ? L"" : replacement);
-  std::size_t hit = text.length() < capacity ? text.find(sought) : WString::npos;
-  if (hit == WString::npos) {
+  if (text.length() == capacity || text.find(sought) == std::wstring_view::npos) {
     return FALSE;
   }
-  WString result;
-  std::size_t copied = 0;
-  for (; hit != WString::npos && result.length() < capacity; hit = text.find(sought, copied)) {
-    result.append(text.substr(copied, hit - copied)).append(inserted);
-    copied = hit + sought.length();
-  }
-  result.append(text.substr(copied));
-  const std::size_t kept = std::min(result.length(), capacity - 1);
+  WString result(capacity - 1, L'\0');
+  const std::size_t kept =
+      internal::WriteReplaced(text, sought, inserted, {result.data(), result.length()});
   std::copy_n(result.c_str(), kept, buffer);
   buffer[kept] = L'\0';
   return TRUE;

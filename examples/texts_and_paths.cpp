@@ -1,0 +1,42 @@
+// Shows text routines, long paths and locales of the library, a line each, in UTF-8.
+
+#include <windows.h>
+
+#include <string>
+
+#include "lib/paths/long_path_prefix.h"
+#include "lib/string/hex_text.h"
+#include "lib/string/string_tokenizer.h"
+#include "lib/string/text_routines.h"
+#include "lib/string/visible_text.h"
+#include "lib/ui/locale_table.h"
+#include "lib/ui/localised_file.h"
+#include "lib/ui/utf8_output.h"
+
+using kelvo::WString;
+
+namespace {
+
+void Print(const char* what, const WString& text) {
+  kelvo::WriteUtf8(STD_OUTPUT_HANDLE, std::string(what) + kelvo::ToVisibleUtf8(text) + "\n");
+}
+
+}  // namespace
+
+extern "C" int wmain(int /*count*/, wchar_t** /*words*/) {
+  WString list = L"kite;;brindle;rind";
+  kelvo::ReplaceAll(list, L"rind", L"heron");
+  Print("replaced:    ", list);
+  for (kelvo::StringTokenizer items(list, L";", true); items.HasMoreTokens();) {
+    Print("item:        ", items.NextToken());
+  }
+  Print("as bytes:    ", kelvo::BytesToHex(list.c_str(), 4 * sizeof(wchar_t)));
+  Print("long path:   ", kelvo::AddLongPathPrefix(L"C:\\setup/../data"));
+  Print("and back:    ", kelvo::RemoveLongPathPrefix(L"\\\\?\\UNC\\server\\share"));
+  const LCID locale = kelvo::FindLocaleId(L"de-ch");
+  Print("locale:      ", kelvo::FindLocaleName(locale));
+  Print("its texts:   ",
+        kelvo::GetLocalisedFilePath(L"C:\\setup", L"texts.dll", LANGIDFROMLCID(locale),
+                                    kelvo::LocalisedFileForm::kFolder));
+  return 0;
+}

@@ -1,0 +1,69 @@
+#include "lib/paths/long_path_prefix.h"
+
+#include <windows.h>
+
+#include <cwchar>
+#include <string_view>
+
+namespace kelvo {
+
+namespace {
+
+constexpr std::wstring_view kPrefix = L"\\\\?\\";
+constexpr std::wstring_view kUncPrefix = L"\\\\?\\UNC\\";
+
+std::wstring_view ViewOf(const wchar_t* path) { return path != nullptr ? path : L""; }
+
+bool IsSeparator(wchar_t unit) { return unit == L'\\' || unit == L'/'; }
+
+// "C:\" and what follows.
+bool BeginsWithDrive(std::wstring_view path) {
+  const auto letter = path.empty() ? L'\0' : path[0] | 0x20;
+  return path.length() >= 3 && letter >= L'a' && letter <= L'z' && path[1] == L':' &&
+         IsSeparator(path[2]);
+}
+
+// "\\server" and what follows, but not "\\?\" and "\\.\".
+bool BeginsWithServer(std::wstring_view path) {
+  return path.length() >= 3 && IsSeparator(path[0]) && IsSeparator(path[1]) &&
+         !(path.length() >= 4 && (path[2] == L'?' || path[2] == L'.') && IsSeparator(path[3]));
+}
+
+// Empty when the path cannot be resolved.
+WString FullPath(const wchar_t* path) {
+  const DWORD size = GetFullPathNameW(path, 0, nullptr, nullptr);
+  WString full(size, L'\0');
+  const DWORD length = GetFullPathNameW(path, size, full.data(), nullptr);
+  full.resize(length < size ? length : 0);
+  return full;
+}
+
+}  // namespace
+
+WString AddLongPathPrefix(const wchar_t* path) {
+  const std::wstring_view given = ViewOf(path);
+  if (BeginsWithDrive(given) || BeginsWithServer(given)) {
+    const WString full = FullPath(path);
+    if (BeginsWithDrive(full)) {
+      return WString(kPrefix) + full;
+    }
+    if (BeginsWithServer(full)) {
+      return WString(kUncPrefix) + full.substr(2);
+    }
+  }
+  return WString(given);
+}
+
+WString RemoveLongPathPrefix(const wchar_t* path) {
+  const std::wstring_view given = ViewOf(path);
+  if (given.length() > kUncPrefix.length() &&
+      _wcsnicmp(path, kUncPrefix.data(), kUncPrefix.length()) == 0) {
+    return WString(L"\\\\").append(given.substr(kUncPrefix.length()));
+  }
+  const bool hasDrive = HasLongPathPrefix(path) && BeginsWithDrive(given.substr(kPrefix.length()));
+  return WString(hasDrive ? given.substr(kPrefix.length()) : given);
+}
+
+bool HasLongPathPrefix(const wchar_t* path) { return ViewOf(path).starts_with(kPrefix); }
+
+}  // namespace kelvo

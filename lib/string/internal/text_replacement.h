@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+
+namespace kelvo::internal {
+
+// Writes `text` into `out` with each occurrence of `search`, which must not be empty, replaced, as
+// far as there is room. Returns the number of units written.
+std::size_t WriteReplaced(std::wstring_view text, std::wstring_view search,
+                          std::wstring_view replacement, std::span<wchar_t> out);
+
+}  // namespace kelvo::internal

@@ -1,0 +1,41 @@
+#include "lib/paths/long_path_prefix.h"
+
+#include "tests/support/testing.h"
+
+TEST_CASE("a prefix is put before what is fully qualified, and taken off what it was put before") {
+  struct Row {
+    const wchar_t* path;
+    const wchar_t* added;
+    const wchar_t* removed;
+  };
+  const Row rows[] = {
+      {nullptr, L"", L""},
+      {L"C:\\x", L"\\\\?\\C:\\x", L"C:\\x"},
+      {L"c:/x/./y/..\\z", L"\\\\?\\c:\\x\\z", L"c:/x/./y/..\\z"},
+      {L"\\\\server\\share\\x", L"\\\\?\\UNC\\server\\share\\x", L"\\\\server\\share\\x"},
+      {L"//server/share/x", L"\\\\?\\UNC\\server\\share\\x", L"//server/share/x"},
+      {L"C:x", L"C:x", L"C:x"},
+      {L"\\x", L"\\x", L"\\x"},
+      {L"x", L"x", L"x"},
+      {L"C:\\NUL", L"C:\\NUL", L"C:\\NUL"},
+      {L"1:\\x", L"1:\\x", L"1:\\x"},
+      {L"\\\\?\\C:\\x\\..", L"\\\\?\\C:\\x\\..", L"C:\\x\\.."},
+      {L"\\\\?\\C:", L"\\\\?\\C:", L"\\\\?\\C:"},
+      {L"\\\\.\\COM1", L"\\\\.\\COM1", L"\\\\.\\COM1"},
+      {L"\\??\\C:\\x", L"\\??\\C:\\x", L"\\??\\C:\\x"},
+      {L"\\\\?\\unc\\server\\share", L"\\\\?\\unc\\server\\share", L"\\\\server\\share"},
+      {L"\\\\?\\UNC\\", L"\\\\?\\UNC\\", L"\\\\?\\UNC\\"},
+      {L"\\\\?\\Volume{1}\\x", L"\\\\?\\Volume{1}\\x", L"\\\\?\\Volume{1}\\x"},
+      {L"\\\\?\\GLOBALROOT\\x", L"\\\\?\\GLOBALROOT\\x", L"\\\\?\\GLOBALROOT\\x"}};
+  for (const auto& [path, added, removed] : rows) {
+    CAPTURE(added);
+    CHECK(AddLongPathPrefix(path) == added);
+    CHECK(RemoveLongPathPrefix(path) == removed);
+    CHECK(HasLongPathPrefix(path) ==
+          (path != nullptr && std::wstring_view(path).starts_with(L"\\\\?\\")));
+  }
+  const std::wstring longest = L"C:\\" + std::wstring(32'000, L'x');
+  CHECK(AddLongPathPrefix(longest.c_str()) == (L"\\\\?\\" + longest).c_str());
+  REPLACE(GetFullPathNameW, [](auto...) { return DWORD{0}; });
+  CHECK(AddLongPathPrefix(L"C:\\x") == L"C:\\x");
+}

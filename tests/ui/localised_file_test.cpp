@@ -1,0 +1,80 @@
+#include "lib/ui/localised_file.h"
+
+#include "lib/ui/locale_table.h"
+#include "tests/support/testing.h"
+
+TEST_CASE("each locale of the table is Windows' own, both ways") {
+  int count = 0;
+  for (LCID id = 0; id < 0x10000; ++id) {
+    const wchar_t* const name = FindLocaleName(id);
+    if (name == nullptr) {
+      continue;
+    }
+    ++count;
+    wchar_t known[LOCALE_NAME_MAX_LENGTH];
+    CHECK(LCIDToLocaleName(id, known, LOCALE_NAME_MAX_LENGTH, 0) > 0);
+    CHECK(known == std::wstring(name));
+    CHECK(LocaleNameToLCID(name, 0) == id);
+    CHECK(FindLocaleId(name) == id);
+  }
+  CHECK(count == 158);
+  CHECK(FindLocaleName(0x00010407) == std::wstring(L"de-DE"));
+  CHECK(FindLocaleName(0x01000407) == nullptr);
+  CHECK(FindLocaleId(L"DE-ch") == 0x0807);
+  CHECK(FindLocaleId(L"de-C") == 0);
+  CHECK(FindLocaleId(nullptr) == 0);
+}
+
+TEST_CASE("the exact file is found, or the nearest that is there") {
+  const ScratchFolder scratch;
+  const std::wstring folder = scratch / L"";
+  const auto make = [&](const wchar_t* path, bool isFolder = false) {
+    const std::filesystem::path place = scratch / path;
+    std::filesystem::create_directories(isFolder ? place : place.parent_path());
+    if (!isFolder) {
+      scratch.Write(path, "x");
+    }
+  };
+  const auto find = [&](LANGID language, LocalisedFileForm form) {
+    const WString path = FindLocalisedFile(folder.c_str(), L"a.b.dll", language, form);
+    return path.empty() ? WString() : path.substr(folder.length());
+  };
+  constexpr auto kFolder = LocalisedFileForm::kFolder, kSuffix = LocalisedFileForm::kSuffix;
+  CHECK(GetLocalisedFilePath(L"C:\\x", L"a.b.dll", 0x0407, kFolder) ==
+        L"C:\\x\\resources\\de-DE\\a.b.dll");
+  CHECK(GetLocalisedFilePath(L"C:\\x\\", L"a.b.dll", 0x0407, kSuffix) == L"C:\\x\\a.b_de-DE.dll");
+  CHECK(GetLocalisedFilePath(nullptr, L"a", 0x0407, kSuffix) == L"a_de-DE");
+  CHECK(GetLocalisedFilePath(L"C:\\x", L"a", 0xFFFF, kSuffix) == L"");
+  CHECK(GetLocalisedFilePath(L"C:\\x", nullptr, 0x0407, kSuffix) == L"");
+  CHECK(find(0x0407, kSuffix) == L"");
+  // What is made one after the other, and what is then found for German (Germany).
+  struct Step {
+    const wchar_t* path;
+    bool isFolder;
+    LocalisedFileForm form;
+    const wchar_t* found;
+  };
+  const Step steps[] = {
+      {L"a.b_nonsense name.dll", false, kSuffix, L""},
+      {L"a.b_de-DE.dll", true, kSuffix, L""},
+      {L"a.b_ja-JP.dllx", false, kSuffix, L""},
+      {L"a.b_ja-JP.dll", false, kSuffix, L"a.b_ja-JP.dll"},
+      {L"a.b_fr-FR.dll", false, kSuffix, L"a.b_fr-FR.dll"},
+      {L"a.b_en-GB.dll", false, kSuffix, L"a.b_en-GB.dll"},
+      {L"a.b_en-US.dll", false, kSuffix, L"a.b_en-US.dll"},
+      {L"a.b_de-CH.dll", false, kSuffix, L"a.b_de-CH.dll"},
+      {L"a.b_de-AT.dll", false, kSuffix, L"a.b_de-AT.dll"},
+      {L"resources\\de-CH", true, kFolder, L""},
+      {L"resources\\en-US\\a.b.dll", false, kFolder, L"resources\\en-US\\a.b.dll"},
+      {L"resources\\de-CH\\a.b.dll", false, kFolder, L"resources\\de-CH\\a.b.dll"},
+      {L"resources\\de-DE\\a.b.dll", false, kFolder, L"resources\\de-DE\\a.b.dll"}};
+  for (const auto& [path, isFolder, form, found] : steps) {
+    CAPTURE(path);
+    make(path, isFolder);
+    CHECK(find(0x0407, form) == found);
+  }
+  const ReplacedExport missing("GetLocaleInfoEx", nullptr);
+  CHECK(find(0x0407, kFolder) == L"resources\\de-DE\\a.b.dll");
+  CHECK(find(0x0807, kSuffix) == L"a.b_de-CH.dll");
+  CHECK(find(0x0411, kFolder) == L"");
+}
