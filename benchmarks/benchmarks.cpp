@@ -1,55 +1,67 @@
-// Measures as ratios within one run: twice the input should take twice the time, and the program
-// should start about as fast as an empty one.
+// Measures the library's strings beside their peers, and the start and the size of sorrel.exe. Each
+// line is the median of interleaved runs: in milliseconds, and as a ratio to the first line of its
+// group, which is ours.
 
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
+#include <boost/algorithm/string.hpp>
+#include <boost/tokenizer.hpp>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <limits>
+#include <functional>
+#include <ranges>
 #include <string>
+#include <vector>
 
 #include "lib/platform/owned.h"
 #include "lib/string/compare_no_case.h"
 #include "lib/string/string_tokenizer.h"
+#include "lib/string/text_routines.h"
+#include "lib/ui/text_substitution.h"
 
 namespace {
 
 using kelvo::WString;
 
-constexpr int kRuns = 15;
+constexpr std::size_t kRuns = 21;
 
-// The shortest of several runs, which is the least disturbed one, in seconds.
-template <typename Action>
-double Shortest(Action action) {
-  double shortest = std::numeric_limits<double>::max();
-  for (int run = 0; run < kRuns; ++run) {
-    const auto start = std::chrono::steady_clock::now();
-    action();
-    const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
-    shortest = std::min(shortest, elapsed.count());
+// What is measured must not be left out by the compiler.
+volatile std::size_t sink = 0;
+
+struct Contender {
+  const char* name;
+  std::function<std::size_t()> work;
+};
+
+double Milliseconds(const std::function<std::size_t()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  sink = sink + work();
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+      .count();
+}
+
+void Measure(const char* title, const std::vector<Contender>& contenders) {
+  std::vector<std::array<double, kRuns>> times(contenders.size());
+  for (std::size_t run = 0; run < kRuns; ++run) {
+    for (std::size_t index = 0; index < contenders.size(); ++index) {
+      times.at(index).at(run) = Milliseconds(contenders.at(index).work);
+    }
   }
-  return shortest;
-}
-
-// What twice the input costs; linear work gives 2.
-template <typename Action>
-void PrintGrowth(const char* name, Action action) {
-  constexpr int kInputs = 100'000;
-  const double base = Shortest([&] { action(kInputs); });
-  const double twice = Shortest([&] { action(2 * kInputs); });
-  std::printf("%-52s %6.2f\n", name, twice / base);
-}
-
-void Walk(const std::wstring& list, bool collapse) {
-  kelvo::StringTokenizer tokens(WString(list), L";", collapse);
-  while (tokens.HasMoreTokens()) {
-    tokens.NextToken();
+  std::printf("\n%s\n", title);
+  double ours = 0;
+  for (std::size_t index = 0; index < contenders.size(); ++index) {
+    auto& sorted = times.at(index);
+    std::ranges::sort(sorted);
+    const double median = sorted.at(kRuns / 2);
+    ours = index == 0 ? median : ours;
+    std::printf("  %-44s %9.3f ms %7.2f\n", contenders.at(index).name, median, median / ours);
   }
 }
 
-std::wstring Repeated(const wchar_t* text, int times) {
+std::wstring Repeated(const std::wstring& text, int times) {
   std::wstring all;
   for (int i = 0; i < times; ++i) {
     all += text;
@@ -57,7 +69,156 @@ std::wstring Repeated(const wchar_t* text, int times) {
   return all;
 }
 
-void Start(const std::filesystem::path& program) {
+std::size_t Walk(WString list, bool collapse) {
+  std::size_t units = 0;
+  for (kelvo::StringTokenizer items(std::move(list), L";", collapse); items.HasMoreTokens();) {
+    units += items.NextToken().length();
+  }
+  return units;
+}
+
+std::size_t BareLoop(const std::wstring& list, bool collapse) {
+  std::size_t units = 0;
+  for (std::size_t start = 0; start < list.length();) {
+    const std::size_t end = std::min(list.find(L';', start), list.length());
+    if (!collapse || end > start) {
+      units += list.substr(start, end - start).length();
+    }
+    start = end + 1;
+  }
+  return units;
+}
+
+std::size_t BoostSplit(const std::wstring& list, boost::algorithm::token_compress_mode_type mode) {
+  std::vector<std::wstring> items;
+  boost::split(items, list, [](wchar_t unit) { return unit == L';'; }, mode);
+  return items.size();
+}
+
+// A tokenizer keeps its text, and takes over one that its caller has no more use for.
+std::function<std::size_t()> WalkOneOfMany(const std::wstring& list, bool collapse) {
+  return [collapse, texts = std::vector<WString>(kRuns, WString(list))]() mutable {
+    const std::size_t units = Walk(std::move(texts.back()), collapse);
+    texts.pop_back();
+    return units;
+  };
+}
+
+void MeasureSplitting(const std::wstring& list) {
+  Measure(
+      "split 100,000 items, collapsed (goal: the bare loop at 0.67 or more, both of boost above 1)",
+      {{"StringTokenizer", WalkOneOfMany(list, true)},
+       {"find and substr in a bare loop", [&] { return BareLoop(list, true); }},
+       {"views::split into std::wstring",
+        [&] {
+          std::size_t units = 0;
+          for (const auto part : std::views::split(list, L';')) {
+            units += std::wstring(part.begin(), part.end()).length();
+          }
+          return units;
+        }},
+       {"boost::tokenizer",
+        [&] {
+          const boost::char_separator<wchar_t> separator(L";");
+          const boost::tokenizer<boost::char_separator<wchar_t>, std::wstring::const_iterator,
+                                 std::wstring>
+              items(list, separator);
+          std::size_t units = 0;
+          for (const std::wstring& item : items) {
+            units += item.length();
+          }
+          return units;
+        }},
+       {"boost::split", [&] { return BoostSplit(list, boost::token_compress_on); }}});
+  Measure("the same, not collapsed",
+          {{"StringTokenizer", WalkOneOfMany(list, false)},
+           {"find and substr in a bare loop", [&] { return BareLoop(list, false); }},
+           {"boost::split", [&] { return BoostSplit(list, boost::token_compress_off); }}});
+}
+
+Contender Ordinal(const std::wstring& a, const std::wstring& b) {
+  return {
+      "CompareStringOrdinal", [&] {
+        return static_cast<std::size_t>(CompareStringOrdinal(a.c_str(), -1, b.c_str(), -1, TRUE));
+      }};
+}
+
+void MeasureComparison(const char* title, const std::wstring& a, const std::wstring& b,
+                       bool isAscii) {
+  std::vector<Contender> contenders = {
+      {"CompareNoCase",
+       [&] { return static_cast<std::size_t>(kelvo::CompareNoCase(a.c_str(), b.c_str())); }},
+      Ordinal(a, b),
+      {"lstrcmpiW", [&] { return static_cast<std::size_t>(lstrcmpiW(a.c_str(), b.c_str())); }}};
+  if (isAscii) {
+    contenders.push_back(
+        {"_wcsicmp", [&] { return static_cast<std::size_t>(_wcsicmp(a.c_str(), b.c_str())); }});
+    contenders.push_back({"boost::iequals", [&] { return boost::iequals(a, b) ? 0U : 1U; }});
+  }
+  Measure(title, contenders);
+}
+
+void MeasureShortNames() {
+  static constexpr int kTimes = 100'000;
+  const auto repeat = [](auto compare) {
+    return [compare] {
+      std::size_t sum = 0;
+      for (int i = 0; i < kTimes; ++i) {
+        sum += static_cast<std::size_t>(compare(L"Brindle Player", L"brindle player"));
+      }
+      return sum;
+    };
+  };
+  Measure("compare a short name 100,000 times (goal: no slower than a plain loop over A to Z)",
+          {{"CompareNoCase", repeat(kelvo::CompareNoCase)},
+           {"_wcsicmp", repeat([](auto a, auto b) { return _wcsicmp(a, b); })},
+           {"lstrcmpiW", repeat([](auto a, auto b) { return lstrcmpiW(a, b); })}});
+}
+
+void MeasureReplacing(const std::wstring& text) {
+  Measure("replace 50,000 hits (goal: both of boost above 1)",
+          {{"ReplaceAll",
+            [&] {
+              WString copy(text);
+              return kelvo::ReplaceAll(copy, L"kite", L"heron");
+            }},
+           {"boost::replace_all_copy",
+            [&] { return boost::replace_all_copy(text, L"kite", L"heron").length(); }},
+           {"boost::replace_all",
+            [&] {
+              std::wstring copy = text;
+              boost::replace_all(copy, L"kite", L"heron");
+              return copy.length();
+            }},
+           {"ReplaceAllInBuffer", [&] {
+              std::wstring buffer = text;
+              buffer.resize(text.length() * 2);
+              return static_cast<std::size_t>(
+                  kelvo::ReplaceAllInBuffer(buffer.data(), buffer.length(), L"kite", L"heron"));
+            }}});
+}
+
+// Linear work costs twice as much for twice the input.
+void MeasureGrowth() {
+  const auto growth = [](const char* title, const std::function<std::size_t(int)>& work) {
+    Measure(title, {{"100,000", [&] { return work(100'000); }},
+                    {"200,000", [&] { return work(200'000); }}});
+  };
+  growth("StringTokenizer, twice the items (goal: at most 2.3)",
+         [](int items) { return Walk(WString(Repeated(L"brindle;", items)), true); });
+  growth("StringTokenizer, a run of delimiters twice as long (2.3)",
+         [](int items) { return Walk(WString(Repeated(L";;;;;;;;", items)), true); });
+  growth("CompareNoCase, twice the length (2.3)", [](int items) {
+    return static_cast<std::size_t>(kelvo::CompareNoCase(
+        Repeated(L"Brindle\u0416", items).c_str(), Repeated(L"bRINDLE\u0436", items).c_str()));
+  });
+  growth("ReplaceAll, twice the hits (2.3)", [](int items) {
+    WString text(Repeated(L"brindle;", items));
+    return kelvo::ReplaceAll(text, L"rind", L"heron");
+  });
+}
+
+std::size_t Start(const std::filesystem::path& program) {
   std::wstring commandLine = L"\"" + program.wstring() + L"\"";
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
@@ -69,24 +230,29 @@ void Start(const std::filesystem::path& program) {
     const kelvo::OwnedKernelObject thread(started.hThread);
     WaitForSingleObject(process.get(), INFINITE);
   }
+  return 0;
 }
 
 }  // namespace
 
 extern "C" int wmain(int /*argc*/, wchar_t** argv) {
-  PrintGrowth("StringTokenizer, twice the items",
-              [](int items) { Walk(Repeated(L"brindle;", items), true); });
-  PrintGrowth("StringTokenizer, a delimiter run of twice the length",
-              [](int items) { Walk(Repeated(L";;;;;;;;", items), true); });
-  PrintGrowth("CompareNoCase, twice the length", [](int items) {
-    const std::wstring text = Repeated(L"Brindle\u0416", items);
-    kelvo::CompareNoCase(text.c_str(), text.c_str());
-  });
+  MeasureSplitting(Repeated(L"brindle;", 100'000));
+  MeasureComparison("compare 700,000 ASCII units that differ in case (goal: _wcsicmp at 1 or more)",
+                    Repeated(L"BRINDLE", 100'000), Repeated(L"brindle", 100'000), true);
+  MeasureComparison("compare 300,000 Cyrillic units that differ in case (goal: lstrcmpiW above 1)",
+                    Repeated(L"\u0416\u0418\u042F", 100'000),
+                    Repeated(L"\u0436\u0438\u044F", 100'000), false);
+  MeasureComparison(
+      "compare 300,000 equal Cyrillic units (goal: CompareStringOrdinal at 1 or more)",
+      Repeated(L"\u0416\u0418\u042F", 100'000), Repeated(L"\u0416\u0418\u042F", 100'000), false);
+  MeasureShortNames();
+  MeasureReplacing(Repeated(L"brindle kite;", 50'000));
+  MeasureGrowth();
 
   const std::filesystem::path folder = std::filesystem::absolute(argv[0]).parent_path();
-  Start(folder / "empty_program.exe");
-  const double empty = Shortest([&] { Start(folder / "empty_program.exe"); });
-  const double usage = Shortest([&] { Start(folder / "sorrel.exe"); });
-  std::printf("%-52s %6.2f\n", "start of sorrel.exe to that of an empty program", usage / empty);
+  Measure("start a program", {{"an empty one", [&] { return Start(folder / "empty_program.exe"); }},
+                              {"sorrel.exe", [&] { return Start(folder / "sorrel.exe"); }}});
+  std::printf("\nsorrel.exe has %llu bytes\n",
+              static_cast<unsigned long long>(std::filesystem::file_size(folder / "sorrel.exe")));
   return 0;
 }

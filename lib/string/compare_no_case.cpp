@@ -63,22 +63,23 @@ wchar_t FoldInDefaultLocale(wchar_t unit) {
 
 wchar_t FoldInLocale(wchar_t unit) { return static_cast<wchar_t>(std::towlower(unit)); }
 
+// One letter from A to Z in both cases.
+bool AreCasesOfLetter(unsigned a, unsigned b) {
+  constexpr unsigned kCaseBit = 0x20;
+  return (a ^ b) == kCaseBit && (a | kCaseBit) - L'a' < 26;
+}
+
 template <typename Fold>
-std::int32_t Compare(const wchar_t* a, const wchar_t* b, Fold fold) {
+std::int32_t Compare(const wchar_t* a, const wchar_t* b, bool foldsLetters, Fold fold) {
   const auto folded = [fold](wchar_t unit) { return unit == 0xFFFF ? unit : fold(unit); };
-  for (;; ++a, ++b) {
-    if (*a == *b) {
-      if (*a == L'\0') {
-        return 0;
-      }
-      continue;
-    }
-    const wchar_t foldedA = folded(*a);
-    const wchar_t foldedB = folded(*b);
-    if (foldedA != foldedB) {
-      return std::int32_t{foldedA} - std::int32_t{foldedB};
+  // Nearly all units are equal or letters.
+  for (; *a == *b || (foldsLetters && AreCasesOfLetter(*a, *b)) || folded(*a) == folded(*b);
+       ++a, ++b) {
+    if (*a == L'\0') {
+      return 0;
     }
   }
+  return std::int32_t{folded(*a)} - std::int32_t{folded(*b)};
 }
 
 }  // namespace
@@ -86,7 +87,8 @@ std::int32_t Compare(const wchar_t* a, const wchar_t* b, Fold fold) {
 std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b) {
   // NOLINTNEXTLINE(concurrency-mt-unsafe): asks, and changes nothing
   const bool isDefaultLocale = std::string_view(std::setlocale(LC_CTYPE, nullptr)) == "C";
-  return isDefaultLocale ? Compare(a, b, FoldInDefaultLocale) : Compare(a, b, FoldInLocale);
+  return isDefaultLocale ? Compare(a, b, true, FoldInDefaultLocale)
+                         : Compare(a, b, false, FoldInLocale);
 }
 
 }  // namespace kelvo

@@ -15,7 +15,6 @@
 #include "lib/security/window_object_access.h"
 #include "lib/trace/trace_sink.h"
 #include "tests/security/test_acl.h"
-#include "tests/support/desktop_scope.h"
 #include "tests/support/failing_call.h"
 #include "tests/support/testing.h"
 
@@ -45,7 +44,7 @@ TEST_CASE("each failing call has its message, then the operation its own") {
     traced += text.starts_with(operation + L" ") ? L"\n    " + text : L"";
     throw 1;  // is the sink's own trouble
   });
-  const DesktopScope scope(L"kelvo security test", L"kelvo desktop");
+  const WindowObjects scope;
   // More than fits on the stack, and enough to have all calls made.
   const TestAcl many(std::vector<TestAce>(51));
   OwnedKernelObject token;

@@ -2,7 +2,10 @@
 
 #include "tests/support/testing.h"
 
+#include <aclapi.h>
 #include <sddl.h>
+
+#include "tests/support/desktop_scope.h"
 
 namespace kelvo::test {
 
@@ -62,5 +65,23 @@ inline std::wstring ReadDacl(HANDLE object) {
 inline void WriteDacl(HANDLE object, const std::wstring& sddl) {
   SetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, FromSddl(sddl).get());
 }
+
+// A station and a desktop whose access lists are real ones on every Wine: Wine 10 sees none of a
+// window object, but that of the same handle as a kernel object.
+struct WindowObjects {
+  static constexpr auto kAsKernelObject = [](auto original, HANDLE object, SE_OBJECT_TYPE type,
+                                             auto... rest) {
+    return original(object, type == SE_WINDOW_OBJECT ? SE_KERNEL_OBJECT : type, rest...);
+  };
+  using AsKernelObject = decltype(kAsKernelObject);
+
+  ReplacedImport<decltype(::GetSecurityInfo), AsKernelObject> reading{"GetSecurityInfo",
+                                                                      kAsKernelObject};
+  ReplacedImport<decltype(::SetSecurityInfo), AsKernelObject> writing{"SetSecurityInfo",
+                                                                      kAsKernelObject};
+  DesktopScope scope{L"kelvo security test", L"kelvo desktop"};
+  HWINSTA station = scope.station;
+  HDESK desktop = scope.desktop;
+};
 
 }  // namespace kelvo::test

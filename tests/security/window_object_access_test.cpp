@@ -5,7 +5,6 @@
 #include "lib/security/token_object_access.h"
 #include "lib/security/token_privileges.h"
 #include "tests/security/test_acl.h"
-#include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
 static TestAce localService;
@@ -13,7 +12,7 @@ const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
 TEST_CASE("an explicit entry is granted once, and only where there is a list") {
-  const DesktopScope scope(L"kelvo security test", L"kelvo desktop");
+  const WindowObjects scope;
   // Ends where the entry goes: Wine's AddAce appends, whatever the index.
   std::wstring before = L"D:(D;;CC;;;LS)";
   for (int count = 0; count < 60; ++count) {
@@ -39,7 +38,7 @@ TEST_CASE("an explicit entry is granted once, and only where there is a list") {
 }
 
 TEST_CASE("deny entries for the SID go, all but one at index 0") {
-  const DesktopScope scope(L"kelvo security test", L"kelvo desktop");
+  const WindowObjects scope;
   const wchar_t* const cases[][2] = {
       {L"D:(A;;CC;;;WD)(D;;CC;;;LS)(D;;DC;;;LS)(D;;CC;;;NS)(D;ID;CC;;;LS)(A;;CC;;;LS)",
        L"D:(A;;CC;;;WD)(D;;CC;;;NS)(A;;CC;;;LS)"},
@@ -55,7 +54,7 @@ TEST_CASE("deny entries for the SID go, all but one at index 0") {
 }
 
 TEST_CASE("a token's user gets the rights that the type's name asks for") {
-  const DesktopScope scope(L"kelvo security test", L"kelvo desktop");
+  const WindowObjects scope;
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), L"D:");
   int freed = 0;

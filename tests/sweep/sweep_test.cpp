@@ -4,6 +4,8 @@
 
 #include <security.h>
 
+#include <set>
+
 #include "lib/platform/guarded_call.h"
 #include "lib/platform/module.h"
 #include "lib/registry/registry_string.h"
@@ -130,9 +132,14 @@ struct Machine {
     const std::wstring answer = GuardedAnswer(std::wstring(L"died"), operation->run);
     // Before the library is unloaded.
     calls = interception.calls;
-    std::string leftOpen;
+    // By name: handles come in any order.
+    std::multiset<std::string> names;
     for (const auto& [handle, function] : interception.open) {
-      leftOpen += " " + function;
+      names.insert(" " + function);
+    }
+    std::string leftOpen;
+    for (const std::string& function : names) {
+      leftOpen += function;
     }
     const WString state =
         FormatText(L"= %s [%s] [%s] [%s]", answer.c_str(), ReadApplicationList().c_str(),
