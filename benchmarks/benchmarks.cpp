@@ -252,7 +252,7 @@ extern "C" int wmain(int /*argc*/, wchar_t** argv) {
   const std::filesystem::path folder = std::filesystem::absolute(argv[0]).parent_path();
   Measure("start a program", {{"an empty one", [&] { return Start(folder / "empty_program.exe"); }},
                               {"sorrel.exe", [&] { return Start(folder / "sorrel.exe"); }}});
-  std::printf("\nsorrel.exe has %llu bytes\n",
-              static_cast<unsigned long long>(std::filesystem::file_size(folder / "sorrel.exe")));
+  std::printf("\nsorrel.exe has %.1f KiB\n",
+              static_cast<double>(std::filesystem::file_size(folder / "sorrel.exe")) / 1024);
   return 0;
 }

@@ -25,8 +25,9 @@ bool BeginsWithDrive(std::wstring_view path) {
 
 // "\\server" and what follows, but not "\\?\" and "\\.\".
 bool BeginsWithServer(std::wstring_view path) {
-  return path.length() >= 3 && IsSeparator(path[0]) && IsSeparator(path[1]) &&
-         !(path.length() >= 4 && (path[2] == L'?' || path[2] == L'.') && IsSeparator(path[3]));
+  const bool isDevice =
+      path.length() >= 4 && (path[2] == L'?' || path[2] == L'.') && IsSeparator(path[3]);
+  return path.length() >= 3 && IsSeparator(path[0]) && IsSeparator(path[1]) && !isDevice;
 }
 
 // Empty when the path cannot be resolved.

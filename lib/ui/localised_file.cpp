@@ -116,7 +116,7 @@ WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LAN
 
 WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                           LocalisedFileForm form) {
-  const WString exact = GetLocalisedFilePath(folder, fileName, language, form);
+  WString exact = GetLocalisedFilePath(folder, fileName, language, form);
   if (!exact.empty() && IsFile(exact)) {
     return exact;
   }
