@@ -75,5 +75,6 @@ std::vector<Target> RegistryTargets();
 std::vector<Target> AccessListTargets();
 std::vector<Target> FileTargets();
 std::vector<Target> ProcessTargets();
+std::vector<Target> StatusTargets();
 
 }  // namespace kelvo::torture

@@ -80,8 +80,8 @@ void Try(const Target& target, std::uint64_t seed, std::uint64_t seconds, std::u
 
 std::vector<Target> AllTargets() {
   std::vector<Target> all;
-  for (const auto& targets :
-       {StringTargets(), RegistryTargets(), AccessListTargets(), FileTargets(), ProcessTargets()}) {
+  for (const auto& targets : {StringTargets(), RegistryTargets(), AccessListTargets(),
+                              FileTargets(), StatusTargets(), ProcessTargets()}) {
     all.insert(all.end(), targets.begin(), targets.end());
   }
   return all;
