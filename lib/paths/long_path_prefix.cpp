@@ -61,7 +61,10 @@ WString RemoveLongPathPrefix(const wchar_t* path) {
       _wcsnicmp(path, kUncPrefix.data(), kUncPrefix.length()) == 0) {
     return WString(L"\\\\").append(given.substr(kUncPrefix.length()));
   }
-  const bool hasDrive = HasLongPathPrefix(path) && BeginsWithDrive(given.substr(kPrefix.length()));
+  // Behind the prefix "/" is no separator.
+  const bool hasDrive = HasLongPathPrefix(path) &&
+                        BeginsWithDrive(given.substr(kPrefix.length())) &&
+                        given[kPrefix.length() + 2] == L'\\';
   return WString(hasDrive ? given.substr(kPrefix.length()) : given);
 }
 

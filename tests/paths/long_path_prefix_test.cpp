@@ -21,6 +21,7 @@ TEST_CASE("a prefix is put before what is fully qualified, and taken off what it
       {L"1:\\x", L"1:\\x", L"1:\\x"},
       {L"\\\\?\\C:\\x\\..", L"\\\\?\\C:\\x\\..", L"C:\\x\\.."},
       {L"\\\\?\\C:", L"\\\\?\\C:", L"\\\\?\\C:"},
+      {L"\\\\?\\C:/x", L"\\\\?\\C:/x", L"\\\\?\\C:/x"},
       {L"\\\\.\\COM1", L"\\\\.\\COM1", L"\\\\.\\COM1"},
       {L"\\??\\C:\\x", L"\\??\\C:\\x", L"\\??\\C:\\x"},
       {L"\\\\?\\unc\\server\\share", L"\\\\?\\unc\\server\\share", L"\\\\server\\share"},

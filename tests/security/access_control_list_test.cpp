@@ -88,8 +88,8 @@ TEST_CASE("nothing is read past a list or an entry whose sizes lie") {
                                      L"CopyACL AddAce Failed;"));
   }
   SetTraceSink(nullptr);
-  const TestAcl full(std::vector<TestAce>(3276, TestAce{.type = 1}), 7);
-  full.aces[3275].size += 7;
+  const TestAcl full(std::vector<TestAce>(3276, TestAce{.type = 1}), 4);
+  full.aces[3275].size += 4;
   CHECK(FindACEInACL(full.acl, ace.get()) == 3274);
   CHECK(CopyACL(full.acl, TestAcl({{}}).acl) == FALSE);
 }
