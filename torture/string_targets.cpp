@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lib/paths/long_path_prefix.h"
+#include "lib/registry/registry_value_path.h"
 #include "lib/string/compare_no_case.h"
 #include "lib/string/format_text.h"
 #include "lib/string/string_tokenizer.h"
@@ -163,6 +164,19 @@ void Prefixes(Input& input) {
          "nothing is taken off a path without a prefix");
 }
 
+void ParseValuePath(Input& input) {
+  const std::wstring path = (input.Chance() ? L"HKEY_USERS\\" : L"") + input.Text(20, L"\\ab");
+  HKEY root = nullptr;
+  WString key;
+  WString name;
+  const bool isWhole = ParseRegistryValuePath(WString(path), root, key, name);
+  Expect(isWhole == (root == HKEY_USERS && !key.empty() && !name.empty()),
+         "a path is whole with a root, a key and a name");
+  Expect(!isWhole || Plain(L"HKEY_USERS\\" + key + L"\\" + name) == path,
+         "the parts make up the path");
+  Expect(root == nullptr || path.starts_with(L"HKEY_USERS"), "no root is made up");
+}
+
 std::wstring Join(const std::vector<std::wstring>& items) {
   std::wstring list;
   for (const std::wstring& item : items) {
@@ -197,9 +211,9 @@ void EditList(Input& input) {
 }  // namespace
 
 std::vector<Target> StringTargets() {
-  return {{"tokenizer", Tokenize}, {"comparison", Compare},      {"text", EditText},
-          {"format", Format},      {"substitution", Substitute}, {"routines", Routines},
-          {"prefixes", Prefixes},  {"applications", EditList}};
+  return {{"tokenizer", Tokenize}, {"comparison", Compare},         {"text", EditText},
+          {"format", Format},      {"substitution", Substitute},    {"routines", Routines},
+          {"prefixes", Prefixes},  {"value paths", ParseValuePath}, {"applications", EditList}};
 }
 
 }  // namespace kelvo::torture

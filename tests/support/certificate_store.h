@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include "lib/string/hex_text.h"
+
 namespace kelvo::test {
 
 // The subjects of this suite's certificates in a system store of the local machine; with `remove`,
@@ -27,13 +29,8 @@ inline std::wstring SubjectsInStore(const wchar_t* name, bool remove = false) {
     if (remove &&
         CertGetCertificateContextProperty(certificate, CERT_SHA1_HASH_PROP_ID, hash, &size)) {
       // Wine keeps what CertDeleteCertificateFromStore deletes.
-      std::wstring key =
-          L"Software\\Microsoft\\SystemCertificates\\" + std::wstring(name) + L"\\Certificates\\";
-      for (const BYTE byte : hash) {
-        wchar_t digits[3];
-        swprintf(digits, 3, L"%02X", byte);
-        key += digits;
-      }
+      const WString key = WString(L"Software\\Microsoft\\SystemCertificates\\") + name +
+                          L"\\Certificates\\" + BytesToHex(hash, size);
       RegDeleteTreeW(HKEY_LOCAL_MACHINE, key.c_str());
     }
   }

@@ -4,6 +4,7 @@
 
 #include <security.h>
 
+#include <numeric>
 #include <set>
 
 #include "lib/platform/guarded_call.h"
@@ -137,10 +138,7 @@ struct Machine {
     for (const auto& [handle, function] : interception.open) {
       names.insert(" " + function);
     }
-    std::string leftOpen;
-    for (const std::string& function : names) {
-      leftOpen += function;
-    }
+    const auto leftOpen = std::accumulate(names.begin(), names.end(), std::string());
     const WString state =
         FormatText(L"= %s [%s] [%s] [%s]", answer.c_str(), ReadApplicationList().c_str(),
                    SubjectsInStore(L"TrustedPublisher").c_str(), SubjectsInStore(L"CA").c_str());
