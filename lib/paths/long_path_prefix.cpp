@@ -12,6 +12,9 @@ namespace {
 constexpr std::wstring_view kPrefix = L"\\\\?\\";
 constexpr std::wstring_view kUncPrefix = L"\\\\?\\UNC\\";
 
+// What Windows takes, without the NUL.
+constexpr std::size_t kMaxLength = 32'767;
+
 std::wstring_view ViewOf(const wchar_t* path) { return path != nullptr ? path : L""; }
 
 bool IsSeparator(wchar_t unit) { return unit == L'\\' || unit == L'/'; }
@@ -45,11 +48,14 @@ WString AddLongPathPrefix(const wchar_t* path) {
   const std::wstring_view given = ViewOf(path);
   if (BeginsWithDrive(given) || BeginsWithServer(given)) {
     const WString full = FullPath(path);
+    WString prefixed;
     if (BeginsWithDrive(full)) {
-      return WString(kPrefix) + full;
+      prefixed = WString(kPrefix) + full;
+    } else if (BeginsWithServer(full)) {
+      prefixed = WString(kUncPrefix) + full.substr(2);
     }
-    if (BeginsWithServer(full)) {
-      return WString(kUncPrefix) + full.substr(2);
+    if (!prefixed.empty() && prefixed.length() <= kMaxLength) {
+      return prefixed;
     }
   }
   return WString(given);

@@ -10,7 +10,8 @@ namespace kelvo {
 // Makes "\\?\C:\x" of "C:\x" and "\\?\UNC\server\share\x" of "\\server\share\x" or
 // "//server/share/x", after GetFullPathNameW has resolved it. Returns `path` as it is when it is
 // empty, begins with "\\?\", "\\.\" or "\??\", is not fully qualified ("C:x", "\x", "x"), names a
-// device ("C:\NUL"), or cannot be resolved. Throws std::bad_alloc when memory runs out.
+// device ("C:\NUL"), cannot be resolved, or would be too long. Throws std::bad_alloc when memory
+// runs out.
 WString AddLongPathPrefix(const wchar_t* path);
 
 // Makes "C:\x" of "\\?\C:\x" and "\\server\share" of "\\?\UNC\server\share", with "UNC" in any

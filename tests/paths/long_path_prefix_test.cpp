@@ -33,8 +33,10 @@ TEST_CASE("a prefix is put before what is fully qualified, and taken off what it
     CHECK(HasLongPathPrefix(path) ==
           (path != nullptr && std::wstring_view(path).starts_with(L"\\\\?\\")));
   }
-  const std::wstring longest = L"C:\\" + std::wstring(32'000, L'x');
-  CHECK(AddLongPathPrefix(longest.c_str()) == (L"\\\\?\\" + longest).c_str());
+  for (const std::size_t length : {32'763U, 32'764U}) {
+    const std::wstring path = L"C:\\" + std::wstring(length - 3, L'x');
+    CHECK(AddLongPathPrefix(path.c_str()).length() == (length < 32'764 ? length + 4 : length));
+  }
   REPLACE(GetFullPathNameW, [](auto...) { return DWORD{0}; });
   CHECK(AddLongPathPrefix(L"C:\\x") == L"C:\\x");
 }
