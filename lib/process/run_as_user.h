@@ -14,8 +14,10 @@ namespace kelvo {
 // duration of the call, and the DACLs of station and desktop open to the token's user for good.
 // Needs SeTakeOwnershipPrivilege to be named on the system and SeAssignPrimaryTokenPrivilege or a
 // token that may be assigned. The new process and its thread get a null DACL: everyone has full
-// access. Leaves open: the token, and the handles of station and desktop that were opened. Failures
-// are traced.
+// access. Leaves enabled, for the rest of this process, what it holds of SeTakeOwnershipPrivilege,
+// SeTcbPrivilege, SeChangeNotifyPrivilege, SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege
+// and SeCreateTokenPrivilege. Leaves open: the token, and the handles of station and desktop that
+// were opened. Failures are traced.
 BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process);
 
 }  // namespace kelvo

@@ -4,8 +4,8 @@
 
 namespace kelvo {
 
-// A list whose entries do not lie wholly inside it counts as one that GetAclInformation refuses,
-// here and in GetACEInsertionIndex; every failure is traced.
+// A list whose entries do not lie wholly inside it counts as one that GetAclInformation refuses.
+// Failures are traced, except exceptions, which count as failures without a trace.
 
 // What stands for "no index". AddAce takes it for "at the end".
 constexpr DWORD kNoAceIndex = MAXDWORD;
@@ -20,7 +20,7 @@ DWORD FindACEInACL(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 BOOL CopyACL(ACL* destination, const ACL* source);
 
 // The bytes that a list needs for the entries of `acl` (null: none), one access entry for each of
-// the SIDs and the given ACEs, and a header; a header that `acl` has is counted besides. Either
+// the SIDs and the given ACEs, and a header; `acl`'s own header is counted in addition. Either
 // array may be null when its count is 0. Returns 0 when the list cannot be read or a SID is
 // invalid.
 DWORD CalculateACLSize(const ACL* acl, const PSID* sids, DWORD sidCount,

@@ -4,9 +4,10 @@
 
 namespace kelvo {
 
-// Grants the current user `mask` on a kernel object, by an entry in its DACL beside those that are
-// there. The handle needs READ_CONTROL and WRITE_DAC. Answers TRUE whatever happened: that a step
-// failed, and which, is only traced. An object without a DACL stays as it is. Each call leaves its
+// Grants the current user `mask` on a kernel object, by adding an entry to its DACL. The handle
+// needs READ_CONTROL and WRITE_DAC. Returns TRUE always; that a step failed, and which, is only
+// traced. An object without a DACL stays as it is. Where the DACL is present but null, which lets
+// everyone in, it gets one with this entry alone, which shuts the others out. Each call leaves its
 // buffers allocated.
 BOOL ModifySecurity(HANDLE object, DWORD mask);
 

@@ -4,12 +4,11 @@
 
 namespace kelvo {
 
-// Each puts an explicit access-allowed entry for one SID in its canonical place of a window
-// object's DACL and returns TRUE; so it does when an equal entry is there already and when the
-// object has no DACL, and changes nothing. The handle needs READ_CONTROL and WRITE_DAC. Returns
-// FALSE, and traces why, when the DACL cannot be read, rebuilt or written; the object then keeps
-// its DACL. Each call leaves the memory of one entry allocated, and that of a list beyond 1,008
-// bytes.
+// Grants `sid` access to a window object by adding an explicit allow ACE in canonical position to
+// its DACL. Returns TRUE, changing nothing, when an equal ACE exists or the object has no DACL. The
+// handle needs READ_CONTROL and WRITE_DAC. Returns FALSE, and traces why, when the DACL cannot be
+// read, rebuilt or written; the object then keeps its DACL. Each call leaves the memory of one
+// entry allocated, and that of a list beyond 1,008 bytes.
 
 // STANDARD_RIGHTS_REQUIRED and all rights of window stations: mask 0x000F037F.
 BOOL AllowAccessToWinSta(PSID sid, HWINSTA station);
