@@ -54,30 +54,3 @@ TEST_CASE("a certificate goes in once; all is closed but the store of an unreada
   CHECK(ImportCertToSystemStore(L"missing.cer", L"no such store") == ERROR_FILE_NOT_FOUND);
   RemoveTestCertificates();
 }
-
-TEST_CASE("without crypt32.dll or one of its functions nothing is touched and the error says so") {
-  RemoveTestCertificates();
-  int opened = 0;
-  REPLACE_LOOKUP(CertOpenStore,
-                 [&](auto original, auto... given) { return ++opened, original(given...); });
-  const std::wstring path = ProgramPath(L"certificates\\binary.cer");
-  const auto import = [&] { return ImportCertToTrustedPublishers(path.c_str()); };
-  {
-    REPLACE(LoadLibraryW, [](auto original, LPCWSTR name) {
-      CHECK(name == std::wstring(L"crypt32.dll"));
-      return original(L"no such library.dll");
-    });
-    CHECK(import() == ERROR_MOD_NOT_FOUND);
-  }
-  for (const char* const missing : {"CryptQueryObject", "CertAddCertificateContextToStore",
-                                    "CertFreeCertificateContext", "CertCloseStore"}) {
-    CAPTURE(missing);
-    const ReplacedExport nothing(missing, nullptr);
-    CHECK(import() == ERROR_PROC_NOT_FOUND);
-  }
-  CHECK(opened == 0);
-  CHECK(import() == ERROR_SUCCESS);
-  CHECK(opened == 1);
-  const ReplacedExport nothing("CertOpenStore", nullptr);
-  CHECK(import() == ERROR_PROC_NOT_FOUND);
-}

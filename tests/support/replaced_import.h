@@ -20,9 +20,10 @@
 
 namespace kelvo::test {
 
-// Directs a module's calls of an imported function to `target` and returns the previous target.
-inline void* SwapImport(const std::string& function, void* target,
-                        HMODULE module = GetModuleHandleW(nullptr)) {
+// Calls `visit(library, function, slot)` for each function that a module imports by name, until it
+// returns true.
+template <typename Visit>
+void VisitImports(HMODULE module, Visit visit) {
   auto* const image = reinterpret_cast<BYTE*>(module);
   const auto* const headers = reinterpret_cast<IMAGE_NT_HEADERS*>(
       image + reinterpret_cast<IMAGE_DOS_HEADER*>(image)->e_lfanew);
@@ -35,18 +36,31 @@ inline void* SwapImport(const std::string& function, void* target,
          std::memcpy(&name, image + library->OriginalFirstThunk + at, sizeof(name)), name != 0;
          at += sizeof(name)) {
       if (!IMAGE_SNAP_BY_ORDINAL(name) &&
-          function == reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(image + name)->Name) {
-        auto* const slot = image + library->FirstThunk + at;
-        void* previous = nullptr;
-        DWORD protection = 0;
-        VirtualProtect(slot, sizeof(previous), PAGE_READWRITE, &protection);
-        std::memcpy(&previous, slot, sizeof(previous));
-        std::memcpy(slot, &target, sizeof(target));
-        return previous;
+          visit(reinterpret_cast<const char*>(image + library->Name),
+                std::string(reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(image + name)->Name),
+                image + library->FirstThunk + at)) {
+        return;
       }
     }
   }
-  throw std::runtime_error("this module does not import " + function);
+}
+
+// Directs a module's calls of an imported function to `target` and returns the previous target.
+inline void* SwapImport(const std::string& function, void* target,
+                        HMODULE module = GetModuleHandleW(nullptr)) {
+  void* previous = nullptr;
+  VisitImports(module, [&](const char*, const std::string& name, BYTE* slot) {
+    if (name != function) {
+      return false;
+    }
+    DWORD protection = 0;
+    VirtualProtect(slot, sizeof(previous), PAGE_READWRITE, &protection);
+    std::memcpy(&previous, slot, sizeof(previous));
+    std::memcpy(slot, &target, sizeof(target));
+    return true;
+  });
+  return previous != nullptr ? previous
+                             : throw std::runtime_error("this module does not import " + function);
 }
 
 // While it lives, `replacement` is called in place of an imported function, with the original

@@ -16,8 +16,9 @@ namespace kelvo::test {
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
-  // The function whose call of this number, counted from 1, fails.
-  std::pair<std::string, int> failing;
+  // The function whose call of this number, counted from 1, fails, or ends the thread before it.
+  std::pair<std::string, int> chosen;
+  bool ends = false;
   // What is open, with the function that opened it.
   std::map<const void*, std::string> open;
 };
@@ -50,8 +51,11 @@ const void* OpenedHandle([[maybe_unused]] Value value, bool isResult) {
 template <typename Function, typename... Given>
 auto Intercept(const char* name, long long failure, Handles handles, Given... given) {
   using Result = std::invoke_result_t<Function, Given...>;
-  auto& [originals, calls, failing, open] = interception;
-  const bool fails = failing == std::pair<std::string, int>(name, ++calls[name]);
+  auto& [originals, calls, chosen, ends, open] = interception;
+  const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
+  if (fails && ends) {
+    ExitThread(0);
+  }
   if (fails && handles != Handles::kCloses) {
     SetLastError(kFailure);
     return (Result)failure;

@@ -4,11 +4,16 @@
 
 #include "lib/paths/file_exists.h"
 #include "lib/paths/shell_folder_path.h"
+#include "lib/process/process_command_line.h"
+#include "lib/process/remote_client.h"
+#include "lib/process/run_as_user.h"
+#include "lib/process/session_process.h"
 #include "lib/registry/registry_binary.h"
 #include "lib/registry/registry_key_tree.h"
 #include "lib/registry/registry_number.h"
 #include "lib/registry/registry_string.h"
 #include "lib/registry/registry_value_list.h"
+#include "lib/security/file_access.h"
 #include "lib/security/process_privilege.h"
 #include "lib/sysinfo/administrators.h"
 #include "lib/sysinfo/color_depth.h"
@@ -38,6 +43,7 @@ std::wstring Answer(Run run) {
 }
 
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
+wchar_t buffer[MAX_PATH];
 // What differs from machine to machine.
 WString IsThere(const WString& text) { return text.empty() ? L"nothing" : L"a text"; }
 
@@ -101,4 +107,10 @@ extern "C" __declspec(dllexport) const Operation operations[] = {
     CALL(Text(IsLowResolution())),
     CALL(IsThere(Text(GetComCtlVersionPacked()))),
     CALL(Text(EnablePrivilege(L"SeBackupPrivilege", TRUE))),
+    CALL(Text(GetShellFolderPath(nullptr, buffer, L"AppData"))),
+    CALL(Text(GetProcessCommandLine(GetCurrentProcess(), buffer, sizeof(buffer)) > 0)),
+    CALL(Text(GetRemoteClientName(buffer, MAX_PATH))),
+    CALL(Text(LaunchInUserSession(L"none.exe", L"", true, nullptr))),
+    CALL(Text(RunAsUser(lstrcpyW(buffer, L"none.exe"), TRUE, nullptr))),
+    CALL(Text(AddFileAccessRights(L"shared file", L"S-1-1-0", GENERIC_ALL))),
     {nullptr, nullptr, nullptr}};

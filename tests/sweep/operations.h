@@ -8,6 +8,6 @@ struct Operation {
   const char* name;
   // The applications that are recorded before it runs.
   const wchar_t* list;
-  // Returns what came of it: an exit code, a value, or "ended" where an exception left it.
+  // Returns what came of it: an exit code, a value, or "an exception".
   std::wstring (*run)();
 };

@@ -2,7 +2,11 @@
 #define SECURITY_WIN32
 #include <windows.h>
 
+#include <aclapi.h>
+#include <sddl.h>
 #include <security.h>
+#include <winternl.h>
+#include <wtsapi32.h>
 
 #include <numeric>
 #include <set>
@@ -17,64 +21,9 @@
 #include "tests/sweep/operations.h"
 #include "tool/dependent_applications.h"
 
-// How each function fails, and whether it opens or closes.
 static constexpr auto kNone = Handles::kNone, kOpens = Handles::kOpens, kCloses = Handles::kCloses;
 static const auto kWatched = std::to_array<Watched>({
-    WATCH(AdjustTokenPrivileges, FALSE, kNone),
-    WATCH(AllocateAndInitializeSid, FALSE, kOpens),
-    WATCH(CertAddCertificateContextToStore, FALSE, kNone),
-    WATCH(CertCloseStore, FALSE, kCloses),
-    WATCH(CertFreeCertificateContext, FALSE, kCloses),
-    WATCH(CertOpenStore, 0, kOpens),
-    WATCH(CloseHandle, FALSE, kCloses),
-    WATCH(CryptQueryObject, FALSE, kOpens),
-    WATCH(ExpandEnvironmentStringsW, 0, kNone),
-    WATCH(FindClose, FALSE, kCloses),
-    WATCH(FindFirstFileW, -1, kOpens),
-    WATCH(FormatMessageW, 0, kNone),
-    WATCH(FreeLibrary, FALSE, kCloses),
-    WATCH(FreeSid, 0, kCloses),
-    WATCH(GetComputerNameExW, FALSE, kNone),
-    WATCH(GetComputerNameW, FALSE, kNone),
-    WATCH(GetDC, 0, kOpens),
-    WATCH(GetFileVersionInfoSizeW, 0, kNone),
-    WATCH(GetFileVersionInfoW, FALSE, kNone),
-    WATCH(GetModuleFileNameW, 0, kNone),
-    WATCH(GetProcAddress, 0, kNone),
-    WATCH(GetStdHandle, -1, kNone),
-    WATCH(GetSystemDirectoryW, 0, kNone),
-    WATCH(GetTokenInformation, FALSE, kNone),
-    WATCH(GetUserNameExW, FALSE, kNone),
-    WATCH(GetUserNameW, FALSE, kNone),
-    WATCH(GetVersionExW, FALSE, kNone),
-    WATCH(GlobalAlloc, 0, kOpens),
-    WATCH(GlobalFree, 0, kCloses),
-    WATCH(GlobalLock, 0, kNone),
-    WATCH(LCMapStringW, 0, kNone),
-    WATCH(LoadLibraryA, 0, kOpens),
-    WATCH(LoadLibraryExW, 0, kOpens),
-    WATCH(LoadLibraryW, 0, kOpens),
-    WATCH(LocalAlloc, 0, kOpens),
-    WATCH(LocalFree, 1, kCloses),
-    WATCH(LookupPrivilegeValueW, FALSE, kNone),
-    WATCH(OpenProcessToken, FALSE, kOpens),
-    WATCH(OpenThreadToken, FALSE, kOpens),
-    WATCH(RegCloseKey, kFailure, kCloses),
-    WATCH(RegCreateKeyExW, kFailure, kOpens),
-    WATCH(RegDeleteKeyExW, kFailure, kNone),
-    WATCH(RegDeleteValueW, kFailure, kNone),
-    WATCH(RegEnumKeyExW, kFailure, kNone),
-    WATCH(RegEnumValueW, kFailure, kNone),
-    WATCH(RegOpenKeyExW, kFailure, kOpens),
-    WATCH(RegQueryInfoKeyW, kFailure, kNone),
-    WATCH(RegQueryValueExW, kFailure, kNone),
-    WATCH(RegSetValueExW, kFailure, kNone),
-    WATCH(ReleaseDC, 0, kCloses),
-    WATCH(VerQueryValueW, FALSE, kNone),
-    WATCH(WriteFile, FALSE, kNone),
-    WATCH(_vscwprintf, -1, kNone),
-    WATCH(_vsnwprintf, -1, kNone),
-    WATCH(malloc, 0, kNone),
+#include "tests/sweep/watched.def"
 });
 
 // What an operation looks up is intercepted as well as what it imports.
@@ -89,6 +38,7 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
 }
 
 static std::string written;
+static std::wstring answer;
 static BOOL WINAPI KeepWritten(HANDLE, const void* bytes, DWORD size, DWORD* done, OVERLAPPED*) {
   written.append(static_cast<const char*>(bytes), size);
   return (*done = size) != 0;
@@ -107,11 +57,16 @@ struct Machine {
     LoadLibraryW(ProgramPath(L"simulator\\bthprops.cpl").c_str());
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", journal.c_str());
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", L"1,0,Copying|3,5");
+    std::freopen(standardError.string().c_str(), "w", stderr);
   }
+
+  // kFails: the chosen call fails. kEnds: it ends the run, like an ended process. kGoesOn: no call
+  // fails, and the run begins with what the last one left.
+  enum class How { kFails, kEnds, kGoesOn };
 
   // Runs an operation in a library where nothing has run yet, and tells all that came of it;
   // nothing when the table has no more.
-  std::string Run(int index, const std::pair<std::string, int>& failing) {
+  std::string Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"sweep_operations.dll").c_str()));
     const auto* const operation =
         reinterpret_cast<const Operation*>(GetProcAddress(library.get(), "operations")) + index;
@@ -119,18 +74,30 @@ struct Machine {
       return {};
     }
     name = operation->name;
-    RegistryWriteString(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName,
-                        operation->list);
-    RemoveTestCertificates();
+    if (how != How::kGoesOn) {
+      RegistryWriteString(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName,
+                          operation->list);
+      RemoveTestCertificates();
+    }
     std::filesystem::remove(journal);
-    interception = {};
-    interception.failing = failing;
+    std::filesystem::remove("shared file");
+    std::ofstream("shared file");
+    interception = {{}, {}, chosen, how == How::kEnds, {}};
     written.clear();
     WatchImports(library.get(), kWatched);
     interception.originals["GetProcAddress"] = reinterpret_cast<void*>(FindIntercepted);
     interception.originals["GetModuleFileNameW"] = reinterpret_cast<void*>(NameSimulatedProgram);
     interception.originals["WriteFile"] = reinterpret_cast<void*>(KeepWritten);
-    const std::wstring answer = GuardedAnswer(std::wstring(L"died"), operation->run);
+    answer = L"ended";
+    const OwnedKernelObject thread(CreateThread(
+        nullptr, 0,
+        [](void* run) -> DWORD {
+          answer =
+              GuardedAnswer(std::wstring(L"died"), reinterpret_cast<decltype(Operation::run)>(run));
+          return 0;
+        },
+        reinterpret_cast<void*>(operation->run), 0, nullptr));
+    WaitForSingleObject(thread.get(), INFINITE);
     // Before the library is unloaded.
     calls = interception.calls;
     // By name: handles come in any order.
@@ -142,7 +109,8 @@ struct Machine {
     const WString state =
         FormatText(L"= %s [%s] [%s] [%s]", answer.c_str(), ReadApplicationList().c_str(),
                    SubjectsInStore(L"TrustedPublisher").c_str(), SubjectsInStore(L"CA").c_str());
-    std::string all = written + Ascii(state.c_str()) + leftOpen + "\r\n" + ReadBytes(journal);
+    reached = written + Ascii(state.c_str());
+    std::string all = reached + leftOpen + "\r\n" + ReadBytes(journal) + ReadBytes(standardError);
     // What is not text would make the file of expectations no text either.
     std::ranges::replace_if(all, [](char byte) { return byte < '\n' || byte > '~'; }, '?');
     return all;
@@ -150,9 +118,12 @@ struct Machine {
 
   std::string name;
   std::map<std::string, int> calls;
+  // The lines, what was answered, the list and the stores.
+  std::string reached;
   CleanMachine clean;
   ScratchFolder folder;
   std::filesystem::path journal = folder / "journal";
+  std::filesystem::path standardError = folder / "standard error";
 };
 
 TEST_CASE("each call that fails has the consequences that stand in sweep.txt, and no others") {
@@ -183,3 +154,36 @@ TEST_CASE("each call that fails has the consequences that stand in sweep.txt, an
   }
   CheckAgainstFile(seen, L"sweep.txt");
 }
+
+TEST_CASE("a command that is ended at any call leaves what its next run completes") {
+  Machine machine;
+  for (const int index : {0, 2}) {
+    machine.Run(index, {});
+    const auto [calls, expected] = std::pair(machine.calls, machine.reached);
+    for (const auto& [function, made] : calls) {
+      // Ended where memory is asked for, a run keeps the C runtime's locks.
+      for (int nth = 1; nth <= made && function != "malloc"; ++nth) {
+        INFO(function, "-", nth);
+        machine.Run(index, {function, nth}, Machine::How::kEnds);
+        REQUIRE(answer == L"ended");
+        machine.Run(index, {}, Machine::How::kGoesOn);
+        CHECK(machine.reached == expected);
+      }
+    }
+  }
+}
+
+#ifdef __MINGW32__  // Another toolchain's runtime imports other functions.
+TEST_CASE("every imported function is made to fail, or spared.txt says why it is not") {
+  const OwnedModule library(LoadLibraryW(ProgramPath(L"sweep_operations.dll").c_str()));
+  std::string known = ReadBytes(ProgramPath(L"expected\\spared.txt"));
+  for (const Watched& watched : kWatched) {
+    known += watched.name + std::string(" ");
+  }
+  VisitImports(library.get(), [&](const std::string& from, const std::string& name, BYTE*) {
+    CAPTURE(name);
+    CHECK((from == "msvcrt.dll" || known.find(name + " ") != std::string::npos));
+    return false;
+  });
+}
+#endif
