@@ -1,6 +1,6 @@
 #include <aclapi.h>
 
-#include <set>
+#include <map>
 
 #include "lib/process/interactive_desktop.h"
 #include "lib/process/run_as_user.h"
@@ -13,6 +13,7 @@
 #include "lib/security/token_object_access.h"
 #include "lib/security/token_privileges.h"
 #include "lib/security/window_object_access.h"
+#include "lib/string/format_text.h"
 #include "lib/trace/trace_sink.h"
 #include "tests/security/test_acl.h"
 #include "tests/support/failing_call.h"
@@ -36,8 +37,9 @@ static std::wstring operation;
 static std::wstring traced;
 
 // Makes each call that an operation makes to these functions fail, one at a time and in both ways.
-// What then comes of the operation, without the traces of others that it calls, stands sorted in
-// failure_messages.txt.
+// What then comes of the operation, without the traces of others that it calls, stands in
+// failure_messages.txt, behind the first call of each function that leads there; one that throws
+// has an exclamation mark.
 TEST_CASE("each failing call has its message, then the operation its own") {
   SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
     const std::wstring text = tag == std::wstring(L"RunAsEx") ? message : L"a wrong tag";
@@ -83,9 +85,10 @@ TEST_CASE("each failing call has its message, then the operation its own") {
        [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
       {L"RunAsUser", [&] { return IsOnInteractiveDesktop(); }},
       {L"RunAsUser", [&] { return RunAsUser(command, TRUE, nullptr); }}};
-  std::set<std::wstring> outcomes;
+  std::wstring seen;
   for (const auto& [name, succeeds] : operations) {
     operation = name;
+    std::map<std::wstring, std::wstring> outcomes;
     const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
       // A restoring call may have been the one that failed.
       SetProcessWindowStation(scope.station);
@@ -97,7 +100,11 @@ TEST_CASE("each failing call has its message, then the operation its own") {
       traced.clear();
       bool succeeded = false;
       const bool wasReached = failing.run(nth, throws, [&] { succeeded = succeeds(); });
-      outcomes.insert(operation + (succeeded ? L" succeeds" : L" fails") + traced + L"\n");
+      std::wstring& calls = outcomes[(succeeded ? L"\n    succeeds" : L"\n    fails") + traced];
+      const WString call = FormatText(throws ? L" %hs!-" : L" %hs-", failing.function);
+      if (wasReached && calls.find(call.c_str()) == std::wstring::npos) {
+        calls += call.c_str() + std::to_wstring(nth);
+      }
       return wasReached;
     };
     for (const FailingCall& failing : kFailing) {
@@ -106,12 +113,11 @@ TEST_CASE("each failing call has its message, then the operation its own") {
         }
       }
     }
+    for (const auto& [outcome, calls] : outcomes) {
+      seen += operation + calls + outcome + L"\n";
+    }
   }
   SetTraceSink(nullptr);
   TraceMessage(L"nobody", L"listens");
-  std::wstring seen;
-  for (const std::wstring& outcome : outcomes) {
-    seen += outcome;
-  }
   CheckAgainstFile(seen, L"failure_messages.txt");
 }
