@@ -27,6 +27,6 @@ DWORD WINAPI BluetoothSetLocalServiceInfo(HANDLE hRadioIn, const GUID* pClassGui
       pClassGuid->Data4[3], pClassGuid->Data4[4], pClassGuid->Data4[5], pClassGuid->Data4[6],
       pClassGuid->Data4[7], ulInstance, pServiceInfoIn->Enabled, pServiceInfoIn->btAddr.ullLong,
       pServiceInfoIn->szName, pServiceInfoIn->szDeviceString);
-  WriteToJournal(line.c_str());
+  WriteToJournal(line);
   return NumberFromEnvironment(L"SORREL_SIMULATOR_BLUETOOTH_RESULT");
 }

@@ -16,10 +16,10 @@ namespace {
 DIFXAPILOGCALLBACK_W logCallback = nullptr;
 void* logContext = nullptr;
 
-// Calls back for each event of SORREL_SIMULATOR_DRIVER_LOG: "level,code,text" with "|" between
-// events; an event without the second comma has no text at all.
+// Calls back for each event in SORREL_SIMULATOR_DRIVER_LOG: "level,code,text", with "|" between
+// events. An event without a second comma has a null text.
 void SendLogEvents() {
-  const kelvo::WString events(TextFromEnvironment(L"SORREL_SIMULATOR_DRIVER_LOG").c_str());
+  const kelvo::WString events = TextFromEnvironment(L"SORREL_SIMULATOR_DRIVER_LOG");
   for (kelvo::StringTokenizer tokens(events, L"|", true); tokens.HasMoreTokens();) {
     const kelvo::WString event = tokens.NextToken();
     wchar_t* rest = nullptr;
@@ -50,7 +50,7 @@ DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
   const kelvo::WString line =
       kelvo::FormatText(L"DriverPackageInstallW inf=\"%s\" flags=%lu installer=%s reboot=%d",
                         infPath, flags, installerInfo == nullptr ? L"none" : L"given", *needReboot);
-  WriteToJournal(line.c_str());
+  WriteToJournal(line);
   if (logCallback != nullptr) {
     SendLogEvents();
   }

@@ -2,23 +2,23 @@
 
 #include <windows.h>
 
-#include <string>
+#include "lib/string/wstring.h"
 
 namespace kelvo::simulator {
 
-// The number in an environment variable, written as in C (0x for hexadecimal); 0 when it is not
-// set.
+// Returns the number in an environment variable, written as in C (0x for hexadecimal), or 0 when it
+// is not set.
 DWORD NumberFromEnvironment(const wchar_t* name);
 
-// The text in an environment variable; empty when it is not set.
-std::wstring TextFromEnvironment(const wchar_t* name);
+// Returns the value of an environment variable, or an empty string when it is not set.
+WString TextFromEnvironment(const wchar_t* name);
 
-// Adds one line, in UTF-8, to the file that SORREL_SIMULATOR_JOURNAL names; does nothing when it
-// names none.
-void WriteToJournal(const std::wstring& line);
+// Appends a line, in UTF-8, to the file that the environment variable SORREL_SIMULATOR_JOURNAL
+// names; does nothing when it is not set.
+void WriteToJournal(const WString& line);
 
-// What DllMain does in each stand-in: a line when the library is loaded and one when it is freed,
-// but none when the process ends with the library still loaded.
+// Called by DllMain of each stand-in: journals that the library is loaded or freed, but not the end
+// of a process that still has it loaded.
 void JournalLibrary(const wchar_t* name, DWORD reason, const void* processEnds);
 
 }  // namespace kelvo::simulator

@@ -11,6 +11,7 @@
 #include "status/command_line.h"
 #include "status/json_report.h"
 #include "status/text_report.h"
+#include "tool/library_search.h"
 
 namespace kelvo {
 
@@ -62,6 +63,7 @@ int Run(int count, const wchar_t* const* words) {
 }  // namespace kelvo
 
 extern "C" int wmain(int argc, wchar_t** argv) {
+  kelvo::NarrowLibrarySearch();
   try {
     return kelvo::Run(argc, argv);
   } catch (const std::exception& failure) {

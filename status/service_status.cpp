@@ -5,8 +5,8 @@
 #include <cwchar>
 #include <vector>
 
-#include "lib/platform/module.h"
 #include "lib/string/format_text.h"
+#include "status/setup_api.h"
 #include "tool/handsfree_service.h"
 
 namespace kelvo {
@@ -14,7 +14,7 @@ namespace kelvo {
 namespace {
 
 struct DeviceFunctions {
-  OwnedModule library{LoadLibraryExW(L"setupapi.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)};
+  OwnedModule library = LoadSetupApi();
   decltype(&SetupDiGetClassDevsW) getDevices =
       KELVO_FIND_FUNCTION(library.get(), SetupDiGetClassDevsW);
   decltype(&SetupDiEnumDeviceInfo) enumDevice =
@@ -93,10 +93,8 @@ bool IsServiceDevice(const wchar_t* hardwareIds) {
 }
 
 DWORD QueryBluetoothLibrary() {
-  // Where the tool finds it, and not in the current folder.
-  const OwnedModule library(
-      LoadLibraryExW(L"bthprops.cpl", nullptr,
-                     LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32));
+  // As the tool loads it, with the search for libraries narrowed.
+  const OwnedModule library(LoadLibraryW(L"bthprops.cpl"));
   return library ? ERROR_SUCCESS : GetLastError();
 }
 

@@ -52,8 +52,7 @@ void Report(const wchar_t* format, ...) {
 WString FormatSystemMessage(DWORD code) {
   constexpr DWORD kMessageLength = 2000;
   WString buffer(kMessageLength, L'\0');
-  // Cut to 0 on failure too: a text with inserts, which get no arguments here, may be left half
-  // done.
+  // 0 on failure: the call may leave half a message with inserts, which get no arguments here.
   buffer.resize(FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, code,
                                MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), buffer.data(),
                                kMessageLength, nullptr));

@@ -6,15 +6,16 @@
 
 namespace kelvo {
 
-// Writes one message to standard output, formatted by FormatText, before it returns: a setup
-// program that reads the pipe sees each step when it is done, and nothing is lost when the process
-// ends early. The bytes are fixed: CR LF for "\n", one byte for a unit up to U+00FF, "?" for any
-// other unit. A failing write is ignored. Throws std::bad_alloc when memory runs out.
+// Formats a message with FormatText (lib/string/format_text.h) and writes it to standard output
+// before it returns: a setup program that reads the pipe sees each step as soon as it is done, and
+// nothing is lost when the process ends early. The bytes do not depend on the locale: CR LF for
+// "\n", one byte for a unit up to U+00FF, "?" for any other unit. A failing write is ignored.
+// Throws std::bad_alloc when memory runs out.
 void Report(const wchar_t* format, ...);
 
-// The system's text for an error code (FormatMessageW, the user's language), at most 1,999
-// characters and with its final line break. Empty when the system has none, and for a text with
-// inserts ("%1"), which gets no arguments.
+// Returns the system's message for an error code in the user's language (FormatMessageW), at most
+// 1,999 characters, with its final line break. Returns an empty string when the system has none,
+// and for a message with inserts ("%1"), since there are no arguments for them.
 WString FormatSystemMessage(DWORD code);
 
 }  // namespace kelvo

@@ -9,36 +9,42 @@ namespace kelvo {
 
 // The applications that rely on the hands-free service: a list of names separated by ";" in the
 // REG_SZ value ApplicationsValueName under HKEY_LOCAL_MACHINE, ServiceParametersKey. It is empty
-// exactly when the value does not exist. A value that cannot be read as a text of at most 1,023
-// characters counts as empty. Names are taken as they stand.
+// exactly when the value does not exist. Names are used as they are given: the name ";" stores an
+// empty value.
+//
+// A value that RegistryReadString (lib/registry/registry_string.h) cannot read counts as empty: one
+// of more than kMaxRegistryStringSize bytes or of another type. A REG_EXPAND_SZ value is expanded;
+// an expansion of 260 characters or more is cut, and the next change writes the list back cut.
 inline constexpr const wchar_t* ServiceParametersKey =
     L"SYSTEM\\CurrentControlSet\\Services\\Tessalin\\Parameters";
 inline constexpr const wchar_t* ApplicationsValueName = L"applications";
 
-// The list as it stands in the registry.
+// Returns the list that the registry holds.
 WString ReadApplicationList();
 
-// The names in a list, in their order; runs of ";" count as one.
+// Returns the names in a list, in their order; runs of ";" count as one.
 std::vector<WString> ApplicationsInList(const WString& list);
 
-// Whether removing `name` removes `item`: the whole names are equal regardless of case.
+// Returns whether removing `name` removes `item`: whether the whole names are equal regardless of
+// letter case.
 bool IsSameApplication(const WString& item, const wchar_t* name);
 
-// The list with `name` at its end; nothing when the list stays as it is because `name` occurs
-// anywhere in it, case-sensitively: as a part of another name too, and an empty name always.
+// Returns the list with `name` at its end, or nothing when the list stays as it is because `name`
+// occurs in it, with regard to letter case: also as a part of another name. An empty name always
+// occurs.
 std::optional<WString> ListWithApplication(const WString& list, const wchar_t* name);
 
-// The list without all items equal to `name` regardless of case, the others in their order with one
-// ";" between them; empty when none is left.
+// Returns the list without any item that equals `name` regardless of letter case, the others in
+// their order with one ";" between them; empty when none is left.
 WString ListWithoutApplication(const WString& list, const wchar_t* name);
 
-// Records `name` in the registry unless the list has it already. Always true; a failing write is
-// not told.
+// Adds `name` to the list in the registry unless it is there already. Always returns true, even
+// when the write fails.
 bool AddDependentApplication(const wchar_t* name);
 
-// Removes `name` from the list in the registry and reports what is left in one line; removes the
-// value with the last name. `noneLeft` tells whether the list is empty now. Always true; a failing
-// write or deletion is not told.
+// Removes `name` from the list in the registry, and the value with the last name, and reports what
+// is left in one line. `noneLeft` receives whether the list is empty then. Always returns true,
+// even when the write or the deletion fails.
 bool RemoveDependentApplication(const wchar_t* name, bool& noneLeft);
 
 }  // namespace kelvo

@@ -26,11 +26,11 @@ struct INSTALLERINFO_W {
 
 inline constexpr DWORD DRIVER_PACKAGE_SILENT = 0x00000002;
 
-// Receives the interface's log events from now on; a null callback ends that.
+// Makes `callback` receive the interface's log events; null ends that.
 void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);
 
 // Installs the driver package of a fully qualified INF path. Stores in `needReboot` whether the
-// installation asks for a restart; returns a Win32 or SetupAPI error code.
+// installation asks for a restart. Returns 0 or a Win32 or SetupAPI error code.
 DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
                                    const INSTALLERINFO_W* installerInfo, BOOL* needReboot);
 }

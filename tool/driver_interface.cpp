@@ -11,7 +11,7 @@ namespace {
 
 constexpr const wchar_t* kLibraryName = L"difxapi.dll";
 
-// With its last backslash; empty when it cannot be told.
+// The program's own folder, with its last backslash; empty when it is unknown.
 WString ProgramDirectory() {
   constexpr DWORD kMaxPathLength = 0x8000;
   WString path(kMaxPathLength, L'\0');
@@ -45,7 +45,7 @@ void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description
   try {
     Report(L"INFO: %d - %08lX - %s\n", event, error, description != nullptr ? description : L"");
   } catch (...) {
-    // It would unwind through the interface and cut the installation off.
+    // An exception would unwind through the interface and cut the installation off.
     return;
   }
 }

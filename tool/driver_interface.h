@@ -7,8 +7,8 @@
 
 namespace kelvo {
 
-// The driver installation interface for as long as it is needed: the library is freed with this
-// object.
+// The driver installation interface, for as long as it is needed: destroying this object frees the
+// library.
 struct DriverInterface {
   OwnedModule library;
   decltype(&SetDifxLogCallbackW) setLogCallback = nullptr;
@@ -17,13 +17,14 @@ struct DriverInterface {
 
 // Loads the "difxapi.dll" in the program's own folder when that file exists, otherwise the one in
 // the system directory, and looks its functions up. Returns false when the library or a function is
-// missing; GetLastError then tells why, and nothing may be called. The library is named by its full
-// path: Windows gives its own copy, a known library, to everyone who asks for the bare name.
+// missing; GetLastError then returns why, and nothing may be called. The library is loaded by its
+// full path: it is one of Windows' known libraries, and by its bare name Windows would load its own
+// copy.
 bool BindDriverInterface(DriverInterface& driver);
 
 // The interface's log callback: reports the event as one "INFO: " line. A null description counts
-// as empty; `context` is not used. May be called on any thread. No exception leaves it: when memory
-// is short, the line is dropped.
+// as empty; `context` is unused. May be called on any thread. No exception leaves it: when memory
+// runs out, the line is dropped.
 void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description,
                               PVOID context) noexcept;
 

@@ -6,7 +6,7 @@
 namespace kelvo {
 
 bool EnableLoadDriverPrivilege() {
-  // Only the last error tells: the adjustment succeeds also when the token lacks the privilege.
+  // The adjustment also succeeds when the token lacks the privilege: only the last error tells.
   const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {
     // One wording for all three calls; the code tells them apart.

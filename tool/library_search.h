@@ -4,8 +4,8 @@ namespace kelvo {
 
 // Narrows the process's search for libraries to the program's own folder and the system directory
 // (SetDefaultDllDirectories), so that no library planted in the current folder or on PATH runs with
-// administrative rights. A Windows without that function, such as Windows 7 without its 2011
-// update, only takes the current folder out of the search (SetDllDirectoryW).
+// administrative rights. On a Windows without that function, such as Windows 7 without its 2011
+// update, only the current folder is removed from the search (SetDllDirectoryW).
 void NarrowLibrarySearch();
 
 }  // namespace kelvo

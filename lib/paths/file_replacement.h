@@ -2,16 +2,17 @@
 
 namespace kelvo {
 
-// Arranges that `target` is replaced by `source`, which is moved there, at the next start of the
-// system. Always returns true, whatever came of it. The first argument has no meaning.
+// Schedules `source` to be moved to `target`, replacing it, at the next start of Windows. Always
+// returns true, even when that fails. The first argument is not used.
 //
-// With `copyFirst`, a copy of `source` in a new file "wqr..." in the temporary folder is moved
-// instead, so that the caller may change or delete `source` at once; when the copy cannot be made,
-// nothing is arranged. Nor is it when either path is null.
+// With `copyFirst`, `source` is copied to a new file "wqr..." in the temporary folder, and the copy
+// is moved instead, so that the caller may change or delete `source` at once. When the copy cannot
+// be made, and when either path is null, nothing is scheduled.
 //
-// On NT the system keeps the order (MoveFileExW), which needs an administrator's rights. On Windows
-// 9x it is an entry in the section "Rename" of "WININIT.INI" in the Windows directory, with short
-// names (GetShortPathNameW); a name that has none of at most 254 characters stands there as it is.
+// On NT this is MoveFileExW, which needs administrative rights. On Windows 9x it is an entry in the
+// section "Rename" of "WININIT.INI" in the Windows directory, with short names (GetShortPathNameW);
+// a name without a short form of at most 254 characters is written as it is. Throws std::bad_alloc
+// when memory runs out.
 bool ScheduleFileReplace(const void* unused, const wchar_t* source, const wchar_t* target,
                          bool copyFirst);
 

@@ -67,7 +67,7 @@ WString RemoveLongPathPrefix(const wchar_t* path) {
       _wcsnicmp(path, kUncPrefix.data(), kUncPrefix.length()) == 0) {
     return WString(L"\\\\").append(given.substr(kUncPrefix.length()));
   }
-  // Behind the prefix "/" is no separator.
+  // After the prefix "/" is not a separator.
   const bool hasDrive = HasLongPathPrefix(path) &&
                         BeginsWithDrive(given.substr(kPrefix.length())) &&
                         given[kPrefix.length() + 2] == L'\\';

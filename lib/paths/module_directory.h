@@ -4,11 +4,12 @@
 
 namespace kelvo {
 
-// The directory of the module whose handle `module` points to, with a trailing backslash
-// (GetModuleFileNameW). A null pointer and a null handle mean the program itself. Returns one
-// process-wide buffer of 255 characters, which the next call overwrites. Empty when the process has
-// no such module, and when the directory with its backslash does not fit 254 characters and a NUL.
-// A path without a backslash counts as a directory. Throws std::bad_alloc when memory runs out.
+// Returns the directory, with a trailing backslash, of the module whose handle `module` points to
+// (GetModuleFileNameW). A null pointer or a null handle means the program itself. The result is a
+// process-wide buffer of 255 characters, which the next call overwrites. It is empty when the
+// process has no such module, and when the directory with its backslash is longer than 254
+// characters. A path without a backslash counts as a directory. Throws std::bad_alloc when memory
+// runs out.
 const wchar_t* GetModuleDirectory(const HMODULE* module);
 
 }  // namespace kelvo

@@ -7,14 +7,15 @@
 namespace kelvo {
 
 // Writes the path of a shell folder, known by its registry value name such as "Personal" or
-// "AppData", into `out` (260 characters) with a trailing backslash and returns true. Looks under
-// "Software\Microsoft\Windows\CurrentVersion\Explorer" for "User Shell Folders" of the user, then
-// of the machine, then for "Shell Folders" of both; the first text that is not empty counts, as it
-// is stored: environment references stay. A text too long for `out` with its backslash counts as
-// empty.
+// "AppData", with a trailing backslash to `out` (260 characters) and returns true. Looks below
+// "Software\Microsoft\Windows\CurrentVersion\Explorer" in "User Shell Folders" of the user, then of
+// the machine, then in "Shell Folders" of both. The first string that is not empty is taken as it
+// is stored, without expanding environment variables; one that does not fit `out` with its
+// backslash counts as empty.
 //
-// Where no place has one, `out` gets GetModuleDirectory(module), and the answer is whether that is
-// not empty.
+// When none of the four has one, `out` receives GetModuleDirectory(module)
+// (lib/paths/module_directory.h), and the function returns whether that is not empty. Throws
+// std::bad_alloc when memory runs out.
 bool GetShellFolderPath(const HMODULE* module, std::span<wchar_t, MAX_PATH> out,
                         const wchar_t* valueName);
 

@@ -16,12 +16,12 @@ struct ModuleTraits {
 
 }  // namespace internal
 
-// A library that this process loaded and frees again with FreeLibrary. A module that is only looked
-// up (GetModuleHandleW) is a plain HMODULE.
+// A library that this process has loaded, freed with FreeLibrary; null when there is none. A module
+// that is only looked up (GetModuleHandleW) is a plain HMODULE.
 using OwnedModule = Owned<internal::ModuleTraits>;
 
-// The function that `module` exports under `name` (GetProcAddress), or null when the module is null
-// or has no such export; GetLastError then tells why the lookup failed.
+// Returns the function that `module` exports as `name` (GetProcAddress), or null when the module is
+// null or has no such export; GetLastError then returns why.
 template <typename Function>
 Function* FindFunction(HMODULE module, const char* name) {
   if (module == nullptr) {
@@ -33,7 +33,7 @@ Function* FindFunction(HMODULE module, const char* name) {
 
 }  // namespace kelvo
 
-// FindFunction for a function that a header declares: its name, given once, is the export's name
-// and brings the type.
+// FindFunction for a function that a header declares: its name is given once, for the export and
+// for the type.
 #define KELVO_FIND_FUNCTION(module, function) \
   ::kelvo::FindFunction<decltype(::function)>((module), #function)

@@ -7,10 +7,10 @@
 
 namespace kelvo {
 
-// Owns one handle and closes it when it goes. `Kind` describes a kind of handle:
+// Owns one handle and closes it when it is destroyed. `Kind` describes a kind of handle:
 //   using Handle = ...;             the Windows type
-//   static Handle None();           the value that stands for "no handle" of this kind
-//   static void Close(Handle);      closes one; never called with None()
+//   static Handle None();           the value that means "no handle" of this kind
+//   static void Close(Handle);      closes a handle; never called with None()
 template <typename Kind>
 class Owned {
  public:
@@ -30,13 +30,13 @@ class Owned {
   explicit operator bool() const { return handle_ != Kind::None(); }
   [[nodiscard]] Handle get() const { return handle_; }
 
-  // The place where a Windows function stores a new handle; what was owned before is closed.
+  // Returns the place where a Windows function stores a new handle, after closing the old one.
   [[nodiscard]] Handle* Receive() {
     reset();
     return &handle_;
   }
 
-  // Gives the handle up without closing it.
+  // Returns the handle and no longer owns it.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 
   void reset(Handle handle = Kind::None()) {
@@ -95,12 +95,13 @@ using OwnedFile = Owned<internal::FileTraits>;
 // A search of FindFirstFileW: closed with FindClose, INVALID_HANDLE_VALUE when there is none.
 using OwnedFileSearch = Owned<internal::FileSearchTraits>;
 
-// What LocalAlloc allocated, or a Windows function that leaves LocalFree to its caller; null when
+// Memory from LocalAlloc or from a Windows function whose caller frees it with LocalFree; null when
 // there is none.
 template <typename Content>
 using OwnedLocalMemory = Owned<internal::LocalMemoryTraits<Content>>;
 
-// What HeapAlloc took from the process's heap (GetProcessHeap); null when there is none.
+// Memory that HeapAlloc allocated from the process's heap (GetProcessHeap); null when there is
+// none.
 template <typename Content>
 using OwnedProcessHeapMemory = Owned<internal::ProcessHeapMemoryTraits<Content>>;
 

@@ -1,10 +1,8 @@
 #include "lib/process/interactive_desktop.h"
 
-#include <algorithm>
-#include <string_view>
-
 #include "lib/process/internal/window_objects.h"
 #include "lib/security/internal/guarded_operation.h"
+#include "lib/string/internal/ascii_case.h"
 
 namespace kelvo {
 
@@ -18,15 +16,6 @@ bool ReadName(HANDLE object, DesktopNames::Name& name) {
   }
   name.fill(L'\0');
   return false;
-}
-
-wchar_t FoldAscii(wchar_t unit) {
-  return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit - L'A' + L'a') : unit;
-}
-
-bool EqualsIgnoringAsciiCase(std::wstring_view a, std::wstring_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](wchar_t x, wchar_t y) { return FoldAscii(x) == FoldAscii(y); });
 }
 
 }  // namespace
@@ -50,8 +39,8 @@ BOOL IsOnInteractiveDesktop() {
     desktop.reset(GetThreadDesktop(GetCurrentThreadId()));
     ReadDesktopNames(station.get(), desktop.get(), names);
   });
-  return EqualsIgnoringAsciiCase(names.station.data(), kInteractiveStation) &&
-                 EqualsIgnoringAsciiCase(names.desktop.data(), kInteractiveDesktop)
+  return internal::EqualsIgnoringAsciiCase(names.station.data(), kInteractiveStation) &&
+                 internal::EqualsIgnoringAsciiCase(names.desktop.data(), kInteractiveDesktop)
              ? TRUE
              : FALSE;
 }

@@ -4,12 +4,15 @@
 
 namespace kelvo {
 
-// Tells whether the user of this process's session sits at another computer: 0, with that
-// computer's name in `buffer`, when the session belongs to a remote client whose name differs, in
-// more than letter case, from this computer's NetBIOS name; otherwise -1, and the buffer then holds
-// whatever client name was compared. `capacity` is in characters; a longer name is cut, the NUL
-// included, and compared as cut. A null buffer and a capacity below 1 give -1. Rests on
-// WTSQuerySessionInformationW, looked up at run time; no exception leaves.
+// Finds out whether the user of this process's session sits at another computer. Returns 0, with
+// that computer's name in `buffer`, when the session has a remote client whose name is not empty
+// and differs, in more than letter case, from this computer's NetBIOS name. Returns -1 otherwise:
+// `buffer` then holds the client's name when Windows returned one, and is unchanged when it did
+// not.
+//
+// `capacity` is in characters, the NUL included; a longer name is cut, and compared as cut. A null
+// buffer or a capacity below 1 gives -1. Uses WTSQuerySessionInformationW (WTSClientName of the
+// current session), looked up at run time. No exception leaves the function.
 std::int32_t GetRemoteClientName(wchar_t* buffer, int capacity);
 
 }  // namespace kelvo

@@ -5,10 +5,10 @@
 namespace kelvo {
 
 // Starts a command line with this process's own primary token on the interactive desktop,
-// "WinSta0\Default", whatever the desktop the caller is on, and answers whether it was started.
+// "WinSta0\Default", whatever desktop the caller is on, and returns whether it was started.
 // `commandLine` must be writable (CreateProcessAsUserW). With `wait`, returns only when the new
-// process has ended. `process` may be null; else it receives the new process's handle, which the
-// caller closes, and is left alone on failure.
+// process has ended. `process` may be null; otherwise it receives the new process's handle, which
+// the caller closes, and is unchanged on failure.
 //
 // When this process is not on "WinSta0" (by its exact letter case), it is moved there for the
 // duration of the call, and the DACLs of station and desktop open to the token's user for good.

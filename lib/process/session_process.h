@@ -4,18 +4,20 @@
 
 namespace kelvo {
 
-// Starts a program on the desktop of the user who sits at the machine's own screen, also from a
-// service in another session, and returns true when the process was created. The command line is
-// the path in double quotes, a blank and the arguments as they stand; null counts as empty.
+// Starts a program for the user who sits at the machine's own screen, also from a service in
+// another session, and returns true when the process was created. The command line is the path in
+// double quotes, a blank and the arguments as they are; null strings count as empty.
 //
-// From Windows XP on the program runs under the account of that user (CreateProcessAsUserW), or
-// under the caller's own (CreateProcessW) when there is no user or Windows refuses the user's
-// token: QueryUserTokenOfSession says what that needs. On Windows 2000 in the console session it
-// runs under the caller's account, through RunAsUser when the caller is not on the interactive
-// desktop. Handles are not inherited, environment and current directory are.
+// On Windows XP and later the program runs in that user's session and account
+// (CreateProcessAsUserW). When nobody is logged on there, or Windows refuses the user's token
+// (QueryUserTokenOfSession in lib/process/user_session.h says what that needs), the program starts
+// in the caller's own session and account instead (CreateProcessW). On Windows 2000 it always runs
+// in the caller's account: through RunAsUser (lib/process/run_as_user.h) when the caller is in the
+// console session but not on the interactive desktop, otherwise in the caller's session. The
+// program inherits environment and current directory, but no handles.
 //
-// `wait` returns only after the program has ended. The process's handle is stored in
-// `*processHandle`, when that is not null, for the caller to close; on failure it is left alone.
+// With `wait`, returns only after the program has ended. When `processHandle` is not null, it
+// receives the process's handle, which the caller closes; it is unchanged on failure.
 bool LaunchInUserSession(const wchar_t* exePath, const wchar_t* arguments, bool wait,
                          HANDLE* processHandle);
 

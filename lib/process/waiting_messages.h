@@ -4,9 +4,9 @@
 
 namespace kelvo {
 
-// Dispatches the messages that wait for the calling thread until there is none left, then returns
-// 0, or until a WM_CLOSE was dispatched, then returns WM_CLOSE (16) and leaves the rest waiting.
-// Never blocks. WM_QUIT is taken out like any other message.
+// Dispatches the calling thread's waiting messages. Returns 0 when none is left, or WM_CLOSE (16)
+// as soon as one was dispatched, which leaves the others waiting. Never blocks. WM_QUIT is removed
+// like any other message.
 std::uint32_t PumpWaitingMessages();
 
 }  // namespace kelvo

@@ -6,14 +6,20 @@
 
 namespace kelvo {
 
-// Reads a REG_BINARY value that is not empty into `bytes`. Returns the status of the last query
-// made, or the open's when the key does not open. `bytes` is untouched when the status is not 0,
-// and also, with status 0, when the value is of another type or empty.
+// As everywhere in this folder: `root` is an open or a predefined key, `subkey` a path below it,
+// and a null or empty `valueName` means the default value. Strings are NUL-terminated. Keys are
+// opened with RegistryAccessFlags (lib/registry/registry_key.h) and closed before the function
+// returns.
+
+// Reads a REG_BINARY value into `bytes`. Returns 0, or the error code of the open or the query
+// (RegQueryValueExW) that failed. `bytes` is untouched on failure, and also, although 0 is
+// returned, when the value is empty or has another type.
 LSTATUS RegistryReadBinary(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            std::string& bytes);
 
-// Writes `bytes` as REG_BINARY; creates and returns as WriteRegistryValue. More bytes than a DWORD
-// counts are refused with ERROR_INVALID_PARAMETER.
+// Writes `bytes` as a REG_BINARY value (RegSetValueExW) and creates the key, with all missing keys
+// on its path. Returns 0, the error code of the write, -1 when the key cannot be created or opened
+// for KEY_WRITE, or ERROR_INVALID_PARAMETER for more bytes than a DWORD can count.
 LSTATUS RegistryWriteBinary(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const std::string& bytes);
 

@@ -7,12 +7,12 @@
 namespace kelvo {
 
 // The rules that every registry operation of this folder keeps:
-//   - `root` is an open key or one of Windows' predefined ones; `subkey` a path below it, its keys
-//     separated by backslashes; `valueName` a value's name, where null or an empty text means the
-//     key's default value. All texts are NUL-terminated.
+//   - `root` is an open key or one of Windows' predefined ones; `subkey` is a path below it, its
+//     keys separated by backslashes; `valueName` is a value's name, where null or an empty string
+//     means the key's default value. All strings are NUL-terminated.
 //   - Each operation opens the key, does one thing and closes it again.
 //   - A status is 0 for success, otherwise the Windows error code of the failing call, or -1 where
-//     the operation says that it passes no code on.
+//     the operation says so.
 
 // ORed into the access mask of every key that is opened or created here, and passed to
 // RegDeleteKeyExW. A program that wants another registry view sets KEY_WOW64_64KEY or
@@ -36,8 +36,9 @@ using OwnedRegistryKey = Owned<internal::RegistryKeyTraits>;
 // `subkey` opens `root` itself. On failure `key` owns nothing.
 LSTATUS OpenRegistryKey(HKEY root, const wchar_t* subkey, REGSAM access, OwnedRegistryKey& key);
 
-// Opens a key for KEY_WRITE | RegistryAccessFlags and creates it, with all missing keys on its
-// path, when it is not there (RegCreateKeyExW, kept over restarts, default security).
+// Opens a key for KEY_WRITE | RegistryAccessFlags; creates it, with all missing keys on its path,
+// when it does not exist (RegCreateKeyExW, not volatile, default security). On failure `key` owns
+// nothing.
 LSTATUS CreateRegistryKey(HKEY root, const wchar_t* subkey, OwnedRegistryKey& key);
 
 // True when the key opens with KEY_READ.

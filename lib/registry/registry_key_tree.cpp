@@ -16,7 +16,7 @@ constexpr REGSAM kDeleteSubkeys =
 constexpr REGSAM kDeleteValues = kDeleteSubkeys | KEY_QUERY_VALUE;
 constexpr DWORD kNameLength = 255;
 
-// The loops always ask for index 0: what stood there before has been deleted.
+// The loops always ask for index 0: the entry that was there has been deleted.
 
 // Empty when there is no subkey or the key does not open.
 WString FirstSubkey(HKEY root, const WString& path) {

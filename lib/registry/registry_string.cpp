@@ -19,8 +19,8 @@ constexpr DWORD kExpandedLength = MAX_PATH;
 
 enum class Expansion { kNone, kWhereTypeSays };
 
-// Reads a text value into `buffer`, which is zeroed. Offers the registry `capacity` characters.
-// Returns false, and leaves no text behind, when the value cannot be used.
+// Reads a string value into `buffer`, which is zeroed; the registry is told of `capacity`
+// characters. Returns false, with an empty `buffer`, when the value cannot be used.
 bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expansion expansion,
               std::span<wchar_t> buffer, DWORD capacity) {
   OwnedRegistryKey key;

@@ -8,33 +8,42 @@
 
 namespace kelvo {
 
-// In bytes; RegistryReadString takes a longer value for one that cannot be used.
+// As everywhere in this folder: `root` is an open or a predefined key, `subkey` a path below it,
+// and a null or empty `valueName` means the default value. Strings are NUL-terminated. Keys are
+// opened with RegistryAccessFlags (lib/registry/registry_key.h) and closed before the function
+// returns.
+
+// The longest value that RegistryReadString reads, in bytes.
 inline constexpr DWORD kMaxRegistryStringSize = 2048;
 
-// The value's text when it is a REG_SZ or REG_EXPAND_SZ of at most 2,048 bytes, otherwise
-// `defaultText`: for a missing key or value, another type and a longer value alike. An empty stored
-// text is an answer, not a missing one. The text ends at its first NUL, or with the data when that
-// has none; a last odd byte becomes a unit of its own. REG_EXPAND_SZ is expanded with
-// ExpandEnvironmentStringsW into 260 characters; where the expansion fails, the stored text is
-// returned. A null `defaultText` counts as empty.
+// Returns the string of a REG_SZ or REG_EXPAND_SZ value of at most kMaxRegistryStringSize bytes, or
+// `defaultText` when the key or the value is missing, has another type or is longer. A null
+// `defaultText` counts as empty; an empty stored string is returned as such. The string ends at its
+// first NUL, or with the data when that has none; an odd last byte becomes a character of its own.
+//
+// A REG_EXPAND_SZ value is expanded with ExpandEnvironmentStringsW into 260 characters (MAX_PATH),
+// the NUL included. What becomes longer is cut to what Windows wrote into them; where the expansion
+// fails, the stored string is returned.
 WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            const wchar_t* defaultText);
 
-// The same into a buffer of `length` characters, without a default: the buffer is cleared first and
-// stays empty where RegistryReadString would give the default; a value of more than 2 x `length`
-// bytes counts as one that cannot be used. Always ends in a NUL within `length`, to which a stored
-// text without terminator that fills the buffer gives up its last character. Returns the length of
-// the text in characters, 0 for a null buffer or a `length` of 0, which are left alone.
+// Reads the string of a REG_SZ or REG_EXPAND_SZ value, expanded like RegistryReadString does, into
+// `buffer`, which has room for `length` characters and is cleared first. The buffer stays empty
+// when the key or the value is missing, has another type or has more than 2 x `length` bytes. The
+// string always ends in a NUL within `length`: one that was stored without a terminator and fills
+// the buffer loses its last character. Returns the string's length in characters; 0 for a null
+// buffer and for a `length` of 0, and then nothing is written.
 std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length);
 
-// The same with the text as it is stored, a REG_EXPAND_SZ not expanded.
+// RegistryReadStringBuffer without the expansion: a REG_EXPAND_SZ value is read as it is stored.
 std::size_t RegistryReadStoredString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length);
 
-// Writes `text` with its NUL as REG_SZ or REG_EXPAND_SZ (WriteRegistryValue says what it creates
-// and returns). Null counts as empty. A text whose size in bytes a DWORD cannot hold is refused
-// with ERROR_INVALID_PARAMETER.
+// Writes `text` with its NUL as a REG_SZ or REG_EXPAND_SZ value (RegSetValueExW) and creates the
+// key, with all missing keys on its path. Null counts as empty. Returns 0, the error code of the
+// write, -1 when the key cannot be created or opened for KEY_WRITE, or ERROR_INVALID_PARAMETER for
+// a string whose size in bytes a DWORD cannot hold.
 LSTATUS RegistryWriteString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const wchar_t* text);
 LSTATUS RegistryWriteExpandString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,

@@ -4,14 +4,14 @@
 
 namespace kelvo {
 
-// 0 when both NUL-terminated texts are equal after folding each unit to lower case, otherwise the
-// first folded unit of `a` that differs minus the one of `b`, so negative when `a` sorts first.
-// Neither may be null.
+// Compares two NUL-terminated strings, neither of them null, without regard to letter case. Returns
+// 0 when they are equal after each UTF-16 unit is folded to lower case, otherwise the first folded
+// unit of `a` that differs minus that of `b`: negative when `a` sorts first.
 //
 // Folding follows the C runtime's locale for character classes (setlocale), read once per call. In
-// the default locale "C", A to Z become a to z, other units below U+0100 stay as they are and the
-// rest goes through LCMapStringW with LCMAP_LOWERCASE; in any other locale, towlower decides.
-// U+FFFF always stays.
+// the default locale "C", A to Z become a to z, other units below U+0100 stay as they are, and
+// LCMapStringW with LCMAP_LOWERCASE folds the rest. In any other locale towlower folds. U+FFFF
+// always stays as it is.
 std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b);
 
 }  // namespace kelvo

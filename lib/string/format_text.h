@@ -6,9 +6,10 @@
 
 namespace kelvo {
 
-// The text that Windows' own C runtime makes of a wide format and its arguments, of any length.
-// "%s" inserts a wide text, whatever printf family the compiler brings; "%d" a 32-bit number,
-// "%08lX" a code. A format that the runtime rejects gives an empty text.
+// Returns a wide format and its arguments as Windows' own C runtime formats them, of any length.
+// "%s" inserts a wide string, whatever printf family the compiler brings; "%d" inserts a 32-bit
+// number, "%08lX" a code. Returns an empty string when the runtime rejects the format. Throws
+// std::bad_alloc when memory runs out.
 WString FormatText(const wchar_t* format, ...);
 WString FormatTextV(const wchar_t* format, std::va_list arguments);
 

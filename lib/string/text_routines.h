@@ -6,21 +6,21 @@
 
 namespace kelvo {
 
-// Routines for texts that are NUL-terminated or a WString; a null pointer counts as an empty text.
-// Positions and counts are in UTF-16 units. std::bad_alloc is thrown when memory runs out.
+// Strings are NUL-terminated or a WString; a null pointer counts as an empty string. Positions and
+// counts are in UTF-16 units. All functions throw std::bad_alloc when memory runs out.
 
-// Returns `count` units from `start` on, or what there is of them: a start past the end gives an
-// empty text.
+// Returns `count` units from `start` on, or as many as there are: an empty string when `start` is
+// past the end.
 WString SubstringClamped(const WString& text, std::size_t start, std::size_t count = WString::npos);
 
 // Replaces every occurrence of `search` in `text`, found from left to right without overlap, and
-// returns how many there were. What was put in is not searched again; an empty `search` occurs
-// never. Both arguments may lie in `text`. Throws std::length_error when the result would be too
-// long. When it throws, `text` is unchanged.
+// returns how many there were. The replacement is not searched again; an empty `search` never
+// occurs. Both arguments may point into `text`. Throws std::length_error when the result would be
+// too long. When it throws, `text` is unchanged.
 std::size_t ReplaceAll(WString& text, const wchar_t* search, const wchar_t* replacement);
 
-// Returns how many items a StringTokenizer made of the same arguments would yield. With an empty
-// `delimiter`, which a tokenizer does not take, a text that is not empty is one item.
+// Returns the number of items that a StringTokenizer with the same arguments would return. With an
+// empty `delimiter`, which a tokenizer does not accept, a string that is not empty is one item.
 std::size_t CountTokens(const WString& text, const WString& delimiter, bool collapse);
 
 }  // namespace kelvo

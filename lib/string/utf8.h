@@ -5,8 +5,9 @@
 
 namespace kelvo {
 
-// `text` in UTF-8, an unpaired surrogate as U+FFFD (WideCharToMultiByte). Throws std::length_error
-// for a text whose UTF-8 an int might not count, and std::bad_alloc.
+// Returns `text` in UTF-8, with U+FFFD for an unpaired surrogate (WideCharToMultiByte). Throws
+// std::length_error when an int might not hold the number of bytes, std::bad_alloc when memory runs
+// out.
 std::string ToUtf8(std::wstring_view text);
 
 }  // namespace kelvo

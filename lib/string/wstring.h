@@ -7,17 +7,19 @@
 
 namespace kelvo {
 
-// A text of UTF-16 units, always followed by a NUL: std::wstring with a null pointer as an empty
-// text and with failure texts that do not depend on the standard library. Up to seven units are
-// stored in the object itself. Positions and counts are in units. Operations are the standard ones:
-//   - a start position beyond the end throws std::out_of_range "invalid string position";
-//   - growth beyond max_size() throws std::length_error "string too long";
+// A string of UTF-16 units, always followed by a NUL: std::wstring, but a null pointer counts as an
+// empty string, and the messages of its exceptions do not depend on the standard library. Up to
+// seven units are stored in the object itself. Positions and counts are in units. Operations are
+// those of the standard:
+//   - a start position past the end throws std::out_of_range "invalid string position";
+//   - growth beyond max_size() throws std::length_error "string too long"; constructing one from a
+//     longer view throws with the standard library's own message;
 //   - a count that reaches past the end is cut at the end;
-//   - memory exhaustion throws std::bad_alloc.
-// When an operation throws, the text is unchanged.
+//   - std::bad_alloc is thrown when memory runs out.
+// When an operation throws, the string is unchanged.
 class WString {
  public:
-  // What a failed search gives: all bits set.
+  // Returned by a search that finds nothing: all bits set.
   static constexpr std::size_t npos = std::wstring::npos;
 
   WString() = default;
@@ -26,26 +28,26 @@ class WString {
   explicit WString(std::wstring_view text) : text_(text) {}
   WString(std::size_t count, wchar_t unit) { resize(count, unit); }
 
-  // Takes over a NUL-terminated text; null empties. The pointer may point into this text.
+  // Copies a NUL-terminated string; null makes this one empty. `text` may point into this string.
   WString& AssignCString(const wchar_t* text);
 
-  // Takes over `count` units of `text` from `start`. `text` may be this text.
+  // Copies `count` units of `text` from `start` on. `text` may be this string.
   WString& assign(const WString& text, std::size_t start, std::size_t count = npos);
   WString& append(std::wstring_view text);
   WString& operator+=(const WString& text) { return append(text); }
   WString& erase(std::size_t start, std::size_t count = npos);
-  // Cuts at `count` units or fills up to them with `unit`.
+  // Shortens the string to `count` units, or fills it up to `count` with `unit`.
   void resize(std::size_t count, wchar_t unit = L'\0');
   void clear() { text_.clear(); }
 
   [[nodiscard]] WString substr(std::size_t start, std::size_t count = npos) const;
 
-  // The first occurrence at or after `start`. An empty text occurs at every position not past the
-  // end.
+  // Finds the first occurrence at or after `start`. An empty string occurs at every position up to
+  // the end.
   [[nodiscard]] std::size_t find(std::wstring_view text, std::size_t start = 0) const {
     return text_.find(text, start);
   }
-  // The last occurrence that begins at or before `start`; a start past the end counts as the end.
+  // Finds the last occurrence that begins at or before `start`, which may be past the end.
   [[nodiscard]] std::size_t rfind(std::wstring_view text, std::size_t start = npos) const {
     return text_.rfind(text, start);
   }
@@ -54,7 +56,7 @@ class WString {
   [[nodiscard]] std::size_t max_size() const { return text_.max_size(); }
   [[nodiscard]] bool empty() const { return text_.empty(); }
   [[nodiscard]] const wchar_t* c_str() const { return text_.c_str(); }
-  // length() units that may be written, then the NUL, which may not.
+  // Points to length() units that may be written and the NUL after them, which may not.
   [[nodiscard]] wchar_t* data() { return text_.data(); }
 
   // NOLINTNEXTLINE(google-explicit-constructor): a view of the whole text loses nothing

@@ -6,12 +6,12 @@
 
 namespace kelvo {
 
-// Writes the text that FormatText makes of `format` and its arguments, of any length, to the
-// debugger (OutputDebugStringW), behind the current time in UTC and without a line end.
+// Writes the current time in UTC and what FormatText makes of `format` and its arguments, of any
+// length and without a line end, to the debugger (OutputDebugStringW).
 void DebugTrace(const wchar_t* format, ...);
 
-// The line that DebugTrace writes at `time`: "day.month.year hour:minute:second:millisecond", every
-// number filled up with zeros, a blank, `message`.
+// Returns the line that DebugTrace writes at `time`: "day.month.year
+// hour:minute:second:millisecond", every number padded with zeros, a blank and `message`.
 WString FormatTraceLine(const SYSTEMTIME& time, const WString& message);
 
 }  // namespace kelvo

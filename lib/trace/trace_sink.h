@@ -2,16 +2,16 @@
 
 namespace kelvo {
 
-// Receives what TraceMessage is given. Whatever exception leaves it, C++ or structured, is
+// Receives the arguments of TraceMessage. An exception that leaves it, C++ or structured, is
 // swallowed.
 using TraceSink = void (*)(const wchar_t* tag, const wchar_t* message);
 
-// Makes `sink` the destination of all traced messages of this process, on whatever thread they
-// come; null takes it away again, which is the state at the start.
+// Makes `sink` the destination of all messages traced in this process, on any thread. Null, which
+// is the initial state, drops them.
 void SetTraceSink(TraceSink sink);
 
-// Hands both NUL-terminated texts to the sink: the part of the library that speaks and what it has
-// to say, without a line break. Does nothing when there is no sink.
+// Passes two NUL-terminated strings to the sink: `tag` names the part of the library, `message` is
+// one line without its end. Does nothing when there is no sink.
 void TraceMessage(const wchar_t* tag, const wchar_t* message);
 
 }  // namespace kelvo

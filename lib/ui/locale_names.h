@@ -6,12 +6,12 @@
 
 namespace kelvo {
 
-// The name of a locale, neutral ones included ("de-CH", "de"): LCIDToLocaleName, looked up at run
-// time. Empty for an unknown locale and on a Windows without that function.
+// Returns the name of a locale, also of a neutral one ("de-CH", "de"), with LCIDToLocaleName,
+// looked up at run time. Empty for an unknown locale and on a Windows without that function.
 WString LocaleNameFromLcid(LCID locale);
 
-// What GetLocaleInfoW tells of a locale, `type` saying what (LOCALE_SNAME is its name). Empty when
-// it tells nothing, and when memory is exhausted.
+// Returns what GetLocaleInfoW knows about a locale; `type` is the kind of information, such as
+// LOCALE_SNAME for its name. Empty when it knows nothing, and when memory runs out.
 WString GetLocaleInfoString(LCID locale, LCTYPE type);
 
 }  // namespace kelvo

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "lib/string/internal/ascii_case.h"
+
 namespace kelvo {
 
 namespace {
@@ -69,16 +71,6 @@ constexpr auto kLocales = std::to_array<Locale>({
 });
 static_assert(std::ranges::is_sorted(kLocales, {}, &Locale::id));
 
-wchar_t FoldAscii(wchar_t unit) {
-  return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit - L'A' + L'a') : unit;
-}
-
-bool EqualsIgnoringAsciiCase(const wchar_t* a, const wchar_t* b) {
-  for (; *a != L'\0' && FoldAscii(*a) == FoldAscii(*b); ++a, ++b) {
-  }
-  return *a == *b;
-}
-
 }  // namespace
 
 const wchar_t* FindLocaleName(LCID locale) {
@@ -90,7 +82,7 @@ const wchar_t* FindLocaleName(LCID locale) {
 
 LCID FindLocaleId(const wchar_t* name) {
   for (const Locale& locale : kLocales) {
-    if (name != nullptr && EqualsIgnoringAsciiCase(locale.name, name)) {
+    if (name != nullptr && internal::EqualsIgnoringAsciiCase(locale.name, name)) {
       return locale.id;
     }
   }

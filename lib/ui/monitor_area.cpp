@@ -6,7 +6,7 @@ namespace kelvo {
 
 namespace {
 
-// False, with `rect` untouched, when the primary monitor has to do.
+// Returns false, with `rect` unchanged, when the primary monitor's area is to be used.
 bool FindNearestArea(POINT point, RECT MONITORINFO::* area, RECT& rect) {
   if (GetSystemMetrics(SM_CMONITORS) <= 1) {
     return false;

@@ -4,14 +4,15 @@
 
 namespace kelvo {
 
-// Areas of the monitor nearest to a screen point, in screen coordinates; always true. With one
-// monitor, and where MonitorFromPoint or GetMonitorInfoA (looked up at run time) is missing, the
-// point does not matter and the primary monitor's area is given.
+// Both functions store an area of the monitor nearest to a point, in screen coordinates, and always
+// return true. With one monitor, and where MonitorFromPoint or GetMonitorInfoA (looked up at run
+// time) is missing, the point is ignored and the area is that of the primary monitor. When
+// GetMonitorInfoA fails, the area is empty; when SystemParametersInfoW does, `rect` is unchanged.
 
 // The area without the task bar (rcWork, or SPI_GETWORKAREA for the primary monitor).
 bool GetMonitorWorkArea(POINT point, RECT& rect);
 
-// The full area (rcMonitor, or from (0, 0) on the size of the primary screen).
+// The full area (rcMonitor, or the size of the primary screen from (0, 0) on).
 bool GetMonitorArea(POINT point, RECT& rect);
 
 }  // namespace kelvo

@@ -6,13 +6,14 @@
 
 namespace kelvo {
 
-// The languages in which `module` offers its first string table, in the order in which
-// EnumResourceLanguagesW gives them; empty for a null module and one without string tables. The
-// other tables are taken to stand in the same languages.
+// Returns the languages of the first string table of `module`, in the order of
+// EnumResourceLanguagesW; empty for a null module and for one without string tables. Other tables
+// are assumed to have the same languages.
 std::vector<LANGID> GetStringResourceLanguages(HMODULE module);
 
-// The language to load resources in: `requested` itself; else the first with the same primary
-// language; else the first English one; else the first of the list. 0 when the list is empty.
+// Returns the language in which to load resources: `requested` when it is offered; else the first
+// with the same primary language; else the first English one; else the first of the list. 0 when
+// the list is empty.
 LANGID ChooseResourceLanguage(const std::vector<LANGID>& offered, LANGID requested);
 
 }  // namespace kelvo

@@ -42,11 +42,11 @@ inline constexpr std::array<const wchar_t*, 14> kSspiErrorTexts = {
     L"ErrorUnknown: unknown error",
 };
 
-// What a failure of the security support interface throws: made on the heap and thrown as a
-// pointer, which belongs to whoever catches it.
+// Thrown when the security support interface fails: allocated with new and thrown as a pointer,
+// which belongs to whoever catches it.
 struct SspiException {
-  // `atFile` null counts as empty; a code above 16 is stored as 16. That is more than
-  // kSspiErrorTexts has, so check a code before it becomes an index.
+  // A null `atFile` counts as empty. A code above 16 is stored as 16, which is more than
+  // kSspiErrorTexts has: check a code before you use it as an index.
   SspiException(const wchar_t* atFile, std::uint32_t atLine, std::int32_t errorCode,
                 std::uint32_t errorDetail);
 

@@ -2,14 +2,14 @@
 
 namespace wsspi {
 
-// True once SspiInitialize has the provider's function table.
+// Returns true once SspiInitialize holds the provider's function table.
 bool IsSspiInitialized();
 
-// Loads "security.dll" and keeps the function table that its InitSecurityInterfaceW gives, once per
-// process; the library is never freed. Does nothing when the table is already held. Throws a new
-// SspiException, by pointer, with ErrorNoLibrary or ErrorNoSecurityInterface when it cannot be had;
-// the next call then tries again. Not guarded against two threads at once, which would only load
-// twice.
+// Loads "security.dll" and keeps the function table that its InitSecurityInterfaceW returns, once
+// per process; the library is never freed. Does nothing when the table is already there. Throws an
+// SspiException (lib/wsspi/sspi_exception.h) by pointer, with ErrorNoLibrary or
+// ErrorNoSecurityInterface, when the table is not to be had; the next call then tries again. Two
+// threads at once would only load it twice.
 void SspiInitialize();
 
 }  // namespace wsspi

@@ -4,7 +4,7 @@
 extern "C" {
 #endif
 
-// Calls run(context). Returns 1 when it returned, 0 when a structured exception ended it. No C++
+// Calls run(context). Returns 1 when it returns, 0 when a structured exception ends it. No C++
 // exception may leave `run`: it must not cross the __except frame.
 int RunUnderStructuredGuard(void (*run)(void* context), void* context);
 

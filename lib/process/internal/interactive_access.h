@@ -6,8 +6,8 @@ namespace kelvo::internal {
 
 // Makes "WinSta0" this process's window station and opens it and its desktop "Default" to the
 // token's user (AllowTokenFullAccessToObject). The thread keeps its desktop. Both handles stay
-// open, by design. Returns false when a step fails, which is traced; a station that the process
-// has moved to stays its own.
+// open, by design. Returns false when a step fails, which is traced; the process may then be on
+// "WinSta0" already.
 bool MoveToInteractiveStation(HANDLE token);
 
 }  // namespace kelvo::internal

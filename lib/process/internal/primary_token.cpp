@@ -10,7 +10,7 @@ namespace kelvo::internal {
 
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token) {
   OwnedKernelObject duplicate;
-  // The level has no meaning for a primary token.
+  // The impersonation level means nothing for a primary token.
   GuardedCall([&] {
     DuplicateTokenEx(token.get(), MAXIMUM_ALLOWED, nullptr, SecurityDelegation, TokenPrimary,
                      duplicate.Receive());

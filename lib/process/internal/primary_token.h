@@ -5,12 +5,12 @@
 namespace kelvo::internal {
 
 // Returns a primary token with all rights (MAXIMUM_ALLOWED), made of `token` with DuplicateTokenEx,
-// or `token` itself when that fails. Null gives null.
+// or `token` itself when that fails. Returns null for null.
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token);
 
-// Enables in this process's token the privileges that help to start a process with another token.
-// Returns false, and traces it, when that fails for SeTakeOwnershipPrivilege; the outcome of the
-// others does not matter.
+// Enables, in this process's token, the privileges that help to start a process with another token.
+// Returns false, and traces it, when that fails for SeTakeOwnershipPrivilege; whether it fails for
+// the others does not matter.
 bool EnableStartPrivileges();
 
 }  // namespace kelvo::internal

@@ -5,7 +5,7 @@
 
 namespace kelvo::internal {
 
-// What CreateProcessW and its like give of a new process; none before that.
+// The handles of a process that CreateProcessW or CreateProcessAsUserW created; null before that.
 struct StartedProcess {
   StartedProcess() = default;
   explicit StartedProcess(const PROCESS_INFORMATION& started)
@@ -15,7 +15,7 @@ struct StartedProcess {
   OwnedKernelObject thread;
 };
 
-// The path in double quotes, a blank and the arguments as they are; null counts as empty.
+// Returns the path in double quotes, a blank and the arguments as they are; null counts as empty.
 inline WString QuotedCommandLine(const wchar_t* exePath, const wchar_t* arguments) {
   return WString(L"\"") + exePath + L"\" " + arguments;
 }
