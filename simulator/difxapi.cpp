@@ -57,6 +57,6 @@ DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
   if (NumberFromEnvironment(L"SORREL_SIMULATOR_DRIVER_CRASH") != 0) {
     TerminateProcess(GetCurrentProcess(), ERROR_PROCESS_ABORTED);
   }
-  *needReboot = NumberFromEnvironment(L"SORREL_SIMULATOR_DRIVER_REBOOT") != 0 ? TRUE : FALSE;
+  *needReboot = static_cast<BOOL>(NumberFromEnvironment(L"SORREL_SIMULATOR_DRIVER_REBOOT"));
   return NumberFromEnvironment(L"SORREL_SIMULATOR_DRIVER_RESULT");
 }
