@@ -1,47 +1,11 @@
 #include "lib/registry/registry_key.h"
 #include "lib/registry/registry_key_tree.h"
 #include "lib/registry/registry_number.h"
-#include "lib/registry/registry_string.h"
 #include "lib/registry/registry_value.h"
-#include "lib/registry/registry_value_list.h"
 #include "lib/registry/registry_write_access.h"
 #include "tests/support/testing.h"
 
 HKEY const kRoot = HKEY_CURRENT_USER;
-
-TEST_CASE("each operation asks for its rights and the view, and closes what it opened") {
-  using Operation = void (*)(const wchar_t* path);
-  const std::pair<Operation, std::vector<REGSAM>> rows[] = {
-      {[](auto* path) { RegistryReadString(kRoot, path, L"n", L""); }, {0x20119}},
-      {[](auto* path) { RegistryValueExists(kRoot, path, L"n"); }, {0x20119}},
-      {[](auto* path) { ReadRegistryKeyValues(kRoot, path); }, {0x20119}},
-      {[](auto* path) { RegistryWriteDword(kRoot, path, L"n", 1); }, {0x20106}},
-      {[](auto* path) { RegistryDeleteValue(kRoot, path, L"n"); }, {0x102}},
-      {[](auto* path) { RegistryDeleteKeyTree(kRoot, path, L"sub"); },
-       {0x2010E, 0x2010F, 0x2010F, 0x2010E}}};
-  for (const auto& [run, rights] : rows) {
-    const ScratchKey key;
-    REQUIRE(RegistryWriteDword(kRoot, (key + L"\\sub").c_str(), L"n", 1) == 0);
-    REQUIRE(RegistryWriteDword(kRoot, key.c_str(), L"n", 1) == 0);
-    std::vector<REGSAM> asked;
-    std::ptrdiff_t closed = 0;
-    REPLACE(RegOpenKeyExW, [&](auto original, auto... given) {
-      asked.push_back(std::get<3>(std::tuple(given...)));
-      return original(given...);
-    });
-    REPLACE(RegCreateKeyExW, [&](auto original, auto root, auto path, auto reserved, LPWSTR kind,
-                                 DWORD options, REGSAM access, auto... rest) {
-      CHECK((options == REG_OPTION_NON_VOLATILE && *kind == L'\0'));
-      asked.push_back(access);
-      return original(root, path, reserved, kind, options, access, rest...);
-    });
-    REPLACE(RegCloseKey, [&](auto original, HKEY open) { return ++closed, original(open); });
-    RegistryAccessFlags = KEY_WOW64_64KEY;
-    run(key.c_str());
-    RegistryAccessFlags = 0;
-    CHECK((asked == rights && closed == std::ssize(rights)));
-  }
-}
 
 TEST_CASE("write access is probed where a write would be real") {
   // The major version, elevation, whether the write succeeds; the answer, whether one was tried.

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "tests/support/failing_call.h"
+#include "tests/support/shown_arguments.h"
 
 namespace kelvo::test {
 
@@ -16,6 +17,8 @@ namespace kelvo::test {
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
+  // Each call with its arguments, in order.
+  std::string transcript;
   // The function whose call of this number, counted from 1, fails, or ends the thread before it.
   std::pair<std::string, int> chosen;
   bool ends = false;
@@ -30,7 +33,8 @@ struct Watched {
   void* instead;
 };
 
-enum class Handles { kNone, kOpens, kCloses };
+// Of what neither opens nor closes, the arguments may vary from machine to machine.
+enum class Handles { kNone, kVaries, kOpens, kCloses };
 
 // An argument that points to a handle, or a result that is one.
 template <typename Value>
@@ -51,8 +55,12 @@ const void* OpenedHandle([[maybe_unused]] Value value, bool isResult) {
 template <typename Function, typename... Given>
 auto Intercept(const char* name, long long failure, Handles handles, Given... given) {
   using Result = std::invoke_result_t<Function, Given...>;
-  auto& [originals, calls, chosen, ends, open] = interception;
+  auto& [originals, calls, transcript, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
+  // The C runtime's own calls are not Windows'.
+  if (std::isupper(*name) != 0) {
+    transcript += (handles == Handles::kVaries ? name : ShownCall(name, given...)) + "\r\n";
+  }
   if (fails && ends) {
     ExitThread(0);
   }

@@ -5,16 +5,23 @@
 #include "lib/paths/file_exists.h"
 #include "lib/paths/shell_folder_path.h"
 #include "lib/process/process_command_line.h"
+#include "lib/process/process_readiness.h"
 #include "lib/process/remote_client.h"
 #include "lib/process/run_as_user.h"
 #include "lib/process/session_process.h"
+#include "lib/process/shutdown_privilege.h"
 #include "lib/registry/registry_binary.h"
+#include "lib/registry/registry_key.h"
 #include "lib/registry/registry_key_tree.h"
 #include "lib/registry/registry_number.h"
 #include "lib/registry/registry_string.h"
+#include "lib/registry/registry_value.h"
 #include "lib/registry/registry_value_list.h"
 #include "lib/security/file_access.h"
+#include "lib/security/kernel_object_access.h"
 #include "lib/security/process_privilege.h"
+#include "lib/security/token_object_access.h"
+#include "lib/security/token_privileges.h"
 #include "lib/sysinfo/administrators.h"
 #include "lib/sysinfo/color_depth.h"
 #include "lib/sysinfo/common_controls_version.h"
@@ -44,10 +51,16 @@ std::wstring Answer(Run run) {
 
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
+DWORD number;
+HANDLE Event() {
+  static const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+  return event;
+}
 // What differs from machine to machine.
 WString IsThere(const WString& text) { return text.empty() ? L"nothing" : L"a text"; }
 
 WString ReadList() {
+  RegistryAccessFlags = KEY_WOW64_64KEY;
   WString texts;
   for (const auto& [name, text] : ReadRegistryKeyValues(HKEY_LOCAL_MACHINE, ServiceParametersKey)) {
     texts += name + L"=" + text;
@@ -56,15 +69,18 @@ WString ReadList() {
 }
 
 WString WriteAndDelete() {
+  RegistryAccessFlags = KEY_WOW64_64KEY;
+  constexpr const wchar_t* kKey = L"Software\\kelvo\\sweep";
   const std::string bytes = "1";
-  const LSTATUS written =
-      RegistryWriteBinary(HKEY_CURRENT_USER, L"Software\\kelvo\\sweep", L"n", bytes);
   std::string read;
-  const LSTATUS found =
-      RegistryReadBinary(HKEY_CURRENT_USER, L"Software\\kelvo\\sweep", L"n", read);
-  const LSTATUS deleted = RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"Software", L"kelvo");
+  WString answers = Text(RegistryWriteBinary(HKEY_CURRENT_USER, kKey, L"n", bytes));
+  answers += L" " + Text(RegistryReadBinary(HKEY_CURRENT_USER, kKey, L"n", read));
+  answers += L" " + Text(read == bytes);
+  answers += L" " + Text(RegistryValueExists(HKEY_CURRENT_USER, kKey, L"n"));
+  answers += L" " + Text(RegistryDeleteValue(HKEY_CURRENT_USER, kKey, L"n"));
+  answers += L" " + Text(RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"Software", L"kelvo"));
   RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo");
-  return Text(written) + L" " + Text(found) + L" " + Text(read == bytes) + L" " + Text(deleted);
+  return answers;
 }
 
 #define COMMAND(list, ...)                                                             \
@@ -113,4 +129,10 @@ extern "C" __declspec(dllexport) const Operation operations[] = {
     CALL(Text(LaunchInUserSession(L"none.exe", L"", true, nullptr))),
     CALL(Text(RunAsUser(lstrcpyW(buffer, L"none.exe"), TRUE, nullptr))),
     CALL(Text(AddFileAccessRights(L"shared file", L"S-1-1-0", GENERIC_ALL))),
+    CALL(Text(EnableShutdownPrivilege())),
+    CALL(Text(StartProcessAndWaitForMutex(L"none.exe", L"", false, L"", 0))),
+    CALL(Text(ModifySecurity(Event(), SYNCHRONIZE))),
+    CALL(Text(
+        AllowTokenFullAccessToObject(GetCurrentProcessToken(), Event(), SE_KERNEL_OBJECT, L""))),
+    CALL(Text(LocalFree(CreateTokenPriv(&number, nullptr, TRUE)) == nullptr)),
     {nullptr, nullptr, nullptr}};

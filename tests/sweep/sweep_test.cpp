@@ -21,7 +21,7 @@
 #include "tests/sweep/operations.h"
 #include "tool/dependent_applications.h"
 
-static constexpr auto kNone = Handles::kNone, kOpens = Handles::kOpens, kCloses = Handles::kCloses;
+using enum Handles;
 static const auto kWatched = std::to_array<Watched>({
 #include "tests/sweep/watched.def"
 });
@@ -82,7 +82,7 @@ struct Machine {
     std::filesystem::remove(journal);
     std::filesystem::remove("shared file");
     std::ofstream("shared file");
-    interception = {{}, {}, chosen, how == How::kEnds, {}};
+    interception = {{}, {}, {}, chosen, how == How::kEnds, {}};
     written.clear();
     WatchImports(library.get(), kWatched);
     interception.originals["GetProcAddress"] = reinterpret_cast<void*>(FindIntercepted);
@@ -100,6 +100,7 @@ struct Machine {
     WaitForSingleObject(thread.get(), INFINITE);
     // Before the library is unloaded.
     calls = interception.calls;
+    transcript = interception.transcript;
     // By name: handles come in any order.
     std::multiset<std::string> names;
     for (const auto& [handle, function] : interception.open) {
@@ -118,6 +119,7 @@ struct Machine {
 
   std::string name;
   std::map<std::string, int> calls;
+  std::string transcript;
   // The lines, what was answered, the list and the stores.
   std::string reached;
   CleanMachine clean;
@@ -130,9 +132,11 @@ TEST_CASE("each call that fails has the consequences that stand in sweep.txt, an
   Machine machine;
   std::string seen;
   std::string undisturbed;
+  std::string transcripts;
   for (int index = 0; !(undisturbed = machine.Run(index, {})).empty(); ++index) {
     // What came of it, and the calls whose failure leads there, in the order of the table.
     std::vector<std::array<std::string, 2>> outcomes = {{undisturbed, ""}};
+    transcripts += "# " + machine.name + "\r\n\r\n" + machine.transcript + "\r\n";
     const auto calls = machine.calls;
     for (const auto& [function, made] : calls) {
       for (int nth = 1; nth <= made; ++nth) {
@@ -153,6 +157,7 @@ TEST_CASE("each call that fails has the consequences that stand in sweep.txt, an
     }
   }
   CheckAgainstFile(seen, L"sweep.txt");
+  CheckAgainstFile(transcripts, L"calls.txt");
 }
 
 TEST_CASE("a command that is ended at any call leaves what its next run completes") {

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <windows.h>
+
+#include <aclapi.h>
+
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+namespace kelvo::test {
+
+// What a test can compare of an argument: a number, a constant string without its folder, a few
+// fields of a record; of any other pointer or handle, whether there is one.
+template <typename Argument>
+std::string Shown(Argument argument) {
+  if constexpr (std::is_same_v<Argument, SIZE_T>) {
+    return "size";  // of a token's groups, say, which differ from machine to machine
+  } else if constexpr (std::is_integral_v<Argument> || std::is_enum_v<Argument>) {
+    return std::to_string(static_cast<long long>(argument));
+  } else if constexpr (std::is_same_v<Argument, LPCSTR> || std::is_same_v<Argument, LPCWSTR>) {
+    if (IS_INTRESOURCE(argument)) {
+      return std::to_string(reinterpret_cast<ULONG_PTR>(argument));
+    }
+    const std::basic_string_view text(argument);
+    const auto shown = text.substr(text.find(':') == 1 ? text.rfind('\\') : 0);
+    return "'" + std::string(shown.begin(), shown.end()) + "'";
+  } else if (argument == nullptr) {
+    return "0";
+  } else if constexpr (std::is_same_v<Argument, HKEY>) {
+    const auto predefined = static_cast<LONG>(reinterpret_cast<LONG_PTR>(argument));
+    return predefined < 0 ? std::to_string(predefined - static_cast<LONG>(0x80000000)) : "key";
+  } else if constexpr (std::is_same_v<Argument, TOKEN_PRIVILEGES*>) {
+    return "attributes " + Shown(argument->Privileges[0].Attributes);
+  } else if constexpr (std::is_same_v<Argument, STARTUPINFOW*>) {
+    return "size " + Shown(argument->cb) + " on " + Shown(LPCWSTR{argument->lpDesktop});
+  } else if constexpr (std::is_same_v<Argument, EXPLICIT_ACCESSW*>) {
+    return "mode " + Shown(argument->grfAccessMode) + " trustee " +
+           Shown(argument->Trustee.TrusteeType) + " inheritance " + Shown(argument->grfInheritance);
+  } else {
+    return "given";
+  }
+}
+
+template <typename... Arguments>
+std::string ShownCall(const std::string& function, Arguments... arguments) {
+  std::string call = function + "(";
+  ((call += Shown(arguments) + ", "), ...);
+  return call.substr(0, call.rfind(',')) + ")";
+}
+
+}  // namespace kelvo::test
