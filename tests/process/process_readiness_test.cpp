@@ -11,14 +11,20 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
                                        timeoutMs);
   };
   CHECK(StartProcessAndWaitForMutex(L"not there", L"", false, name.c_str(), 10000) == -1);
-  CHECK((start(L"", false, 150) == -3 && start(L"", true, 150) == -3));
+  CHECK(start(L"", false, 150) == -3);
+  CHECK(start(L"", true, 150) == -3);
   CHECK(start(L"close " + std::to_wstring(GetCurrentThreadId()), true, 10000) == -2);
   CHECK(start(L"mutex \"Global\\" + name + L"\"", false, 0) == -3);
   CHECK(start(L"", true, 10000) == 0);  // the mutex of the one before
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
-  CHECK((PumpWaitingMessages() == 16 && GetQueueStatus(QS_POSTMESSAGE) != 0));
+  std::string calls;
+  REPLACE(TranslateMessage, [&](auto...) { return calls += "translate ", FALSE; });
+  REPLACE(DispatchMessageW, [&](auto...) { return calls += "dispatch ", 0; });
+  CHECK(PumpWaitingMessages() == 16);
+  CHECK(calls == "translate dispatch ");
   CHECK(PumpWaitingMessages() == 0);
+  CHECK(calls == "translate dispatch translate dispatch ");
 
   // Before Windows 2000 the name is plain; whole it is, too.
   const auto nt4 = PretendWindows(2, 4, 0);
@@ -28,4 +34,27 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
     return asked == longName ? CreateEventW(nullptr, FALSE, FALSE, nullptr) : nullptr;
   });
   CHECK(StartProcessAndWaitForMutex(child.c_str(), nullptr, false, longName.c_str(), 10000) == 0);
+}
+
+TEST_CASE("the mutex is looked for every 100 ms, by a clock that wraps, as long as there is time") {
+  DWORD now = 0;
+  int lookups = 0;
+  REPLACE(GetTickCount, [&](auto) { return now; });
+  REPLACE(Sleep, [&](auto, DWORD pause) { now += pause; });
+  REPLACE(CreateProcessW, [&](auto, auto... given) {
+    std::get<9>(std::tuple(given...))->hProcess = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    return TRUE;
+  });
+  REPLACE(OpenMutexW, [&](auto, DWORD access, BOOL inherits, LPCWSTR name) {
+    CHECK(access == MUTEX_ALL_ACCESS);
+    CHECK(inherits == FALSE);
+    CHECK(name == std::wstring(L"Global\\name"));
+    return ++lookups, nullptr;
+  });
+  for (const auto& [timeout, expected] : {std::pair(300UL, 3), {301UL, 4}, {0UL, 0}}) {
+    now = MAXDWORD - 150;
+    lookups = 0;
+    CHECK(StartProcessAndWaitForMutex(L"program", nullptr, false, L"name", timeout) == -3);
+    CHECK(lookups == expected);
+  }
 }

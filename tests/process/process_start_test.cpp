@@ -2,6 +2,7 @@
 #include "lib/process/run_as_user.h"
 #include "lib/process/session_process.h"
 #include "tests/support/desktop_scope.h"
+#include "tests/support/shown_arguments.h"
 #include "tests/support/testing.h"
 
 static std::string calls;
@@ -28,69 +29,99 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
   const OwnedKernelObject go(CreateEventW(nullptr, TRUE, FALSE, name.c_str()));
   const OwnedKernelObject done(CreateEventW(nullptr, FALSE, FALSE, (name + L"_done").c_str()));
   const std::wstring arguments = L"report " + name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
-  // Where a call is made from, and what RunAsUser does; the first is for LaunchInUserSession.
-  const std::tuple<const wchar_t*, const wchar_t*, std::string> places[] = {
-      {nullptr, nullptr, "wait "},
-      {nullptr, nullptr, "create free wait "},
-      {nullptr, L"kelvo desktop", "create free station desktop wait close close "},
-      {L"kelvo process test", L"Default", "station create free station desktop wait close close "}};
-  // Waiting comes last: a program that still ends would keep the folder from being removed.
-  for (int round = 0; round < 16; ++round) {
-    CAPTURE(round);
-    const auto& [station, desktop, steps] = places[round / 4];
-    const bool waits = round % 4 >= 2;
-    const DesktopScope scope(station, desktop);
-    const std::wstring before = CurrentDesktop();
-    waits ? SetEvent(go.get()) : ResetEvent(go.get());
-    std::wstring command = L"\"" + program + L"\" " + arguments;
-    OwnedKernelObject process;
-    HANDLE* const slot = round % 2 == 0 ? process.Receive() : nullptr;
-    {
-      REPLACE(SetSecurityDescriptorDacl, [](auto original, auto to, BOOL has, ACL* dacl, BOOL) {
-        CHECK((has && dacl == nullptr));
-        return original(to, has, dacl, FALSE);
-      });
-      NOTE(CreateProcessAsUserW, "create ");
-      NOTE(HeapFree, "free ");
-      NOTE(SetProcessWindowStation, "station ");
-      NOTE(SetThreadDesktop, "desktop ");
-      NOTE(WaitForSingleObject, "wait ");
-      NOTE(CloseDesktop, "close ");
-      NOTE(CloseWindowStation, "close ");
-      REQUIRE((round < 4 ? LaunchInUserSession(program.c_str(), arguments.c_str(), waits, slot)
-                         : RunAsUser(command.data(), waits, slot) == TRUE));
+  // Where a call is made from, and what RunAsUser does there, but for waiting.
+  struct Place {
+    bool isForLaunchInUserSession;
+    const wchar_t *station, *desktop;
+    std::string before, after;
+  };
+  const Place places[] = {
+      {true, nullptr, nullptr, "", ""},
+      {false, nullptr, nullptr, "create free ", ""},
+      {false, nullptr, L"kelvo desktop", "create free station desktop ", "close close "},
+      {false, L"kelvo process test", L"Default", "station create free station desktop ",
+       "close close "}};
+  const auto run = [&](const Place& place, bool waits, HANDLE* slot) {
+    REPLACE(SetSecurityDescriptorDacl, [](auto original, auto to, BOOL has, ACL* dacl, BOOL) {
+      CHECK(has == TRUE);
+      CHECK(dacl == nullptr);
+      return original(to, has, dacl, FALSE);
+    });
+    REPLACE(OpenDesktopW, [](auto original, auto asked, auto flags, auto inherits, DWORD access) {
+      CHECK(access == (READ_CONTROL | WRITE_DAC));
+      return original(asked, flags, inherits, access);
+    });
+    NOTE(CreateProcessAsUserW, "create ");
+    NOTE(HeapFree, "free ");
+    NOTE(SetProcessWindowStation, "station ");
+    NOTE(SetThreadDesktop, "desktop ");
+    NOTE(WaitForSingleObject, "wait ");
+    NOTE(CloseDesktop, "close ");
+    NOTE(CloseWindowStation, "close ");
+    if (place.isForLaunchInUserSession) {
+      return LaunchInUserSession(program.c_str(), arguments.c_str(), waits, slot);
     }
-    const std::string expected = std::string(steps).erase(steps.find("wait"), waits ? 0 : 5);
-    CHECK((std::exchange(calls, "") == expected || round < 4));
-    CHECK(CurrentDesktop() == before);
-    CHECK(WaitForSingleObject(done.get(), 0) == (waits ? WAIT_OBJECT_0 : WAIT_TIMEOUT));
-    SetEvent(go.get());
-    CHECK((waits || WaitForSingleObject(done.get(), 10000) == WAIT_OBJECT_0));
-    DWORD exitCode = slot == nullptr ? 7 : 0;
-    WaitForSingleObject(process.get(), waits ? 0 : 10000);
-    GetExitCodeProcess(process.get(), &exitCode);
-    CHECK(exitCode == 7);
-    CHECK(ReadBytes(program + L".txt") ==
-          Ascii(L"\"" + program + L"\" " + arguments + L"|WinSta0\\Default"));
-    std::filesystem::remove(program + L".txt");
+    std::wstring command = L"\"" + program + L"\" " + arguments;
+    return RunAsUser(command.data(), waits, slot) == TRUE;
+  };
+  for (const Place& place : places) {
+    // Waiting comes last: a program that still ends would keep the folder from being removed.
+    for (const bool waits : {false, true}) {
+      for (const bool takesHandle : {true, false}) {
+        CAPTURE(place.before);
+        CAPTURE(waits);
+        CAPTURE(takesHandle);
+        const DesktopScope scope(place.station, place.desktop);
+        const std::wstring before = CurrentDesktop();
+        waits ? SetEvent(go.get()) : ResetEvent(go.get());
+        OwnedKernelObject process;
+        calls.clear();
+        REQUIRE(run(place, waits, takesHandle ? process.Receive() : nullptr));
+        CHECK((place.isForLaunchInUserSession ||
+               calls == place.before + (waits ? "wait " : "") + place.after));
+        CHECK(CurrentDesktop() == before);
+        CHECK(WaitForSingleObject(done.get(), 0) == (waits ? WAIT_OBJECT_0 : WAIT_TIMEOUT));
+        SetEvent(go.get());
+        CHECK((waits || WaitForSingleObject(done.get(), 10000) == WAIT_OBJECT_0));
+        DWORD exitCode = takesHandle ? 0 : 7;
+        WaitForSingleObject(process.get(), waits ? 0 : 10000);
+        GetExitCodeProcess(process.get(), &exitCode);
+        CHECK(exitCode == 7);
+        CHECK(ReadBytes(program + L".txt") ==
+              Ascii(L"\"" + program + L"\" " + arguments + L"|WinSta0\\Default"));
+        std::filesystem::remove(program + L".txt");
+      }
+    }
   }
 }
 
 TEST_CASE("letter case matters where a process is started, not where one asks") {
-  using Row = std::tuple<const wchar_t*, const wchar_t*, BOOL, int>;
-  const auto cases = std::to_array(
-      {Row(L"WinSta0", L"Default", TRUE, 0), Row(L"WINSTA0", L"DEFAULT", TRUE, 1),
-       Row(L"W\u0130nSta0", L"Default", FALSE, 1), Row(L"WinSta0", L"Default2", FALSE, 0)});
-  for (const auto& [station, desktop, isInteractive, moves] : cases) {
-    const wchar_t* names[] = {station, desktop};
+  struct Row {
+    const wchar_t *station, *desktop;
+    DWORD needed;
+    BOOL isInteractive;
+    int moves;
+  };
+  const Row rows[] = {{L"WinSta0", L"Default", 520, TRUE, 0},
+                      {L"WINSTA0", L"DEFAULT", 520, TRUE, 1},
+                      {L"W\u0130nSta0", L"Default", 520, FALSE, 1},
+                      {L"WinSta0", L"Default2", 520, FALSE, 0},
+                      {L"WinSta0", L"Default", 521, FALSE, 0}};
+  for (const Row& row : rows) {
+    CAPTURE(row.desktop);
+    const wchar_t* names[] = {row.station, row.desktop};
     int asked = 0, moved = 0;
     REPLACE(GetUserObjectInformationW, [&](auto, auto, auto, void* text, auto, auto* needed) {
       lstrcpyW(static_cast<wchar_t*>(text), names[asked++ % 2]);
-      return (*needed = 520) != 0;
+      return (*needed = row.needed) != 0;
     });
     REPLACE(OpenWindowStationW, [&](auto...) { return ++moved, nullptr; });
-    CHECK(IsOnInteractiveDesktop() == isInteractive);
-    CHECK((!RunAsUser(std::wstring(L"no such program").data(), FALSE, nullptr) && moved == moves));
+    CHECK(IsOnInteractiveDesktop() == row.isInteractive);
+    asked = 0;
+    HANDLE untouched = &moved;
+    CHECK_FALSE(RunAsUser(std::wstring(L"no such program").data(), FALSE, &untouched));
+    CHECK(untouched == &moved);
+    CHECK(moved == row.moves);
   }
 }
 
@@ -105,7 +136,10 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
     return IsOurs("close", handle) ? TRUE : original(handle);
   });
   REPLACE(CreateProcessAsUserW, [](auto, auto token, auto...) { return !IsOurs("start", token); });
-  REPLACE(CreateProcessW, [](auto...) { return calls += "caller", FALSE; });
+  REPLACE(CreateProcessW, [](auto, auto... given) {
+    CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");
+    return calls += "caller", FALSE;
+  });
   // Windows 5.0 or 5.1, the caller's session, whether the console's can be told and a token be
   // duplicated, the caller's desktop, and what happens. RunAsUser leaves its token open.
   using Road = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
@@ -125,7 +159,10 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
               *token = duplicates ? reinterpret_cast<HANDLE>(0x7702ULL) : nullptr;
               return duplicates;
             });
-    CHECK_FALSE(LaunchInUserSession(L"program", nullptr, true, nullptr));
-    CHECK(std::exchange(calls, "") == happens);
+    HANDLE untouched = &calls;
+    calls.clear();
+    CHECK_FALSE(LaunchInUserSession(L"program", nullptr, true, &untouched));
+    CHECK(untouched == &calls);
+    CHECK(calls == happens);
   }
 }

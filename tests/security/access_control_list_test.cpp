@@ -23,6 +23,13 @@ TEST_CASE("the last of equal entries is found, copies keep all, sizes count all"
   const ACCESS_ALLOWED_ACE* const ace = wanted.get();
   const PSID sids[] = {&wanted.sid, &wanted.sid, &wanted.sid};
   CHECK(CalculateACLSize(list.acl, sids, 3, &ace, 1) == 8 + 5 * 20 + 3 * 20 + 20 + 8);
+  CHECK(CalculateACLSize(nullptr, sids, 1, nullptr, 0) == 20 + 8);
+  const TestAcl denying({{.type = 6}, {.type = 6}, {.type = 1}, {.type = 5}, other});
+  REPLACE(GetSecurityInfo, [&](auto, auto, auto, auto, auto, auto, ACL** dacl, auto...) {
+    return *dacl = denying.acl, DWORD{ERROR_SUCCESS};
+  });
+  DeleteDenyACEofObject(&wanted.sid, nullptr, SE_WINDOW_OBJECT);
+  CHECK(denying.acl->AceCount == 3);
 }
 
 TEST_CASE("a new entry goes in front of the first of its own rank and keeps the order") {

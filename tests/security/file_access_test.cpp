@@ -1,15 +1,17 @@
 #include "lib/security/file_access.h"
 
 #include <cstring>
+#include <functional>
 
 #include "tests/security/test_acl.h"
 #include "tests/support/failing_call.h"
 #include "tests/support/testing.h"
 
-// Lets administrators into a file whose access list, as text, is `list`, and returns what that
-// printed. Not a real file: Wine keeps only the mode bits of a list.
-static std::string PrintedBy(std::wstring& list) {
-  BOOL isWritten = FALSE;
+static BOOL isWritten = FALSE;
+
+// Runs an action on a file whose access list, as text, is `list`. Not a real file: Wine keeps only
+// the mode bits of a list.
+static void WithFile(std::wstring& list, const std::function<void()>& action) {
   REPLACE(GetFileSecurityW, [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
     const OwnedLocalMemory<void> made = FromSddl(list, size);
     std::memcpy(descriptor, made.get(), length >= *size ? *size : 0);
@@ -18,6 +20,12 @@ static std::string PrintedBy(std::wstring& list) {
   REPLACE(SetFileSecurityW, [&](auto, auto, auto, void* descriptor) {
     return list = ToSddl(descriptor), isWritten = TRUE;
   });
+  action();
+}
+
+// Lets administrators into that file and returns what was printed.
+static std::string Printed() {
+  isWritten = FALSE;
   char printed[4096] = "";
   std::setvbuf(stdout, printed, _IOFBF, sizeof(printed));
   CHECK(AddFileAccessRights(L"file", L"BA", FILE_ALL_ACCESS) == isWritten);
@@ -34,7 +42,8 @@ TEST_CASE("an account's explicit entries give way to the new one, once and again
         {L"D:P(D;;FW;;;BA)(A;;FR;;;WD)", L"D:P(A;;FR;;;WD)(A;;FA;;;BA)"},
         {L"D:PAI(A;ID;FR;;;WD)", L"D:ARAI(A;;FA;;;BA)(A;ID;FR;;;WD)"}}) {
     for (int time = 0; time < 2; ++time) {
-      CHECK((PrintedBy(list).empty() && list == result));
+      WithFile(list, [] { CHECK(Printed() == ""); });
+      CHECK(list == result);
     }
   }
   const ScratchFolder folder;
@@ -49,38 +58,47 @@ TEST_CASE("an account's explicit entries give way to the new one, once and again
 }
 
 TEST_CASE("each failing call is named and leaves the file alone") {
-  const std::pair<FailingCall, std::string> rows[] = {
-      {SETS_LAST_ERROR(GetFileSecurityW), "GetFileSecurity() failed. "},
-      {SETS_LAST_ERROR(HeapAlloc), "HeapAlloc() failed. "},
-      {SETS_LAST_ERROR(InitializeSecurityDescriptor), "InitializeSecurityDescriptor() failed."},
-      {SETS_LAST_ERROR(GetSecurityDescriptorDacl), "GetSecurityDescriptorDacl() failed. "},
-      {SETS_LAST_ERROR(GetAclInformation), "GetAclInformation() failed. "},
-      {SETS_LAST_ERROR(InitializeAcl), "InitializeAcl() failed. "},
-      {SETS_LAST_ERROR(GetAce), "GetAce() failed. "},
-      {SETS_LAST_ERROR(AddAce), "AddAce() failed. "},
-      {SETS_LAST_ERROR(AddAccessAllowedAce), "AddAccessAllowedAce() failed. "},
-      {SETS_LAST_ERROR(SetSecurityDescriptorDacl), "SetSecurityDescriptorDacl() failed. "},
-      {SETS_LAST_ERROR(GetSecurityDescriptorControl), "GetSecurityDescriptorControl() failed."},
-      {SETS_LAST_ERROR(SetFileSecurityW), "SetFileSecurity() failed. "}};
+  constexpr FailingCall kFailing[] = {SETS_LAST_ERROR(GetFileSecurityW),
+                                      SETS_LAST_ERROR(HeapAlloc),
+                                      SETS_LAST_ERROR(InitializeSecurityDescriptor),
+                                      SETS_LAST_ERROR(GetSecurityDescriptorDacl),
+                                      SETS_LAST_ERROR(GetAclInformation),
+                                      SETS_LAST_ERROR(InitializeAcl),
+                                      SETS_LAST_ERROR(GetAce),
+                                      SETS_LAST_ERROR(AddAce),
+                                      SETS_LAST_ERROR(AddAccessAllowedAce),
+                                      SETS_LAST_ERROR(SetSecurityDescriptorDacl),
+                                      SETS_LAST_ERROR(GetSecurityDescriptorControl),
+                                      SETS_LAST_ERROR(SetFileSecurityW)};
   const std::wstring before = L"D:AI(A;;FR;;;WD)(A;ID;FR;;;WD)";
   std::wstring list = before;
-  for (const auto& [failing, message] : rows) {
-    std::string printed;
-    for (int nth = 1; failing.run(nth, false, [&] { printed = PrintedBy(list); }); ++nth) {
-      CHECK((printed == message + "Error 1234\n" && list == before));
+  std::string seen;
+  WithFile(list, [&] {
+    for (const FailingCall& failing : kFailing) {
+      std::string printed;
+      for (int nth = 1; failing.run(nth, false, [&] { printed = Printed(); }); ++nth) {
+        CHECK(list == before);
+        seen += failing.function + std::string(": ") + printed;
+      }
+      CHECK(printed == "");
+      CHECK(std::exchange(list, before) != before);
     }
-    CHECK((printed.empty() && std::exchange(list, before) != before));
-  }
-  const ReplacedExport refused(
-      "SetSecurityDescriptorControl", +[](void*, WORD, WORD) { return SetLastError(1234), FALSE; });
-  CHECK(PrintedBy(list) == "SetSecurityDescriptorControl() failed.Error 1234\n");
-  const ReplacedExport missing("SetSecurityDescriptorControl", nullptr);
-  CHECK((PrintedBy(list).empty() && list != before));
-  // Its one entry states 13 bytes where 12 are left.
-  std::array<WORD, 10> words{ACL_REVISION, 20, 1, 0, 0, 13};
-  REPLACE(GetSecurityDescriptorDacl, [&](auto, auto, BOOL* present, ACL** dacl, auto) {
-    *dacl = reinterpret_cast<ACL*>(words.data());
-    return *present = TRUE;
+    const ReplacedExport refused(
+        "SetSecurityDescriptorControl",
+        +[](void*, WORD, WORD) { return SetLastError(1234), FALSE; });
+    CHECK(Printed() == "SetSecurityDescriptorControl() failed.Error 1234\n");
+    const ReplacedExport missing("SetSecurityDescriptorControl", nullptr);
+    CHECK(Printed() == "");
+    CHECK(list != before);
+    // Its one entry states 13 bytes where 12 are left.
+    std::array<WORD, 10> words{ACL_REVISION, 20, 1, 0, 0, 13};
+    REPLACE(GetSecurityDescriptorDacl, [&](auto, auto, BOOL* present, ACL** dacl, auto) {
+      *dacl = reinterpret_cast<ACL*>(words.data());
+      return *present = TRUE;
+    });
+    CHECK(Printed() == "GetAclInformation() failed. Error 1336\n");
   });
-  CHECK(PrintedBy(list) == "GetAclInformation() failed. Error 1336\n");
+  CheckAgainstFile(seen, L"file_access.txt");
+  REPLACE(GetFileSecurityW, [](auto...) { return TRUE; });
+  CHECK(Printed() == "");
 }

@@ -27,14 +27,32 @@ TEST_CASE("an explicit entry is granted once, and only where there is a list") {
     CHECK(ReadDacl(scope.desktop) == before + kAllOfDesktop + L"LS)");
   }
   WriteDacl(scope.desktop, L"D:(D;;CC;;;WD)(A;;CC;;;WD)(A;ID;CC;;;BA)");
-  DWORD last = MAXDWORD;
+  std::vector<DWORD> indices;
   REPLACE(AddAce, [&](auto original, auto acl, auto revision, DWORD index, auto... rest) {
-    return original(acl, revision, last = index, rest...);
+    indices.push_back(index);
+    return original(acl, revision, index, rest...);
   });
-  CHECK((AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE && last == 1));
+  CHECK(AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE);
+  CHECK(indices == std::vector<DWORD>{MAXDWORD, MAXDWORD, MAXDWORD, 1});
   WriteDacl(scope.desktop, L"none");
   CHECK(AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE);
   CHECK(ReadDacl(scope.desktop) == L"none");
+}
+
+TEST_CASE("a list of more than 1,008 bytes is built on the heap, and only what was read is freed") {
+  const WindowObjects scope;
+  int allocated = 0, freed = 0;
+  REPLACE(HeapAlloc, [&](auto original, auto... given) { return ++allocated, original(given...); });
+  REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
+  for (const std::size_t count : {48U, 49U}) {
+    const TestAcl list(std::vector<TestAce>(count, {.mask = 2}));
+    SetSecurityInfo(scope.desktop, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                    list.acl, nullptr);
+    allocated = freed = 0;
+    CHECK(AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE);
+    CHECK(allocated == (count == 49 ? 1 : 0));
+    CHECK(freed == 1);
+  }
 }
 
 TEST_CASE("deny entries for the SID go, all but one at index 0") {
@@ -59,7 +77,8 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   WriteDacl(event.get(), L"D:");
   int freed = 0;
   REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
-  CHECK((ModifySecurity(event.get(), 2) == TRUE && freed == 0));
+  CHECK(ModifySecurity(event.get(), 2) == TRUE);
+  CHECK(freed == 0);
   const std::wstring granted = ReadDacl(event.get());
   const std::wstring user = granted.substr(granted.rfind(L';') + 1);
   CHECK(granted == L"D:(A;;DC;;;" + user);

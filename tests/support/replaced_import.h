@@ -15,8 +15,6 @@
 // One that is looked up at run time, by a function of the same type, or by null where this Windows
 // is to lack it:
 //   const ReplacedExport native("GetNativeSystemInfo", nullptr);
-// or, when the program imports it too, by a lambda as with REPLACE:
-//   REPLACE_LOOKUP(CertCloseStore, [](auto original, auto... given) { return FALSE; });
 
 namespace kelvo::test {
 
@@ -123,36 +121,5 @@ struct ReplacedExport {
   static inline std::map<std::string, FARPROC> replaced;
   const char* name;
 };
-
-// As a ReplacedImport, for a function that the code under test looks up at run time. This program
-// must import it as well: `original` is that import.
-template <typename Function, Function* original, typename Replacement>
-struct ReplacedLookup;
-
-template <typename Result, typename... Parameters, Result (*original)(Parameters...),
-          typename Replacement>
-struct ReplacedLookup<Result(Parameters...), original, Replacement> {
-  ReplacedLookup(const char* exported, Replacement instead)
-      : replacement(std::move(instead)), lookup(exported, &Call) {
-    active = this;
-  }
-  static Result Call(Parameters... parameters) {
-    return active->replacement(original, parameters...);
-  }
-
-  static inline ReplacedLookup* active = nullptr;
-  Replacement replacement;
-  ReplacedExport lookup;
-};
-
-template <typename Function, Function* original, typename Replacement>
-ReplacedLookup<Function, original, Replacement> ReplaceLookup(const char* name,
-                                                              Replacement replacement) {
-  return {name, std::move(replacement)};
-}
-
-#define REPLACE_LOOKUP(function, ...) \
-  const auto replaced##function =     \
-      ::kelvo::test::ReplaceLookup<decltype(::function), &::function>(#function, __VA_ARGS__)
 
 }  // namespace kelvo::test

@@ -79,7 +79,11 @@ auto Intercept(const char* name, long long failure, Handles handles, Given... gi
     }
     open.erase(nullptr);
   }
-  return fails ? SetLastError(kFailure), (Result)failure : result;
+  if (handles == Handles::kCloses) {
+    // Hides what an earlier call said, unless that was read first.
+    SetLastError(fails ? kFailure : ERROR_SUCCESS);
+  }
+  return fails ? (Result)failure : result;
 }
 
 #define WATCH(function, failure, handles)                                                     \
