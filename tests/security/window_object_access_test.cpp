@@ -77,6 +77,14 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   WriteDacl(event.get(), L"D:");
   int freed = 0;
   REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
+  REPLACE(GetSecurityDescriptorDacl, [](auto original, auto from, auto has, auto list, BOOL* flag) {
+    const BOOL read = original(from, has, list, flag);
+    return *flag = TRUE, read;
+  });
+  REPLACE(SetSecurityDescriptorDacl, [](auto original, auto to, auto has, auto list, BOOL flag) {
+    CHECK(flag == TRUE);
+    return original(to, has, list, FALSE);
+  });
   CHECK(ModifySecurity(event.get(), 2) == TRUE);
   CHECK(freed == 0);
   const std::wstring granted = ReadDacl(event.get());
