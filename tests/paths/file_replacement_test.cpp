@@ -26,12 +26,12 @@ TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), false));
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), nullptr, false));
   CHECK(ScheduleFileReplace(nullptr, L"C:\\not\\there", target.c_str(), true));
-  CHECK((pending() == ordered && !FileExists((folder / "wqr*").c_str())));
+  CHECK_BOTH(pending() == ordered, !FileExists((folder / "wqr*").c_str()));
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), true));
   const std::wstring added = pending().substr(ordered.length() + 4);
   const std::wstring copy = added.substr(0, added.find(L'|'));
   CHECK(added == copy + L"|!\\??\\" + target + L"|");
-  CHECK((copy.find(L"\\wqr") != std::wstring::npos && ReadBytes(copy) == "new"));
+  CHECK_BOTH(copy.find(L"\\wqr") != std::wstring::npos, ReadBytes(copy) == "new");
   if (before.empty()) {
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, manager, value);
   }
@@ -48,5 +48,5 @@ TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT
                              (folder / "WININIT.INI").c_str());
     CHECK(found == std::wstring(shortName));
   }
-  CHECK((FileExists((folder / "W*.IN?").c_str()) && !FileExists((folder / "*.no").c_str())));
+  CHECK_BOTH(FileExists((folder / "W*.IN?").c_str()), !FileExists((folder / "*.no").c_str()));
 }

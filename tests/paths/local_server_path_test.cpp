@@ -20,7 +20,7 @@ TEST_CASE("a local server is the file that its class registers") {
   for (const auto& [key, stored, answer, expected] : rows) {
     path.clear();
     StoreUnits(HKEY_CLASSES_ROOT, (classKey + key).c_str(), nullptr, REG_SZ, stored.c_str());
-    CHECK((GetLocalServerPath(L"kelvo.test", path) == answer && path == expected));
+    CHECK_BOTH(GetLocalServerPath(L"kelvo.test", path) == answer, path == expected);
     RegDeleteTreeW(HKEY_CLASSES_ROOT, classKey.c_str());
   }
   std::vector<DWORD> tried;

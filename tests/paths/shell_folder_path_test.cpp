@@ -35,6 +35,6 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
   const WString explorer = L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\";
   for (const auto& [root, key, stored, path] : rows) {
     RegistryWriteExpandString(root, (explorer + key).c_str(), L"Personal", stored.c_str());
-    CHECK((GetShellFolderPath(nullptr, out, L"Personal") && out == path));
+    CHECK_BOTH(GetShellFolderPath(nullptr, out, L"Personal"), out == path);
   }
 }

@@ -4,7 +4,7 @@
 
 TEST_CASE("a guarded call answers whether its action came to an end") {
   bool reached = false;
-  CHECK((GuardedCall([&] { reached = true; }) && reached));
+  CHECK_BOTH(GuardedCall([&] { reached = true; }), reached);
   CHECK_FALSE(GuardedCall([] { throw 1; }));
   CHECK_FALSE(GuardedCall([] { *static_cast<volatile int*>(nullptr) = 1; }));
   CHECK_FALSE(GuardedCall([] { RaiseException(STATUS_INTEGER_DIVIDE_BY_ZERO, 0, 0, nullptr); }));

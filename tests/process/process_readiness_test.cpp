@@ -11,8 +11,7 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
                                        timeoutMs);
   };
   CHECK(StartProcessAndWaitForMutex(L"not there", L"", false, name.c_str(), 10000) == -1);
-  CHECK(start(L"", false, 150) == -3);
-  CHECK(start(L"", true, 150) == -3);
+  CHECK_BOTH(start(L"", false, 150) == -3, start(L"", true, 150) == -3);
   CHECK(start(L"close " + std::to_wstring(GetCurrentThreadId()), true, 10000) == -2);
   CHECK(start(L"mutex \"Global\\" + name + L"\"", false, 0) == -3);
   CHECK(start(L"", true, 10000) == 0);  // the mutex of the one before
@@ -21,10 +20,8 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
   std::string calls;
   REPLACE(TranslateMessage, [&](auto...) { return calls += "translate ", FALSE; });
   REPLACE(DispatchMessageW, [&](auto...) { return calls += "dispatch ", 0; });
-  CHECK(PumpWaitingMessages() == 16);
-  CHECK(calls == "translate dispatch ");
-  CHECK(PumpWaitingMessages() == 0);
-  CHECK(calls == "translate dispatch translate dispatch ");
+  CHECK_BOTH(PumpWaitingMessages() == 16, calls == "translate dispatch ");
+  CHECK_BOTH(PumpWaitingMessages() == 0, calls == "translate dispatch translate dispatch ");
 
   // Before Windows 2000 the name is plain; whole it is, too.
   const auto nt4 = PretendWindows(2, 4, 0);

@@ -25,7 +25,7 @@ TEST_CASE("write access is probed where a write would be real") {
       ++tried;
       return isWritable != 0 ? original(arguments...) : ERROR_ACCESS_DENIED;
     });
-    CHECK((RegistryCanWrite(kRoot, key.c_str()) == static_cast<int>(answer) && tried == tries));
+    CHECK_BOTH(RegistryCanWrite(kRoot, key.c_str()) == static_cast<int>(answer), tried == tries);
     CHECK_FALSE(RegistryValueExists(kRoot, key.c_str(), L"RegCheck"));
   }
 }
@@ -47,13 +47,14 @@ TEST_CASE("a key goes with everything below it, with and without RegDeleteKeyExW
       REPLACE(RegDeleteValueW, [](auto...) -> LSTATUS { return 1234; });
       CHECK(remove(L"tree") == 1234);
     }
-    CHECK((remove(L"") == ERROR_ACCESS_DENIED && remove(nullptr) == ERROR_ACCESS_DENIED));
+    CHECK_BOTH(remove(L"") == ERROR_ACCESS_DENIED, remove(nullptr) == ERROR_ACCESS_DENIED);
     CHECK(RegistryDeleteKeyTree(kRoot, L"", key.c_str()) == ERROR_ACCESS_DENIED);
     CHECK(exists(L"\\tree\\a\\b"));
     const ReplacedExport replaced("RegDeleteKeyExW", function);
     seenView = 1;
-    CHECK((remove(L"tree") == 0 && remove(L"tree") == ERROR_FILE_NOT_FOUND));
-    CHECK((!exists(L"\\tree") && exists(L"\\kept") && seenView == (function == nullptr)));
+    CHECK_BOTH(remove(L"tree") == 0, remove(L"tree") == ERROR_FILE_NOT_FOUND);
+    CHECK_BOTH(!exists(L"\\tree"), exists(L"\\kept"));
+    CHECK(seenView == (function == nullptr));
   }
 }
 

@@ -29,7 +29,7 @@ TEST_CASE("a text value is read whole or not at all") {
   const auto read = [&](const wchar_t* defaultText) {
     return RegistryReadString(HKEY_CURRENT_USER, key.c_str(), L"value", defaultText);
   };
-  CHECK((read(L"default") == L"default" && read(nullptr).empty()));
+  CHECK_BOTH(read(L"default") == L"default", read(nullptr).empty());
   for (const auto& [type, stored, cutBytes, expected] : rows) {
     StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored, cutBytes);
     CHECK(read(L"default").c_str() == expected);
@@ -52,7 +52,7 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
     std::wstring buffer(length + 1, L'!');
     CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", buffer.data(),
                                    length) == expected.length());
-    CHECK((std::exchange(buffer.back(), L'\0') == L'!' && buffer.c_str() == expected));
+    CHECK_BOTH(std::exchange(buffer.back(), L'\0') == L'!', buffer.c_str() == expected);
   }
 }
 

@@ -20,6 +20,7 @@ TEST_CASE("a full value path is split into root, key path and value name") {
     WString keyPath = L"was";
     WString name = L"was";
     CHECK(ParseRegistryValuePath(path, root, keyPath, name) == isWhole);
-    CHECK((root == expectedRoot && keyPath == expectedPath && name == expectedName));
+    CHECK_BOTH(root == expectedRoot, keyPath == expectedPath);
+    CHECK(name == expectedName);
   }
 }

@@ -18,7 +18,8 @@ TEST_CASE("numbers and bytes are read as written, a value is deleted and its key
 
   REQUIRE(RegistryWriteDword(root, key, L"n", 0xFEDCBA98) == 0);
   CHECK(RegistryReadDword(root, key, L"n", 7) == 0xFEDCBA98);
-  CHECK((RegistryReadBoolean(root, key, L"n", false) && RegistryReadBoolean(root, key, L"", true)));
+  CHECK_BOTH(RegistryReadBoolean(root, key, L"n", false),
+             RegistryReadBoolean(root, key, L"", true));
   REQUIRE(WriteRegistryValue(root, key, L"n", REG_DWORD, "12345", 5) == 0);
   CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
 
@@ -28,7 +29,7 @@ TEST_CASE("numbers and bytes are read as written, a value is deleted and its key
     CHECK(bytes == std::string("\0\xFF\0x", 4));  // no bytes leave what was there
     CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
   }
-  CHECK((RegistryValueExists(root, key, L"n") && RegistryDeleteValue(root, key, L"n") == 0));
+  CHECK_BOTH(RegistryValueExists(root, key, L"n"), RegistryDeleteValue(root, key, L"n") == 0);
   CHECK_FALSE(RegistryValueExists(root, key, L"n"));
-  CHECK((RegistryDeleteValue(root, key, L"n") == -1 && RegistryKeyExists(root, key)));
+  CHECK_BOTH(RegistryDeleteValue(root, key, L"n") == -1, RegistryKeyExists(root, key));
 }

@@ -10,10 +10,11 @@ TEST_CASE("reflection is switched where Windows has the function, a view has its
     const ReplacedExport enable("RegEnableReflectionKey", succeed);
     const ReplacedExport disable("RegDisableReflectionKey", function);
     CHECK(EnableRegistryReflection(HKEY_USERS, false) == (function == succeed));
-    CHECK((EnableRegistryReflection(HKEY_USERS, true) && !EnableRegistryReflection(nullptr, true)));
+    CHECK_BOTH(EnableRegistryReflection(HKEY_USERS, true),
+               !EnableRegistryReflection(nullptr, true));
   }
-  CHECK((GetRegistryViewAccess(1) == 0x200 && GetRegistryViewAccess(2) == 0x100));
-  CHECK((GetRegistryViewAccess(0) == 0 && GetRegistryViewAccess(3) == 0));
+  CHECK_BOTH(GetRegistryViewAccess(1) == 0x200, GetRegistryViewAccess(2) == 0x100);
+  CHECK_BOTH(GetRegistryViewAccess(0) == 0, GetRegistryViewAccess(3) == 0);
 }
 
 TEST_CASE("the cache of programs' names has its key by the Windows that runs") {

@@ -53,7 +53,7 @@ TEST_CASE("an account's explicit entries give way to the new one, once and again
   const std::wstring before = ReadDacl(file.get());
   REQUIRE(AddFileAccessRights(path.c_str(), L"WD", FILE_ALL_ACCESS) == TRUE);
   const std::wstring after = ReadDacl(file.get());
-  CHECK((after != before && after.find(L";;;WD)") != std::wstring::npos));
+  CHECK_BOTH(after != before, after.find(L";;;WD)") != std::wstring::npos);
   CHECK(AddFileAccessRights(path.c_str(), L"no SID", 1) == FALSE);
 }
 

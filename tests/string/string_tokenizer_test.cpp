@@ -28,6 +28,7 @@ TEST_CASE("a text is split at the whole delimiter, in time that grows with its l
     while (tokens.HasMoreTokens()) {
       items += tokens.NextToken().c_str() + std::wstring(L"|");
     }
-    CHECK((items == expected && tokens.NextToken().empty() && !tokens.HasMoreTokens()));
+    CHECK_BOTH(items == expected, tokens.NextToken().empty());
+    CHECK(!tokens.HasMoreTokens());
   }
 }

@@ -3,7 +3,7 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("a text takes over null, parts of itself and nothing that does not fit") {
-  CHECK((WString(nullptr).empty() && WString(L"brindle").AssignCString(nullptr).empty()));
+  CHECK_BOTH(WString(nullptr).empty(), WString(L"brindle").AssignCString(nullptr).empty());
   for (const wchar_t* const original : {L"seven__", L"a text that does not fit into the object"}) {
     WString text(original);
     const auto offset =

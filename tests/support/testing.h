@@ -20,6 +20,11 @@
 #include "tests/support/replaced_import.h"
 #include "tests/support/scratch_key.h"
 
+// Two facts that belong together, of which a failure shows the one that does not hold.
+#define CHECK_BOTH(first, second) \
+  CHECK(first);                   \
+  CHECK(second)
+
 // How a failed check shows a text.
 template <>
 struct doctest::StringMaker<std::wstring> {

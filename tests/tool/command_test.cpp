@@ -71,7 +71,7 @@ TEST_CASE("a process that ends too early loses no line, of whatever length") {
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_CRASH", nullptr);
   CHECK(run.output.starts_with("ERR: ImportCertToTrustedPublishers '" + Ascii(path) + "' Error: "));
   CHECK(run.output.ends_with("\r\nINFO: 0 - 00000000 - " + Ascii(text) + "\r\n"));
-  CHECK((run.exitCode == ERROR_PROCESS_ABORTED && run.errors.empty()));
+  CHECK_BOTH(run.exitCode == ERROR_PROCESS_ABORTED, run.errors.empty());
 }
 
 TEST_CASE("names outside ASCII are kept, and shown as far as a byte can") {

@@ -12,7 +12,7 @@ TEST_CASE("a module tells the languages of its first string table; kinship choos
   };
   CHECK(languagesOf(L"string_languages.dll") == Languages{0x0407, 0x0411, 0x0809});
   CHECK(languagesOf(L"named_strings.dll") == Languages{0x0C0C});
-  CHECK((GetStringResourceLanguages(nullptr).empty() && ChooseResourceLanguage({}, 0x0409) == 0));
+  CHECK_BOTH(GetStringResourceLanguages(nullptr).empty(), ChooseResourceLanguage({}, 0x0409) == 0);
   // Itself, a relative, English, the first.
   CHECK(ChooseResourceLanguage({0x0407, 0x0807}, 0x0807) == 0x0807);
   CHECK(ChooseResourceLanguage({0x0409, 0x0C07, 0x0407}, 0x0807) == 0x0C07);
@@ -21,7 +21,7 @@ TEST_CASE("a module tells the languages of its first string table; kinship choos
 }
 
 TEST_CASE("a locale has a name, unless Windows has no names") {
-  CHECK((LocaleNameFromLcid(0x0007) == L"de" && LocaleNameFromLcid(0x12345) == L""));
+  CHECK_BOTH(LocaleNameFromLcid(0x0007) == L"de", LocaleNameFromLcid(0x12345) == L"");
   CHECK(GetLocaleInfoString(0x0807, LOCALE_SNAME) == L"de-CH");
   const ReplacedExport missing("LCIDToLocaleName", nullptr);
   CHECK(LocaleNameFromLcid(0x0007) == L"");

@@ -29,7 +29,7 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
     });
     const ReplacedExport absent(missing, nullptr);
     RECT rect{};
-    CHECK((GetMonitorWorkArea({x, 0}, rect) && EqualRect(&rect, &expected.rcWork)));
-    CHECK((GetMonitorArea({x, 0}, rect) && EqualRect(&rect, &expected.rcMonitor)));
+    CHECK_BOTH(GetMonitorWorkArea({x, 0}, rect), EqualRect(&rect, &expected.rcWork));
+    CHECK_BOTH(GetMonitorArea({x, 0}, rect), EqualRect(&rect, &expected.rcMonitor));
   }
 }

@@ -17,7 +17,7 @@ TEST_CASE("the interface is tried again after each failure and loaded once") {
       wsspi::SspiInitialize();
     } catch (wsspi::SspiException* thrown) {
       const std::unique_ptr<wsspi::SspiException> failure(thrown);
-      CHECK((failure->file == L"wsspi" && failure->detail == 0));
+      CHECK_BOTH(failure->file == L"wsspi", failure->detail == 0);
       return failure->line == line && failure->code == code;
     }
     return false;
@@ -29,7 +29,7 @@ TEST_CASE("the interface is tried again after each failure and loaded once") {
       (ReplacedExport("InitSecurityInterfaceW", +[]() -> void* { return nullptr; }), fails(63, 5)));
   wsspi::SspiInitialize();
   wsspi::SspiInitialize();
-  CHECK((wsspi::IsSspiInitialized() && loads == 4));
+  CHECK_BOTH(wsspi::IsSspiInitialized(), loads == 4);
   CHECK(wsspi::SspiException(L"", 1, 16, 2).code == 16);
   CHECK(wsspi::SspiException(L"", 1, 17, 2).code == 16);
 }
