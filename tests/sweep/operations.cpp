@@ -70,7 +70,7 @@ WString ReadList() {
 
 WString WriteAndDelete() {
   RegistryAccessFlags = KEY_WOW64_64KEY;
-  constexpr const wchar_t* kKey = L"Software\\kelvo\\sweep";
+  constexpr const wchar_t* kKey = L"Software\\kelvo sweep\\key";
   const std::string bytes = "1";
   std::string read;
   WString answers = Text(RegistryWriteBinary(HKEY_CURRENT_USER, kKey, L"n", bytes));
@@ -78,8 +78,8 @@ WString WriteAndDelete() {
   answers += L" " + Text(read == bytes);
   answers += L" " + Text(RegistryValueExists(HKEY_CURRENT_USER, kKey, L"n"));
   answers += L" " + Text(RegistryDeleteValue(HKEY_CURRENT_USER, kKey, L"n"));
-  answers += L" " + Text(RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"Software", L"kelvo"));
-  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo");
+  answers += L" " + Text(RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"Software", L"kelvo sweep"));
+  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep");
   return answers;
 }
 

@@ -1,4 +1,3 @@
-
 #define SECURITY_WIN32
 #include <windows.h>
 
