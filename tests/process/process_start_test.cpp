@@ -64,8 +64,7 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
     for (const bool waits : {false, true}) {
       for (const bool takesHandle : {true, false}) {
         CAPTURE(place.before);
-        CAPTURE(waits);
-        CAPTURE(takesHandle);
+        INFO("waits: ", waits, ", takes the handle: ", takesHandle);
         const DesktopScope scope(place.station, place.desktop);
         const std::wstring before = CurrentDesktop();
         waits ? SetEvent(go.get()) : ResetEvent(go.get());
@@ -133,6 +132,7 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
   REPLACE(CreateProcessAsUserW, [](auto, auto token, auto...) { return !IsOurs("start", token); });
   REPLACE(CreateProcessW, [](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");
+    CHECK(std::get<1>(std::tuple(given...)) == std::wstring(L"\"program\" "));
     return calls += "caller", FALSE;
   });
   // Windows 5.0 or 5.1, the caller's session, whether the console's can be told and a token be
