@@ -7,17 +7,17 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
   const DesktopScope scope;
   const ReplacedExport find(
       "MonitorFromPoint", +[](POINT point, DWORD flags) {
-        return reinterpret_cast<HMONITOR>(INT_PTR{point.x} * static_cast<int>(flags));
+        return reinterpret_cast<HMONITOR>(INT_PTR{point.x} * point.y * static_cast<int>(flags));
       });
   const ReplacedExport describe(
       "GetMonitorInfoA", +[](HMONITOR monitor, MONITORINFO* info) -> BOOL {
         const auto number = static_cast<LONG>(reinterpret_cast<INT_PTR>(monitor));
-        *info = {info->cbSize, {number, 1, 2, 40}, {number, 11, 12, 13}, 0};
-        return info->cbSize != 40;
+        const bool isSized = info->cbSize == 40;
+        return isSized && (*info = {40, {number, 1, 2, 40}, {number, 11, 12, 13}, 0}).cbSize != 0;
       });
   MONITORINFO primary{40, {}, {}, 0};
   GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &primary);
-  const MONITORINFO nearest{40, {10, 1, 2, 40}, {10, 11, 12, 13}, 0};
+  const MONITORINFO nearest{40, {30, 1, 2, 40}, {30, 11, 12, 13}, 0};
   // The number of monitors, the point's x (0: no monitor there), a function that is missing.
   using Row = std::tuple<int, LONG, const char*, bool>;
   for (const auto& [monitors, x, missing, isNearest] :
@@ -29,7 +29,7 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
     });
     const ReplacedExport absent(missing, nullptr);
     RECT rect{};
-    CHECK_BOTH(GetMonitorWorkArea({x, 0}, rect), EqualRect(&rect, &expected.rcWork));
-    CHECK_BOTH(GetMonitorArea({x, 0}, rect), EqualRect(&rect, &expected.rcMonitor));
+    CHECK_BOTH(GetMonitorWorkArea({x, 3}, rect), EqualRect(&rect, &expected.rcWork));
+    CHECK_BOTH(GetMonitorArea({x, 3}, rect), EqualRect(&rect, &expected.rcMonitor));
   }
 }
