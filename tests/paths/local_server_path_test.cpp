@@ -23,12 +23,14 @@ TEST_CASE("a local server is the file that its class registers") {
     CHECK_BOTH(GetLocalServerPath(L"kelvo.test", path) == answer, path == expected);
     RegDeleteTreeW(HKEY_CLASSES_ROOT, classKey.c_str());
   }
-  std::vector<DWORD> tried;
-  REPLACE(RegOpenKeyExW, [&](auto, auto, auto, auto, DWORD access, auto) {
-    tried.push_back(access);
+  std::wstring tried;
+  REPLACE(RegOpenKeyExW, [&](auto, auto, LPCWSTR subkey, auto, DWORD access, auto) {
+    tried += std::wcsrchr(subkey, L'\\') + (L" " + std::to_wstring(access));
     return static_cast<LSTATUS>(access);
   });
   CHECK(GetLocalServerPath(L"kelvo.test", path) == 0x20219);
-  CHECK(tried == std::vector<DWORD>{0x20119, 0x20219, 0x20119, 0x20219});
+  CHECK(tried ==
+        L"\\LocalServer32 131353\\LocalServer32 131609"
+        L"\\LocalServer 131353\\LocalServer 131609");
   RegDeleteTreeW(HKEY_CLASSES_ROOT, L"kelvo.test");
 }

@@ -18,6 +18,7 @@ TEST_CASE("numbers and bytes are read as written, a value is deleted and its key
 
   REQUIRE(RegistryWriteDword(root, key, L"n", 0xFEDCBA98) == 0);
   CHECK(RegistryReadDword(root, key, L"n", 7) == 0xFEDCBA98);
+  CHECK_BOTH(RegistryReadBinary(root, key, L"n", bytes) == 0, bytes == "before");
   CHECK_BOTH(RegistryReadBoolean(root, key, L"n", false),
              RegistryReadBoolean(root, key, L"", true));
   REQUIRE(WriteRegistryValue(root, key, L"n", REG_DWORD, "12345", 5) == 0);
