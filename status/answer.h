@@ -7,9 +7,10 @@
 
 namespace kelvo {
 
-// Looks at what is asked for, or at all that can be told, and changes nothing. The items come in
-// the order application, publisher, intermediate, driver package, service, interface, system;
-// those of one kind in the order in which they were asked for.
+// Looks at what `questions` ask for, or at everything when they ask for nothing in particular, and
+// changes nothing. Returns an item for each thing in the order application, publisher,
+// intermediate, driver package, service, interface, system; several of a kind in the order of the
+// questions. Throws std::bad_alloc when memory runs out.
 std::vector<Item> Answer(const Questions& questions);
 
 }  // namespace kelvo

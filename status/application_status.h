@@ -9,20 +9,21 @@
 
 namespace kelvo {
 
-// What the registry holds in place of the list of dependent applications.
+// What the registry holds where the list of dependent applications belongs.
 struct ApplicationList {
-  LSTATUS error = ERROR_SUCCESS;  // of opening the key and of asking for the value
+  LSTATUS error = ERROR_SUCCESS;  // of opening the key or of querying the value
   DWORD type = REG_NONE;
   DWORD size = 0;  // in bytes
   WString text;    // the list as the tool reads it
 };
 
-// Reads the list, without creating its key (ReadApplicationList says which one).
+// Reads the list (ReadApplicationList in tool/dependent_applications.h) without creating its key.
 ApplicationList QueryApplicationList();
 
-// An item for each of `names`, present when removing it would find it in the list. Without names,
-// one for each application of the list, or a single absent one. Each absent one says when something
-// stands in place of the list that the tool cannot read and takes as empty.
+// Returns an item for each of `names`, which is present when the tool would find it in the list to
+// remove it. Without names, returns an item for each application in the list, or a single absent
+// one when there is none. An absent item says so when the registry holds something that the tool
+// cannot read and treats as an empty list.
 std::vector<Item> DescribeApplications(const ApplicationList& list,
                                        const std::vector<WString>& names);
 

@@ -7,9 +7,9 @@
 
 namespace kelvo {
 
-// A certificate's own words, and whether a store has it.
+// What a certificate says of itself, and whether a store holds it.
 struct CertificateFacts {
-  DWORD error = ERROR_SUCCESS;  // why the file or the store could not be looked at
+  DWORD error = ERROR_SUCCESS;  // why the file or the store could not be read
   bool isStoreThere = false;
   bool isInStore = false;
   WString subject;
@@ -18,16 +18,18 @@ struct CertificateFacts {
   FILETIME validUntil{};
 };
 
-// Looks for the certificate of a file, by its SHA-1 hash, in a system store of the local machine,
-// which is opened read-only (CryptQueryObject, CertFindCertificateInStore). The file holds one
-// certificate, binary or in Base64; a collection is refused with CRYPT_E_NO_MATCH.
+// Reads the certificate in `file` and looks for it, by its SHA-1 hash, in a system store of the
+// local machine, which is opened read-only (CryptQueryObject, CertFindCertificateInStore). The file
+// must hold one certificate, in binary or Base64 form: for a collection the error is
+// CRYPT_E_NO_MATCH.
 CertificateFacts QueryCertificate(const wchar_t* file, const wchar_t* storeName);
 
-// `now` decides whether the certificate has expired.
+// Returns the item for a certificate: present when the store holds it. `now` is the time by which
+// it has expired or not.
 Item DescribeCertificate(const char* kind, const WString& file, const CertificateFacts& facts,
                          FILETIME now);
 
-// How many certificates a system store of the local machine holds.
+// The number of certificates in a system store of the local machine.
 struct StoreFacts {
   DWORD error = ERROR_SUCCESS;  // ERROR_FILE_NOT_FOUND when there is no such store
   DWORD certificates = 0;

@@ -7,7 +7,7 @@
 
 namespace kelvo {
 
-// What is asked for. The names and paths are exactly the words of the command line.
+// What the command line asks for. Names and paths are its words, unchanged.
 struct Questions {
   std::vector<WString> applications;
   std::vector<WString> publishers;      // certificate files
@@ -15,7 +15,7 @@ struct Questions {
   std::vector<WString> driverPackages;  // INF files
   bool service = false;
 
-  // Whether nothing in particular is asked for, which means all that can be told.
+  // Returns whether nothing in particular is asked for, which means everything.
   [[nodiscard]] bool IsGeneral() const {
     return !service && applications.empty() && publishers.empty() && intermediates.empty() &&
            driverPackages.empty();
@@ -31,10 +31,10 @@ struct CommandLine {
   WString mistake;  // for kWrong
 };
 
-// `words` are the `count` words of a command line, the program's own path first.
+// Parses the `count` words of a command line, the first of which is the program's own path.
 CommandLine ParseCommandLine(int count, const wchar_t* const* words);
 
-// How the program is called and what its exit codes mean, in ASCII.
+// Returns how to call the program and what its exit codes mean, in ASCII.
 std::string UsageText();
 
 }  // namespace kelvo

@@ -14,11 +14,13 @@ struct DriverPackageFacts {
   InfVersion version;           // read only when there is a copy
 };
 
-// Looks for a file of the same bytes among those that Windows published in its INF folder when it
-// took up driver packages. One of them that cannot be read is an error unless another is the same.
+// Looks for a file with the same bytes among those that Windows published in its INF folder when it
+// staged driver packages. When one of them cannot be read and no other is the same, that is an
+// error.
 DriverPackageFacts QueryDriverPackage(const wchar_t* infPath);
 
-// Whether a file of the INF folder was published there: "oem", digits, ".inf", regardless of case.
+// Returns whether a file in the INF folder is a published one: "oem", digits, ".inf", in any letter
+// case.
 bool IsPublishedName(std::wstring_view name);
 
 Item DescribeDriverPackage(const WString& infPath, const DriverPackageFacts& facts);

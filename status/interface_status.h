@@ -7,11 +7,11 @@ namespace kelvo {
 
 // Where the driver installation interface is, and the version of its file.
 struct InterfaceFacts {
-  WString path;  // beside the program, or else in the system directory; empty for nowhere
+  WString path;  // beside the program, or else in the system directory; empty when in neither
   WString version;
 };
 
-// Looks for the file; loads nothing.
+// Looks for the file where the tool looks for it, and does not load it.
 InterfaceFacts QueryInterface();
 
 Item DescribeInterface(const InterfaceFacts& facts);

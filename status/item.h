@@ -9,27 +9,27 @@
 
 namespace kelvo {
 
-// From best to worst: what a list of items comes to is the state of its worst one.
+// From best to worst: the state of a list of items is that of its worst one.
 enum class State {
-  kTold,     // a fact that nobody asked to be there
+  kTold,     // a fact, which is neither good nor bad
   kPresent,  // it is there
   kAbsent,   // it is not there
-  kUnknown,  // it could not be looked at
+  kUnknown,  // it could not be read
 };
 
-// The stable name of a state, as both forms of the answer write it.
+// Returns the stable name of a state, as text and JSON write it.
 const char* StateName(State state);
 
-// One thing known about an item: `value` under the stable name `key` for scripts, `phrase` for a
-// person, who does not see it when that is empty.
+// One fact about an item: scripts find `value` under the stable name `key`, a person reads
+// `phrase`, or nothing when that is empty.
 struct Detail {
   const char* key;
   std::variant<bool, DWORD, WString> value;
   WString phrase;
 };
 
-// One line of the answer. `kind` is one of the stable names, in lower case and with "_" for blanks;
-// `name` is what was asked for or found and may be empty.
+// One line of the answer. `kind` is a stable name, in lower case and with "_" for blanks; `name` is
+// what was asked for or found, and may be empty.
 struct Item {
   const char* kind;
   State state;
@@ -37,17 +37,17 @@ struct Item {
   std::vector<Detail> details;
 };
 
-// The state of the worst item; kTold for none.
+// Returns the state of the worst item, or kTold for no items.
 State WorstState(const std::vector<Item>& items);
 
-// The detail `key` with a text that is shown after `label`.
+// Returns the detail `key` with a string that a person sees after `label`.
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
-// A Windows error code as the tool writes it: eight hexadecimal digits, then the system's text
-// without its full stop and line break, when there is one.
+// Returns a Windows error code as the tool writes it: eight hexadecimal digits, then the system's
+// message, when there is one, without its full stop and line break.
 WString DescribeError(DWORD error);
 
-// An item that could not be looked at, with the code and its text.
+// Returns an item for something that could not be read, with the error code and its message.
 Item UnknownItem(const char* kind, const WString& name, DWORD error);
 
 }  // namespace kelvo

@@ -7,10 +7,11 @@
 
 namespace kelvo {
 
-// The items for a script, as one JSON object in UTF-8: the number "schema", the program's
+// Returns the items for a script, as one JSON object in UTF-8: the number "schema", the program's
 // "version", the "state" of the worst item, and the array "items". Each item is an object with
-// "item", "state", "name" (null for none) and its details by their keys. Later versions may add
-// keys; "schema" changes when one changes its meaning or goes. An unpaired surrogate is U+FFFD.
+// "item", "state", "name" (null when there is none) and its details by their keys. Later versions
+// may add keys; "schema" changes when a key changes its meaning or is removed. An unpaired
+// surrogate becomes U+FFFD.
 std::string JsonReport(const std::vector<Item>& items);
 
 }  // namespace kelvo

@@ -9,7 +9,7 @@
 
 namespace kelvo {
 
-// Whether the service's device node is there; an error when that could not be looked at.
+// Whether the service's device node exists; `error` says why that is unknown.
 struct ServiceDevice {
   DWORD error = ERROR_SUCCESS;
   bool isThere = false;
@@ -19,15 +19,16 @@ struct ServiceDevice {
 // "BTHENUM", all classes; setupapi.dll is loaded for that) for the service's hardware id.
 ServiceDevice QueryServiceDevice();
 
-// Whether one of a device's hardware ids, each ending in a NUL and the last one in two, is that of
-// the hands-free service: "BTHENUM\", its class identifier in braces, and whatever follows,
-// regardless of case.
+// Returns whether one of a device's hardware ids is that of the hands-free service: "BTHENUM\", its
+// class identifier in braces, and whatever follows, in any letter case. Each id ends in a NUL, the
+// last one in two.
 bool IsServiceDevice(const wchar_t* hardwareIds);
 
-// 0 when "bthprops.cpl" can be loaded, otherwise the error of loading it.
+// Returns 0 when "bthprops.cpl" can be loaded, otherwise the error code of loading it.
 DWORD QueryBluetoothLibrary();
 
-// Without a `device`, that was not looked for, tells only of the library.
+// Returns the item for the service. Without a `device`, which was not looked for then, it tells
+// only about the library.
 Item DescribeService(const std::optional<ServiceDevice>& device, DWORD libraryError);
 
 }  // namespace kelvo

@@ -4,8 +4,8 @@
 
 namespace kelvo {
 
-// The running Windows (GetSystemVersionString), and whether the caller is an administrator and
-// elevated (IsAdmin, IsVistaProcessElevated).
+// Returns the item for the running Windows (GetSystemVersionString), which also tells whether the
+// caller is an administrator and elevated (IsAdmin, IsVistaProcessElevated).
 Item DescribeSystem();
 
 }  // namespace kelvo

@@ -7,8 +7,8 @@
 
 namespace kelvo {
 
-// The items for a person, in UTF-8: a line each, with its state, kind, name and details in columns
-// and characters that act on a terminal made visible.
+// Returns the items for a person, in UTF-8: one line for each, with its state, kind, name and
+// details in columns. Characters that would act on a terminal are made visible.
 std::string TextReport(const std::vector<Item>& items);
 
 }  // namespace kelvo
