@@ -1,0 +1,104 @@
+// What a setup often needs, a command each:
+//   setup_helper read HKEY_CURRENT_USER\Software\App\Setting   prints a registry value
+//   setup_helper grant FILE SID                                lets an account read and write a
+//   file setup_helper start PROGRAM [ARGUMENTS]                     starts a program for the user
+//   at the screen, waits for
+//                                                              its end, and ends with its exit code
+//   setup_helper ready PROGRAM MUTEX                           starts a program and waits until it
+//   has made its mutex
+// Ends with 0 for success and 1 for failure.
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <cwchar>
+#include <string>
+
+#include "lib/platform/owned.h"
+#include "lib/process/process_readiness.h"
+#include "lib/process/session_process.h"
+#include "lib/registry/registry_string.h"
+#include "lib/registry/registry_value.h"
+#include "lib/registry/registry_value_path.h"
+#include "lib/security/file_access.h"
+#include "lib/string/visible_text.h"
+#include "lib/ui/utf8_output.h"
+
+using kelvo::WString;
+
+namespace {
+
+constexpr int kSuccess = 0;
+constexpr int kFailure = 1;
+
+int Tell(const WString& text, int exitCode) {
+  const DWORD device = exitCode == kSuccess ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE;
+  return kelvo::WriteUtf8(device, kelvo::ToVisibleUtf8(text) + "\n") ? exitCode : kFailure;
+}
+
+int Read(const wchar_t* path, const wchar_t* /*unused*/) {
+  HKEY root = nullptr;
+  WString key;
+  WString name;
+  if (!kelvo::ParseRegistryValuePath(path, root, key, name)) {
+    return Tell(L"Not the path of a registry value", kFailure);
+  }
+  if (!kelvo::RegistryValueExists(root, key.c_str(), name.c_str())) {
+    return Tell(L"There is no such value", kFailure);
+  }
+  return Tell(kelvo::RegistryReadString(root, key.c_str(), name.c_str(), L"(not a string)"),
+              kSuccess);
+}
+
+int Grant(const wchar_t* file, const wchar_t* sid) {
+  constexpr DWORD kRights = FILE_GENERIC_READ | FILE_GENERIC_WRITE;
+  return kelvo::AddFileAccessRights(file, sid, kRights) != FALSE
+             ? Tell(L"Granted", kSuccess)
+             : Tell(L"The access list could not be changed", kFailure);
+}
+
+int Start(const wchar_t* program, const wchar_t* arguments) {
+  kelvo::OwnedKernelObject process;
+  if (!kelvo::LaunchInUserSession(program, arguments, true, process.Receive())) {
+    return Tell(L"The program could not be started", kFailure);
+  }
+  DWORD exitCode = kFailure;
+  GetExitCodeProcess(process.get(), &exitCode);
+  return static_cast<int>(exitCode);
+}
+
+int StartAndWaitUntilReady(const wchar_t* program, const wchar_t* mutex) {
+  constexpr DWORD kTimeoutMs = 10'000;
+  switch (kelvo::StartProcessAndWaitForMutex(program, nullptr, false, mutex, kTimeoutMs)) {
+    case kelvo::kMutexAppeared:
+      return Tell(L"Ready", kSuccess);
+    case kelvo::kNotStarted:
+      return Tell(L"The program could not be started", kFailure);
+    case kelvo::kClosedWhileWaiting:
+    case kelvo::kTimedOut:
+      break;
+  }
+  return Tell(L"The program is not ready after ten seconds", kFailure);
+}
+
+struct Command {
+  const wchar_t* name;
+  int (*run)(const wchar_t* first, const wchar_t* second);
+};
+
+constexpr std::array kCommands = {Command{L"read", Read}, Command{L"grant", Grant},
+                                  Command{L"start", Start},
+                                  Command{L"ready", StartAndWaitUntilReady}};
+
+}  // namespace
+
+extern "C" int wmain(int count, wchar_t** words) {
+  if (count < 3) {
+    return Tell(L"setup_helper read|grant|start|ready ...", kFailure);
+  }
+  const auto* const command = std::ranges::find_if(
+      kCommands, [&](const Command& known) { return std::wcscmp(known.name, words[1]) == 0; });
+  return command != kCommands.end() ? command->run(words[2], count > 3 ? words[3] : L"")
+                                    : Tell(L"There is no such command", kFailure);
+}
