@@ -52,7 +52,7 @@ int Read(const wchar_t* path, const wchar_t* /*unused*/) {
 }
 
 int Grant(const wchar_t* file, const wchar_t* sid) {
-  constexpr DWORD kRights = FILE_GENERIC_READ | FILE_GENERIC_WRITE;
+  constexpr DWORD kRights = FILE_GENERIC_READ | FILE_WRITE_DATA | FILE_APPEND_DATA;
   return kelvo::AddFileAccessRights(file, sid, kRights) != FALSE
              ? Tell(L"Granted", kSuccess)
              : Tell(L"The access list could not be changed", kFailure);

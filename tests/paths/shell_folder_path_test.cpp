@@ -8,7 +8,9 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
   const StandInKey user(HKEY_CURRENT_USER);
   wchar_t out[MAX_PATH];
   const WString deep = WString(L"C:\\") + WString(240, L'd') + L"\\";
-  using Row = std::tuple<WString, WString>;
+  struct Row {
+    WString path, directory;
+  };
   const auto modules = std::to_array(
       {Row(L"C:\\a b\\c.exe", L"C:\\a b\\"), Row(L"", L""), Row(deep + WString(10, L'n'), deep),
        Row(deep + WString(11, L'n'), deep), Row(deep + WString(300, L'n'), deep),
@@ -23,10 +25,14 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
       return std::min(static_cast<DWORD>(path.length()), size);
     });
     const bool isFound = GetShellFolderPath(&module, out, L"Personal");
-    CHECK(isFound == !directory.empty());
-    CHECK(out == directory);
+    CHECK_BOTH(isFound == !directory.empty(), out == directory);
   }
-  const std::tuple<HKEY, const wchar_t*, WString, WString> rows[] = {
+  struct Stored {
+    HKEY root;
+    const wchar_t* key;
+    WString stored, path;
+  };
+  const Stored rows[] = {
       {HKEY_LOCAL_MACHINE, L"Shell Folders", L"D:\\machine", L"D:\\machine\\"},
       {HKEY_CURRENT_USER, L"Shell Folders", L"%TEMP%\\user\\", L"%TEMP%\\user\\"},
       {HKEY_LOCAL_MACHINE, L"User Shell Folders", WString(258, L'm'), WString(258, L'm') + L"\\"},

@@ -14,11 +14,15 @@ TEST_CASE("a command line is read where a process of an old NT has it") {
     basic[1] = block;
     return kind == 0 && size == 48 ? 0L : 1L;
   };
-  // Platform, minor version, query, reads that succeed, buffer in bytes, answer.
-  const std::tuple<DWORD, DWORD, decltype(find), std::size_t, DWORD, DWORD> rows[] = {
-      {2, 0, find, 3, 16, 16}, {2, 0, find, 3, 15, 0},   {2, 0, find, 2, 16, 0},
-      {2, 0, find, 1, 16, 0},  {2, 0, find, 0, 16, 0},   {2, 1, find, 3, 16, 0},
-      {1, 0, find, 3, 16, 0},  {2, 0, nullptr, 3, 16, 0}};
+  struct Row {
+    DWORD platform, minorVersion;
+    decltype(find) query;
+    std::size_t goodReads;
+    DWORD bufferBytes, answer;
+  };
+  const Row rows[] = {{2, 0, find, 3, 16, 16}, {2, 0, find, 3, 15, 0},   {2, 0, find, 2, 16, 0},
+                      {2, 0, find, 1, 16, 0},  {2, 0, find, 0, 16, 0},   {2, 1, find, 3, 16, 0},
+                      {1, 0, find, 3, 16, 0},  {2, 0, nullptr, 3, 16, 0}};
   for (const auto& [platform, minor, query, good, size, answer] : rows) {
     CAPTURE(platform);
     CAPTURE(minor);

@@ -43,8 +43,7 @@ TEST_CASE("the mutex is looked for every 100 ms, by a clock that wraps, as long 
     return TRUE;
   });
   REPLACE(OpenMutexW, [&](auto, DWORD access, BOOL inherits, LPCWSTR name) {
-    CHECK(access == MUTEX_ALL_ACCESS);
-    CHECK(inherits == FALSE);
+    CHECK_BOTH(access == MUTEX_ALL_ACCESS, inherits == FALSE);
     CHECK(name == std::wstring(L"Global\\name"));
     return ++lookups, nullptr;
   });

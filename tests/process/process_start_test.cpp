@@ -114,8 +114,7 @@ TEST_CASE("letter case matters where a process is started, not where one asks") 
     asked = 0;
     HANDLE untouched = &moved;
     CHECK_FALSE(RunAsUser(std::wstring(L"no such program").data(), FALSE, &untouched));
-    CHECK(untouched == &moved);
-    CHECK(moved == row.moves);
+    CHECK_BOTH(untouched == &moved, moved == row.moves);
   }
 }
 
@@ -135,9 +134,12 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
     CHECK(std::get<1>(std::tuple(given...)) == std::wstring(L"\"program\" "));
     return calls += "caller", FALSE;
   });
-  // Windows 5.0 or 5.1, the caller's session, whether the console's can be told and a token be
-  // duplicated, the caller's desktop, and what happens. RunAsUser leaves its token open.
-  using Road = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
+  struct Road {
+    DWORD minorVersion, ownSession;  // of Windows 5
+    bool tellsConsoleSession, duplicates;
+    const wchar_t* desktop;
+    std::string happens;  // RunAsUser leaves its token open
+  };
   for (const auto& [minor, ownSession, tells, duplicates, desktop, happens] :
        {Road{1, 5, true, true, nullptr, "close1start2close2"},
         Road{1, 3, true, false, nullptr, "start1close1"},

@@ -12,8 +12,12 @@ static std::wstring Expanded(const wchar_t* text) {
 
 TEST_CASE("a text value is read whole or not at all") {
   const std::wstring longest(1023, L'x');
-  // The value's type, its units, how many bytes are cut off them, what is read.
-  using Row = std::tuple<DWORD, std::wstring, std::size_t, std::wstring>;
+  struct Row {
+    DWORD type;
+    std::wstring stored;
+    std::size_t cutBytes;
+    std::wstring expected;
+  };
   const auto rows = std::to_array(
       {Row(REG_SZ, L"\u017D\U0001F600;b\0"s, 0, L"\u017D\U0001F600;b"), Row(REG_SZ, L"\0"s, 0, L""),
        Row(REG_SZ, L"", 0, L""), Row(REG_SZ, longest + L'\0', 0, longest),
@@ -37,7 +41,12 @@ TEST_CASE("a text value is read whole or not at all") {
 }
 
 TEST_CASE("a caller's buffer is filled, ended and never left") {
-  using Row = std::tuple<DWORD, std::wstring, std::size_t, std::wstring>;
+  struct Row {
+    DWORD type;
+    std::wstring stored;
+    std::size_t length;
+    std::wstring expected;
+  };
   const auto rows =
       std::to_array({Row(REG_SZ, L"abc\0"s, 4, L"abc"), Row(REG_SZ, L"abcd\0"s, 4, L""),
                      Row(REG_SZ, L"abcd", 4, L"abc"),

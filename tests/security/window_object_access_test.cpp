@@ -50,8 +50,7 @@ TEST_CASE("a list of more than 1,008 bytes is built on the heap, and only what w
                     list.acl, nullptr);
     allocated = freed = 0;
     CHECK(AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE);
-    CHECK(allocated == (count == 49 ? 1 : 0));
-    CHECK(freed == 1);
+    CHECK_BOTH(allocated == (count == 49 ? 1 : 0), freed == 1);
   }
 }
 
@@ -85,8 +84,7 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
     CHECK(flag == TRUE);
     return original(to, has, list, FALSE);
   });
-  CHECK(ModifySecurity(event.get(), 2) == TRUE);
-  CHECK(freed == 0);
+  CHECK_BOTH(ModifySecurity(event.get(), 2) == TRUE, freed == 0);
   const std::wstring granted = ReadDacl(event.get());
   const std::wstring user = granted.substr(granted.rfind(L';') + 1);
   CHECK(granted == L"D:(A;;DC;;;" + user);

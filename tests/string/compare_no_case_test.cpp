@@ -6,7 +6,10 @@
 
 TEST_CASE("texts are compared by their lower-case units") {
   // Below U+0100 only A to Z are folded; above, whatever the system maps to one unit.
-  using Row = std::tuple<const wchar_t*, const wchar_t*, int>;
+  struct Row {
+    const wchar_t *a, *b;
+    int difference;
+  };
   const auto rows =
       std::to_array({Row(L"Foo", L"fOO", 0), Row(L"a", L"ab", -L'b'), Row(L"AB", L"a", L'b'),
                      Row(L"Z", L"[", L'z' - L'['), Row(L"\u00C9", L"\u00E9", -0x20),

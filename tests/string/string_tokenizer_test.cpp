@@ -9,8 +9,12 @@ TEST_CASE("a text is split at the whole delimiter, in time that grows with its l
     listed += L"item|";
   }
   const std::wstring run(1'000'000, L';');
-  // A text, its delimiter, whether runs of it count as one; the items, each ended by "|".
-  using Row = std::tuple<std::wstring, const wchar_t*, bool, std::wstring>;
+  struct Row {
+    std::wstring text;
+    const wchar_t* delimiter;
+    bool collapse;
+    std::wstring items;  // each ended by "|"
+  };
   const auto rows = std::to_array(
       {Row(L";a;;b;", L";", true, L"a|b|"), Row(L";a;;b;", L";", false, L"|a||b|"),
        Row(L"", L";", true, L""), Row(L"", L";", false, L""), Row(L";", L";", true, L""),

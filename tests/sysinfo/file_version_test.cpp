@@ -122,10 +122,8 @@ TEST_CASE("the common controls tell their version, or are 4.0 when they cannot")
     const ReplacedExport version("DllGetVersion", row.getVersion);
     result = row.told;
     major = minor = 77;
-    CHECK(GetComCtlVersion(&major, &minor) == row.result);
-    CHECK(major == row.major);
-    CHECK(minor == row.minor);
-    CHECK(GetComCtlVersionPacked() == row.packed);
+    CHECK_BOTH(GetComCtlVersion(&major, &minor) == row.result, major == row.major);
+    CHECK_BOTH(minor == row.minor, GetComCtlVersionPacked() == row.packed);
   }
   CHECK(GetComCtlVersion(nullptr, &minor) == E_INVALIDARG);
   CHECK(GetComCtlVersion(&major, nullptr) == E_INVALIDARG);

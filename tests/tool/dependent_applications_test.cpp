@@ -3,19 +3,20 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("a name is added unless it occurs in the list, and removed whatever its case") {
-  // A list, a name, and the list to write; "-" for none.
-  const WString added[][3] = {
-      {L"", L"brindle", L"brindle"}, {L"brindle", L"rind", L"-"},
-      {L"brindle", L"", L"-"},       {L"", L"", L"-"},
-      {L"a", L"A", L"a;A"},          {L"a;;b;", L"c", L"a;;b;;c"},
-      {L";;a", L";b;;", L"a;;b"},    {L"", L";;", L""},
-      {L"a", L" b ", L"a; b "},      {L"\u0416", L"\u0436", L"\u0416;\u0436"}};
+  struct Row {
+    WString list, name, result;
+  };
+  // "-" where nothing is to be written.
+  const Row added[] = {{L"", L"brindle", L"brindle"}, {L"brindle", L"rind", L"-"},
+                       {L"brindle", L"", L"-"},       {L"", L"", L"-"},
+                       {L"a", L"A", L"a;A"},          {L"a;;b;", L"c", L"a;;b;;c"},
+                       {L";;a", L";b;;", L"a;;b"},    {L"", L";;", L""},
+                       {L"a", L" b ", L"a; b "},      {L"\u0416", L"\u0436", L"\u0416;\u0436"}};
   for (const auto& [list, name, result] : added) {
     CAPTURE(list);
     CAPTURE(name);
     CHECK(ListWithApplication(list, name.c_str()).value_or(L"-") == result);
   }
-  using Row = std::tuple<WString, WString, WString>;
   const auto removed =
       std::to_array({Row(L"brindle", L"rind", L"brindle"), Row(L"a;;b;;c", L"x", L"a;b;c"),
                      Row(L"a;b;A;c;a", L"a", L"b;c"), Row(L"", L"a", L""), Row(L";;;", L"a", L""),

@@ -21,7 +21,6 @@ TEST_CASE("the last error after the adjustment tells whether the privilege is en
       written.append(static_cast<const char*>(bytes), size);
       return (*done = size) != 0;
     });
-    CHECK(EnableLoadDriverPrivilege() == isEnabled);
-    CHECK(written == output);
+    CHECK_BOTH(EnableLoadDriverPrivilege() == isEnabled, written == output);
   }
 }

@@ -22,8 +22,7 @@ TEST_CASE("libraries come from the program's folder and the system's alone") {
     REPLACE(SetDllDirectoryW,
             [&](auto, LPCWSTR path) { return isTakenOut = path == std::wstring(), TRUE; });
     NarrowLibrarySearch();
-    CHECK(directories == row.directories);
-    CHECK(isTakenOut == row.isCurrentFolderTakenOut);
+    CHECK_BOTH(directories == row.directories, isTakenOut == row.isCurrentFolderTakenOut);
   }
 }
 
@@ -42,8 +41,7 @@ TEST_CASE("the driver installation interface is loaded by its path, beside the p
   });
   DriverInterface driver;
   CHECK_FALSE(BindDriverInterface(driver));
-  CHECK(GetLastError() == ERROR_BAD_EXE_FORMAT);
-  CHECK(asked == L"S:\\system\\difxapi.dll");
+  CHECK_BOTH(GetLastError() == ERROR_BAD_EXE_FORMAT, asked == L"S:\\system\\difxapi.dll");
   const std::wstring ownCopy = folder.Write("difxapi.dll", "");
   CHECK_FALSE(BindDriverInterface(driver));
   CHECK(asked == ownCopy);

@@ -19,12 +19,9 @@ TEST_CASE("each locale of the table is Windows' own, both ways") {
       CHECK_BOTH(known == std::wstring(name), LocaleNameToLCID(name, 0) == id);
     }
   }
-  CHECK(count == 158);
-  CHECK(FindLocaleName(0x00010407) == std::wstring(L"de-DE"));
-  CHECK(FindLocaleName(0x01000407) == nullptr);
-  CHECK(FindLocaleId(L"DE-ch") == 0x0807);
-  CHECK(FindLocaleId(L"de-C") == 0);
-  CHECK(FindLocaleId(nullptr) == 0);
+  CHECK_BOTH(count == 158, FindLocaleName(0x00010407) == std::wstring(L"de-DE"));
+  CHECK_BOTH(FindLocaleName(0x01000407) == nullptr, FindLocaleId(L"DE-ch") == 0x0807);
+  CHECK_BOTH(FindLocaleId(L"de-C") == 0, FindLocaleId(nullptr) == 0);
 }
 
 TEST_CASE("the exact file is found, or the nearest that is there") {
@@ -76,6 +73,5 @@ TEST_CASE("the exact file is found, or the nearest that is there") {
   }
   const ReplacedExport missing("GetLocaleInfoEx", nullptr);
   CHECK(find(0x0407, kFolder) == L"resources\\de-DE\\a.b.dll");
-  CHECK(find(0x0807, kSuffix) == L"a.b_de-CH.dll");
-  CHECK(find(0x0411, kFolder) == L"");
+  CHECK_BOTH(find(0x0807, kSuffix) == L"a.b_de-CH.dll", find(0x0411, kFolder) == L"");
 }
