@@ -41,6 +41,9 @@ else()
   target_compile_options(kelvo_build_options INTERFACE
     "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>"
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
+  # As if x86intrin.h were included already. The processor's vector functions are half of what mingw's windows.h brings:
+  # nothing here calls one, each source would be compiled, and looked through by clang-tidy, twice as long.
+  target_compile_options(kelvo_build_options INTERFACE "$<$<COMPILE_LANGUAGE:C,CXX>:-D__X86INTRIN_H>")
 endif()
 
 # Debug information for the .pdb of a program that is shipped: for it and for the libraries in it.
