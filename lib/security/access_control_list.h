@@ -4,25 +4,25 @@
 
 namespace kelvo {
 
-// A list whose entries do not lie wholly inside it counts as one that GetAclInformation refuses.
-// Failures are traced, except exceptions, which count as failures without a trace.
+// A list with an entry that reaches past its end counts as one that cannot be read. Failures are
+// traced (lib/trace/trace_sink.h); an exception counts as a failure but is not traced.
 
-// What stands for "no index". AddAce takes it for "at the end".
+// Means "no index". AddAce appends the entry when it is given this index.
 constexpr DWORD kNoAceIndex = MAXDWORD;
 
-// The index of the last entry that equals `ace` (EqualACE), kNoAceIndex when there is none and when
-// the list cannot be read.
+// Returns the index of the last entry that equals `ace` (EqualACE), or kNoAceIndex when there is
+// none or the list cannot be read.
 DWORD FindACEInACL(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 
 // Appends all entries of `source`, in their order, to an initialized list with room for them.
-// Returns FALSE when the source cannot be read or an entry does not fit; what was appended until
-// then stays.
+// Returns FALSE when either list cannot be read or AddAce refuses an entry, as when it does not
+// fit; entries appended before that stay.
 BOOL CopyACL(ACL* destination, const ACL* source);
 
-// The bytes that a list needs for the entries of `acl` (null: none), one access entry for each of
-// the SIDs and the given ACEs, and a header; `acl`'s own header is counted in addition. Either
-// array may be null when its count is 0. Returns 0 when the list cannot be read or a SID is
-// invalid.
+// Returns the size in bytes of a list that holds the entries of `acl` (none for null), an allow or
+// deny entry for each SID, and the given ACEs. Counts the header of a given `acl` as well as the
+// new one. Either array may be null when its count is 0. Returns 0 when the list cannot be read or
+// a SID is invalid.
 DWORD CalculateACLSize(const ACL* acl, const PSID* sids, DWORD sidCount,
                        const ACCESS_ALLOWED_ACE* const* aces, DWORD aceCount);
 

@@ -57,7 +57,7 @@ bool DeleteDenyAcesOfObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type,
   if (!DeleteDenyAces(sid, dacl, size.AceCount)) {
     return false;
   }
-  // Also when nothing was deleted. The text names GetAce, although it is the write that failed.
+  // Also when nothing was deleted. The message names GetAce, although the write failed.
   return internal::Check(SetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr,
                                          dacl, nullptr) == ERROR_SUCCESS,
                          L"DeleteDenyACEofObject SetSecurityInfo GetAce Failed");

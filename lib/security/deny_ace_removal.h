@@ -6,16 +6,15 @@
 
 namespace kelvo {
 
-// Removes the deny entries (ACCESS_DENIED_ACE_TYPE and ACCESS_DENIED_OBJECT_ACE_TYPE) for one SID
-// from an object's DACL, except one at index 0, and writes the DACL back (SetSecurityInfo), also
-// when it held none. The handle needs READ_CONTROL and WRITE_DAC. An object without a DACL is left
-// as it is.
+// Removes the deny entries (ACCESS_DENIED_ACE_TYPE) for one SID from an object's DACL, except one
+// at index 0, and writes the DACL back (SetSecurityInfo), even when it held none. The handle needs
+// READ_CONTROL and WRITE_DAC. An object without a DACL is left as it is.
 //
-// The SID is read after header and mask, so an object entry, which has its SID further on, is not
-// found, and a callback entry is of another type. Returns TRUE when the DACL was written back; an
-// entry that DeleteAce refuses to delete stays, and nothing tells. Returns FALSE, and traces why,
-// when the DACL cannot be read or written, when it has no entries, and when a deny entry is too
-// short for its SID; the object then keeps its DACL.
+// Object entries stay, since their SID is looked for right after the mask, where they hold other
+// data; so do callback entries. Returns TRUE when the DACL was written back or there is none; an
+// entry that DeleteAce refuses to delete stays, without a trace. Returns FALSE, and traces why,
+// when the DACL cannot be read or written, when it has no entries, and when a deny entry, object
+// entries included, is too short for its SID; the object then keeps its DACL.
 BOOL DeleteDenyACEofObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type);
 
 }  // namespace kelvo

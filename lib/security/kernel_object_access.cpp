@@ -74,7 +74,7 @@ bool MakeAbsolute(Buffers& buffers) {
   const bool areAllocated = buffers.descriptor != nullptr && buffers.dacl != nullptr &&
                             buffers.sacl != nullptr && buffers.owner != nullptr &&
                             buffers.group != nullptr;
-  // The text speaks of a SID, but it is memory that is short.
+  // The message speaks of a SID, but memory has run out.
   if (!internal::Check(areAllocated, L"ModifySecurity Invalid SID Found")) {
     return false;
   }

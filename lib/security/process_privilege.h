@@ -8,8 +8,9 @@ namespace kelvo {
 // LookupPrivilegeValueW on this system, AdjustTokenPrivileges. `name` is Windows' name of the
 // privilege, such as "SeShutdownPrivilege".
 
-// Enables or disables a privilege. Returns TRUE when AdjustTokenPrivileges does, which is also so
-// for a privilege that the token does not hold; FALSE when a step fails, by an exception too.
+// Enables or disables a privilege. Returns what AdjustTokenPrivileges returns, which is TRUE also
+// for a privilege that the token does not hold; FALSE when an earlier step fails or an exception
+// ends one.
 BOOL EnablePrivilege(const wchar_t* name, BOOL enable);
 
 struct PrivilegeOutcome {
@@ -21,7 +22,7 @@ struct PrivilegeOutcome {
   DWORD error = ERROR_SUCCESS;
 };
 
-// Enables a privilege and tells how that went, for callers that must know whether it is held.
+// Enables a privilege and reports how that went, for callers that must know whether it is held.
 PrivilegeOutcome EnablePrivilegeWithOutcome(const wchar_t* name);
 
 }  // namespace kelvo

@@ -11,7 +11,7 @@ namespace kelvo {
 
 namespace {
 
-// The first three stand twice and so are twice in the set.
+// The first three are listed twice, and so are in the set twice.
 constexpr const wchar_t* kBuiltInPrivileges[] = {
     L"SeCreateTokenPrivilege",
     L"SeAssignPrimaryTokenPrivilege",

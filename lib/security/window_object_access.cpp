@@ -15,7 +15,7 @@ namespace kelvo {
 
 namespace {
 
-// What the two kinds of window objects differ in.
+// What differs between the two kinds of window objects.
 struct WindowObjectKind {
   ACCESS_MASK mask;
   const wchar_t* readFailed;
@@ -50,7 +50,7 @@ constexpr WindowObjectKind kDesktop = {
     .writeFailed = L"AllowAccessToDesktop SetSecurityInfo Failed",
     .cleanUp = L"AllowAccessToDesktop exception caught in __finally"};
 
-// A list up to this size is built on the stack: 1,024 bytes less a mark of 16.
+// A list up to this size is built on the stack: 1,024 bytes less a marker of 16.
 constexpr std::size_t kStackSize = 1024 - 16;
 
 bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,
@@ -69,7 +69,7 @@ bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE*
 
 bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
                  ACCESS_ALLOWED_ACE* ace) {
-  // ACL itself asks for 2 bytes, the entries in it for 4.
+  // ACL itself is aligned to 2 bytes, the entries in it to 4.
   alignas(DWORD) std::array<std::byte, kStackSize> stack{};
   const DWORD size = CalculateACLSize(dacl, nullptr, 0, &ace, 1);
   // Not freed when it comes from the heap, as the entry is not.
@@ -101,7 +101,7 @@ bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
   if (dacl == nullptr) {
     return true;
   }
-  // Without an entry there is nothing to look for; AllocateACE has said why.
+  // Without an entry there is nothing to look for.
   return ace != nullptr &&
          (FindACEInACL(dacl, ace) != kNoAceIndex || ReplaceDacl(kind, object, dacl, ace));
 }

@@ -8,9 +8,9 @@ namespace kelvo::internal {
 
 // Access lists come from other processes and from disks, and Windows' own functions trust the sizes
 // in them. These never read past a list or past an entry: the first two refuse a list that is not
-// sound, the others read the entries of a sound one. Every type of entry is taken for the layout of
-// ACCESS_ALLOWED_ACE: header, mask, SID. An entry may lie at any address, since the size of the one
-// before it may be any number.
+// sound, the others read the entries of a sound one. Every type of entry is read as
+// ACCESS_ALLOWED_ACE is laid out: header, mask, SID. An entry may lie at any address, since the
+// size of the one before it may be any number.
 
 // Where the SID is in an entry: after header and mask.
 constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
