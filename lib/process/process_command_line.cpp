@@ -13,8 +13,8 @@ namespace kelvo {
 
 namespace {
 
-// The part of a process environment block that is read. The parameters are looked for at 0x18 on
-// purpose, although a 64-bit block of the usual layout has them at 0x20.
+// The part of a process environment block that is read. The parameters are read at 0x18 on purpose,
+// although a 64-bit block of the usual layout has them at 0x20.
 struct EnvironmentBlock {
   std::byte before[0x18];
   const void* parameters;

@@ -9,8 +9,10 @@ namespace kelvo {
 // PROCESS_VM_READ. Returns 0 when a read fails, which may leave part of the command line in
 // `buffer`, and when `bufferBytes` is less than the command line's length in bytes.
 //
-// Works on NT before 6.1 only: on Windows 7 and later, and on Windows 9x, it returns 0 without
-// looking at the process. Uses NtQueryInformationProcess, looked up at run time.
+// Reads the process parameters from offset 0x18 of the process environment block
+// (NtQueryInformationProcess, looked up at run time). A 64-bit process usually has them at 0x20;
+// what is copied is then not its command line. On Windows 7 and later, and on Windows 9x, returns 0
+// without looking at the process.
 DWORD GetProcessCommandLine(HANDLE process, void* buffer, DWORD bufferBytes);
 
 }  // namespace kelvo

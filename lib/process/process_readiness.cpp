@@ -28,7 +28,7 @@ StartResult WaitForMutex(const WString& name, bool pumpMessages, DWORD timeoutMs
     if (OwnedKernelObject(OpenMutexW(MUTEX_ALL_ACCESS, FALSE, name.c_str()))) {
       return kMutexAppeared;
     }
-    // Polls without a pause between while messages are pumped, so that none has to wait.
+    // Polls without a pause while messages are pumped, so that none has to wait.
     if (!pumpMessages) {
       Sleep(kPollPauseMs);
     } else if (PumpWaitingMessages() == WM_CLOSE) {

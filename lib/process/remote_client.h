@@ -10,9 +10,9 @@ namespace kelvo {
 // `buffer` then holds the client's name when Windows returned one, and is unchanged when it did
 // not.
 //
-// `capacity` is in characters, the NUL included; a longer name is cut, and compared as cut. A null
-// buffer or a capacity below 1 gives -1. Uses WTSQuerySessionInformationW (WTSClientName of the
-// current session), looked up at run time. No exception leaves the function.
+// `capacity` is in characters, the NUL included; a longer name is cut, and compared as cut. Returns
+// -1 for a null buffer and for a capacity below 1. Uses WTSQuerySessionInformationW (WTSClientName
+// of the current session), looked up at run time. No exception leaves the function.
 std::int32_t GetRemoteClientName(wchar_t* buffer, int capacity);
 
 }  // namespace kelvo

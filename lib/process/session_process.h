@@ -6,7 +6,7 @@ namespace kelvo {
 
 // Starts a program for the user who sits at the machine's own screen, also from a service in
 // another session, and returns true when the process was created. The command line is the path in
-// double quotes, a blank and the arguments as they are; null strings count as empty.
+// double quotes, a space and the arguments as they are; null strings count as empty.
 //
 // On Windows XP and later the program runs in that user's session and account
 // (CreateProcessAsUserW). When nobody is logged on there, or Windows refuses the user's token

@@ -4,8 +4,8 @@
 
 namespace kelvo::internal {
 
-// Returns a primary token with all rights (MAXIMUM_ALLOWED), made of `token` with DuplicateTokenEx,
-// or `token` itself when that fails. Returns null for null.
+// Returns a primary token with all rights (MAXIMUM_ALLOWED), copied from `token` with
+// DuplicateTokenEx, or `token` itself when that fails. Returns null for null.
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token);
 
 // Enables, in this process's token, the privileges that help to start a process with another token.

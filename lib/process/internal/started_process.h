@@ -15,7 +15,7 @@ struct StartedProcess {
   OwnedKernelObject thread;
 };
 
-// Returns the path in double quotes, a blank and the arguments as they are; null counts as empty.
+// Returns the path in double quotes, a space and the arguments as they are; null counts as empty.
 inline WString QuotedCommandLine(const wchar_t* exePath, const wchar_t* arguments) {
   return WString(L"\"") + exePath + L"\" " + arguments;
 }
