@@ -14,17 +14,17 @@ namespace kelvo {
 
 namespace {
 
-// Each call into Windows costs far more than a unit, so 256 are mapped at once, when one of them is
-// first needed, and kept for the life of the process.
+// A call into Windows costs far more than mapping one unit, so 256 are mapped at once, when one of
+// them is first needed, and kept for the life of the process.
 using Page = std::array<wchar_t, 256>;
 
 wchar_t MapUnit(wchar_t unit) {
   wchar_t mapped = unit;
-  // The invariant locale, so that the user's settings do not change which names are the same.
+  // The invariant locale, so that the user's settings do not change which strings are equal.
   return LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, &unit, 1, &mapped, 1) == 1 ? mapped : unit;
 }
 
-// Null when memory is short.
+// Null when memory runs out or the mapping fails.
 const Page* MakePage(wchar_t first) {
   std::unique_ptr<Page> page(new (std::nothrow) Page);
   Page units{};
@@ -63,7 +63,7 @@ wchar_t FoldInDefaultLocale(wchar_t unit) {
 
 wchar_t FoldInLocale(wchar_t unit) { return static_cast<wchar_t>(std::towlower(unit)); }
 
-// One letter from A to Z in both cases.
+// Returns true for one letter from A to Z in both cases.
 bool AreCasesOfLetter(unsigned a, unsigned b) {
   constexpr unsigned kCaseBit = 0x20;
   return (a ^ b) == kCaseBit && (a | kCaseBit) - L'a' < 26;

@@ -10,7 +10,7 @@ namespace kelvo {
 // counts are in UTF-16 units. All functions throw std::bad_alloc when memory runs out.
 
 // Returns `count` units from `start` on, or as many as there are: an empty string when `start` is
-// past the end.
+// at the end or past it.
 WString SubstringClamped(const WString& text, std::size_t start, std::size_t count = WString::npos);
 
 // Replaces every occurrence of `search` in `text`, found from left to right without overlap, and

@@ -8,9 +8,9 @@
 namespace kelvo {
 
 // A string of UTF-16 units, always followed by a NUL: std::wstring, but a null pointer counts as an
-// empty string, and the messages of its exceptions do not depend on the standard library. Up to
-// seven units are stored in the object itself. Positions and counts are in units. Operations are
-// those of the standard:
+// empty string, and the messages of its exceptions do not depend on the standard library. With
+// libstdc++, up to seven units are stored in the object itself. Positions and counts are in units.
+// Operations are those of the standard:
 //   - a start position past the end throws std::out_of_range "invalid string position";
 //   - growth beyond max_size() throws std::length_error "string too long"; constructing one from a
 //     longer view throws with the standard library's own message;
@@ -23,7 +23,7 @@ class WString {
   static constexpr std::size_t npos = std::wstring::npos;
 
   WString() = default;
-  // NOLINTNEXTLINE(google-explicit-constructor): literals are texts
+  // NOLINTNEXTLINE(google-explicit-constructor): literals are strings
   WString(const wchar_t* text) { AssignCString(text); }
   explicit WString(std::wstring_view text) : text_(text) {}
   WString(std::size_t count, wchar_t unit) { resize(count, unit); }
@@ -59,7 +59,7 @@ class WString {
   // Points to length() units that may be written and the NUL after them, which may not.
   [[nodiscard]] wchar_t* data() { return text_.data(); }
 
-  // NOLINTNEXTLINE(google-explicit-constructor): a view of the whole text loses nothing
+  // NOLINTNEXTLINE(google-explicit-constructor): a view of the whole string loses nothing
   operator std::wstring_view() const { return text_; }
 
   friend bool operator==(const WString&, const WString&) = default;
