@@ -6,11 +6,11 @@
 
 namespace kelvo {
 
-// The rules that every registry operation of this folder keeps:
+// Rules for all registry operations in this folder:
 //   - `root` is an open key or one of Windows' predefined ones; `subkey` is a path below it, its
 //     keys separated by backslashes; `valueName` is a value's name, where null or an empty string
 //     means the key's default value. All strings are NUL-terminated.
-//   - Each operation opens the key, does one thing and closes it again.
+//   - Except for OpenRegistryKey and CreateRegistryKey, an operation that opens a key closes it.
 //   - A status is 0 for success, otherwise the Windows error code of the failing call, or -1 where
 //     the operation says so.
 
@@ -37,11 +37,11 @@ using OwnedRegistryKey = Owned<internal::RegistryKeyTraits>;
 LSTATUS OpenRegistryKey(HKEY root, const wchar_t* subkey, REGSAM access, OwnedRegistryKey& key);
 
 // Opens a key for KEY_WRITE | RegistryAccessFlags; creates it, with all missing keys on its path,
-// when it does not exist (RegCreateKeyExW, not volatile, default security). On failure `key` owns
-// nothing.
+// when it does not exist (RegCreateKeyExW, not volatile, default security). `subkey` must not be
+// null. On failure `key` owns nothing.
 LSTATUS CreateRegistryKey(HKEY root, const wchar_t* subkey, OwnedRegistryKey& key);
 
-// True when the key opens with KEY_READ.
+// Returns true when the key opens with KEY_READ.
 bool RegistryKeyExists(HKEY root, const wchar_t* subkey);
 
 }  // namespace kelvo

@@ -65,8 +65,8 @@ LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_
   if (WString(parentPath).empty() || WString(keyName).empty()) {
     return ERROR_ACCESS_DENIED;
   }
-  // The key that is emptied now, and where the path of each key from keyName down to it ends for
-  // its parent. Not a recursion: others decide how deep a tree is.
+  // The path of the key being emptied and, for each key from keyName down to it, the length of its
+  // parent's path. Not a recursion: others decide how deep a tree is.
   WString path = WString(parentPath) + L"\\" + keyName;
   std::vector<std::size_t> parentLengths{WString(parentPath).length()};
   while (!parentLengths.empty()) {

@@ -10,8 +10,8 @@ namespace kelvo {
 // returns.
 
 // Returns the number that a REG_DWORD value stores (RegQueryValueExW), or `defaultNumber` when the
-// key or the value is missing, has another type or has more than 4 bytes. The missing high bytes of
-// shorter data count as 0.
+// key does not open or the value is missing, has another type or has more than 4 bytes. The missing
+// high bytes of shorter data count as 0.
 DWORD RegistryReadDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                         DWORD defaultNumber);
 

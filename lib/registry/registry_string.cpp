@@ -19,7 +19,7 @@ constexpr DWORD kExpandedLength = MAX_PATH;
 
 enum class Expansion { kNone, kWhereTypeSays };
 
-// Reads a string value into `buffer`, which is zeroed; the registry is told of `capacity`
+// Reads a string value into `buffer`, which must be all zero; the registry is told of `capacity`
 // characters. Returns false, with an empty `buffer`, when the value cannot be used.
 bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expansion expansion,
               std::span<wchar_t> buffer, DWORD capacity) {
@@ -39,8 +39,8 @@ bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expans
   // Another party may have stored no terminator.
   buffer.back() = L'\0';
   if (type == REG_EXPAND_SZ && expansion == Expansion::kWhereTypeSays) {
-    // One more than the function is told of: a text cut at the end of the buffer has no NUL of its
-    // own.
+    // One more than the function is told of: a string cut at the end of the buffer has no NUL of
+    // its own.
     std::array<wchar_t, kExpandedLength + 1> expanded{};
     if (ExpandEnvironmentStringsW(buffer.data(), expanded.data(), kExpandedLength) != 0) {
       lstrcpynW(buffer.data(), expanded.data(), static_cast<int>(capacity));

@@ -17,22 +17,24 @@ namespace kelvo {
 inline constexpr DWORD kMaxRegistryStringSize = 2048;
 
 // Returns the string of a REG_SZ or REG_EXPAND_SZ value of at most kMaxRegistryStringSize bytes, or
-// `defaultText` when the key or the value is missing, has another type or is longer. A null
-// `defaultText` counts as empty; an empty stored string is returned as such. The string ends at its
-// first NUL, or with the data when that has none; an odd last byte becomes a character of its own.
+// `defaultText` when the key does not open or the value is missing, has another type or is longer.
+// A null `defaultText` counts as empty; an empty stored string is returned as such. The string ends
+// at its first NUL, or with the data when that has none; an odd last byte becomes a character of
+// its own.
 //
 // A REG_EXPAND_SZ value is expanded with ExpandEnvironmentStringsW into 260 characters (MAX_PATH),
-// the NUL included. What becomes longer is cut to what Windows wrote into them; where the expansion
+// the NUL included. A longer result is cut to what Windows wrote into them; when the expansion
 // fails, the stored string is returned.
 WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            const wchar_t* defaultText);
 
-// Reads the string of a REG_SZ or REG_EXPAND_SZ value, expanded like RegistryReadString does, into
+// Reads the string of a REG_SZ or REG_EXPAND_SZ value, expanded as RegistryReadString does, into
 // `buffer`, which has room for `length` characters and is cleared first. The buffer stays empty
-// when the key or the value is missing, has another type or has more than 2 x `length` bytes. The
-// string always ends in a NUL within `length`: one that was stored without a terminator and fills
-// the buffer loses its last character. Returns the string's length in characters; 0 for a null
-// buffer and for a `length` of 0, and then nothing is written.
+// when the key does not open or the value is missing, has another type or has more than 2 x
+// `length` bytes. The string always ends in a NUL within `length`: an expansion is cut to fit, and
+// a string that was stored without a terminator and fills the buffer loses its last character.
+// Returns the string's length in characters; 0 for a null buffer and for a `length` of 0, and then
+// nothing is written.
 std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length);
 

@@ -12,7 +12,7 @@ namespace {
 constexpr DWORD kBufferLength = 16383;
 constexpr DWORD kExpandedLength = MAX_PATH;
 
-// Takes a key's values one after the other into the same two buffers.
+// Reads a key's values one after the other into the same two buffers.
 class ValueReader {
  public:
   explicit ValueReader(HKEY key) : key_(key) {}
@@ -22,7 +22,7 @@ class ValueReader {
     nameLength_ = kBufferLength;
     size_ = kBufferLength * sizeof(wchar_t);
     name_.front() = L'\0';
-    // The rest keeps what the value before left: a number's text may run on into it.
+    // The rest keeps what the previous value left: a number's string may run on into it.
     data_.front() = L'\0';
     return RegEnumValueW(key_, index, name_.data(), &nameLength_, nullptr, &type_,
                          reinterpret_cast<BYTE*>(data_.data()), &size_) == ERROR_SUCCESS;
@@ -67,7 +67,7 @@ class ValueReader {
   }
 
   HKEY key_;
-  // One more than the registry is told of, so that a text that fills the buffer ends in a NUL.
+  // One more than the registry is told of, so that a string that fills the buffer ends in a NUL.
   std::vector<wchar_t> name_ = std::vector<wchar_t>(kBufferLength + 1);
   std::vector<wchar_t> data_ = std::vector<wchar_t>(kBufferLength + 1);
   DWORD nameLength_ = 0;

@@ -19,7 +19,7 @@ using NameTextList = std::vector<std::pair<WString, WString>>;
 //   - REG_SZ: the string up to its first NUL, or to the end of the data when that has none; an odd
 //     last byte becomes a character of its own.
 //   - REG_EXPAND_SZ: that string, expanded with ExpandEnvironmentStringsW, or as it is stored when
-//     the result does not fit 260 characters with its NUL.
+//     that fails or the result does not fit 260 characters with its NUL.
 //   - REG_DWORD: the number's bytes read as characters up to the first zero, not as digits. When
 //     neither half of the number is zero, the string runs on into what earlier values left in the
 //     buffer.
