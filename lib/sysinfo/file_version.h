@@ -13,10 +13,10 @@ namespace kelvo {
 // resource was read into allocated and locked.
 int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int revision);
 
-// Calls CompareFileVersion: a second name for it.
+// Another name for CompareFileVersion.
 int CompareFileVersionNumbers(const wchar_t* path, int major, int minor, int build, int revision);
 
-// The room, in characters with the NUL, that every version text fits into.
+// The room that every version string fits into, in characters including the NUL.
 constexpr std::size_t kFileVersionStringCapacity = 32;
 
 // Writes the version of the file `path` as "major.minor.build.revision" into `text`, which must
@@ -27,7 +27,7 @@ bool GetFileVersionString(wchar_t* text, const wchar_t* path);
 // Writes the version of a file in the system directory, given by name, as
 // "major.minor.build.revision" into `text`, which must have room for kFileVersionStringCapacity
 // characters; "not available" when there is none. Always returns true. Overwrites the buffer of
-// GetSystemDirectoryPath. May let std::bad_alloc out.
+// GetSystemDirectoryPath. Throws std::bad_alloc when memory runs out.
 bool GetSystemFileVersionString(wchar_t* text, const wchar_t* fileName);
 
 }  // namespace kelvo

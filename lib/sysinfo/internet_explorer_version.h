@@ -6,12 +6,12 @@ namespace kelvo {
 
 // Returns true when "Shdocvw.dll" in the system directory has this version or a higher one; false
 // when the file is missing or has no version. Overwrites the buffer of GetSystemDirectoryPath and
-// leaves the memory of the version resource allocated when it returns true. May let std::bad_alloc
-// out.
+// leaves the memory of the version resource allocated when it returns true. Throws std::bad_alloc
+// when memory runs out.
 bool IsIEVersionAtLeast(const void* ignored, const int (&version)[4]);
 
 // Returns the name of the Internet Explorer release, from 3.0 to 5.5, that has exactly this
-// version. The text is in one buffer of 256 characters for the whole process, which the next call
+// version. The string is in a process-wide buffer of 256 characters, which the next call
 // overwrites. For a version without a name the buffer keeps the last name found; at first it is
 // empty.
 const wchar_t* GetIEVersionName(const void* ignored, const int (&version)[4]);

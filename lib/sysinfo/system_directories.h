@@ -4,22 +4,22 @@
 
 namespace kelvo {
 
-// The directories of Windows' own libraries. Each path ends in a separator, a backslash being added
-// where Windows gives none, and is empty on failure. The names end in Path because windows.h
+// The directories of Windows' own libraries. Each path ends in a separator (a backslash is added
+// where Windows returns none) and is empty on failure. The names end in Path because windows.h
 // defines GetSystemDirectory and GetSystemWow64Directory as macros.
 
 // Returns the system directory (GetSystemDirectoryW), of at most 510 characters and the separator;
-// empty when it is longer. The text is in one buffer for the whole process, which every call
-// overwrites, and so do the operations of this library that look into the system directory.
+// empty when it is longer. The string is in a process-wide buffer. Every call overwrites it, and so
+// do the operations of this library that look into the system directory.
 const wchar_t* GetSystemDirectoryPath();
 
 // Returns the directory of the 32-bit libraries on a 64-bit Windows (GetSystemWow64DirectoryW,
 // looked up at run time), of at most 1,023 characters and the separator. Empty when Windows does
-// not have the function. May let std::bad_alloc out.
+// not have the function. Throws std::bad_alloc when memory runs out.
 WString GetSystemWow64DirectoryPath();
 
 // Returns the system directory that 64-bit programs see, which in a 64-bit process is the path of
-// GetSystemDirectoryPath; overwrites its buffer. May let std::bad_alloc out.
+// GetSystemDirectoryPath; overwrites its buffer. Throws std::bad_alloc when memory runs out.
 WString GetNativeSystemDirectoryPath();
 
 }  // namespace kelvo

@@ -6,12 +6,13 @@ namespace kelvo {
 
 // Empties `report` and fills it with what this library finds out about the running system, the
 // process and the user, for a log or a support dialog: always the same names in the same order,
-// then one entry for each variable of the user's and of the system's environment as the registry
-// stores them (HKEY_CURRENT_USER "Environment" and HKEY_LOCAL_MACHINE
-// "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). Shell folders come from
-// SHGetSpecialFolderPathW and are not created. A query that fails has the value "0", an empty text,
-// or "failed to query " and the name of a shell folder; an environment key that does not open adds
-// no entries. May let std::bad_alloc out and leaves `report` incomplete then.
+// then one entry for each variable of the user's and of the system's environment in the registry,
+// as ReadRegistryKeyValues returns them: expanded (HKEY_CURRENT_USER "Environment" and
+// HKEY_LOCAL_MACHINE "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). Shell folders
+// come from SHGetSpecialFolderPathW and are not created. A query that fails has the value "0", an
+// empty string, or "failed to query " and the name of a shell folder; an environment key that does
+// not open adds no entries. Throws std::bad_alloc when memory runs out, and leaves `report`
+// incomplete then.
 void CollectSystemReport(NameTextList& report);
 
 }  // namespace kelvo

@@ -125,7 +125,7 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
   }
 }
 
-// Builds the line from empty. `key` owns what is open when an exception ends it.
+// Builds the line in the empty `text`. `key` owns the key that is open when an exception ends it.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);

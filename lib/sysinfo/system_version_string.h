@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// Both may let std::bad_alloc out when no memory is left for the text itself.
+// Both throw std::bad_alloc when memory runs out for the string itself.
 
 // Returns one line that names the running Windows with its edition and numbers, such as "Windows 7
 // Professional x64 (6.1.7601 Service Pack 1)"; empty for a platform that is neither Win32s, Windows
@@ -14,12 +14,12 @@ namespace kelvo {
 //     there is no name, only the numbers.
 //   - Asks GetNativeSystemInfo (looked up at run time, else GetSystemInfo) for the processor,
 //     GetSystemMetrics on NT 5.1 and 5.2, GetProductInfo (looked up at run time) on NT 6.
-//   - Windows NT 4.0 is told from HKEY_LOCAL_MACHINE
-//     "SYSTEM\CurrentControlSet\Control\ProductOptions", value "ProductType", when GetVersionExW
-//     does not fill its extended record, and from the key "SOFTWARE\Microsoft\Windows
-//     NT\CurrentVersion\Hotfix\Q246009" when it has Service Pack 6. Both need KEY_QUERY_VALUE. When
-//     "ProductType" cannot be read, its key stays open.
-//   - A question that fails, or ends in an exception, leaves a text that says so in the line.
+//   - When GetVersionExW does not fill its extended record, as on Windows NT 4.0, the product comes
+//     from HKEY_LOCAL_MACHINE "SYSTEM\CurrentControlSet\Control\ProductOptions", value
+//     "ProductType"; when that cannot be read, its key stays open. With Service Pack 6 of NT 4.0
+//     the key "SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009" means 6a. Both keys
+//     are opened for KEY_QUERY_VALUE.
+//   - A query that fails, or ends in an exception, leaves a note of that in the line.
 WString GetSystemVersionString();
 
 // Returns the running Windows as "(major.minor.build)" (GetVersionExW, which reports 6.2 to a

@@ -4,12 +4,12 @@
 
 namespace kelvo {
 
-// Which Windows runs. IsWin95 means that line alone, every other name its release or a later one:
-// IsWin98 on Windows 9x, the rest on NT. The answers ignore whether it is a workstation or a
+// Which Windows is running. IsWin95 is true for Windows 95 only, every other function for its
+// release and later ones: IsWin98 on Windows 9x, the rest on NT. None tells a workstation from a
 // server, so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
 //
-// The forms without an argument ask GetVersionExW on each call and return false when it fails. To a
-// program whose manifest does not name Windows 8.1 or later it reports 6.2 from there on.
+// The forms without an argument ask GetVersionExW on each call and return false when it fails. From
+// Windows 8.1 on it reports 6.2 to a program whose manifest does not name 8.1 or later.
 
 // Windows 9x with minor version 0.
 bool IsWin95(const OSVERSIONINFOW& version);

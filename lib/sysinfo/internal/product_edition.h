@@ -5,7 +5,7 @@
 namespace kelvo::internal {
 
 // Returns the name of the Windows edition that a product type of GetProductInfo stands for; an
-// empty text for a type that has none here.
+// empty string for a type that has none here.
 const wchar_t* ProductEditionText(DWORD productType);
 
 }  // namespace kelvo::internal
