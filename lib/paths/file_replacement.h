@@ -7,7 +7,7 @@ namespace kelvo {
 //
 // With `copyFirst`, `source` is copied to a new file "wqr..." in the temporary folder, and the copy
 // is moved instead, so that the caller may change or delete `source` at once. When the copy cannot
-// be made, and when either path is null, nothing is scheduled.
+// be made, when either path is null, and when `source` is empty, nothing is scheduled.
 //
 // On NT this is MoveFileExW, which needs administrative rights. On Windows 9x it is an entry in the
 // section "Rename" of "WININIT.INI" in the Windows directory, with short names (GetShortPathNameW);

@@ -53,7 +53,7 @@ LSTATUS ReadServer(const WString& classKey, WString& server) {
     return status;
   }
   constexpr DWORD kCapacity = 522;
-  // One unit more than the registry is told of ends a text stored without a terminator.
+  // One unit more than the registry is told of ends a string stored without a terminator.
   std::array<wchar_t, (kCapacity / sizeof(wchar_t)) + 1> text{};
   DWORD size = kCapacity;
   status = RegQueryValueExW(key.get(), nullptr, nullptr, nullptr,
