@@ -17,7 +17,7 @@ namespace {
 constexpr DWORD kContentTypes = 0x3FFE;
 
 // crypt32.dll is bound at run time, so that a program that imports no certificate starts without
-// it, and one that misses a function of it gets an error code.
+// it, and a missing function becomes an error code.
 struct Crypt32 {
   decltype(&CertOpenStore) openStore = nullptr;
   decltype(&CryptQueryObject) queryObject = nullptr;
@@ -84,7 +84,7 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   if (!wsspi::IsSspiInitialized()) {
     wsspi::SspiInitialize();
   }
-  // All functions before the first call: nothing is left half done for want of one.
+  // All functions are looked up before the first call: a missing one leaves nothing half done.
   Crypt32 crypt32;
   if (!BindCrypt32(crypt32)) {
     return GetLastError();

@@ -5,8 +5,8 @@
 namespace kelvo {
 
 // Adds the certificate in `file` to a system store of the local machine, replacing an equal one.
-// Both strings are NUL-terminated. The store goes by Windows' name for it, such as "CA"; it must
-// exist, and changing it needs administrative rights.
+// Both strings are NUL-terminated. `storeName` is Windows' name for the store, such as "CA"; the
+// store must exist, and changing it needs administrative rights.
 //
 // The file may hold the certificate in binary (DER), Base64 or hexadecimal form. A file that holds
 // a collection (a PKCS #7 message, a serialized store) or a PFX is accepted and adds nothing. Do
@@ -15,8 +15,8 @@ namespace kelvo {
 // Returns 0, or the error code of the call that failed: CertOpenStore, CryptQueryObject,
 // CertAddCertificateContextToStore, or loading "crypt32.dll" and looking its functions up, which
 // come before any change. When the file cannot be read, the opened store stays open; "crypt32.dll"
-// stays loaded. Loads the security support interface first (lib/wsspi/sspi_loader.h) and lets its
-// wsspi::SspiException* pass.
+// stays loaded. Loads the security support interface first (lib/wsspi/sspi_loader.h) and does not
+// catch the wsspi::SspiException* that this may throw.
 DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName);
 
 inline constexpr const wchar_t* kTrustedPublisherStore = L"TrustedPublisher";

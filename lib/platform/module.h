@@ -21,7 +21,7 @@ struct ModuleTraits {
 using OwnedModule = Owned<internal::ModuleTraits>;
 
 // Returns the function that `module` exports as `name` (GetProcAddress), or null when the module is
-// null or has no such export; GetLastError then returns why.
+// null or has no such export; GetLastError then says why.
 template <typename Function>
 Function* FindFunction(HMODULE module, const char* name) {
   if (module == nullptr) {

@@ -11,7 +11,7 @@ namespace kelvo {
 void DebugTrace(const wchar_t* format, ...);
 
 // Returns the line that DebugTrace writes at `time`: "day.month.year
-// hour:minute:second:millisecond", every number padded with zeros, a blank and `message`.
+// hour:minute:second:millisecond", every number padded with zeros, a space and `message`.
 WString FormatTraceLine(const SYSTEMTIME& time, const WString& message);
 
 }  // namespace kelvo

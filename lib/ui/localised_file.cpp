@@ -37,7 +37,7 @@ bool IsFile(const WString& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-// 0 when this Windows knows no language of the name.
+// 0 when this Windows knows no language of that name.
 LANGID LanguageOf(const WString& name) {
   auto* const getInfo = KELVO_FIND_FUNCTION(GetModuleHandleW(L"kernel32.dll"), GetLocaleInfoEx);
   DWORD number = 0;

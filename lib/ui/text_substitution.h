@@ -25,7 +25,7 @@ BOOL ReplaceAllInBuffer(wchar_t* buffer, std::size_t capacity, const wchar_t* se
 // rewrite strings; the library only reads it.
 std::map<WString, WString>& TextSubstitutions();
 
-// Replaces the maker's name in capitals or capitalised by its form in lower case, then applies
+// Replaces the maker's name, in capitals or capitalised, with its lower-case form, then applies
 // TextSubstitutions(), each pair to the result of the one before. Returns `buffer`.
 wchar_t* ApplyTextSubstitutions(wchar_t* buffer, std::size_t capacity);
 
