@@ -8,9 +8,8 @@
 namespace kelvo {
 
 // The applications that rely on the hands-free service: a list of names separated by ";" in the
-// REG_SZ value ApplicationsValueName under HKEY_LOCAL_MACHINE, ServiceParametersKey. It is empty
-// exactly when the value does not exist. Names are used as they are given: the name ";" stores an
-// empty value.
+// REG_SZ value ApplicationsValueName under HKEY_LOCAL_MACHINE, ServiceParametersKey. Without that
+// value the list is empty. Names are used as they are given: the name ";" stores an empty value.
 //
 // A value that RegistryReadString (lib/registry/registry_string.h) cannot read counts as empty: one
 // of more than kMaxRegistryStringSize bytes or of another type. A REG_EXPAND_SZ value is expanded;
@@ -29,17 +28,16 @@ std::vector<WString> ApplicationsInList(const WString& list);
 // letter case.
 bool IsSameApplication(const WString& item, const wchar_t* name);
 
-// Returns the list with `name` at its end, or nothing when the list stays as it is because `name`
-// occurs in it, with regard to letter case: also as a part of another name. An empty name always
-// occurs.
+// Returns the list with `name` at its end, or nothing when `name` occurs in it already, in the same
+// letter case, even as part of another name. An empty name always occurs.
 std::optional<WString> ListWithApplication(const WString& list, const wchar_t* name);
 
 // Returns the list without any item that equals `name` regardless of letter case, the others in
 // their order with one ";" between them; empty when none is left.
 WString ListWithoutApplication(const WString& list, const wchar_t* name);
 
-// Adds `name` to the list in the registry unless it is there already. Always returns true, even
-// when the write fails.
+// Adds `name` to the list in the registry unless it occurs there (ListWithApplication). Always
+// returns true, even when the write fails.
 bool AddDependentApplication(const wchar_t* name);
 
 // Removes `name` from the list in the registry, and the value with the last name, and reports what

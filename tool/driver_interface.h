@@ -17,8 +17,8 @@ struct DriverInterface {
 
 // Loads the "difxapi.dll" in the program's own folder when that file exists, otherwise the one in
 // the system directory, and looks its functions up. Returns false when the library or a function is
-// missing; GetLastError then returns why, and nothing may be called. The library is loaded by its
-// full path: it is one of Windows' known libraries, and by its bare name Windows would load its own
+// missing; GetLastError then says why, and nothing may be called. The library is loaded by its full
+// path: it is one of Windows' known libraries, and by its bare name Windows would load its own
 // copy.
 bool BindDriverInterface(DriverInterface& driver);
 
