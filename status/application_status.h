@@ -23,7 +23,8 @@ ApplicationList QueryApplicationList();
 // Returns an item for each of `names`, which is present when the tool would find it in the list to
 // remove it. Without names, returns an item for each application in the list, or a single absent
 // one when there is none. An absent item says so when the registry holds something that the tool
-// cannot read and treats as an empty list.
+// cannot read and treats as an empty list. All are unknown when the key or the value could not be
+// read.
 std::vector<Item> DescribeApplications(const ApplicationList& list,
                                        const std::vector<WString>& names);
 

@@ -20,7 +20,7 @@ struct CertificateFacts {
 
 // Reads the certificate in `file` and looks for it, by its SHA-1 hash, in a system store of the
 // local machine, which is opened read-only (CryptQueryObject, CertFindCertificateInStore). The file
-// must hold one certificate, in binary or Base64 form: for a collection the error is
+// must hold one certificate, in binary, Base64 or hexadecimal form: for a collection the error is
 // CRYPT_E_NO_MATCH.
 CertificateFacts QueryCertificate(const wchar_t* file, const wchar_t* storeName);
 

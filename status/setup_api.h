@@ -7,7 +7,7 @@
 namespace kelvo {
 
 // Loads Windows' own "setupapi.dll", and no other, by its full path: unlike search flags, that
-// works on every Windows 7. Null when that fails; GetLastError then returns why.
+// works on every Windows 7. Null when that fails; GetLastError then says why.
 inline OwnedModule LoadSetupApi() {
   return OwnedModule(LoadLibraryW((WString(GetSystemDirectoryPath()) + L"setupapi.dll").c_str()));
 }

@@ -8,7 +8,7 @@ namespace kelvo {
 
 namespace {
 
-// As wide as the longest state and the longest kind, and two blanks.
+// As wide as the longest state and the longest kind, and two spaces.
 constexpr std::size_t kStateWidth = 9;
 constexpr std::size_t kKindWidth = 16;
 
