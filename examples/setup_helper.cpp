@@ -1,12 +1,13 @@
 // What a setup often needs, a command each:
-//   setup_helper read HKEY_CURRENT_USER\Software\App\Setting   prints a registry value
-//   setup_helper grant FILE SID                                lets an account read and write a
-//   file setup_helper start PROGRAM [ARGUMENTS]                     starts a program for the user
-//   at the screen, waits for
-//                                                              its end, and ends with its exit code
-//   setup_helper ready PROGRAM MUTEX                           starts a program and waits until it
-//   has made its mutex
-// Ends with 0 for success and 1 for failure.
+//   setup_helper read HKEY_CURRENT_USER\Software\App\Setting
+//     prints a registry value
+//   setup_helper grant FILE SID
+//     lets an account read and write a file
+//   setup_helper start PROGRAM [ARGUMENTS]
+//     starts a program for the user at the screen, waits for its end, and ends with its exit code
+//   setup_helper ready PROGRAM MUTEX
+//     starts a program and waits until it has made its mutex
+// Otherwise ends with 0 for success and 1 for failure.
 
 #include <windows.h>
 
