@@ -37,7 +37,7 @@ struct List {
     if (!isSound) {
       input.Mutate(bytes);
       bytes.resize(std::max<std::size_t>(bytes.size(), sizeof(ACL)));
-      // A list says how long it is: no more than it has, or nobody could tell.
+      // A list that claimed more bytes than it has could not be told from one that has them.
       WORD claimed = 0;
       std::memcpy(&claimed, bytes.data() + 2, 2);
       claimed = std::min(claimed, static_cast<WORD>(bytes.size()));

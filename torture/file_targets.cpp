@@ -38,7 +38,7 @@ std::string SoundResource() {
 std::string resource;
 std::unique_ptr<GuardedMemory> guarded;
 std::size_t guardedSize = 0;
-// Who chooses, where a hostile file lies about place and length.
+// Chooses the place and the length that a hostile file claims; null for an honest one.
 Input* liar = nullptr;
 
 // Once and for all: a fault of Wine's would skip the end of a block.
@@ -87,7 +87,7 @@ void ImportCertificate(Input& input) {
                                       ReadFile("bundle.p7b")};
   std::string bytes = sound[input.Number(2)];
   input.Mutate(bytes);
-  // Of no bytes at all Wine's crypt32 makes what lies on its stack by chance.
+  // From no bytes at all Wine's crypt32 makes whatever lies on its stack.
   std::ofstream("mutated.cer", std::ios::binary) << (bytes.empty() ? "x" : bytes);
   ImportCertToTrustedPublishers(L"mutated.cer");
 }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kPage = 0x1000;
 
-// Blocks between two pages without access, by their size: to reserve one takes longer than most
+// Blocks between two pages without access, by their size: reserving one takes longer than most
 // inputs do.
 std::map<std::size_t, std::vector<BYTE*>> freeBlocks;
 

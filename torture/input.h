@@ -19,7 +19,7 @@ class Input {
   // From 0 to `most`, the bounds more often than the rest.
   std::size_t Number(std::size_t most);
   bool Chance() { return Number(1) == 1; }
-  // Up to `most` units, each one of `alphabet`, or any at all where that is empty.
+  // Up to `most` units, each one of `alphabet`, or any at all when that is empty.
   std::wstring Text(std::size_t most, const std::wstring& alphabet = L"");
   std::string Bytes(std::size_t most);
   // Changes some bytes, and now and then the length.
@@ -29,8 +29,8 @@ class Input {
   std::mt19937_64 engine_;
 };
 
-// Memory of exactly `size` bytes next to a page without access: in front of it, or behind it where
-// `atStart` says so. A step too far is a fault.
+// Memory of exactly `size` bytes that ends where a page without access begins, or, when `atStart`
+// is true, begins where one ends. One byte too far is a fault.
 class GuardedMemory {
  public:
   GuardedMemory(std::size_t size, bool atStart);

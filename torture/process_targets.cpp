@@ -117,7 +117,7 @@ std::string TakeFile(const char* path) {
   return bytes;
 }
 
-// All that a life leaves behind and tells; the first one is the measure of the others.
+// All that a life leaves and reports must be what the first one left and reported.
 void Live(Input& /*input*/) {
   RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName);
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");

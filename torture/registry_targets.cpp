@@ -33,7 +33,7 @@ void ReadValue(Input& input) {
                               REG_BINARY, REG_MULTI_SZ,  REG_NONE, 77};
   const DWORD type = kTypes[input.Number(7)];
   const std::string data = AnyData(input);
-  // Copied without what stands behind it, where Windows might find a NUL.
+  // Copied without what follows it, where Windows might find a NUL.
   const GuardedMemory stored(data, input.Chance());
   RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, type, stored.As<void>(),
                   static_cast<DWORD>(data.size()));
@@ -43,7 +43,7 @@ void ReadValue(Input& input) {
   const bool isExpanded = type == REG_EXPAND_SZ && text.find(L'%') != std::wstring::npos;
   const WString read = RegistryReadString(HKEY_CURRENT_USER, kKey, kName, L"default");
   const bool fits = isText && data.size() <= 2048;
-  // An expansion that does not fit into its buffer is the stored text again.
+  // Not checked where the value is expanded or might not fit the buffer of an expansion.
   if (!isExpanded && (type != REG_EXPAND_SZ || text.length() < 259)) {
     Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is what is stored");
   }

@@ -37,9 +37,9 @@ static std::wstring operation;
 static std::wstring traced;
 
 // Makes each call that an operation makes to these functions fail, one at a time and in both ways.
-// What then comes of the operation, without the traces of others that it calls, stands in
-// failure_messages.txt, behind the first call of each function that leads there; one that throws
-// has an exclamation mark.
+// What then comes of the operation, without the traces of others that it calls, is in
+// failure_messages.txt, after the first call of each function that leads there; one that throws has
+// an exclamation mark.
 TEST_CASE("each failing call has its message, then the operation its own") {
   SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
     const std::wstring text = tag == std::wstring(L"RunAsEx") ? message : L"a wrong tag";

@@ -15,7 +15,7 @@ struct ChildResult {
   std::string output, errors;
 };
 
-// Runs a command line to its end; gives the whole exit code and what it wrote, byte by byte.
+// Runs a command line to its end; returns the whole exit code and what it wrote, byte for byte.
 inline ChildResult RunChild(std::wstring commandLine) {
   const ScratchFolder folder;
   SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
@@ -31,7 +31,7 @@ inline ChildResult RunChild(std::wstring commandLine) {
   startup.hStdOutput = output.get();
   startup.hStdError = errors.get();
   PROCESS_INFORMATION started{};
-  // Under load Wine now and then answers a start with ERROR_INTERNAL_ERROR.
+  // Under load Wine now and then fails a start with ERROR_INTERNAL_ERROR.
   for (DWORD pause = 0; CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0,
                                        nullptr, nullptr, &startup, &started) == FALSE;
        Sleep(pause += 50)) {

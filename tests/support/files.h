@@ -10,7 +10,7 @@
 
 namespace kelvo::test {
 
-// A folder of this test's own, which goes with everything in it when this object goes.
+// A folder of this test's own, deleted with everything in it along with this object.
 struct ScratchFolder {
   ScratchFolder() { std::filesystem::create_directories(path); }
   ScratchFolder(const ScratchFolder&) = delete;
@@ -41,7 +41,7 @@ inline std::string ReadBytes(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// The path of a program of the project's, which all stand in one folder.
+// The path of one of the project's programs, which are all in one folder.
 inline std::wstring ProgramPath(const std::wstring& name) {
   std::wstring self(32768, L'\0');
   GetModuleFileNameW(nullptr, self.data(), 32768);

@@ -11,7 +11,7 @@
 namespace kelvo::test {
 
 // The path of a registry key of this test's own below HKEY_CURRENT_USER. The key is not there at
-// first and goes, with everything below it, when this object goes.
+// first and is deleted, with everything below it, along with this object.
 struct ScratchKey : WString {
   ScratchKey()
       : WString(FormatText(L"Software\\kelvo test %u %d", GetCurrentProcessId(), ++made)) {}
@@ -22,8 +22,8 @@ struct ScratchKey : WString {
   static inline int made = 0;
 };
 
-// Stores `units` less `cutBytes` as a value, and none that stands behind them: a NUL that Windows
-// finds there it would add.
+// Stores `units` without their last `cutBytes` bytes as a value. Puts "#" after them, since Windows
+// would store a NUL that it found there.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);

@@ -42,7 +42,7 @@ struct Rehearsal {
 TEST_CASE("each command in transcript.txt does what stands under it") {
   const Rehearsal machine;
   machine.folder.Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
-  // Of no bytes at all Wine 8 makes what lies on its stack by chance.
+  // From no bytes at all Wine 8 makes whatever lies on its stack.
   machine.folder.Write("empty.cer", "\n");
   std::istringstream transcript(ReadBytes(ProgramPath(L"expected\\transcript.txt")));
   std::string seen;
