@@ -12,12 +12,6 @@ namespace kelvo {
 
 namespace {
 
-struct FileSearchTraits {
-  using Handle = HANDLE;
-  static Handle None() { return INVALID_HANDLE_VALUE; }
-  static void Close(Handle handle) { FindClose(handle); }
-};
-
 DWORD ReadFileBytes(const wchar_t* path, std::string& bytes) {
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const OwnedFile file(CreateFileW(path, GENERIC_READ, kShare, nullptr, OPEN_EXISTING, 0, nullptr));
@@ -48,7 +42,7 @@ WString InfFolder() {
 WString FindPublishedCopy(const std::string& wanted, DWORD& error) {
   const WString folder = InfFolder();
   WIN32_FIND_DATAW entry{};
-  const Owned<FileSearchTraits> search(FindFirstFileW((folder + L"oem*.inf").c_str(), &entry));
+  const OwnedFileSearch search(FindFirstFileW((folder + L"oem*.inf").c_str(), &entry));
   bool isMore = static_cast<bool>(search);
   std::string bytes;
   for (; isMore; isMore = FindNextFileW(search.get(), &entry) != FALSE) {

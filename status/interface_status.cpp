@@ -3,22 +3,19 @@
 #include <array>
 
 #include "lib/paths/file_exists.h"
-#include "lib/paths/module_directory.h"
 #include "lib/sysinfo/file_version.h"
-#include "lib/sysinfo/system_directories.h"
+#include "tool/driver_interface.h"
 
 namespace kelvo {
 
 InterfaceFacts QueryInterface() {
-  for (const WString folder : {GetModuleDirectory(nullptr), GetSystemDirectoryPath()}) {
-    const WString path = folder + L"difxapi.dll";
-    if (FileExists(path.c_str())) {
-      std::array<wchar_t, 32> version{};  // as much as GetFileVersionString asks for
-      GetFileVersionString(version.data(), path.c_str());
-      return {path, version.data()};
-    }
+  const WString path = DriverInterfacePath();
+  if (!FileExists(path.c_str())) {
+    return {};
   }
-  return {};
+  std::array<wchar_t, kFileVersionStringCapacity> version{};
+  GetFileVersionString(version.data(), path.c_str());
+  return {path, version.data()};
 }
 
 Item DescribeInterface(const InterfaceFacts& facts) {

@@ -11,7 +11,7 @@ struct InterfaceFacts {
   WString version;
 };
 
-// Looks for the file where the tool looks for it, and does not load it.
+// Looks for the file at DriverInterfacePath, and does not load it.
 InterfaceFacts QueryInterface();
 
 Item DescribeInterface(const InterfaceFacts& facts);

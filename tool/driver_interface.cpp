@@ -1,7 +1,6 @@
 #include "tool/driver_interface.h"
 
 #include "lib/paths/file_exists.h"
-#include "lib/string/wstring.h"
 #include "lib/sysinfo/system_directories.h"
 #include "tool/console_report.h"
 
@@ -20,15 +19,15 @@ WString ProgramDirectory() {
   return path;
 }
 
-WString LibraryPath() {
+}  // namespace
+
+WString DriverInterfacePath() {
   const WString ownCopy = ProgramDirectory() + kLibraryName;
   return FileExists(ownCopy.c_str()) ? ownCopy : WString(GetSystemDirectoryPath()) + kLibraryName;
 }
 
-}  // namespace
-
 bool BindDriverInterface(DriverInterface& driver) {
-  driver.library.reset(LoadLibraryW(LibraryPath().c_str()));
+  driver.library.reset(LoadLibraryW(DriverInterfacePath().c_str()));
   if (!driver.library) {
     return false;
   }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "lib/platform/module.h"
+#include "lib/string/wstring.h"
 #include "tool/difxapi.h"
 
 namespace kelvo {
@@ -15,11 +16,14 @@ struct DriverInterface {
   decltype(&DriverPackageInstallW) installPackage = nullptr;
 };
 
-// Loads the "difxapi.dll" in the program's own folder when that file exists, otherwise the one in
-// the system directory, and looks its functions up. Returns false when the library or a function is
-// missing; GetLastError then says why, and nothing may be called. The library is loaded by its full
-// path: it is one of Windows' known libraries, and by its bare name Windows would load its own
-// copy.
+// Returns the full path of "difxapi.dll" in the program's own folder when that file exists,
+// otherwise in the system directory. Overwrites the buffer of GetSystemDirectoryPath.
+WString DriverInterfacePath();
+
+// Loads the library at DriverInterfacePath and looks its functions up. Returns false when the
+// library or a function is missing; GetLastError then says why, and nothing may be called. The
+// library is loaded by its full path: it is one of Windows' known libraries, and by its bare name
+// Windows would load its own copy.
 bool BindDriverInterface(DriverInterface& driver);
 
 // The interface's log callback: reports the event as one "INFO: " line. A null description counts
