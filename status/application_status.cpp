@@ -10,7 +10,7 @@ namespace kelvo {
 
 namespace {
 
-constexpr const char* kKind = "application";
+constexpr const char* kApplication = "application";
 
 bool IsThere(const ApplicationList& list) {
   return list.error != ERROR_FILE_NOT_FOUND && list.error != ERROR_PATH_NOT_FOUND;
@@ -59,10 +59,12 @@ std::vector<Item> DescribeApplications(const ApplicationList& list,
   std::vector<Item> items;
   for (const WString& name : names.empty() ? all : names) {
     if (list.error != ERROR_SUCCESS && IsThere(list)) {
-      items.push_back(UnknownItem(kKind, name, static_cast<DWORD>(list.error)));
+      items.push_back(UnknownItem(kApplication, name, static_cast<DWORD>(list.error)));
     } else {
-      items.push_back(
-          {kKind, IsListed(listed, name) ? State::kPresent : State::kAbsent, name, {listDetail}});
+      items.push_back({kApplication,
+                       IsListed(listed, name) ? State::kPresent : State::kAbsent,
+                       name,
+                       {listDetail}});
     }
   }
   return items;

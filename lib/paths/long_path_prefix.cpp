@@ -13,7 +13,7 @@ constexpr std::wstring_view kPrefix = L"\\\\?\\";
 constexpr std::wstring_view kUncPrefix = L"\\\\?\\UNC\\";
 
 // What Windows takes, without the NUL.
-constexpr std::size_t kMaxLength = 32'767;
+constexpr std::size_t kMaxPrefixedLength = 32'767;
 
 std::wstring_view ViewOf(const wchar_t* path) { return path != nullptr ? path : L""; }
 
@@ -54,7 +54,7 @@ WString AddLongPathPrefix(const wchar_t* path) {
     } else if (BeginsWithServer(full)) {
       prefixed = WString(kUncPrefix) + full.substr(2);
     }
-    if (!prefixed.empty() && prefixed.length() <= kMaxLength) {
+    if (!prefixed.empty() && prefixed.length() <= kMaxPrefixedLength) {
       return prefixed;
     }
   }

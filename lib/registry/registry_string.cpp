@@ -15,7 +15,6 @@ namespace kelvo {
 namespace {
 
 constexpr DWORD kReadLength = kMaxRegistryStringSize / sizeof(wchar_t);
-constexpr DWORD kExpandedLength = MAX_PATH;
 
 enum class Expansion { kNone, kWhereTypeSays };
 
@@ -41,8 +40,8 @@ bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expans
   if (type == REG_EXPAND_SZ && expansion == Expansion::kWhereTypeSays) {
     // One more than the function is told of: a string cut at the end of the buffer has no NUL of
     // its own.
-    std::array<wchar_t, kExpandedLength + 1> expanded{};
-    if (ExpandEnvironmentStringsW(buffer.data(), expanded.data(), kExpandedLength) != 0) {
+    std::array<wchar_t, MAX_PATH + 1> expanded{};
+    if (ExpandEnvironmentStringsW(buffer.data(), expanded.data(), MAX_PATH) != 0) {
       lstrcpynW(buffer.data(), expanded.data(), static_cast<int>(capacity));
     }
   }

@@ -10,7 +10,6 @@ namespace kelvo {
 namespace {
 
 constexpr DWORD kBufferLength = 16383;
-constexpr DWORD kExpandedLength = MAX_PATH;
 
 // Reads a key's values one after the other into the same two buffers.
 class ValueReader {
@@ -60,10 +59,9 @@ class ValueReader {
 
   [[nodiscard]] WString ExpandedText() const {
     const WString stored = StoredText();
-    std::array<wchar_t, kExpandedLength> expanded{};
-    const DWORD needed =
-        ExpandEnvironmentStringsW(stored.c_str(), expanded.data(), kExpandedLength);
-    return needed == 0 || needed > kExpandedLength ? stored : WString(expanded.data());
+    std::array<wchar_t, MAX_PATH> expanded{};
+    const DWORD needed = ExpandEnvironmentStringsW(stored.c_str(), expanded.data(), MAX_PATH);
+    return needed == 0 || needed > MAX_PATH ? stored : WString(expanded.data());
   }
 
   HKEY key_;

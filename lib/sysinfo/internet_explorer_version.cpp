@@ -13,13 +13,13 @@ namespace kelvo {
 
 namespace {
 
-struct Release {
+struct BrowserRelease {
   const wchar_t* version;
   const wchar_t* name;
 };
 
 // Names as the maker wrote them, odd spaces included.
-constexpr Release kReleases[] = {
+constexpr BrowserRelease kBrowserReleases[] = {
     {L"4.70.1155.0", L"Internet Explorer 3.0"},
     {L"4.70.1158.0", L"Internet Explorer 3.0 (OSR2)"},
     {L"4.70.1215.0", L"Internet Explorer 3.01"},
@@ -71,7 +71,7 @@ bool IsIEVersionAtLeast(const void* /*ignored*/, const int (&version)[4]) {
 const wchar_t* GetIEVersionName(const void* /*ignored*/, const int (&version)[4]) {
   std::array<wchar_t, 64> text{};
   wsprintfW(text.data(), L"%d.%d.%d.%d", version[0], version[1], version[2], version[3]);
-  for (const Release& release : kReleases) {
+  for (const BrowserRelease& release : kBrowserReleases) {
     if (std::wcscmp(release.version, text.data()) == 0) {
       lstrcpynW(releaseName.data(), release.name, static_cast<int>(releaseName.size()));
       break;

@@ -18,7 +18,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr const wchar_t* kProductOptions = L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions";
 constexpr const wchar_t* kHotfix =
     L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009";
 
@@ -76,6 +75,7 @@ void Append9xName(const OSVERSIONINFOEXW& version, WString& text) {
 
 // Adds what the extended record would have told; false when the line ends here.
 bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
+  constexpr const wchar_t* kProductOptions = L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions";
   if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductOptions, 0, KEY_QUERY_VALUE, key.Receive()) !=
       ERROR_SUCCESS) {
     text += L"error obtaining Windows NT4 registry information";

@@ -11,9 +11,6 @@ namespace kelvo {
 
 namespace {
 
-constexpr const wchar_t* kProductOptions = L"System\\CurrentControlSet\\Control\\ProductOptions";
-constexpr const wchar_t* kProductSuite = L"ProductSuite";
-
 bool HasTerminalSuite() {
   auto* const setCondition =
       KELVO_FIND_FUNCTION(GetModuleHandleA("ntdll.dll"), VerSetConditionMask);
@@ -51,6 +48,8 @@ bool IsWinNTTerminalServer() {
 }
 
 bool IsProductSuiteInstalled(const wchar_t* suiteName) {
+  constexpr const wchar_t* kProductOptions = L"System\\CurrentControlSet\\Control\\ProductOptions";
+  constexpr const wchar_t* kProductSuite = L"ProductSuite";
   OwnedRegistryKey key;
   DWORD size = 0;
   if (OpenRegistryKey(HKEY_LOCAL_MACHINE, kProductOptions, KEY_READ, key) != ERROR_SUCCESS ||

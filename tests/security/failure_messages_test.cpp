@@ -19,7 +19,7 @@
 #include "tests/support/failing_call.h"
 #include "tests/support/testing.h"
 
-constexpr FailingCall kFailing[] = {
+constexpr FailingCall kWatched[] = {
     SETS_LAST_ERROR(OpenProcessToken), SETS_LAST_ERROR(GetTokenInformation),
     SETS_LAST_ERROR(AdjustTokenPrivileges), SETS_LAST_ERROR(GetUserObjectInformationW),
     SETS_LAST_ERROR(HeapAlloc), SETS_LAST_ERROR(LocalAlloc), SETS_LAST_ERROR(CopySid),
@@ -107,7 +107,7 @@ TEST_CASE("each failing call has its message, then the operation its own") {
       }
       return wasReached;
     };
-    for (const FailingCall& failing : kFailing) {
+    for (const FailingCall& failing : kWatched) {
       for (const bool throws : {false, true}) {
         for (int nth = 1; isReached(failing, nth, throws); ++nth) {
         }

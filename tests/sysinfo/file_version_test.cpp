@@ -56,13 +56,13 @@ TEST_CASE("the versions of sound and hostile files are those of file_versions.tx
   });
   std::istringstream cases(ReadBytes(ProgramPath(L"expected\\file_versions.txt")));
   std::string seen;
-  for (std::string given, answer; std::getline(cases, given) && std::getline(cases, answer);) {
+  for (std::string line, answer; std::getline(cases, line) && std::getline(cases, answer);) {
     pathLength = 0;
-    std::sscanf(given.c_str(), "%98s %d.%d.%d.%d, path of %zu, %8[a-z] %d, length %u", name,
+    std::sscanf(line.c_str(), "%98s %d.%d.%d.%d, path of %zu, %8[a-z] %d, length %u", name,
                 &numbers[0], &numbers[1], &numbers[2], &numbers[3], &pathLength, from, &offset,
                 &length);
     const std::wstring path = ProgramPath(std::filesystem::path(name));
-    seen += given + "\n";
+    seen += line + "\n";
     for (const auto compare : {CompareFileVersion, CompareFileVersionNumbers}) {
       freed = 0;
       seen += std::to_string(
@@ -94,10 +94,10 @@ TEST_CASE("the browser's file is looked for in the system directory, its name ke
   CHECK(text == WString(L"not available"));
   std::string seen = Ascii(GetIEVersionName(nullptr, {5, 50, 4134, 601}));
   std::istringstream cases(ReadBytes(ProgramPath(L"expected\\browser_names.txt")));
-  for (std::string given; std::getline(cases, given);) {
-    parse(given);
+  for (std::string line; std::getline(cases, line);) {
+    parse(line);
     const std::wstring name = GetIEVersionName(nullptr, version);
-    seen += given.substr(0, given.find('=') + 1) + Ascii(name) + "\n";
+    seen += line.substr(0, line.find('=') + 1) + Ascii(name) + "\n";
     CHECK(GetIEVersionName(nullptr, {6, 0, 0, 0}) == name);
   }
   CheckAgainstFile(seen, L"browser_names.txt");

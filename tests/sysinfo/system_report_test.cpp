@@ -6,11 +6,7 @@
 
 #include "lib/registry/registry_string.h"
 #include "lib/sysinfo/color_depth.h"
-#include "tests/support/testing.h"
-
-// The line of report.txt that is played: the machine.
-static std::string given;
-static bool Has(const std::string& word) { return given.find(word) != std::string::npos; }
+#include "tests/sysinfo/played_machine.h"
 
 static BOOL Write(wchar_t* to, const std::wstring& text) { return lstrcpyW(to, text.c_str()), 6; }
 static BOOL WINAPI TellComputerName(int format, wchar_t* name, DWORD* size) {

@@ -3,11 +3,7 @@
 #include <cstring>
 #include <sstream>
 
-#include "tests/support/testing.h"
-
-// The line of windows_names.txt that is played: the Windows, and what it does otherwise.
-static std::string given;
-static bool Has(const std::string& word) { return given.find(word) != std::string::npos; }
+#include "tests/sysinfo/played_machine.h"
 
 // What that Windows was asked, in order.
 static std::string asked;
