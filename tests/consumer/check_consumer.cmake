@@ -5,7 +5,8 @@ if(prefix)
   set(library -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
     -D all_headers=${all_headers})
 else()
-  set(library -D CMAKE_DISABLE_FIND_PACKAGE_kelvo=ON)
+  # In batches, as a consumer may build; it takes a quarter of the time.
+  set(library -D CMAKE_DISABLE_FIND_PACKAGE_kelvo=ON -D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=30)
 endif()
 
 # Not from a cache: what a consumer would configure is what is tested.
