@@ -10,8 +10,8 @@ TEST_CASE("a prefix is put before what is fully qualified, and taken off what it
   };
   const Row rows[] = {
       {nullptr, L"", L""},
-      {L"C:\\x", L"\\\\?\\C:\\x", L"C:\\x"},
-      {L"c:/x/./y/..\\z", L"\\\\?\\c:\\x\\z", L"c:/x/./y/..\\z"},
+      {L"Z:\\x", L"\\\\?\\Z:\\x", L"Z:\\x"},
+      {L"a:/x/./y/..\\z", L"\\\\?\\a:\\x\\z", L"a:/x/./y/..\\z"},
       {L"\\\\server\\share\\x", L"\\\\?\\UNC\\server\\share\\x", L"\\\\server\\share\\x"},
       {L"//server/share/x", L"\\\\?\\UNC\\server\\share\\x", L"//server/share/x"},
       {L"C:x", L"C:x", L"C:x"},
