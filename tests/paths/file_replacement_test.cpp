@@ -8,7 +8,7 @@ TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT
   const std::wstring source = folder.Write("new long file.txt", "new");
   const std::wstring target = folder / std::wstring(150, L't');
   const auto tell = [&](wchar_t* buffer) {
-    return static_cast<UINT>(lstrlenW(lstrcpyW(buffer, (folder / "").c_str())));
+    return static_cast<UINT>(lstrlenW(lstrcpyW(buffer, folder.path.c_str())));
   };
   REPLACE(GetTempPathW, [&](auto, auto, auto buffer) -> DWORD { return tell(buffer); });
   struct Move {
