@@ -1,5 +1,7 @@
 #include "lib/paths/local_server_path.h"
 
+#include <objbase.h>
+
 #include "lib/registry/registry_string.h"
 #include "tests/support/testing.h"
 
@@ -19,23 +21,22 @@ TEST_CASE("a local server is the file that its class registers") {
   };
   const Row rows[] = {{L"\\LocalServer32", server, 0, server},
                       {L"\\LocalServer", server + L" /automation /x", 0, server + L" "},
-                      {L"\\LocalServer32", WString(L"\"") + server + L"\"", 3, L""},
+                      {L"\\LocalServer32", WString(L"\"") + server + L"\"", 3, server + L" "},
                       {L"\\LocalServer32", server + filling, 0, server},
-                      {L"\\LocalServer32", server + filling + L"/", ERROR_MORE_DATA, L""}};
+                      {L"\\LocalServer32", server + filling + L"/", ERROR_MORE_DATA, server}};
   for (const auto& [key, stored, answer, expected] : rows) {
-    path.clear();
     StoreUnits(HKEY_CLASSES_ROOT, (classKey + key).c_str(), nullptr, REG_SZ, stored.c_str());
     CHECK_BOTH(GetLocalServerPath(L"kelvo.test", path) == answer, path == expected);
     RegDeleteTreeW(HKEY_CLASSES_ROOT, classKey.c_str());
   }
   std::wstring tried;
   REPLACE(RegOpenKeyExW, [&](auto, auto, LPCWSTR subkey, auto, DWORD access, auto) {
-    tried += std::wcsrchr(subkey, L'\\') + (L" " + std::to_wstring(access));
+    tried += std::wcsrchr(subkey, L'\\') + (L" " + std::to_wstring(access - KEY_READ));
     return static_cast<LSTATUS>(access);
   });
   CHECK(GetLocalServerPath(L"kelvo.test", path) == 0x20219);
-  CHECK(tried ==
-        L"\\LocalServer32 131353\\LocalServer32 131609"
-        L"\\LocalServer 131353\\LocalServer 131609");
+  CHECK(tried == L"\\LocalServer32 256\\LocalServer32 512\\LocalServer 256\\LocalServer 512");
+  REPLACE(StringFromCLSID, [](auto...) { return E_OUTOFMEMORY; });
+  CHECK(GetLocalServerPath(L"kelvo.test", path) == 0x80040011);
   RegDeleteTreeW(HKEY_CLASSES_ROOT, L"kelvo.test");
 }
