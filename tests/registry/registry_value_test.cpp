@@ -11,7 +11,7 @@ TEST_CASE("numbers and bytes are read as written, a value is deleted and its key
   const wchar_t* const key = scratch.c_str();
   std::string bytes = "before";
   CHECK_FALSE(RegistryKeyExists(root, key));
-  CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
+  CHECK(RegistryReadBoolean(root, key, L"n", true));
   CHECK(RegistryReadBinary(root, key, L"n", bytes) == ERROR_FILE_NOT_FOUND);
   CHECK(RegistryDeleteValue(root, key, L"n") == -1);
   CHECK(RegistryWriteDword(nullptr, L"cannot be created", L"n", 1) == -1);
@@ -20,7 +20,7 @@ TEST_CASE("numbers and bytes are read as written, a value is deleted and its key
   CHECK(RegistryReadDword(root, key, L"n", 7) == 0xFEDCBA98);
   CHECK_BOTH(RegistryReadBinary(root, key, L"n", bytes) == 0, bytes == "before");
   CHECK_BOTH(RegistryReadBoolean(root, key, L"n", false),
-             RegistryReadBoolean(root, key, L"", true));
+             !RegistryReadBoolean(root, key, L"", false));
   REQUIRE(WriteRegistryValue(root, key, L"n", REG_DWORD, "12345", 5) == 0);
   CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
 
