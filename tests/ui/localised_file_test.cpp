@@ -20,7 +20,7 @@ TEST_CASE("each locale of the table is Windows' own, both ways") {
     }
   }
   CHECK_BOTH(count == 158, FindLocaleName(0x00010407) == std::wstring(L"de-DE"));
-  CHECK_BOTH(FindLocaleName(0x01000407) == nullptr, FindLocaleId(L"DE-ch") == 0x0807);
+  CHECK_BOTH(FindLocaleName(0x01000407) == nullptr, FindLocaleId(L"AF-za") == 0x0436);
   CHECK_BOTH(FindLocaleId(L"de-C") == 0, FindLocaleId(nullptr) == 0);
 }
 
@@ -56,7 +56,7 @@ TEST_CASE("the exact file is found, or the nearest that is there") {
       {L"a.b_nonsense name.dll", false, kSuffix, L""},
       {L"a.b_de-DE.dll", true, kSuffix, L""},
       {L"a.b_ja-JP.dllx", false, kSuffix, L""},
-      {L"a.b_ja-JP.dll", false, kSuffix, L"a.b_ja-JP.dll"},
+      {L"A.B_ja-JP.DLL", false, kSuffix, L"a.b_ja-JP.dll"},
       {L"a.b_da-DK.dll", false, kSuffix, L"a.b_da-DK.dll"},
       {L"a.b_en-GB.dll", false, kSuffix, L"a.b_en-GB.dll"},
       {L"a.b_en-US.dll", false, kSuffix, L"a.b_en-US.dll"},
