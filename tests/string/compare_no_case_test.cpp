@@ -11,11 +11,10 @@ TEST_CASE("texts are compared by their lower-case units") {
     int difference;
   };
   const auto rows =
-      std::to_array({Row(L"Foo", L"fOO", 0), Row(L"a", L"ab", -L'b'), Row(L"AB", L"a", L'b'),
+      std::to_array({Row(L"Foo\u0100B", L"fOO\u0101", L'b'), Row(L"a", L"ab", -L'b'),
                      Row(L"Z", L"[", L'z' - L'['), Row(L"\u00C9", L"\u00E9", -0x20),
-                     Row(L"\u0416", L"a", 0x0436 - L'a'), Row(L"\u0130x", L"\u0130X", 0),
-                     Row(L"\uFFFF", L"\uFFFE", 1), Row(L"", L"", 0), Row(L"\u0416", L"\u0436", 0),
-                     Row(L"\uFFFF", L"a", 0xFFFF - L'a')});
+                     Row(L"\u0416", L"A", 0x0436 - L'a'), Row(L"\u0130x", L"\u0130X", 0),
+                     Row(L"\uFFFF", L"\uFFFE", 1), Row(L"[", L"{", L'[' - L'{')});
   for (const auto& [a, b, difference] : rows) {
     CAPTURE(a);
     CAPTURE(b);
