@@ -77,9 +77,9 @@ TEST_CASE("a process that ends too early loses no line, of whatever length") {
 TEST_CASE("names outside ASCII are kept, and shown as far as a byte can") {
   const Rehearsal machine;
   StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ,
-             std::wstring(L"\u017Dofie \u00E9\U0001F600") + L'\0');
+             std::wstring(L"\u0100ofie \u00FF\U0001F600") + L'\0');
   Rehearsal::Run(L"sorrel.exe register kite");
-  CHECK(Applications() == L"\u017Dofie \u00E9\U0001F600;kite");
+  CHECK(Applications() == L"\u0100ofie \u00FF\U0001F600;kite");
   CHECK(Rehearsal::Run(L"sorrel.exe unregister KITE")
-            .starts_with("OK: Dependant applications exist: ?ofie \xE9??\r\n"));
+            .starts_with("OK: Dependant applications exist: ?ofie \xFF??\r\n"));
 }
