@@ -28,7 +28,7 @@ TEST_CASE("what stands in place of the list decides what is told of an applicati
       {{0, REG_DWORD, 4, L""},
        {},
        "absent   application     the list is not text: sorrel.exe takes it as empty\n"},
-      {{ERROR_FILE_NOT_FOUND, 0, 0, L""}, {L"a"}, "absent   application     a; none is recorded\n"},
+      {{ERROR_PATH_NOT_FOUND, 0, 0, L""}, {L"a"}, "absent   application     a; none is recorded\n"},
       {{0x20001234, 0, 0, L""}, {L"a"}, "unknown  application     a; 20001234\n"},
   };
   for (const auto& [list, names, report] : rows) {
@@ -37,11 +37,11 @@ TEST_CASE("what stands in place of the list decides what is told of an applicati
 }
 
 TEST_CASE("a certificate expires after its last moment") {
-  CertificateFacts facts{0, true, true, L"S", L"I", L"AB", {5, 0}};
-  for (const auto& [now, expired] : {std::pair(4U, false), {5U, false}, {6U, true}}) {
-    const Item item = DescribeCertificate("publisher", L"f", facts, {now, 0});
-    CHECK(std::get<bool>(item.details[4].value) == expired);
-    CHECK(item.state == State::kPresent);
+  CertificateFacts facts{0, true, true, L"S", L"I", L"AB", {0xA9CF5280, 0x1CF3841}};
+  for (const auto& [now, end] : {std::pair(0x7FU, ""), {0x80U, ""}, {0x81U, "; expired"}}) {
+    CHECK(TextReport({DescribeCertificate("c", L"f", facts, {0xA9CF5200 + now, 0x1CF3841})}) ==
+          std::string("present  c               f; subject S; issuer I; thumbprint AB;") +
+              " valid until 2014-03-05T07:08:09Z" + end + "\n");
   }
 }
 
