@@ -32,6 +32,8 @@ std::string Shown(Argument argument) {
     return predefined < 0 ? std::to_string(predefined - static_cast<LONG>(0x80000000)) : "key";
   } else if constexpr (std::is_same_v<Argument, TOKEN_PRIVILEGES*>) {
     return "attributes " + Shown(argument->Privileges[0].Attributes);
+  } else if constexpr (std::is_same_v<Argument, SECURITY_ATTRIBUTES*>) {
+    return "inheritance " + Shown(argument->bInheritHandle);
   } else if constexpr (std::is_same_v<Argument, STARTUPINFOW*>) {
     return "size " + Shown(argument->cb) + " on " + Shown(LPCWSTR{argument->lpDesktop});
   } else if constexpr (std::is_same_v<Argument, EXPLICIT_ACCESSW*>) {
