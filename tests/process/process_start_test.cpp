@@ -157,7 +157,6 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
     HANDLE untouched = &calls;
     calls.clear();
     CHECK_FALSE(LaunchInUserSession(L"program", nullptr, true, &untouched));
-    CHECK(untouched == &calls);
-    CHECK(calls == happens);
+    CHECK_BOTH(untouched == &calls, calls == happens);
   }
 }

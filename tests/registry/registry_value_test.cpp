@@ -10,8 +10,7 @@ TEST_CASE("numbers and bytes are read as written, a value is deleted and its key
   HKEY const root = HKEY_CURRENT_USER;
   const wchar_t* const key = scratch.c_str();
   std::string bytes = "before";
-  CHECK_FALSE(RegistryKeyExists(root, key));
-  CHECK(RegistryReadBoolean(root, key, L"n", true));
+  CHECK_BOTH(!RegistryKeyExists(root, key), RegistryReadBoolean(root, key, L"n", true));
   CHECK(RegistryReadBinary(root, key, L"n", bytes) == ERROR_FILE_NOT_FOUND);
   CHECK(RegistryDeleteValue(root, key, L"n") == -1);
   CHECK(RegistryWriteDword(nullptr, L"cannot be created", L"n", 1) == -1);
