@@ -104,8 +104,7 @@ TEST_CASE("each command in life.txt finds what stands on the machine, and change
 TEST_CASE("a wrong command line ends with 2 and the usage on standard error") {
   const Machine machine;
   const ChildResult run = machine.Run(L"sorrel_status.exe --json --nothing");
-  CHECK(run.exitCode == 2);
-  CHECK(run.output == "");
+  CHECK_BOTH(run.exitCode == 2, run.output == "");
   const ChildResult told = machine.Run(L"sorrel_status.exe --version&sorrel_status.exe --help");
   CHECK(told.output.starts_with("sorrel_status 1.0.0\r\n"));
   CHECK(told.output.find("Usage:\r\n") != std::string::npos);
