@@ -18,8 +18,7 @@ TEST_CASE("the last error after the adjustment tells whether the privilege is en
       return original(handle), SetLastError(ERROR_INVALID_HANDLE), TRUE;
     });
     REPLACE(WriteFile, [&](auto, auto, auto bytes, DWORD size, DWORD* done, auto) {
-      written.append(static_cast<const char*>(bytes), *done = (size + 1) / 2);
-      return TRUE;
+      return written.append(static_cast<const char*>(bytes), *done = (size + 1) / 2), TRUE;
     });
     CHECK_BOTH(EnableLoadDriverPrivilege() == isEnabled, written == output);
   }
