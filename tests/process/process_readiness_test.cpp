@@ -34,6 +34,7 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
 }
 
 TEST_CASE("the mutex is looked for every 100 ms, by a clock that wraps, as long as there is time") {
+  const auto windows2000 = PretendWindows(2, 5, 0);
   DWORD now = 0;
   int lookups = 0;
   REPLACE(GetTickCount, [&](auto) { return now; });
