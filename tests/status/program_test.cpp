@@ -39,7 +39,10 @@ struct Machine {
     run.output =
         std::regex_replace(run.output, std::regex("[A-Z]:[^;]*kelvo test[^;\\\\]*"), "FOLDER");
     run.output = std::regex_replace(
-        run.output, std::regex(R"((info     system|"name": "(?=Wind|Micr))[^"\r]+)"), "$1");
+        run.output, std::regex(R"((info     system|"name": "(?=Wind|Micr|\())[^"\r]+)"), "$1");
+    // Wine 10 elevates nobody.
+    run.output =
+        std::regex_replace(run.output, std::regex("elevated\": false"), "elevated\": true");
     return run;
   }
 
