@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tests/support/certificate_store.h"
+#include "tests/support/throw_away_prefix.h"
 #include "tool/dependent_applications.h"
 
 namespace kelvo::test {
@@ -22,6 +23,7 @@ inline std::wstring Applications() {
 // Then the list that was there is put back, and what the test imported is removed.
 struct CleanMachine {
   CleanMachine() {
+    RequireThrowAwayPrefix();
     hadList = RegGetValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications",
                            RRF_RT_ANY | RRF_NOEXPAND, &type, list, &size) == ERROR_SUCCESS;
     Clear();
