@@ -30,21 +30,19 @@ endif()
 add_library(kelvo_build_options INTERFACE)
 target_compile_definitions(kelvo_build_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 if(MSVC)
-  target_compile_definitions(kelvo_build_options INTERFACE WINVER=0x0A00 _WIN32_WINNT=0x0A00)
   # C4996: the GetVersionEx family is deprecated but what the library is asked to report.
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
-    $<$<CONFIG:MinSizeRel>:/Gy> /Zi)
+    $<$<CONFIG:MinSizeRel>:/Gy> /Z7)
 else()
   # No file may say where it was built.
   target_compile_options(kelvo_build_options INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
-  # The sources name functions of Windows 10 and look them up at run time, whatever Windows a consumer's project is for.
   target_compile_options(kelvo_build_options INTERFACE
-    "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>"
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
-  # As if x86intrin.h were included already. The processor's vector functions are half of what mingw's windows.h brings:
-  # nothing here calls one, each source would be compiled, and looked through by clang-tidy, twice as long.
-  target_compile_options(kelvo_build_options INTERFACE "$<$<COMPILE_LANGUAGE:C,CXX>:-D__X86INTRIN_H>")
 endif()
+# The sources name functions of Windows 10 and look them up at run time, whatever Windows a consumer's project is for. Options,
+# since a definition would not take back the one that the consumer gives.
+target_compile_options(kelvo_build_options INTERFACE
+  "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>")
 
 # Debug information for the .pdb of a program that is shipped: for it and for the libraries in it.
 add_library(kelvo_debug_information INTERFACE)

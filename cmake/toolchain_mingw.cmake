@@ -10,6 +10,11 @@ set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_AR llvm-ar-19)
 set(CMAKE_RANLIB llvm-ranlib-19)
 
+# As if x86intrin.h were included already. The processor's vector functions are half of what mingw's windows.h brings: each
+# source would be compiled, and looked through by clang-tidy, twice as long. A project that calls them leaves this out.
+set(CMAKE_C_FLAGS_INIT -D__X86INTRIN_H)
+set(CMAKE_CXX_FLAGS_INIT -D__X86INTRIN_H)
+
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-fuse-ld=lld-19 -static")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-fuse-ld=lld-19 -static")
 set(CMAKE_MODULE_LINKER_FLAGS_INIT "-fuse-ld=lld-19 -static")

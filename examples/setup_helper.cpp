@@ -12,8 +12,8 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <array>
 #include <cwchar>
+#include <iterator>
 #include <string>
 
 #include "lib/platform/owned.h"
@@ -88,9 +88,8 @@ struct Command {
   int (*run)(const wchar_t* first, const wchar_t* second);
 };
 
-constexpr std::array kCommands = {Command{L"read", Read}, Command{L"grant", Grant},
-                                  Command{L"start", Start},
-                                  Command{L"ready", StartAndWaitUntilReady}};
+constexpr Command kCommands[] = {
+    {L"read", Read}, {L"grant", Grant}, {L"start", Start}, {L"ready", StartAndWaitUntilReady}};
 
 }  // namespace
 
@@ -100,6 +99,6 @@ extern "C" int wmain(int count, wchar_t** words) {
   }
   const auto* const command = std::ranges::find_if(
       kCommands, [&](const Command& known) { return std::wcscmp(known.name, words[1]) == 0; });
-  return command != kCommands.end() ? command->run(words[2], count > 3 ? words[3] : L"")
-                                    : Tell(L"There is no such command", kFailure);
+  return command != std::end(kCommands) ? command->run(words[2], count > 3 ? words[3] : L"")
+                                        : Tell(L"There is no such command", kFailure);
 }

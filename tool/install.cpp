@@ -1,7 +1,7 @@
 #include "tool/install.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 #include "lib/certificates/certificate_import.h"
 #include "tool/console_report.h"
@@ -24,12 +24,12 @@ constexpr DWORD kNoSuchDeviceInstance = 0xE000020B;
 constexpr DWORD kPackagePreinstalled = 0xE0000301;
 constexpr DWORD kPublisherNotTrusted = 0xE0000242;
 
-constexpr std::array kDriverOutcomes = {
-    DriverOutcome{ERROR_SUCCESS, L"INFO: Driver Install Success\n"},
-    DriverOutcome{kNoSuchDeviceInstance, L"INFO: Driver preinstalled OK\n"},
-    DriverOutcome{kPackagePreinstalled, L"INFO: Driver preinstalled OK\n"},
-    DriverOutcome{ERROR_NO_MORE_ITEMS, L"INFO: Driver is installed - No Update needed\n"},
-    DriverOutcome{kPublisherNotTrusted, L"ERR: The drivers publisher is not trusted\n"},
+constexpr DriverOutcome kDriverOutcomes[] = {
+    {ERROR_SUCCESS, L"INFO: Driver Install Success\n"},
+    {kNoSuchDeviceInstance, L"INFO: Driver preinstalled OK\n"},
+    {kPackagePreinstalled, L"INFO: Driver preinstalled OK\n"},
+    {ERROR_NO_MORE_ITEMS, L"INFO: Driver is installed - No Update needed\n"},
+    {kPublisherNotTrusted, L"ERR: The drivers publisher is not trusted\n"},
 };
 
 void ReportDriverFailure(DWORD code) {
@@ -38,7 +38,7 @@ void ReportDriverFailure(DWORD code) {
 
 void ReportDriverOutcome(DWORD code) {
   const auto* const outcome = std::ranges::find(kDriverOutcomes, code, &DriverOutcome::code);
-  if (outcome != kDriverOutcomes.end()) {
+  if (outcome != std::end(kDriverOutcomes)) {
     Report(outcome->text);
   } else {
     ReportDriverFailure(code);

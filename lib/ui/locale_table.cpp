@@ -1,7 +1,7 @@
 #include "lib/ui/locale_table.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 #include "lib/string/internal/ascii_case.h"
 
@@ -14,7 +14,7 @@ struct Locale {
   const wchar_t* name;
 };
 
-constexpr auto kLocales = std::to_array<Locale>({
+constexpr Locale kLocales[] = {
     {0x0401, L"ar-SA"},        {0x0402, L"bg-BG"},      {0x0403, L"ca-ES"},
     {0x0404, L"zh-TW"},        {0x0405, L"cs-CZ"},      {0x0406, L"da-DK"},
     {0x0407, L"de-DE"},        {0x0408, L"el-GR"},      {0x0409, L"en-US"},
@@ -68,7 +68,7 @@ constexpr auto kLocales = std::to_array<Locale>({
     {0x3C01, L"ar-BH"},        {0x3C0A, L"es-PY"},      {0x4001, L"ar-QA"},
     {0x400A, L"es-BO"},        {0x440A, L"es-SV"},      {0x480A, L"es-HN"},
     {0x4C0A, L"es-NI"},        {0x500A, L"es-PR"},
-});
+};
 static_assert(std::ranges::is_sorted(kLocales, {}, &Locale::id));
 
 }  // namespace
@@ -77,7 +77,7 @@ const wchar_t* FindLocaleName(LCID locale) {
   constexpr LCID kSortBits = 0x000F0000;
   const LCID id = locale & ~kSortBits;
   const auto* const found = std::ranges::lower_bound(kLocales, id, {}, &Locale::id);
-  return found != kLocales.end() && found->id == id ? found->name : nullptr;
+  return found != std::end(kLocales) && found->id == id ? found->name : nullptr;
 }
 
 LCID FindLocaleId(const wchar_t* name) {

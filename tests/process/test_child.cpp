@@ -1,5 +1,6 @@
 #include <fstream>
 
+#include "tests/support/ascii.h"
 #include "tests/support/desktop_scope.h"
 
 // mutex NAME        makes a mutex after a while and keeps it for a while
@@ -17,8 +18,7 @@ int wmain(int count, wchar_t** words) {
   } else if (verb == L"report") {
     WaitForSingleObject(OpenEventW(SYNCHRONIZE, FALSE, words[2]), 10000);
     const std::wstring text = GetCommandLineW() + (L"|" + kelvo::test::CurrentDesktop());
-    std::ofstream((std::wstring(words[0]) + L".txt").c_str())
-        << std::string(text.begin(), text.end());
+    std::ofstream((std::wstring(words[0]) + L".txt").c_str()) << kelvo::test::Ascii(text);
     SetEvent(OpenEventW(EVENT_MODIFY_STATE, FALSE, (std::wstring(words[2]) + L"_done").c_str()));
     return 7;
   }

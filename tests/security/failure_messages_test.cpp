@@ -119,5 +119,5 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   }
   SetTraceSink(nullptr);
   TraceMessage(L"nobody", L"listens");
-  CheckAgainstFile(seen, L"failure_messages.txt");
+  CheckAgainstFile(Ascii(seen), L"failure_messages.txt");
 }

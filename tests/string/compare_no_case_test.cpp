@@ -1,6 +1,7 @@
 #include "lib/string/compare_no_case.h"
 
 #include <clocale>
+#include <cwctype>
 
 #include "tests/support/testing.h"
 

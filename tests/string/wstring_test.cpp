@@ -8,7 +8,7 @@ TEST_CASE("a text takes over null, parts of itself and nothing that does not fit
     WString text(original);
     const auto offset =
         reinterpret_cast<const char*>(text.c_str()) - reinterpret_cast<const char*>(&text);
-    CHECK((offset > 0 && offset < std::ptrdiff_t{sizeof(text)}) == (*original == L's'));
+    CHECK((offset >= 0 && offset < std::ptrdiff_t{sizeof(text)}) == (*original == L's'));
     text.AssignCString(text.c_str() + 2);
     CHECK(text == WString(original + 2));
     text.assign(text, 1, 2);

@@ -8,6 +8,8 @@
 #include <fstream>
 #include <string>
 
+#include "tests/support/ascii.h"
+
 namespace kelvo::test {
 
 // A folder of this test's own, deleted with everything in it along with this object.
@@ -33,8 +35,6 @@ struct ScratchFolder {
       (L"kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " + std::to_wstring(++made));
 };
 
-inline std::string Ascii(const std::wstring& text) { return {text.begin(), text.end()}; }
-
 // The file's bytes; empty when it cannot be read.
 inline std::string ReadBytes(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
@@ -50,9 +50,7 @@ inline std::wstring ProgramPath(const std::wstring& name) {
 
 // Compares what was seen with a file that the test lists under EXPECTED, byte by byte, and shows
 // where they differ first. What was seen then stands beside that file's copy as FILE.seen.
-template <typename Text>
-void CheckAgainstFile(const Text& text, const std::wstring& file) {
-  const std::string seen(text.begin(), text.end());
+inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);
   const std::string expected = ReadBytes(path);
   REQUIRE_FALSE(expected.empty());

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <type_traits>
 
+#include "tests/support/ascii.h"
+
 namespace kelvo::test {
 
 // What a test can compare of an argument: a number, a constant string without its folder, a few
@@ -24,7 +26,11 @@ std::string Shown(Argument argument) {
     }
     const std::basic_string_view text(argument);
     const auto shown = text.substr(text.find(':') == 1 ? text.rfind('\\') : 0);
-    return "'" + std::string(shown.begin(), shown.end()) + "'";
+    if constexpr (std::is_same_v<Argument, LPCSTR>) {
+      return "'" + std::string(shown) + "'";
+    } else {
+      return "'" + Ascii(shown) + "'";
+    }
   } else if (argument == nullptr) {
     return "0";
   } else if constexpr (std::is_same_v<Argument, HKEY>) {

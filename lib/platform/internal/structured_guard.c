@@ -1,6 +1,6 @@
 #include "lib/platform/internal/structured_guard.h"
 
-#include <windows.h>
+#include <excpt.h>
 
 int RunUnderStructuredGuard(void (*run)(void* context), void* context) {
   __try {
