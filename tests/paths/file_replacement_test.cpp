@@ -2,8 +2,10 @@
 
 #include "lib/paths/file_exists.h"
 #include "tests/support/testing.h"
+#include "tests/support/throw_away_prefix.h"
 
 TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT.INI") {
+  RequireThrowAwayPrefix();
   const ScratchFolder folder;
   const std::wstring source = folder.Write("new long file.txt", "new");
   const std::wstring target = folder / std::wstring(150, L't');

@@ -61,7 +61,8 @@ TEST_CASE("a key goes with everything below it, with and without RegDeleteKeyExW
 TEST_CASE("a tree of any depth is deleted without a stack for it") {
   const ScratchKey key;
   OwnedRegistryKey deepest;
-  REQUIRE(CreateRegistryKey(kRoot, (key + L"\\tree\\" + WString(254, L'n')).c_str(), deepest) == 0);
+  REQUIRE(CreateRegistryKey(kRoot, (key + L"\\tree\\" + std::wstring(254, L'n')).c_str(),
+                            deepest) == 0);
   // Windows ends a tree at 512 levels, Wine does not.
   for (int level = 0; level < 1'600; ++level) {
     OwnedRegistryKey below;

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "lib/string/hex_text.h"
+#include "tests/support/throw_away_prefix.h"
 
 namespace kelvo::test {
 
@@ -20,7 +20,8 @@ inline std::wstring SubjectsInStore(const wchar_t* name, bool remove = false) {
   while ((certificate = CertEnumCertificatesInStore(store, certificate)) != nullptr) {
     wchar_t subject[99];
     CertGetNameStringW(certificate, CERT_NAME_SIMPLE_DISPLAY_TYPE, 0, nullptr, subject, 99);
-    if (!std::wstring(subject).starts_with(L"Tessalin Test ")) {
+    if (std::wstring(subject) != L"Tessalin Test Publisher" &&
+        std::wstring(subject) != L"Tessalin Test Authority") {
       continue;
     }
     subjects += subject;
@@ -29,8 +30,13 @@ inline std::wstring SubjectsInStore(const wchar_t* name, bool remove = false) {
     if (remove &&
         CertGetCertificateContextProperty(certificate, CERT_SHA1_HASH_PROP_ID, hash, &size)) {
       // Wine keeps what CertDeleteCertificateFromStore deletes.
-      const WString key = WString(L"Software\\Microsoft\\SystemCertificates\\") + name +
-                          L"\\Certificates\\" + BytesToHex(hash, size);
+      std::wstring key =
+          std::wstring(L"Software\\Microsoft\\SystemCertificates\\") + name + L"\\Certificates\\";
+      // Not BytesToHex, which is under test: without the digits all certificates would be deleted.
+      for (const BYTE byte : hash) {
+        key += L"0123456789ABCDEF"[byte / 16];
+        key += L"0123456789ABCDEF"[byte % 16];
+      }
       RegDeleteTreeW(HKEY_LOCAL_MACHINE, key.c_str());
     }
   }
@@ -39,6 +45,7 @@ inline std::wstring SubjectsInStore(const wchar_t* name, bool remove = false) {
 }
 
 inline void RemoveTestCertificates() {
+  RequireThrowAwayPrefix();
   SubjectsInStore(L"TrustedPublisher", true);
   SubjectsInStore(L"CA", true);
 }

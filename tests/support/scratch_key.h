@@ -6,17 +6,19 @@
 #include <string>
 
 #include "lib/registry/registry_key.h"
-#include "lib/string/format_text.h"
 
 namespace kelvo::test {
 
 // The path of a registry key of this test's own below HKEY_CURRENT_USER. The key is not there at
 // first and is deleted, with everything below it, along with this object.
-struct ScratchKey : WString {
+//
+// Nothing of the library makes the name or deletes the key: all of it is under test, and the tree
+// of an empty name is the user's whole registry.
+struct ScratchKey : std::wstring {
   ScratchKey()
-      : WString(FormatText(L"Software\\kelvo test %u %d", GetCurrentProcessId(), ++made)) {}
+      : std::wstring(L"Software\\kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " +
+                     std::to_wstring(++made)) {}
   ScratchKey(const ScratchKey&) = delete;
-  // Not RegistryDeleteKeyTree, which is under test.
   ~ScratchKey() { RegDeleteTreeW(HKEY_CURRENT_USER, c_str()); }
 
   static inline int made = 0;
@@ -35,7 +37,10 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
 // predefined keys. Tests write and delete through `key`, never through the predefined one.
 struct StandInKey {
   explicit StandInKey(HKEY replaced) : predefined(replaced) {
-    REQUIRE(CreateRegistryKey(HKEY_CURRENT_USER, scratch.c_str(), key) == 0);
+    HKEY created = nullptr;
+    REQUIRE(RegCreateKeyW(HKEY_CURRENT_USER, scratch.c_str(), &created) == ERROR_SUCCESS);
+    REQUIRE(created != nullptr);
+    key = OwnedRegistryKey(created);
     REQUIRE(RegOverridePredefKey(predefined, key.get()) == 0);
   }
   ~StandInKey() { RegOverridePredefKey(predefined, nullptr); }
