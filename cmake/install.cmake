@@ -17,9 +17,15 @@ install(FILES simulator/Tessalin.inf DESTINATION lib/sorrel/simulator COMPONENT 
 install(TARGETS kelvo_lib EXPORT kelvo ARCHIVE DESTINATION lib COMPONENT sdk)
 install(DIRECTORY lib DESTINATION include/kelvo COMPONENT sdk
   FILES_MATCHING PATTERN "*.h" PATTERN internal EXCLUDE)
-install(EXPORT kelvo FILE kelvo-config.cmake NAMESPACE kelvo:: DESTINATION lib/cmake/kelvo COMPONENT sdk)
+install(EXPORT kelvo FILE kelvo-targets.cmake NAMESPACE kelvo:: DESTINATION lib/cmake/kelvo COMPONENT sdk)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/kelvo-config-version.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/kelvo-config-version.cmake DESTINATION lib/cmake/kelvo COMPONENT sdk)
+set(KELVO_COMPILER MINGW)
+if(MSVC)
+  set(KELVO_COMPILER MSVC)
+endif()
+configure_file(${CMAKE_CURRENT_LIST_DIR}/kelvo-config.cmake.in ${PROJECT_BINARY_DIR}/kelvo-config.cmake @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/kelvo-config.cmake ${PROJECT_BINARY_DIR}/kelvo-config-version.cmake
+  DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(FILES docs/library.md CHANGELOG.md DESTINATION share/doc/kelvo COMPONENT sdk OPTIONAL)
 install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONENT sdk)
 
@@ -29,7 +35,7 @@ set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
 set(CPACK_ARCHIVE_TOOL_FILE_NAME sorrel-${PROJECT_VERSION}-win64)
-set(CPACK_ARCHIVE_SDK_FILE_NAME kelvo-${PROJECT_VERSION}-win64-sdk)
+set(CPACK_ARCHIVE_SDK_FILE_NAME kelvo-${PROJECT_VERSION}-win64-mingw-sdk)
 set(CPACK_ARCHIVE_SYMBOLS_FILE_NAME sorrel-${PROJECT_VERSION}-win64-symbols)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

@@ -1,4 +1,4 @@
-# cmake -D source=... -D build=... -D toolchain=... -D wine=... -P check_consumer.cmake
+# cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
 # Where `prefix` is set the library must be the package installed there, else it is built from its sources.
 
 if(prefix)
@@ -11,10 +11,15 @@ endif()
 
 # Not from a cache: what a consumer would configure is what is tested.
 file(REMOVE_RECURSE ${build}/CMakeCache.txt ${build}/CMakeFiles)
+set(flags "-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601")
+if(toolchain)
+  list(APPEND library -D CMAKE_TOOLCHAIN_FILE=${toolchain})
+else()
+  set(flags "/EHsc /W4 /WX /DWINVER=0x0601 /D_WIN32_WINNT=0x0601")
+  list(APPEND library -D CMAKE_C_COMPILER=${compiler} -D CMAKE_CXX_COMPILER=${compiler})
+endif()
 execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET COMMAND ${CMAKE_COMMAND} -G Ninja -S ${source} -B ${build} ${library}
-  -D CMAKE_TOOLCHAIN_FILE=${toolchain} -D CMAKE_BUILD_TYPE=Release
-  "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601"
-  "-DCMAKE_C_FLAGS=-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601"
+  -D CMAKE_BUILD_TYPE=Release -D CMAKE_C_FLAGS=${flags} -D CMAKE_CXX_FLAGS=${flags}
   -D CMAKE_PROJECT_kelvo_consumer_INCLUDE=${CMAKE_CURRENT_LIST_DIR}/own_targets.cmake)
 execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE log COMMAND ${CMAKE_COMMAND} --build ${build})
 

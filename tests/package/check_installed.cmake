@@ -37,6 +37,12 @@ foreach(file ${files})
   endif()
 endforeach()
 
+# Here no compiler is chosen: the library is for none but mingw's.
+include(${folder}/all/lib/cmake/kelvo/kelvo-config.cmake)
+if(kelvo_FOUND OR NOT kelvo_NOT_FOUND_MESSAGE MATCHES "built for MINGW")
+  message(SEND_ERROR "The package is found by any compiler: ${kelvo_NOT_FOUND_MESSAGE}")
+endif()
+
 # A consumer's project, itself from what is installed; its second program includes each public header.
 list(FILTER files INCLUDE REGEX "\\.h$")
 list(TRANSFORM files REPLACE "include/kelvo/(.*)" "#include \"\\1\"\n")

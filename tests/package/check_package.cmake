@@ -22,7 +22,7 @@ run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/un
 # Each archive is told with its sum, and only the signature makes a difference.
 foreach(kind signed unsigned)
   file(GLOB made RELATIVE ${folder}/${kind} ${folder}/${kind}/*.*)
-  if(NOT made STREQUAL "kelvo-${version}-win64-sdk.zip;sorrel-${version}-win64-symbols.zip;sorrel-${version}-win64.spdx.json;sorrel-${version}-win64.zip")
+  if(NOT made STREQUAL "kelvo-${version}-win64-mingw-sdk.zip;sorrel-${version}-win64-symbols.zip;sorrel-${version}-win64.spdx.json;sorrel-${version}-win64.zip")
     message(SEND_ERROR "Packed were ${made}")
   endif()
   foreach(file ${made})
