@@ -15,7 +15,7 @@ set(paths platform string registry sysinfo security)
 set(ui platform string registry sysinfo security)
 
 set(patterns "")
-foreach(room lib tool status simulator examples benchmarks torture tests)
+foreach(room lib tool status simulator examples benchmarks tests)
   list(APPEND patterns ${root}/${room}/*.h ${root}/${room}/*.cpp ${root}/${room}/*.c)
 endforeach()
 file(GLOB_RECURSE files RELATIVE ${root} ${patterns})
@@ -33,7 +33,7 @@ foreach(file ${files})
     set(other_room ${CMAKE_MATCH_1})
     set(other_facility "${CMAKE_MATCH_3}")
     set(inner "${CMAKE_MATCH_4}")
-    if(NOT room MATCHES "^(tests|torture)$" AND other_room MATCHES "^(tests|torture)$" OR
+    if(NOT room STREQUAL tests AND other_room STREQUAL tests OR
         room MATCHES "^(lib|tool)$" AND NOT other_room MATCHES "^(lib|${room})$")
       message(SEND_ERROR "${file} points up: ${include}")
     elseif(room STREQUAL lib AND NOT other_facility STREQUAL facility AND NOT other_facility IN_LIST ${facility})

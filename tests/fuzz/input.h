@@ -8,8 +8,7 @@
 #include <string>
 #include <vector>
 
-// What a target of the torture is made of.
-namespace kelvo::torture {
+namespace kelvo::fuzz {
 
 // Random choices that a seed repeats.
 class Input {
@@ -21,16 +20,15 @@ class Input {
   bool Chance() { return Number(1) == 1; }
   // Up to `most` units, each one of `alphabet`, or any at all when that is empty.
   std::wstring Text(std::size_t most, const std::wstring& alphabet = L"");
-  std::string Bytes(std::size_t most);
-  // Changes some bytes, and now and then the length.
-  void Mutate(std::string& bytes);
+  // Such a text without NUL.
+  std::wstring Word(std::size_t most, const std::wstring& alphabet = L"");
 
  private:
   std::mt19937_64 engine_;
 };
 
-// Memory of exactly `size` bytes that ends where a page without access begins, or, when `atStart`
-// is true, begins where one ends. One byte too far is a fault.
+// Memory of `size` bytes, at most 0x10000, that ends where a page without access begins, or, when
+// `atStart` is true, begins where one ends. One byte too far is a fault.
 class GuardedMemory {
  public:
   GuardedMemory(std::size_t size, bool atStart);
@@ -40,7 +38,7 @@ class GuardedMemory {
   template <typename Content>
   GuardedMemory(const std::basic_string<Content>& content, bool atStart)
       : GuardedMemory(content.size() * sizeof(Content), atStart) {
-    std::memcpy(data_, content.data(), content.size() * sizeof(Content));
+    std::memcpy(data_, content.data(), size_);
   }
 
   template <typename Content>
@@ -49,32 +47,29 @@ class GuardedMemory {
   }
 
  private:
-  std::size_t room_;
+  std::size_t size_;
   BYTE* block_;
   BYTE* data_;
 };
 
-// A NUL-terminated text in such memory.
+// A NUL-terminated string in such memory.
 struct GuardedText : GuardedMemory {
   GuardedText(const std::wstring& text, bool atStart) : GuardedMemory(text + L'\0', atStart) {}
   operator const wchar_t*() const { return As<wchar_t>(); }
 };
 
-// Ends the program with the input that brings the failure back when `holds` is false.
+// Ends the program, and prints how to repeat the input, when `holds` is false.
 void Expect(bool holds, const char* what);
 
+// Something that random input is tried on. Each file defines its own.
 struct Target {
+  Target(const char* itsName, void (*itsRun)(Input&)) : name(itsName), run(itsRun) {
+    all.push_back(this);
+  }
+
+  static inline std::vector<const Target*> all;
   const char* name;
   void (*run)(Input& input);
-  // Libraries of Wine that fault there by themselves, on input that Windows allows.
-  const char* faultyLibraries = "";
 };
 
-std::vector<Target> StringTargets();
-std::vector<Target> RegistryTargets();
-std::vector<Target> AccessListTargets();
-std::vector<Target> FileTargets();
-std::vector<Target> ProcessTargets();
-std::vector<Target> StatusTargets();
-
-}  // namespace kelvo::torture
+}  // namespace kelvo::fuzz

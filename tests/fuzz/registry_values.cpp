@@ -4,13 +4,13 @@
 #include "lib/registry/registry_number.h"
 #include "lib/registry/registry_string.h"
 #include "lib/registry/registry_value_list.h"
-#include "torture/input.h"
+#include "tests/fuzz/input.h"
 
-namespace kelvo::torture {
+namespace kelvo::fuzz {
 
 namespace {
 
-constexpr const wchar_t* kKey = L"Software\\kelvo torture";
+constexpr const wchar_t* kKey = L"Software\\kelvo fuzz";
 constexpr const wchar_t* kName = L"value";
 
 // What the readers take for the text: up to the first NUL, half a unit as one of its own.
@@ -21,21 +21,23 @@ std::wstring TextIn(const std::string& data) {
 }
 
 std::string AnyData(Input& input) {
-  if (input.Chance()) {
-    return input.Bytes(input.Chance() ? 9 : 2100);
-  }
-  const std::wstring text = input.Text(1030, L"ab");
+  const std::wstring text = input.Text(input.Chance() ? 5 : 1050, input.Chance() ? L"ab" : L"");
   return {reinterpret_cast<const char*>(text.c_str()), (text.length() * 2) + input.Number(2)};
 }
 
-void ReadValue(Input& input) {
+// Leaves nothing in the account that it runs in.
+struct Key {
+  ~Key() { RegDeleteTreeW(HKEY_CURRENT_USER, kKey); }
+};
+
+const Target kRegistryValues("registry values", [](Input& input) {
   constexpr DWORD kTypes[] = {REG_SZ,     REG_EXPAND_SZ, REG_SZ,   REG_DWORD,
                               REG_BINARY, REG_MULTI_SZ,  REG_NONE, 77};
+  static const Key removedAtTheEnd;
   const DWORD type = kTypes[input.Number(7)];
   const std::string data = AnyData(input);
-  // Copied without what follows it, where Windows might find a NUL.
-  const GuardedMemory stored(data, input.Chance());
-  RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, type, stored.As<void>(),
+  // Windows would store a NUL that it found after the data.
+  RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, type, (data + "##").data(),
                   static_cast<DWORD>(data.size()));
 
   const std::wstring text = TextIn(data);
@@ -49,7 +51,8 @@ void ReadValue(Input& input) {
   }
   // Often what the value just fills.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
-  const GuardedMemory buffer(std::wstring(length, L'x'), input.Chance());
+  // Of a value of one byte Wine reads what is in front of the buffer.
+  const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());
   const std::size_t stays =
       RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);
   Expect(length == 0 || stays < length, "the text ends within the buffer");
@@ -75,10 +78,8 @@ void ReadValue(Input& input) {
   if (type == REG_SZ) {
     Expect(std::wstring_view(list[0].second) == text, "the listed text is what is stored");
   }
-}
+});
 
 }  // namespace
 
-std::vector<Target> RegistryTargets() { return {{"registry values", ReadValue, "kernelbase"}}; }
-
-}  // namespace kelvo::torture
+}  // namespace kelvo::fuzz

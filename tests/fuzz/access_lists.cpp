@@ -1,0 +1,81 @@
+// Access lists of every broken shape: whatever sizes they claim, nothing beyond their memory is
+// read or written.
+
+#include <algorithm>
+
+#include "lib/security/access_control_list.h"
+#include "lib/security/canonical_order.h"
+#include "tests/fuzz/input.h"
+
+namespace kelvo::fuzz {
+
+namespace {
+
+// An entry of some type with a SID of some length.
+std::string AnyAce(Input& input) {
+  const std::size_t authorities = input.Number(3);
+  std::string ace(16 + 4 * authorities, '\0');
+  std::ranges::generate(ace, [&] { return static_cast<char>(input.Number(2)); });
+  ace[0] = static_cast<char>(input.Number(8));
+  ace[2] = static_cast<char>(ace.size());
+  ace[3] = '\0';
+  ace[8] = SID_REVISION;
+  ace[9] = static_cast<char>(authorities);
+  return ace;
+}
+
+std::string AnyList(Input& input) {
+  std::string list("\2\0\0\0\0\0\0\0", sizeof(ACL));
+  const std::size_t count = input.Number(4);
+  for (std::size_t index = 0; index < count; ++index) {
+    list += AnyAce(input);
+  }
+  list[2] = static_cast<char>(list.size());
+  list[4] = static_cast<char>(count);
+  return list;
+}
+
+// Changes some bytes, and now and then the length.
+void Break(std::string& list, Input& input) {
+  for (std::size_t left = input.Number(6); left > 0; --left) {
+    list[input.Number(list.size() - 1)] = static_cast<char>(input.Number(0xFF));
+  }
+  if (input.Number(7) == 1) {
+    list.resize(std::max(input.Number(list.size()), sizeof(ACL)) / 4 * 4);
+  }
+  // A list that claimed more bytes than it has could not be told from one that has them.
+  WORD claimed = 0;
+  std::memcpy(&claimed, &list[2], sizeof(claimed));
+  claimed = std::min(claimed, static_cast<WORD>(list.size()));
+  std::memcpy(&list[2], &claimed, sizeof(claimed));
+}
+
+const Target kAccessLists("access lists", [](Input& input) {
+  std::string list = AnyList(input);
+  const bool isSound = input.Chance();
+  if (!isSound) {
+    Break(list, input);
+  }
+  const GuardedMemory memory(list, input.Chance());
+  const ACL* const acl = memory.As<ACL>();
+  const GuardedMemory aceMemory(AnyAce(input), input.Chance());
+  auto* const ace = aceMemory.As<ACCESS_ALLOWED_ACE>();
+  const DWORD found = FindACEInACL(acl, ace);
+  Expect(found == kNoAceIndex || found < acl->AceCount, "an entry is found within the list");
+  const DWORD place = GetACEInsertionIndex(acl, ace);
+  Expect(place == kNoAceIndex || place <= acl->AceCount, "an entry goes within the list");
+  const DWORD needed = CalculateACLSize(acl, nullptr, 0, &ace, 1);
+  const DWORD size = std::clamp<DWORD>(needed, 64, 0xFFFC) / 4 * 4;
+  const GuardedMemory copy(size, input.Chance());
+  InitializeAcl(copy.As<ACL>(), size, ACL_REVISION);
+  const BOOL copied = CopyACL(copy.As<ACL>(), acl);
+  if (isSound) {
+    Expect(copied != FALSE, "a sound list is copied into the size that it needs");
+    Expect(std::memcmp(copy.As<ACL>() + 1, acl + 1, list.size() - sizeof(ACL)) == 0,
+           "the entries are the same");
+  }
+});
+
+}  // namespace
+
+}  // namespace kelvo::fuzz

@@ -1,0 +1,60 @@
+// Tools that run at the same time: the last writer wins, but the list stays well-formed.
+
+#include <process.h>
+
+#include <algorithm>
+#include <array>
+
+#include "tests/fuzz/input.h"
+#include "tests/support/throw_away_prefix.h"
+#include "tool/dependent_applications.h"
+
+namespace kelvo::fuzz {
+
+namespace {
+
+std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
+  std::intptr_t process = -1;
+  // Under load Wine now and then fails to start a program.
+  for (DWORD tries = 0; process == -1; ++tries) {
+    Expect(tries < 10, "the program starts");
+    Sleep(100 * tries);
+    process = _wspawnl(_P_NOWAIT, L"sorrel.exe", L"sorrel.exe", form, name, nullptr);
+  }
+  return process;
+}
+
+void ExpectSuccess(std::intptr_t process) {
+  int code = -1;
+  _cwait(&code, process, 0);
+  Expect(code == 0, "the exit code is 0");
+}
+
+// The list, which must have no stray separator and no name twice.
+std::wstring WellFormedList() {
+  const WString list = ReadApplicationList();
+  Expect(list.empty() || (L";" + list + L";").find(L";;") == WString::npos,
+         "no stray separator is in the list");
+  std::vector<WString> names = ApplicationsInList(list);
+  std::ranges::sort(names);
+  Expect(std::ranges::adjacent_find(names) == names.end(), "no name is in the list twice");
+  return list.c_str();
+}
+
+const Target kEightAtOnce("eight at once", [](Input& input) {
+  test::RequireThrowAwayPrefix();
+  std::array names{L"ant", L"bee", L"cat", L"dog", L"eel", L"fox", L"gnu", L"hen"};
+  std::array<std::intptr_t, names.size()> processes{};
+  std::ranges::transform(names, processes.begin(), [&](const wchar_t* name) {
+    return Start(input.Chance() ? L"register" : L"unregister", name);
+  });
+  std::ranges::for_each(processes, ExpectSuccess);
+  WellFormedList();
+  ExpectSuccess(Start(L"register", L"owl"));
+  Expect(WellFormedList().ends_with(L"owl"), "the next run adds its name");
+  ExpectSuccess(Start(L"unregister", L"owl"));
+});
+
+}  // namespace
+
+}  // namespace kelvo::fuzz
