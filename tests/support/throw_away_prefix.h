@@ -15,6 +15,7 @@ inline void RequireThrowAwayPrefix() {
       GetFileAttributesW(L"C:\\throw-away prefix") != INVALID_FILE_ATTRIBUTES;
   if (!isThrownAway) {
     std::fputs("This would change the computer: it runs by scripts/wine only.\n", stderr);
+    std::fflush(stderr);
     TerminateProcess(GetCurrentProcess(), ERROR_ACCESS_DENIED);
   }
 }
