@@ -16,7 +16,9 @@ struct ChildResult {
 };
 
 // Runs a command line to its end; returns the whole exit code and what it wrote, byte for byte.
-inline ChildResult RunChild(std::wstring commandLine) {
+// With `program`, a path, that file is run, whatever the command line names: Windows would look for
+// its first word in this test program's own folder before the current one.
+inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = nullptr) {
   const ScratchFolder folder;
   SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
   const auto create = [&](const char* name) {
@@ -32,7 +34,7 @@ inline ChildResult RunChild(std::wstring commandLine) {
   startup.hStdError = errors.get();
   PROCESS_INFORMATION started{};
   // Under load Wine now and then fails a start with ERROR_INTERNAL_ERROR.
-  for (DWORD pause = 0; CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0,
+  for (DWORD pause = 0; CreateProcessW(program, commandLine.data(), nullptr, nullptr, TRUE, 0,
                                        nullptr, nullptr, &startup, &started) == FALSE;
        Sleep(pause += 50)) {
     REQUIRE(pause < 500);
@@ -44,5 +46,24 @@ inline ChildResult RunChild(std::wstring commandLine) {
   GetExitCodeProcess(process.get(), &exitCode);
   return {exitCode, ReadBytes(folder / "output"), ReadBytes(folder / "errors")};
 }
+
+// A folder with copies of programs and of what they use, the current one while this lives. A copy
+// is named by its path in the folder of this test program and its path in the new folder.
+struct ProgramFolder : ScratchFolder {
+  ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> copies) {
+    for (const auto& [program, name] : copies) {
+      std::filesystem::create_directories((path / name).parent_path());
+      std::filesystem::copy_file(ProgramPath(program), path / name);
+    }
+    std::filesystem::current_path(path / "");
+  }
+  ~ProgramFolder() { std::filesystem::current_path(ProgramPath(L"")); }
+
+  // Runs a command line whose first word is a program in this folder.
+  static ChildResult Run(const std::wstring& commandLine) {
+    const std::filesystem::path program = commandLine.substr(0, commandLine.find(L' '));
+    return RunChild(commandLine, absolute(program).c_str());
+  }
+};
 
 }  // namespace kelvo::test
