@@ -1,32 +1,44 @@
+#include <regex>
 #include <sstream>
 
 #include "lib/string/format_text.h"
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// sorrel.exe with the simulator's libraries and certificates in a folder of its own, the current
-// one, on a machine with no dependent application recorded and both certificate stores empty.
+// On a machine with no dependent application recorded and both certificate stores empty, a folder,
+// the current one, with certificates and these programs:
+//   sorrel.exe, with the simulator's libraries beside it
+//   alone\sorrel.exe, with none
+//   swapped\sorrel.exe, with each library under the other's name, hence without its functions
+//   without_security.exe and without_crypt32.exe, for which Wine has no such library
 struct Rehearsal {
   Rehearsal() {
-    for (const wchar_t* const file :
-         {L"sorrel.exe", L"simulator\\bthprops.cpl", L"simulator\\difxapi.dll",
-          L"certificates\\binary.cer", L"certificates\\base64.cer", L"certificates\\bundle.p7b"}) {
-      const std::filesystem::path source = ProgramPath(file);
-      std::filesystem::copy_file(source, folder / source.filename());
+    for (const std::wstring library : {L"security", L"crypt32"}) {
+      const std::wstring key =
+          L"Software\\Wine\\AppDefaults\\without_" + library + L".exe\\DllOverrides";
+      RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), library.c_str(), REG_SZ, L"", 2);
     }
-    std::filesystem::current_path(folder / "");
+    folder.Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
+    // From no bytes at all Wine 8 makes whatever lies on its stack.
+    folder.Write("empty.cer", "\n");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
-  ~Rehearsal() { std::filesystem::current_path(ProgramPath(L"")); }
 
-  // Runs a command line of cmd.exe and tells all that came of it: what it wrote, its exit code, the
-  // list of applications and the certificates in each store, then the journal.
-  static std::string Run(const std::wstring& command) {
+  // Runs a command line; words NAME=value before the program set a variable for this run. Tells all
+  // that came of it: what it wrote, its exit code, the list of applications and the certificates in
+  // each store, then the journal.
+  static std::string Run(std::wstring line) {
     std::filesystem::remove("journal");
-    // 9009 is what cmd.exe says when Wine fails to start a program, as under load it does.
-    ChildResult run{9009, "", ""};
-    for (int tries = 0; run.exitCode == 9009 && tries < 5; ++tries) {
-      run = RunChild(L"cmd /c " + command);
+    std::vector<std::wstring> variables;
+    const std::wregex variable(L"^(\\w+)=(\\S*) ");
+    for (std::wsmatch found; std::regex_search(line, found, variable);
+         line = found.suffix().str()) {
+      variables.push_back(found.str(1));
+      SetEnvironmentVariableW(variables.back().c_str(), found.str(2).c_str());
+    }
+    const ChildResult run = ProgramFolder::Run(line);
+    for (const std::wstring& name : variables) {
+      SetEnvironmentVariableW(name.c_str(), nullptr);
     }
     CHECK(run.errors.empty());
     const WString state =
@@ -36,23 +48,55 @@ struct Rehearsal {
   }
 
   CleanMachine machine;
-  ScratchFolder folder;
+  ProgramFolder folder{
+      {L"sorrel.exe", L"sorrel.exe"},
+      {L"simulator\\bthprops.cpl", L"bthprops.cpl"},
+      {L"simulator\\difxapi.dll", L"difxapi.dll"},
+      {L"certificates\\binary.cer", L"binary.cer"},
+      {L"certificates\\base64.cer", L"base64.cer"},
+      {L"certificates\\bundle.p7b", L"bundle.p7b"},
+      {L"sorrel.exe", L"alone\\sorrel.exe"},
+      {L"sorrel.exe", L"swapped\\sorrel.exe"},
+      {L"simulator\\bthprops.cpl", L"swapped\\difxapi.dll"},
+      {L"simulator\\difxapi.dll", L"swapped\\bthprops.cpl"},
+      {L"sorrel.exe", L"without_security.exe"},
+      {L"sorrel.exe", L"without_crypt32.exe"},
+  };
 };
 
-TEST_CASE("each command in transcript.txt does what stands under it") {
+TEST_CASE("sorrel.exe writes, returns, calls and leaves what transcript.txt says") {
   const Rehearsal machine;
-  machine.folder.Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
-  // From no bytes at all Wine 8 makes whatever lies on its stack.
-  machine.folder.Write("empty.cer", "\n");
   std::istringstream transcript(ReadBytes(ProgramPath(L"expected\\transcript.txt")));
-  std::string seen;
-  for (std::string line; std::getline(transcript, line);) {
-    // As an editor of whatever system ends a line.
+  // As an editor of whatever system ends a line.
+  const auto readLine = [&](std::string& line) {
+    const bool isThere = static_cast<bool>(std::getline(transcript, line));
     line.erase(std::min(line.find('\r'), line.size()));
+    return isThere;
+  };
+  // The lines that are written once, under a name, and the name: "@NAME:", lines, an empty line.
+  std::vector<std::pair<std::string, std::string>> named;
+  std::string seen;
+  for (std::string line; readLine(line);) {
     if (line.starts_with("# ")) {
       seen += line + "\r\n\r\n";
+    } else if (line.starts_with("@") && line.ends_with(":")) {
+      std::string text;
+      for (std::string next; readLine(next) && !next.empty();) {
+        text += next + "\r\n";
+      }
+      REQUIRE_FALSE(text.empty());
+      named.emplace_back(text, line.substr(0, line.length() - 1) + "\r\n");
+      seen += line + "\r\n" + text + "\r\n";
     } else if (line.starts_with("> ")) {
-      seen += line + "\r\n" + Rehearsal::Run({line.begin() + 2, line.end()}) + "\r\n";
+      std::string outcome = Rehearsal::Run({line.begin() + 2, line.end()});
+      // Or a program that writes a name would pass for one that writes the lines.
+      CHECK(outcome.find('@') == std::string::npos);
+      for (const auto& [text, name] : named) {
+        for (std::size_t at = 0; (at = outcome.find(text)) != std::string::npos;) {
+          outcome.replace(at, text.length(), name);
+        }
+      }
+      seen += line + "\r\n" + outcome + "\r\n";
     }
   }
   CheckAgainstFile(seen, L"transcript.txt");
@@ -64,9 +108,8 @@ TEST_CASE("a process that ends too early loses no line, of whatever length") {
   const std::wstring text(6'000, L'l');
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", (L"0,0," + text).c_str());
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_CRASH", L"1");
-  const std::wstring program = machine.folder / "sorrel.exe";
   const ChildResult run =
-      RunChild(L"\"" + program + L"\" install Tessalin.inf " + path + L" none brindle");
+      ProgramFolder::Run(L"sorrel.exe install Tessalin.inf " + path + L" none brindle");
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", nullptr);
   SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_CRASH", nullptr);
   CHECK(run.output.starts_with("ERR: ImportCertToTrustedPublishers '" + Ascii(path) + "' Error: "));
@@ -74,12 +117,23 @@ TEST_CASE("a process that ends too early loses no line, of whatever length") {
   CHECK_BOTH(run.exitCode == ERROR_PROCESS_ABORTED, run.errors.empty());
 }
 
-TEST_CASE("names outside ASCII are kept, and shown as far as a byte can") {
+TEST_CASE("register adds to what the registry holds, or replaces what is no list") {
   const Rehearsal machine;
-  StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ,
-             std::wstring(L"\u0100ofie \u00FF\U0001F600") + L'\0');
-  Rehearsal::Run(L"sorrel.exe register kite");
-  CHECK(Applications() == L"\u0100ofie \u00FF\U0001F600;kite");
+  struct Row {
+    DWORD type;
+    std::wstring stored, list;
+  };
+  const std::wstring longest = std::wstring(1015, L'x') + L";brindle";
+  for (const auto& [type, stored, list] :
+       {Row{REG_SZ, longest, longest + L";kite"}, Row{REG_SZ, L"x" + longest, L"kite"},
+        Row{REG_SZ, L";;a;;b;", L"a;;b;;kite"}, Row{REG_EXPAND_SZ, L"a;%LATER%", L"a;b;kite"},
+        Row{REG_DWORD, L"1", L"kite"},
+        Row{REG_SZ, L"\u0100ofie \u00FF\U0001F600", L"\u0100ofie \u00FF\U0001F600;kite"}}) {
+    StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", type, stored + L'\0');
+    Rehearsal::Run(L"LATER=b sorrel.exe register kite");
+    CHECK(Applications() == list);
+  }
+  // Outside ASCII a name is shown as far as a byte can.
   CHECK(Rehearsal::Run(L"sorrel.exe unregister KITE")
             .starts_with("OK: Dependant applications exist: ?ofie \xFF??\r\n"));
 }
