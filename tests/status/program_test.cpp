@@ -1,116 +1,189 @@
 #include <nlohmann/json.hpp>
 
+#include <functional>
+#include <map>
 #include <regex>
 #include <sstream>
 
+#include "lib/string/visible_text.h"
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// Both programs with the simulator's libraries, certificates and INF files in a folder of their
-// own, the current one, on a machine where nothing is installed.
+// Keeps names in the order in which they were written.
+using Json = nlohmann::ordered_json;
+
+static std::wstring FromUtf8(const std::string& text) {
+  return std::filesystem::path(std::u8string(text.begin(), text.end()));
+}
+
+static std::string Replaced(const std::string& text, const std::string& pattern,
+                            const std::string& by) {
+  return std::regex_replace(text, std::regex(pattern), by);
+}
+
+static const std::wstring kInfFolder = L"C:\\windows\\inf\\";
+
+// On a machine where nothing is installed, a folder, the current one, with certificates, INF files
+// and these programs:
+//   sorrel.exe and sorrel_status.exe, with the simulator's libraries beside them
+//   alone\sorrel_status.exe, with none
+//   versioned\sorrel_status.exe, with a driver library that has a version
 struct Machine {
   Machine() {
-    for (const wchar_t* const file :
-         {L"sorrel.exe", L"sorrel_status.exe", L"simulator\\bthprops.cpl",
-          L"simulator\\difxapi.dll", L"certificates\\binary.cer", L"certificates\\base64.cer",
-          L"certificates\\bundle.p7b"}) {
-      const std::filesystem::path source = ProgramPath(file);
-      std::filesystem::copy_file(source, folder / source.filename());
-    }
     const std::string inf =
         "[Version]\r\nSignature = \"$WINDOWS NT$\"\r\nProvider = %Maker%\r\n"
         "DriverVer = 01/01/2026,1.0.0.0\r\n[Strings]\r\nMaker = \"Tessalin rehearsal\"\r\n";
     folder.Write("Tessalin.inf", inf);
-    std::filesystem::create_directory(folder / "other");
-    folder.Write("other/Tessalin.inf", std::regex_replace(inf, std::regex("2026"), "2027"));
-    std::filesystem::current_path(folder / "");
+    folder.Write("unpublished.inf", Replaced(inf, "2026", "2027"));
+    folder.Write("incomplete.inf", Replaced(inf, "Provider.*\r\n", ""));
+    RemovePublished();
   }
-  ~Machine() { std::filesystem::current_path(ProgramPath(L"")); }
+  ~Machine() { RemovePublished(); }
 
-  // Runs a command line of cmd.exe; what differs from run to run has a name in what it wrote.
-  ChildResult Run(const std::wstring& command) const {
-    // 9009 is what cmd.exe says when Wine fails to start a program, as under load it does.
-    ChildResult run{9009, "", ""};
-    for (int tries = 0; run.exitCode == 9009 && tries < 5; ++tries) {
-      run = RunChild(L"cmd /c " + command);
+  static void RemovePublished() {
+    for (const wchar_t* const file : {L"oem6.inf", L"oem8.inf", L"oem9.inf"}) {
+      std::filesystem::remove(kInfFolder + file);
     }
-    run.output = std::regex_replace(run.output, std::regex("[0-9A-F]{40}"), "THUMBPRINT");
-    run.output = std::regex_replace(run.output, std::regex("\\d{4}-[-0-9T:]{14}Z"), "TIME");
-    run.output =
-        std::regex_replace(run.output, std::regex("[A-Z]:[^;]*kelvo test[^;\\\\]*"), "FOLDER");
-    run.output = std::regex_replace(
-        run.output, std::regex(R"((info     system|"name": "(?=Wind|Micr|\())[^"\r]+)"), "$1");
-    // Wine 10 elevates nobody.
-    run.output =
-        std::regex_replace(run.output, std::regex("elevated\": false"), "elevated\": true");
-    return run;
   }
 
   CleanMachine clean;
-  ScratchFolder folder;
+  ProgramFolder folder{
+      {L"sorrel.exe", L"sorrel.exe"},
+      {L"sorrel_status.exe", L"sorrel_status.exe"},
+      {L"simulator\\bthprops.cpl", L"bthprops.cpl"},
+      {L"simulator\\difxapi.dll", L"difxapi.dll"},
+      {L"certificates\\binary.cer", L"binary.cer"},
+      {L"certificates\\base64.cer", L"base64.cer"},
+      {L"certificates\\bundle.p7b", L"bundle.p7b"},
+      {L"sorrel_status.exe", L"alone\\sorrel_status.exe"},
+      {L"sorrel_status.exe", L"versioned\\sorrel_status.exe"},
+      {L"sorrel.exe", L"versioned\\difxapi.dll"},
+  };
 };
 
-// What lies below the tool's key, the values of all stores, and the files of the INF folder. Wine
-// makes empty keys for a store that is only read.
-static std::string Snapshot(const Machine& machine) {
-  const std::string everything =
-      machine
-          .Run(
-              L"reg query HKLM\\SYSTEM\\CurrentControlSet\\Services\\Tessalin /s 2>nul"
-              L" & reg query HKLM\\Software\\Microsoft\\SystemCertificates /s 2>nul"
-              L" & dir /b C:\\windows\\inf")
-          .output;
-  return std::regex_replace(everything, std::regex("HKEY_[^\r]*SystemCertificates[^\r]*|\r\n"), "");
+static void StoreList(DWORD type, const std::wstring& list) {
+  StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", type, list + L'\0');
 }
 
-// The states that --json tells of the same question, a line each as the other form writes them.
-static std::string StatesFromJson(const ChildResult& run) {
-  std::string states;
-  const auto report = nlohmann::json::parse(run.output);
-  CHECK(report["schema"] == 1);
-  CHECK((report["state"] == "unknown") == (run.exitCode == 3));
-  for (const auto& item : report["items"]) {
-    states += item["state"].get<std::string>() + "\n";
+// What a line of life.txt that begins with "* " does to the machine.
+static const std::map<std::string, std::function<void()>> kChanges = {
+    {"* Tessalin.inf is published as oem8.inf, incomplete.inf as oem9.inf",
+     [] {
+       std::filesystem::copy_file("Tessalin.inf", kInfFolder + L"oem8.inf");
+       std::filesystem::copy_file("incomplete.inf", kInfFolder + L"oem9.inf");
+     }},
+    {"* oem6.inf is a folder, which cannot be read as a file",
+     [] { std::filesystem::create_directory(kInfFolder + L"oem6.inf"); }},
+    {"* the store CA is gone",
+     [] { RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\SystemCertificates\\CA"); }},
+    {"* the list is a number", [] { StoreList(REG_DWORD, L"1"); }},
+    {"* the list has 1,024 characters", [] { StoreList(REG_SZ, std::wstring(1024, L'x')); }},
+};
+
+// The values below a key of the local machine, a line each. Not the keys: Wine makes empty ones for
+// a store that is only read.
+static std::wstring ValuesBelow(const std::wstring& path) {
+  OwnedRegistryKey key;
+  OpenRegistryKey(HKEY_LOCAL_MACHINE, path.c_str(), KEY_READ, key);
+  std::wstring found;
+  std::vector<wchar_t> name(0x4000);
+  std::vector<BYTE> data(0x10000);
+  for (DWORD i = 0, length = 0x4000, size = 0x10000;
+       RegEnumValueW(key.get(), i, name.data(), &length, nullptr, nullptr, data.data(), &size) == 0;
+       ++i, length = 0x4000, size = 0x10000) {
+    found += path + L" " + name.data() + std::wstring(data.data(), data.data() + size) + L"\n";
   }
-  return states;
+  for (DWORD i = 0; RegEnumKeyW(key.get(), i, name.data(), 0x4000) == ERROR_SUCCESS; ++i) {
+    found += ValuesBelow(path + L"\\" + name.data());
+  }
+  return found;
 }
 
-TEST_CASE("each command in life.txt finds what stands on the machine, and changes nothing") {
+// The values below the tool's key, those of all stores, and the names in the INF folder.
+static std::wstring Snapshot() {
+  std::wstring found = ValuesBelow(L"SYSTEM\\CurrentControlSet\\Services\\Tessalin") +
+                       ValuesBelow(L"Software\\Microsoft\\SystemCertificates");
+  for (const auto& file : std::filesystem::directory_iterator(kInfFolder)) {
+    found += file.path().wstring() + L"\n";
+  }
+  return found;
+}
+
+// Checks that the JSON form says the same as the text form. Each rule, a pattern and what replaces
+// it, makes an item of one more like its line of the other, until no name or brace is left.
+static void CheckJson(const ChildResult& json, const ChildResult& text,
+                      const std::vector<std::pair<std::string, std::string>>& rules) {
+  static const std::map<DWORD, const char*> states = {
+      {0, "present"}, {1, "absent"}, {3, "unknown"}};
+  const Json report = Json::parse(json.output);
+  CHECK(json.output == Replaced(report.dump(2) + "\n", "\n", "\r\n"));
+  CHECK(json.exitCode == text.exitCode);
+  CHECK(report == Json{{"schema", 1},
+                       {"version", "1.0.0"},
+                       {"state", states.at(text.exitCode)},
+                       {"items", report["items"]}});
+  std::string lines;
+  for (const Json& item : report["items"]) {
+    std::string line = item.dump();
+    for (const auto& [pattern, words] : rules) {
+      line = Replaced(line, pattern, words);
+    }
+    lines += ToVisibleUtf8(FromUtf8(line)) + "\r\n";
+  }
+  // Without the blanks that line up the columns.
+  CHECK(lines == Replaced(text.output, "(\\w+) +(\\w+( package)?) +([^\r]*\r\n)", "$1 $2 $4"));
+}
+
+// What differs from run to run has a name.
+static std::string Named(std::string output) {
+  output = Replaced(output, "[0-9A-F]{40}", "THUMBPRINT");
+  output = Replaced(output, "\\d{4}-[-0-9T:]{14}Z", "TIME");
+  output = Replaced(output, "[A-Z]:[^;]*kelvo test[^;\\\\]*", "FOLDER");
+  return Replaced(output, "(info     system)[^\r]+", "$1");
+}
+
+TEST_CASE("sorrel_status.exe reports what life.txt says, in both forms, and changes nothing") {
   const Machine machine;
   std::istringstream life(ReadBytes(ProgramPath(L"expected\\life.txt")));
+  std::vector<std::pair<std::string, std::string>> rules;
   std::string seen;
   for (std::string line; std::getline(life, line);) {
-    if (!line.starts_with("> ")) {
-      continue;
-    }
-    line.erase(line.find_last_not_of('\r') + 1);
-    const std::wstring command =
-        std::filesystem::path(std::u8string(line.begin() + 2, line.end())).wstring();
-    if (command.find(L"status") == std::wstring::npos) {
-      machine.Run(command);
-      seen += line + "\r\n\r\n";
-      continue;
-    }
-    const std::string before = Snapshot(machine);
-    const ChildResult run = machine.Run(command);
-    const ChildResult json = machine.Run(command + L" --json");
+    line.erase(std::min(line.find('\r'), line.size()));
     CAPTURE(line);
-    CHECK(Snapshot(machine) == before);
-    CHECK_BOTH(run.errors == "", json.exitCode == run.exitCode);
-    CHECK(StatesFromJson(json) == std::regex_replace(run.output, std::regex(" .*\r\n"), "\n"));
-    seen +=
-        line + "\r\n" + run.output + json.output + "= " + std::to_string(run.exitCode) + "\r\n\r\n";
+    if (line.starts_with("# ")) {
+      seen += (seen.empty() ? "" : "\r\n") + line + "\r\n\r\n";
+    } else if (line.starts_with("* ")) {
+      kChanges.at(line)();
+      seen += line + "\r\n\r\n";
+    } else if (const std::size_t arrow = line.find(" =>"); arrow != std::string::npos) {
+      rules.emplace_back(line.substr(0, arrow), line.substr(std::min(arrow + 4, line.length())));
+      seen += line + "\r\n";
+    } else if (line.starts_with("> sorrel.exe")) {
+      ProgramFolder::Run(FromUtf8(line.substr(2)));
+      seen += line + "\r\n\r\n";
+    } else if (line.starts_with("> ")) {
+      // With --json in the file that form is shown.
+      const std::wstring command = FromUtf8(Replaced(line.substr(2), " --json$", ""));
+      const std::wstring before = Snapshot();
+      const ChildResult text = ProgramFolder::Run(command);
+      const ChildResult json = ProgramFolder::Run(command + L" --json");
+      CHECK(Snapshot() == before);
+      CHECK_BOTH(text.errors == "", json.errors == "");
+      CheckJson(json, text, rules);
+      seen += line + "\r\n" + Named(line.ends_with(" --json") ? json.output : text.output) + "= " +
+              std::to_string(text.exitCode) + "\r\n\r\n";
+    }
   }
   CheckAgainstFile(seen, L"life.txt");
 }
 
 TEST_CASE("a wrong command line ends with 2 and the usage on standard error") {
   const Machine machine;
-  const ChildResult run = machine.Run(L"sorrel_status.exe --json --nothing");
+  const ChildResult run = ProgramFolder::Run(L"sorrel_status.exe --json --nothing");
   CHECK_BOTH(run.exitCode == 2, run.output == "");
-  const ChildResult told = machine.Run(L"sorrel_status.exe --version&sorrel_status.exe --help");
-  CHECK(told.output.starts_with("sorrel_status 1.0.0\r\n"));
-  CHECK(told.output.find("Usage:\r\n") != std::string::npos);
-  CHECK(run.errors == "Option 'nothing' does not exist\r\n\r\n" + told.output.substr(21));
-  CHECK(told.exitCode == 0);
+  const ChildResult version = ProgramFolder::Run(L"sorrel_status.exe --version");
+  CHECK_BOTH(version.exitCode == 0, version.output == "sorrel_status 1.0.0\r\n");
+  const ChildResult help = ProgramFolder::Run(L"sorrel_status.exe --help");
+  CHECK_BOTH(help.exitCode == 0, help.output.find("Usage:\r\n") != std::string::npos);
+  CHECK(run.errors == "Option 'nothing' does not exist\r\n\r\n" + help.output);
 }
