@@ -32,6 +32,10 @@ TEST_CASE("what stands in place of the list decides what is told of an applicati
   for (const auto& [list, names, report] : rows) {
     CHECK(TextReport(DescribeApplications(list, names)) == report);
   }
+  // Plain users may read the list, and no more.
+  REPLACE(RegOpenKeyExW,
+          [](auto, auto, auto, auto, REGSAM access, auto) { return static_cast<LSTATUS>(access); });
+  CHECK(QueryApplicationList().error == KEY_READ);
 }
 
 TEST_CASE("a certificate expires after its last moment; a store is opened only to be read") {

@@ -186,4 +186,6 @@ TEST_CASE("a wrong command line ends with 2 and the usage on standard error") {
   const ChildResult help = ProgramFolder::Run(L"sorrel_status.exe --help");
   CHECK_BOTH(help.exitCode == 0, help.output.find("Usage:\r\n") != std::string::npos);
   CHECK(run.errors == "Option 'nothing' does not exist\r\n\r\n" + help.output);
+  // Where nothing can be written.
+  CHECK(RunChild(L"sorrel_status.exe --help", L"sorrel_status.exe", GENERIC_READ).exitCode == 3);
 }

@@ -17,13 +17,15 @@ struct ChildResult {
 
 // Runs a command line to its end; returns the whole exit code and what it wrote, byte for byte.
 // With `program`, a path, that file is run, whatever the command line names: Windows would look for
-// its first word in this test program's own folder before the current one.
-inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = nullptr) {
+// its first word in this test program's own folder before the current one. `access` is what the
+// child may do with its output.
+inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = nullptr,
+                            DWORD access = GENERIC_WRITE) {
   const ScratchFolder folder;
   SECURITY_ATTRIBUTES inherited{sizeof(inherited), nullptr, TRUE};
   const auto create = [&](const char* name) {
-    return OwnedFile(CreateFileW((folder / name).c_str(), GENERIC_WRITE, FILE_SHARE_READ,
-                                 &inherited, CREATE_ALWAYS, 0, nullptr));
+    return OwnedFile(CreateFileW((folder / name).c_str(), access, FILE_SHARE_READ, &inherited,
+                                 CREATE_ALWAYS, 0, nullptr));
   };
   const OwnedFile output = create("output");
   const OwnedFile errors = create("errors");
