@@ -7,86 +7,11 @@
 
 static std::string calls;
 
-// Notes each call, and lets it through.
-#define NOTE(function, note)                                \
-  REPLACE(function, [](auto original, auto... parameters) { \
-    calls += note;                                          \
-    return original(parameters...);                         \
-  })
-
 // Notes what is done with a token: 1 comes from the session, 2 is its duplicate.
 static bool IsOurs(const char* note, HANDLE token) {
   const auto number = reinterpret_cast<std::uintptr_t>(token) - 0x7700;
   calls += number == 1 || number == 2 ? note + std::to_string(number) : "";
   return number == 1 || number == 2;
-}
-
-TEST_CASE("a program runs on the interactive desktop, is waited for and handed over as asked") {
-  const ScratchFolder folder;
-  const std::wstring program = folder / L"a child.exe";
-  CopyFileW(ProgramPath(L"test_child.exe").c_str(), program.c_str(), TRUE);
-  const std::wstring name = L"kelvo_test_" + std::to_wstring(GetCurrentProcessId());
-  const OwnedKernelObject go(CreateEventW(nullptr, TRUE, FALSE, name.c_str()));
-  const OwnedKernelObject done(CreateEventW(nullptr, FALSE, FALSE, (name + L"_done").c_str()));
-  const std::wstring arguments = L"report " + name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
-  // Where a call is made from, and what RunAsUser does there, but for waiting.
-  struct Place {
-    bool isForLaunchInUserSession;
-    const wchar_t *station, *desktop;
-    std::string before, after;
-  };
-  const Place places[] = {
-      {true, nullptr, nullptr, "", ""},
-      {false, nullptr, nullptr, "create free ", ""},
-      {false, nullptr, L"kelvo desktop", "create free station desktop ", "close close "},
-      {false, L"kelvo process test", L"Default", "station create free station desktop ",
-       "close close "}};
-  const auto run = [&](const Place& place, bool waits, HANDLE* slot) {
-    REPLACE(OpenDesktopW, [](auto original, auto asked, auto flags, auto inherits, DWORD access) {
-      CHECK(access == (READ_CONTROL | WRITE_DAC));
-      return original(asked, flags, inherits, access);
-    });
-    NOTE(CreateProcessAsUserW, "create ");
-    NOTE(HeapFree, "free ");
-    NOTE(SetProcessWindowStation, "station ");
-    NOTE(SetThreadDesktop, "desktop ");
-    NOTE(WaitForSingleObject, "wait ");
-    NOTE(CloseDesktop, "close ");
-    NOTE(CloseWindowStation, "close ");
-    if (place.isForLaunchInUserSession) {
-      return LaunchInUserSession(program.c_str(), arguments.c_str(), waits, slot);
-    }
-    std::wstring command = L"\"" + program + L"\" " + arguments;
-    return RunAsUser(command.data(), waits, slot) == TRUE;
-  };
-  for (const Place& place : places) {
-    // Waiting comes last: a program that still ends would keep the folder from being removed.
-    for (const bool waits : {false, true}) {
-      for (const bool takesHandle : {true, false}) {
-        CAPTURE(place.before);
-        INFO("waits: ", waits, ", takes the handle: ", takesHandle);
-        const DesktopScope scope(place.station, place.desktop);
-        const std::wstring before = CurrentDesktop();
-        waits ? SetEvent(go.get()) : ResetEvent(go.get());
-        OwnedKernelObject process;
-        calls.clear();
-        REQUIRE(run(place, waits, takesHandle ? process.Receive() : nullptr));
-        CHECK((place.isForLaunchInUserSession ||
-               calls == place.before + (waits ? "wait " : "") + place.after));
-        CHECK(CurrentDesktop() == before);
-        CHECK(WaitForSingleObject(done.get(), 0) == (waits ? WAIT_OBJECT_0 : WAIT_TIMEOUT));
-        SetEvent(go.get());
-        CHECK((waits || WaitForSingleObject(done.get(), 10000) == WAIT_OBJECT_0));
-        DWORD exitCode = takesHandle ? 0 : 7;
-        WaitForSingleObject(process.get(), waits ? 0 : 10000);
-        GetExitCodeProcess(process.get(), &exitCode);
-        CHECK(exitCode == 7);
-        CHECK(ReadBytes(program + L".txt") ==
-              Ascii(L"\"" + program + L"\" " + arguments + L"|WinSta0\\Default"));
-        std::filesystem::remove(program + L".txt");
-      }
-    }
-  }
 }
 
 TEST_CASE("letter case matters where a process is started, not where one asks") {
@@ -109,7 +34,10 @@ TEST_CASE("letter case matters where a process is started, not where one asks") 
       lstrcpyW(static_cast<wchar_t*>(text), names[asked++ % 2]);
       return (*needed = row.needed) != 0;
     });
-    REPLACE(OpenWindowStationW, [&](auto...) { return ++moved, nullptr; });
+    REPLACE(OpenWindowStationW, [&](auto...) {
+      ++moved;
+      return nullptr;
+    });
     CHECK(IsOnInteractiveDesktop() == row.isInteractive);
     asked = 0;
     HANDLE untouched = &moved;
@@ -132,7 +60,8 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
   REPLACE(CreateProcessW, [](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");
     CHECK(std::get<1>(std::tuple(given...)) == std::wstring(L"\"program\" "));
-    return calls += "caller", FALSE;
+    calls += "caller";
+    return FALSE;
   });
   struct Road {
     DWORD minorVersion, ownSession;  // of Windows 5
@@ -149,7 +78,10 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
     const DesktopScope scope(nullptr, desktop);
     const ReplacedExport console("WTSGetActiveConsoleSessionId", tells ? tell : nullptr);
     const auto windows = PretendWindows(2, 5, minor);
-    REPLACE(ProcessIdToSessionId, [=](auto, auto, DWORD* id) { return *id = ownSession, TRUE; });
+    REPLACE(ProcessIdToSessionId, [=](auto, auto, DWORD* id) {
+      *id = ownSession;
+      return TRUE;
+    });
     REPLACE(DuplicateTokenEx, [=](auto, auto, auto, auto, auto, auto, HANDLE* token) {
       *token = duplicates ? reinterpret_cast<HANDLE>(0x7702ULL) : nullptr;
       return duplicates;

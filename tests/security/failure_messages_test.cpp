@@ -1,9 +1,3 @@
-#include <aclapi.h>
-
-#include <map>
-
-#include "lib/process/interactive_desktop.h"
-#include "lib/process/run_as_user.h"
 #include "lib/security/access_control_entry.h"
 #include "lib/security/access_control_list.h"
 #include "lib/security/canonical_order.h"
@@ -13,45 +7,14 @@
 #include "lib/security/token_object_access.h"
 #include "lib/security/token_privileges.h"
 #include "lib/security/window_object_access.h"
-#include "lib/string/format_text.h"
-#include "lib/trace/trace_sink.h"
-#include "tests/security/test_acl.h"
-#include "tests/support/failing_call.h"
-#include "tests/support/testing.h"
+#include "tests/security/recorded_failures.h"
 
-constexpr FailingCall kWatched[] = {
-    SETS_LAST_ERROR(OpenProcessToken), SETS_LAST_ERROR(GetTokenInformation),
-    SETS_LAST_ERROR(AdjustTokenPrivileges), SETS_LAST_ERROR(GetUserObjectInformationW),
-    SETS_LAST_ERROR(HeapAlloc), SETS_LAST_ERROR(LocalAlloc), SETS_LAST_ERROR(CopySid),
-    RETURNS_ERROR(GetSecurityInfo), SETS_LAST_ERROR(GetAclInformation), SETS_LAST_ERROR(GetAce),
-    SETS_LAST_ERROR(InitializeAcl), SETS_LAST_ERROR(AddAce), RETURNS_ERROR(SetSecurityInfo),
-    SETS_LAST_ERROR(InitializeSecurityDescriptor), SETS_LAST_ERROR(GetKernelObjectSecurity),
-    SETS_LAST_ERROR(GetSecurityDescriptorDacl), SETS_LAST_ERROR(GetUserNameW),
-    RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
-    SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
-    SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
-    // Last: when it fails to restore the station, that is lost.
-    SETS_LAST_ERROR(SetProcessWindowStation)};
-
-static std::wstring operation;
-static std::wstring traced;
-
-// Makes each call that an operation makes to these functions fail, one at a time and in both ways.
-// What then comes of the operation, without the traces of others that it calls, is in
-// failure_messages.txt, after the first call of each function that leads there; one that throws has
-// an exclamation mark.
 TEST_CASE("each failing call has its message, then the operation its own") {
-  SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
-    const std::wstring text = tag == std::wstring(L"RunAsEx") ? message : L"a wrong tag";
-    traced += text.starts_with(operation + L" ") ? L"\n    " + text : L"";
-    throw 1;  // is the sink's own trouble
-  });
   const WindowObjects scope;
+  const OwnedKernelObject token = OwnToken();
+  const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   // More than fits on the stack, and enough to have all calls made.
   const TestAcl many(std::vector<TestAce>(51));
-  OwnedKernelObject token;
-  OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive());
-  const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   TestAce ace{.mask = 9};
   TestAce audit{.type = SYSTEM_AUDIT_ACE_TYPE};
   const TestAcl list({{.type = 1}, audit});
@@ -59,65 +22,42 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   const PSID sids[] = {&invalid};
   const wchar_t* const names[] = {L"SeNoSuchPrivilege", nullptr};
   DWORD count = 0;
-  wchar_t command[] = L"no such program";
   const auto allowAll = [&](HANDLE object, SE_OBJECT_TYPE type, const wchar_t* name) {
     return AllowTokenFullAccessToObject(token.get(), object, type, name);
   };
-  const std::pair<const wchar_t*, std::function<bool()>> operations[] = {
-      {L"FindACEInACL", [&] { return FindACEInACL(list.acl, ace.get()) == 0; }},
-      {L"CopyACL", [&] { return CopyACL(TestAcl({}, 40).acl, list.acl); }},
-      {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, audit.get()) == 0; }},
-      {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, ace.get()) == 0; }},
-      {L"CalculateACLSize", [&] { return CalculateACLSize(list.acl, sids, 1, nullptr, 0); }},
-      {L"AllocateACE", [&] { return AllocateACE(0, 0, 1, &ace.sid); }},
-      {L"DeleteDenyACEofObject",
-       [&] { return DeleteDenyACEofObject(&ace.sid, scope.desktop, SE_WINDOW_OBJECT); }},
-      {L"AllowAccessToWinSta", [&] { return AllowAccessToWinSta(&ace.sid, scope.station); }},
-      {L"AllowAccessToDesktop", [&] { return AllowAccessToDesktop(&ace.sid, scope.desktop); }},
-      {L"GetFromToken", [&] { return GetFromToken(token.get(), TokenUser); }},
-      {L"CreateTokenPriv", [&] { return CreateTokenPriv(&count, names, FALSE); }},
-      {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }},
-      {L"AllowTokenFullAccessToObject",
-       [&] { return allowAll(scope.desktop, SE_WINDOW_OBJECT, L"Desktop"); }},
-      {L"AllowTokenFullAccessToObject",
-       [&] { return allowAll(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
-      {L"AllowTokenFullAccessToObject",
-       [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
-      {L"RunAsUser", [&] { return IsOnInteractiveDesktop(); }},
-      {L"RunAsUser", [&] { return RunAsUser(command, TRUE, nullptr); }}};
-  std::wstring seen;
-  for (const auto& [name, succeeds] : operations) {
-    operation = name;
-    std::map<std::wstring, std::wstring> outcomes;
-    const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
-      // A restoring call may have been the one that failed.
-      SetProcessWindowStation(scope.station);
-      SetThreadDesktop(scope.desktop);
-      for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
-        SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
-                        many.acl, nullptr);
-      }
-      traced.clear();
-      bool succeeded = false;
-      const bool wasReached = failing.run(nth, throws, [&] { succeeded = succeeds(); });
-      std::wstring& calls = outcomes[(succeeded ? L"\n    succeeds" : L"\n    fails") + traced];
-      const WString call = FormatText(throws ? L" %hs!-" : L" %hs-", failing.function);
-      if (wasReached && calls.find(call.c_str()) == std::wstring::npos) {
-        calls += call.c_str() + std::to_wstring(nth);
-      }
-      return wasReached;
-    };
-    for (const FailingCall& failing : kWatched) {
-      for (const bool throws : {false, true}) {
-        for (int nth = 1; isReached(failing, nth, throws); ++nth) {
+  const std::wstring seen = RecordFailures(
+      {SETS_LAST_ERROR(GetTokenInformation), SETS_LAST_ERROR(HeapAlloc),
+       SETS_LAST_ERROR(LocalAlloc), SETS_LAST_ERROR(CopySid), RETURNS_ERROR(GetSecurityInfo),
+       SETS_LAST_ERROR(GetAclInformation), SETS_LAST_ERROR(GetAce), SETS_LAST_ERROR(InitializeAcl),
+       SETS_LAST_ERROR(AddAce), RETURNS_ERROR(SetSecurityInfo),
+       SETS_LAST_ERROR(GetKernelObjectSecurity), SETS_LAST_ERROR(GetSecurityDescriptorDacl),
+       SETS_LAST_ERROR(GetUserNameW), RETURNS_ERROR(SetEntriesInAclW),
+       SETS_LAST_ERROR(MakeAbsoluteSD), SETS_LAST_ERROR(SetSecurityDescriptorDacl),
+       SETS_LAST_ERROR(SetKernelObjectSecurity)},
+      {{L"FindACEInACL", [&] { return FindACEInACL(list.acl, ace.get()) == 0; }},
+       {L"CopyACL", [&] { return CopyACL(TestAcl({}, 40).acl, list.acl); }},
+       {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, audit.get()) == 0; }},
+       {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, ace.get()) == 0; }},
+       {L"CalculateACLSize", [&] { return CalculateACLSize(list.acl, sids, 1, nullptr, 0); }},
+       {L"AllocateACE", [&] { return AllocateACE(0, 0, 1, &ace.sid); }},
+       {L"DeleteDenyACEofObject",
+        [&] { return DeleteDenyACEofObject(&ace.sid, scope.desktop, SE_WINDOW_OBJECT); }},
+       {L"AllowAccessToWinSta", [&] { return AllowAccessToWinSta(&ace.sid, scope.station); }},
+       {L"AllowAccessToDesktop", [&] { return AllowAccessToDesktop(&ace.sid, scope.desktop); }},
+       {L"GetFromToken", [&] { return GetFromToken(token.get(), TokenUser); }},
+       {L"CreateTokenPriv", [&] { return CreateTokenPriv(&count, names, FALSE); }},
+       {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }},
+       {L"AllowTokenFullAccessToObject",
+        [&] { return allowAll(scope.desktop, SE_WINDOW_OBJECT, L"Desktop"); }},
+       {L"AllowTokenFullAccessToObject",
+        [&] { return allowAll(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
+       {L"AllowTokenFullAccessToObject",
+        [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }}},
+      [&] {
+        for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
+          SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                          many.acl, nullptr);
         }
-      }
-    }
-    for (const auto& [outcome, calls] : outcomes) {
-      seen += operation + calls + outcome + L"\n";
-    }
-  }
-  SetTraceSink(nullptr);
-  TraceMessage(L"nobody", L"listens");
+      });
   CheckAgainstFile(Ascii(seen), L"failure_messages.txt");
 }

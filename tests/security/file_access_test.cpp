@@ -15,10 +15,12 @@ static void WithFile(std::wstring& list, const std::function<void()>& action) {
   REPLACE(GetFileSecurityW, [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
     const OwnedLocalMemory<void> made = FromSddl(list, size);
     std::memcpy(descriptor, made.get(), length >= *size ? *size : 0);
-    return SetLastError(ERROR_INSUFFICIENT_BUFFER), length >= *size ? TRUE : FALSE;
+    SetLastError(ERROR_INSUFFICIENT_BUFFER);
+    return length >= *size ? TRUE : FALSE;
   });
   REPLACE(SetFileSecurityW, [&](auto, auto, auto, void* descriptor) {
-    return list = ToSddl(descriptor), isWritten = TRUE;
+    list = ToSddl(descriptor);
+    return isWritten = TRUE;
   });
   action();
 }
@@ -58,47 +60,52 @@ TEST_CASE("an account's explicit entries give way to the new one, once and again
 }
 
 TEST_CASE("each failing call is named and leaves the file alone") {
-  constexpr FailingCall kFailing[] = {SETS_LAST_ERROR(GetFileSecurityW),
-                                      SETS_LAST_ERROR(HeapAlloc),
-                                      SETS_LAST_ERROR(InitializeSecurityDescriptor),
-                                      SETS_LAST_ERROR(GetSecurityDescriptorDacl),
-                                      SETS_LAST_ERROR(GetAclInformation),
-                                      SETS_LAST_ERROR(InitializeAcl),
-                                      SETS_LAST_ERROR(GetAce),
-                                      SETS_LAST_ERROR(AddAce),
-                                      SETS_LAST_ERROR(AddAccessAllowedAce),
-                                      SETS_LAST_ERROR(SetSecurityDescriptorDacl),
-                                      SETS_LAST_ERROR(GetSecurityDescriptorControl),
-                                      SETS_LAST_ERROR(SetFileSecurityW)};
+  // Two messages lack a space.
+  const std::pair<const char*, std::vector<FailingCall>> failingCalls[] = {
+      {"() failed. Error 1234\n",
+       {SETS_LAST_ERROR(GetFileSecurityW), SETS_LAST_ERROR(HeapAlloc),
+        SETS_LAST_ERROR(GetSecurityDescriptorDacl), SETS_LAST_ERROR(GetAclInformation),
+        SETS_LAST_ERROR(InitializeAcl), SETS_LAST_ERROR(GetAce), SETS_LAST_ERROR(AddAce),
+        SETS_LAST_ERROR(AddAccessAllowedAce), SETS_LAST_ERROR(SetSecurityDescriptorDacl),
+        SETS_LAST_ERROR(SetFileSecurityW)}},
+      {"() failed.Error 1234\n",
+       {SETS_LAST_ERROR(InitializeSecurityDescriptor),
+        SETS_LAST_ERROR(GetSecurityDescriptorControl)}}};
   const std::wstring before = L"D:AI(A;;FR;;;WD)(A;ID;FR;;;WD)";
   std::wstring list = before;
-  std::string seen;
   WithFile(list, [&] {
-    for (const FailingCall& failing : kFailing) {
-      std::string printed;
-      for (int nth = 1; failing.run(nth, false, [&] { printed = Printed(); }); ++nth) {
-        CHECK(list == before);
-        seen += failing.function + std::string(": ") + printed;
+    for (const auto& [message, functions] : failingCalls) {
+      for (const FailingCall& failing : functions) {
+        const std::string name = failing.function;
+        std::string printed;
+        for (int nth = 1; failing.run(nth, false, [&] { printed = Printed(); }); ++nth) {
+          CHECK(printed == name.substr(0, name.find('W')) + message);
+          CHECK(list == before);
+        }
+        CHECK(printed == "");
+        CHECK(std::exchange(list, before) != before);
       }
-      CHECK(printed == "");
-      CHECK(std::exchange(list, before) != before);
     }
     const ReplacedExport refused(
-        "SetSecurityDescriptorControl",
-        +[](void*, WORD, WORD) { return SetLastError(1234), FALSE; });
+        "SetSecurityDescriptorControl", +[](void*, WORD, WORD) {
+          SetLastError(kFailure);
+          return FALSE;
+        });
     CHECK(Printed() == "SetSecurityDescriptorControl() failed.Error 1234\n");
     const ReplacedExport missing("SetSecurityDescriptorControl", nullptr);
     CHECK(Printed() == "");
     CHECK(list != before);
-    // Its one entry states 13 bytes where 12 are left.
-    std::array<WORD, 10> words{ACL_REVISION, 20, 1, 0, 0, 13};
-    REPLACE(GetSecurityDescriptorDacl, [&](auto, auto, BOOL* present, ACL** dacl, auto) {
-      *dacl = reinterpret_cast<ACL*>(words.data());
-      return *present = TRUE;
-    });
-    CHECK(Printed() == "GetAclInformation() failed. Error 1336\n");
+    // A list that reaches past its descriptor, and one with an entry that reaches past the list.
+    for (WORD ACL::* const field : {&ACL::AclSize, &ACL::AceCount}) {
+      REPLACE(GetSecurityDescriptorDacl,
+              [&](auto original, auto from, auto has, ACL** dacl, auto flag) {
+                const BOOL read = original(from, has, dacl, flag);
+                (*dacl)->*field += 1;
+                return read;
+              });
+      CHECK(Printed() == "GetAclInformation() failed. Error 1336\n");
+    }
   });
-  CheckAgainstFile(seen, L"file_access.txt");
   REPLACE(GetFileSecurityW, [](auto...) { return TRUE; });
   CHECK(Printed() == "");
 }

@@ -66,12 +66,20 @@ inline void WriteDacl(HANDLE object, const std::wstring& sddl) {
   SetKernelObjectSecurity(object, DACL_SECURITY_INFORMATION, FromSddl(sddl).get());
 }
 
+inline OwnedKernelObject OwnToken() {
+  OwnedKernelObject token;
+  OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive());
+  return token;
+}
+
 // A station and a desktop whose access lists are real ones on every Wine: Wine 10 sees none of a
 // window object, but that of the same handle as a kernel object.
 struct WindowObjects {
   static constexpr auto kAsKernelObject = [](auto original, HANDLE object, SE_OBJECT_TYPE type,
-                                             auto... rest) {
-    return original(object, type == SE_WINDOW_OBJECT ? SE_KERNEL_OBJECT : type, rest...);
+                                             SECURITY_INFORMATION what, auto... rest) {
+    // Nothing else is read, and writing does not protect the list from what it inherits.
+    CHECK(what == DACL_SECURITY_INFORMATION);
+    return original(object, type == SE_WINDOW_OBJECT ? SE_KERNEL_OBJECT : type, what, rest...);
   };
   using AsKernelObject = decltype(kAsKernelObject);
 

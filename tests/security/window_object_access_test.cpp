@@ -20,6 +20,12 @@ TEST_CASE("an explicit entry is granted once, and only where there is a list") {
   }
   WriteDacl(scope.station, before);
   WriteDacl(scope.desktop, before);
+  const auto ofWindowObject = [](auto original, auto object, auto type, auto... rest) {
+    CHECK(type == SE_WINDOW_OBJECT);
+    return original(object, type, rest...);
+  };
+  REPLACE(GetSecurityInfo, ofWindowObject);
+  REPLACE(SetSecurityInfo, ofWindowObject);
   for (int time = 0; time < 2; ++time) {
     CHECK(AllowAccessToWinSta(&localService.sid, scope.station) == TRUE);
     CHECK(AllowAccessToDesktop(&localService.sid, scope.desktop) == TRUE);
@@ -42,8 +48,8 @@ TEST_CASE("an explicit entry is granted once, and only where there is a list") {
 TEST_CASE("a list of more than 1,008 bytes is built on the heap, and only what was read is freed") {
   const WindowObjects scope;
   int allocated = 0, freed = 0;
-  REPLACE(HeapAlloc, [&](auto original, auto... given) { return ++allocated, original(given...); });
-  REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
+  COUNT_CALLS(HeapAlloc, allocated);
+  COUNT_CALLS(LocalFree, freed);
   for (const std::size_t count : {48U, 49U}) {
     const TestAcl list(std::vector<TestAce>(count, {.mask = 2}));
     SetSecurityInfo(scope.desktop, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
@@ -75,10 +81,11 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), L"D:");
   int freed = 0;
-  REPLACE(LocalFree, [&](auto original, HLOCAL memory) { return ++freed, original(memory); });
+  COUNT_CALLS(LocalFree, freed);
   REPLACE(GetSecurityDescriptorDacl, [](auto original, auto from, auto has, auto list, BOOL* flag) {
     const BOOL read = original(from, has, list, flag);
-    return *flag = TRUE, read;
+    *flag = TRUE;
+    return read;
   });
   REPLACE(SetSecurityDescriptorDacl, [](auto original, auto to, auto has, auto list, BOOL flag) {
     CHECK(flag == TRUE);
@@ -90,8 +97,7 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   CHECK(granted == L"D:(A;;DC;;;" + user);
   const std::wstring denied = L"D:(D;;CC;;;LS)(D;;CC;;;WD)(D;;CC;;;NS)(D;;CC;;;" + user;
   const std::wstring others = L"D:(D;;CC;;;LS)(D;;CC;;;NS)";
-  OwnedKernelObject token;
-  OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive());
+  const OwnedKernelObject token = OwnToken();
   const wchar_t* const names[] = {L"Desktop", L"a DESK", L"WinStat", L"des", nullptr};
   for (const wchar_t* const& name : names) {
     WriteDacl(scope.desktop, denied);

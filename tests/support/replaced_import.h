@@ -98,6 +98,13 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
   const auto replaced##function = \
       ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)
 
+// Counts the calls of an imported function and lets them through.
+#define COUNT_CALLS(function, count)                    \
+  REPLACE(function, [&](auto original, auto... given) { \
+    ++(count);                                          \
+    return original(given...);                          \
+  })
+
 // While it lives, GetProcAddress returns `function` for the export `name` of any module; null
 // stands for a Windows that does not have it.
 struct ReplacedExport {
