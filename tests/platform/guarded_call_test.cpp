@@ -1,5 +1,6 @@
 #include "lib/platform/guarded_call.h"
 
+#include "lib/platform/module.h"
 #include "tests/support/testing.h"
 
 TEST_CASE("a guarded call answers whether its action came to an end") {
@@ -8,4 +9,12 @@ TEST_CASE("a guarded call answers whether its action came to an end") {
   CHECK_FALSE(GuardedCall([] { throw 1; }));
   CHECK_FALSE(GuardedCall([] { *static_cast<volatile int*>(nullptr) = 1; }));
   CHECK_FALSE(GuardedCall([] { RaiseException(STATUS_INTEGER_DIVIDE_BY_ZERO, 0, 0, nullptr); }));
+}
+
+TEST_CASE("a place for a new handle holds none; a null module has no functions") {
+  OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
+  CHECK(*event.Receive() == nullptr);
+  SetLastError(ERROR_SUCCESS);
+  CHECK((FindFunction<void()>(nullptr, "Sleep") == nullptr));
+  CHECK(GetLastError() == ERROR_MOD_NOT_FOUND);
 }

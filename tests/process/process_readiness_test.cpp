@@ -18,8 +18,14 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
   std::string calls;
-  REPLACE(TranslateMessage, [&](auto...) { return calls += "translate ", FALSE; });
-  REPLACE(DispatchMessageW, [&](auto...) { return calls += "dispatch ", 0; });
+  REPLACE(TranslateMessage, [&](auto...) {
+    calls += "translate ";
+    return FALSE;
+  });
+  REPLACE(DispatchMessageW, [&](auto...) {
+    calls += "dispatch ";
+    return 0;
+  });
   CHECK_BOTH(PumpWaitingMessages() == 16, calls == "translate dispatch ");
   CHECK_BOTH(PumpWaitingMessages() == 0, calls == "translate dispatch translate dispatch ");
 
@@ -46,7 +52,8 @@ TEST_CASE("the mutex is looked for every 100 ms, by a clock that wraps, as long 
   REPLACE(OpenMutexW, [&](auto, DWORD access, BOOL inherits, LPCWSTR name) {
     CHECK_BOTH(access == MUTEX_ALL_ACCESS, inherits == FALSE);
     CHECK(name == std::wstring(L"Global\\name"));
-    return ++lookups, nullptr;
+    ++lookups;
+    return nullptr;
   });
   for (const auto& [timeout, expected] : {std::pair(300UL, 3), {301UL, 4}, {0UL, 0}}) {
     now = MAXDWORD - 150;

@@ -9,7 +9,10 @@
 
 TEST_CASE("the shutdown privilege is enabled when the call and the last error say so") {
   for (const auto& [answer, error] : {std::pair{TRUE, 0UL}, {TRUE, 1300UL}, {FALSE, 0UL}}) {
-    REPLACE(AdjustTokenPrivileges, [=](auto...) { return SetLastError(error), answer; });
+    REPLACE(AdjustTokenPrivileges, [=](auto...) {
+      SetLastError(error);
+      return answer;
+    });
     CHECK(EnableShutdownPrivilege() == (answer == TRUE && error == 0));
   }
 }
@@ -29,7 +32,8 @@ TEST_CASE("a remote client has another name than this computer") {
       "WTSQuerySessionInformationW",
       +[](HANDLE, DWORD, WTS_INFO_CLASS, LPWSTR* name, DWORD*) -> BOOL {
         *name = const_cast<wchar_t*>(clientName);
-        return ++textsOut, *clientName != L'!' ? TRUE : throw 1;
+        ++textsOut;
+        return *clientName != L'!' ? TRUE : throw 1;
       });
   WString own = GetComputerNetbiosName();
   CharLowerW(own.data());

@@ -19,7 +19,8 @@ TEST_CASE("write access is probed where a write would be real") {
     DWORD tried = 0;
     const auto windows = PretendWindows(2, major, 0);
     REPLACE(GetTokenInformation, [&](auto, auto, auto, void* elevation, auto...) {
-      return *static_cast<DWORD*>(elevation) = elevated, TRUE;
+      *static_cast<DWORD*>(elevation) = elevated;
+      return TRUE;
     });
     REPLACE(RegSetValueExW, [&](auto original, auto... arguments) {
       ++tried;
@@ -31,9 +32,8 @@ TEST_CASE("write access is probed where a write would be real") {
 }
 
 TEST_CASE("a key goes with everything below it, with and without RegDeleteKeyExW") {
-  static REGSAM seenView;
   const auto deleteKeyEx = +[](HKEY key, LPCWSTR name, REGSAM view, DWORD) {
-    return seenView = view, RegDeleteKeyW(key, name);
+    return view == KEY_WOW64_64KEY ? RegDeleteTreeW(key, name) : LSTATUS{1234};
   };
   const ScratchKey key;
   const auto exists = [&](auto below) { return RegistryKeyExists(kRoot, (key + below).c_str()); };
@@ -51,10 +51,13 @@ TEST_CASE("a key goes with everything below it, with and without RegDeleteKeyExW
     CHECK(RegistryDeleteKeyTree(kRoot, L"", key.c_str()) == ERROR_ACCESS_DENIED);
     CHECK(exists(L"\\tree\\a\\b"));
     const ReplacedExport replaced("RegDeleteKeyExW", function);
-    seenView = 1;
+    REPLACE(RegDeleteKeyW, [&](auto original, auto... given) {
+      return function == nullptr ? original(given...) : LSTATUS{1234};
+    });
+    RegistryAccessFlags = KEY_WOW64_64KEY;
     CHECK_BOTH(remove(L"tree") == 0, remove(L"tree") == ERROR_FILE_NOT_FOUND);
     CHECK_BOTH(!exists(L"\\tree"), exists(L"\\kept"));
-    CHECK(seenView == (function == nullptr));
+    RegistryAccessFlags = 0;
   }
 }
 

@@ -54,6 +54,9 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
                      Row(REG_BINARY, L"ab\0"s, 4, L""), Row(REG_SZ, L"\0"s, 1, L""),
                      Row(REG_SZ, L"a\0"s, 0, L"")});
   const ScratchKey key;
+  wchar_t old[] = L"old";
+  CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", old, 4) == 0);
+  CHECK(old == std::wstring());
   for (const auto& [type, stored, length, expected] : rows) {
     StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored);
     CAPTURE(stored);

@@ -12,8 +12,9 @@ struct DesktopScope {
   DesktopScope(const wchar_t* stationName, const wchar_t* desktopName) {
     constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
     // Wine closes a desktop, and nobody finds it any more, a second after its last thread left it.
-    [[maybe_unused]] static const HANDLE stays = CreateThread(
-        nullptr, 0, [](void*) -> DWORD { return Sleep(INFINITE), 0; }, nullptr, 0, nullptr);
+    constexpr auto sleep = [](void*) -> DWORD { return SleepEx(INFINITE, FALSE); };
+    [[maybe_unused]] static const HANDLE stays =
+        CreateThread(nullptr, 0, sleep, nullptr, 0, nullptr);
     if (stationName != nullptr) {
       station = CreateWindowStationW(stationName, 0, kAccess, nullptr);
       SetProcessWindowStation(station);

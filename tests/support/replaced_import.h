@@ -99,10 +99,10 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
       ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)
 
 // Counts the calls of an imported function and lets them through.
-#define COUNT_CALLS(function, count)                    \
-  REPLACE(function, [&](auto original, auto... given) { \
-    ++(count);                                          \
-    return original(given...);                          \
+#define COUNT_CALLS(function, count)                         \
+  REPLACE(function, [&](auto original, auto... parameters) { \
+    ++(count);                                               \
+    return original(parameters...);                          \
   })
 
 // While it lives, GetProcAddress returns `function` for the export `name` of any module; null

@@ -1,5 +1,5 @@
-# What system_report.exe tells under each Windows that Wine can be, up to its first entry that depends on the
-# machine, and how it shows a variable that would break its columns, compared with a file: cmake -D wine=... -D folder=... -D expected=... -P check_windows_releases.cmake
+# What system_report.exe tells under each Windows that Wine can be, one line each with the predicates that are true, and
+# how it shows a variable that would break its columns, compared with a file: cmake -D wine=... -D folder=... -D expected=... -P check_windows_releases.cmake
 
 set(setting "HKCU\\Software\\Wine\\AppDefaults\\system_report.exe")
 # Escape, line feed, full stop.
@@ -12,7 +12,10 @@ execute_process(COMMAND ${wine} cmd /c "${commands} reg delete ${setting} /f >nu
   OUTPUT_VARIABLE reports COMMAND_ERROR_IS_FATAL ANY)
 string(REPLACE "\r" "" reports "${reports}")
 string(REGEX MATCHALL "as [a-z0-9]+\n((GetSystemVersionString|IsWin[9N2XV78S])[^\n]*\n)+" seen "${reports}")
-list(JOIN seen "\n" seen)
+list(JOIN seen "" seen)
+string(REGEX REPLACE "IsWin[^ ]+ +0\n" "" seen "${seen}")
+string(REGEX REPLACE "\nGetSystemVersionString\\(\\) +" ": " seen "${seen}")
+string(REGEX REPLACE "\nIsWin([^(]+)\\(\\) +1" ", \\1" seen "${seen}")
 string(REGEX MATCH "\nUserEnv: kelvo[^\n]*\n" variable "${reports}")
 string(APPEND seen "${variable}")
 

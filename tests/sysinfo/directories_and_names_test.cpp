@@ -10,9 +10,10 @@ static UINT WINAPI TellDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(told.length()) + (told.length() < size ? 0 : 1);
 }
 
-// The first character says which format was asked for.
+// The first character says which format was asked for. The host's own name is a short one.
 static BOOL WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
-  const ULONG room = std::exchange(*size, static_cast<ULONG>(told.length() + 1));
+  const std::size_t length = format == ComputerNameDnsHostname ? 1 : told.length();
+  const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));
   SetLastError(ERROR_MORE_DATA);
   if (told.empty() || told.length() >= room) {
     return FALSE;

@@ -3,14 +3,13 @@
 #include <shlwapi.h>
 
 #include <cstring>
-#include <sstream>
 
 #include "lib/platform/module.h"
 #include "lib/string/utf8.h"
 #include "lib/sysinfo/common_controls_version.h"
 #include "lib/sysinfo/file_version_text.h"
 #include "lib/sysinfo/internet_explorer_version.h"
-#include "tests/support/testing.h"
+#include "tests/sysinfo/played_cases.h"
 
 // A file like another whose resource directory claims that its version resource has `size` bytes.
 static void WriteCutVersion(const std::wstring& file, const std::wstring& cutFile, char size) {
@@ -27,8 +26,8 @@ TEST_CASE("the versions of sound and hostile files are those of file_versions.tx
   WriteCutVersion(ProgramPath(L"versioned_german.dll"), ProgramPath(L"versioned_8.dll"), 8);
   WriteCutVersion(ProgramPath(L"versioned_german.dll"), ProgramPath(L"versioned_44.dll"), 44);
   int freed = 0;
-  REPLACE(GlobalUnlock, [&](auto original, auto memory) { return ++freed, original(memory); });
-  REPLACE(GlobalFree, [&](auto original, auto memory) { return ++freed, original(memory); });
+  COUNT_CALLS(GlobalUnlock, freed);
+  COUNT_CALLS(GlobalFree, freed);
   // What lies in memory before and, as "!!", after the resource.
   REPLACE(GlobalLock, [](auto original, auto memory) {
     return std::memset(original(memory), 0x11, GlobalSize(memory));
@@ -54,53 +53,44 @@ TEST_CASE("the versions of sound and hostile files are those of file_versions.tx
     }
     return answer;
   });
-  std::istringstream cases(ReadBytes(ProgramPath(L"expected\\file_versions.txt")));
-  std::string seen;
-  for (std::string line, answer; std::getline(cases, line) && std::getline(cases, answer);) {
+  PlayCases(L"file_versions.txt", [&] {
     pathLength = 0;
-    std::sscanf(line.c_str(), "%98s %d.%d.%d.%d, path of %zu, %8[a-z] %d, length %u", name,
+    std::sscanf(given.c_str(), "%98s %d.%d.%d.%d, path of %zu, %8[a-z] %d, length %u", name,
                 &numbers[0], &numbers[1], &numbers[2], &numbers[3], &pathLength, from, &offset,
                 &length);
     const std::wstring path = ProgramPath(std::filesystem::path(name));
-    seen += line + "\n";
-    for (const auto compare : {CompareFileVersion, CompareFileVersionNumbers}) {
+    const auto compareBy = [&](auto compare) {
       freed = 0;
-      seen += std::to_string(
-          std::apply(compare, std::tuple_cat(std::tuple(path.c_str()), std::to_array(numbers))));
-      seen += " (freed " + std::to_string(freed) + ") ";
-    }
-    wchar_t written[kFileVersionStringCapacity];
-    seen += GetFileVersionString(written, path.c_str()) ? "true " : "false ";
-    seen += Ascii(written) + " \"" + ToUtf8(GetFileVersionText(path.c_str())) + "\"\n";
-  }
-  CheckAgainstFile(seen, L"file_versions.txt");
+      const int order = compare(path.c_str(), numbers[0], numbers[1], numbers[2], numbers[3]);
+      return std::to_string(order) + " (freed " + std::to_string(freed) + ") ";
+    };
+    const std::string order = compareBy(CompareFileVersion);
+    CHECK(compareBy(CompareFileVersionNumbers) == order);
+    wchar_t text[kFileVersionStringCapacity];
+    const bool isKnown = GetFileVersionString(text, path.c_str());
+    CHECK(isKnown == (text != std::wstring(L"not available")));
+    return order + Ascii(text) + " \"" + ToUtf8(GetFileVersionText(path.c_str())) + "\"";
+  });
 }
 
 TEST_CASE("the browser's file is looked for in the system directory, its name kept") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
-  const auto parse = [&](const std::string& numbers) {
-    auto& [major, minor, build, revision] = version;
-    std::sscanf(numbers.c_str(), "%d.%d.%d.%d", &major, &minor, &build, &revision);
-  };
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
-  parse(Ascii(text));
+  std::swscanf(text, L"%d.%d.%d.%d", &version[0], &version[1], &version[2], &version[3]);
   CHECK(IsIEVersionAtLeast(nullptr, version));
   ++version[3];
   CHECK_FALSE(IsIEVersionAtLeast(nullptr, version));
-  REPLACE(GetSystemDirectoryW, [](auto, auto to, auto) { return lstrcpyW(to, L"C:\\none"), 7U; });
+  REPLACE(GetSystemDirectoryW, [](auto, auto to, auto) {
+    lstrcpyW(to, L"C:\\none");
+    return 7U;
+  });
   CHECK_FALSE(IsIEVersionAtLeast(nullptr, {0, 0, 0, 0}));
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
-  CHECK(text == WString(L"not available"));
-  std::string seen = Ascii(GetIEVersionName(nullptr, {5, 50, 4134, 601}));
-  std::istringstream cases(ReadBytes(ProgramPath(L"expected\\browser_names.txt")));
-  for (std::string line; std::getline(cases, line);) {
-    parse(line);
-    const std::wstring name = GetIEVersionName(nullptr, version);
-    seen += line.substr(0, line.find('=') + 1) + Ascii(name) + "\n";
-    CHECK(GetIEVersionName(nullptr, {6, 0, 0, 0}) == name);
-  }
-  CheckAgainstFile(seen, L"browser_names.txt");
+  CHECK(text == std::wstring(L"not available"));
+  CHECK(GetIEVersionName(nullptr, {5, 50, 4134, 601}) == std::wstring());
+  CHECK(GetIEVersionName(nullptr, {5, 50, 4134, 600}) == std::wstring(L"Internet Explorer 5.5"));
+  CHECK(GetIEVersionName(nullptr, {6, 0, 0, 0}) == std::wstring(L"Internet Explorer 5.5"));
 }
 
 TEST_CASE("the common controls tell their version, or are 4.0 when they cannot") {

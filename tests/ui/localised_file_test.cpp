@@ -57,6 +57,7 @@ TEST_CASE("the exact file is found, or the nearest that is there") {
       {L"a.b_de-DE.dll", true, kSuffix, L""},
       {L"a.b_ja-JP.dllx", false, kSuffix, L""},
       {L"A.B_ja-JP.DLL", false, kSuffix, L"a.b_ja-JP.dll"},
+      {L"a.b_es-US.dll", false, kSuffix, L"a.b_es-US.dll"},
       {L"a.b_da-DK.dll", false, kSuffix, L"a.b_da-DK.dll"},
       {L"a.b_en-GB.dll", false, kSuffix, L"a.b_en-GB.dll"},
       {L"a.b_en-US.dll", false, kSuffix, L"a.b_en-US.dll"},

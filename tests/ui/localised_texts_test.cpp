@@ -1,6 +1,7 @@
 #include "lib/ui/locale_names.h"
 #include "lib/ui/resource_languages.h"
 #include "lib/ui/text_substitution.h"
+#include "lib/ui/utf8_output.h"
 #include "lib/ui/window_texts.h"
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
@@ -84,4 +85,23 @@ TEST_CASE("a window's labels and buttons are rewritten, its other controls are n
     CHECK(text.c_str() == rows[i][2]);
   }
   TextSubstitutions().clear();
+}
+
+TEST_CASE("a console gets characters, a file bytes, and to write a part of them is to fail") {
+  std::string seen;
+  DWORD lost = 0;
+  const auto write = [&](auto, auto, const auto* text, DWORD length, DWORD* written, auto) {
+    seen.assign(static_cast<const char*>(static_cast<const void*>(text)), length);
+    *written = length - lost;
+    return TRUE;
+  };
+  REPLACE(WriteConsoleW, write);
+  REPLACE(WriteFile, write);
+  for (const bool isConsole : {true, false}) {
+    REPLACE(GetConsoleMode, [=](auto...) { return isConsole ? TRUE : FALSE; });
+    for (lost = 0; lost < 2; ++lost) {
+      CHECK(WriteUtf8(STD_OUTPUT_HANDLE, "\xC3\xA4\n") == (lost == 0));
+      CHECK(seen == (isConsole ? std::string("\xE4\0\r", 3) : "\xC3\xA4\r\n"));
+    }
+  }
 }

@@ -13,7 +13,8 @@ TEST_CASE("a message filter is changed from Windows 7 on where the function is t
   static Call seen;
   static BOOL answer;
   const auto change = +[](HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT* status) {
-    return seen = {window, message, action, status}, answer;
+    seen = {window, message, action, status};
+    return answer;
   };
   struct Row {
     DWORD minor;
