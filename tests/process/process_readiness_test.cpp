@@ -28,15 +28,6 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
   });
   CHECK_BOTH(PumpWaitingMessages() == 16, calls == "translate dispatch ");
   CHECK_BOTH(PumpWaitingMessages() == 0, calls == "translate dispatch translate dispatch ");
-
-  // Before Windows 2000 the name is plain; whole it is, too.
-  const auto nt4 = PretendWindows(2, 4, 0);
-  const ReplacedExport noTerminalServer("VerifyVersionInfoA", nullptr);
-  const std::wstring longName(600, L'n');
-  REPLACE(OpenMutexW, [&](auto, auto, auto, auto asked) {
-    return asked == longName ? CreateEventW(nullptr, FALSE, FALSE, nullptr) : nullptr;
-  });
-  CHECK(StartProcessAndWaitForMutex(child.c_str(), nullptr, false, longName.c_str(), 10000) == 0);
 }
 
 TEST_CASE("the mutex is looked for every 100 ms, by a clock that wraps, as long as there is time") {

@@ -99,22 +99,19 @@ TEST_CASE("the common controls tell their version, or are 4.0 when they cannot")
     *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};
     return result;
   };
-  struct Row {
-    decltype(tell) getVersion;
-    HRESULT told, result;
-    DWORD major, minor, packed;
-  };
-  const Row rows[] = {{tell, S_FALSE, S_FALSE, 6, 0x1000A, 0x6000A},
-                      {tell, E_ABORT, E_FAIL, 77, 77, 0},
-                      {nullptr, E_ABORT, S_OK, 4, 0, 0x40000}};
-  DWORD major, minor;
-  for (const Row& row : rows) {
-    const ReplacedExport version("DllGetVersion", row.getVersion);
-    result = row.told;
-    major = minor = 77;
-    CHECK_BOTH(GetComCtlVersion(&major, &minor) == row.result, major == row.major);
-    CHECK_BOTH(minor == row.minor, GetComCtlVersionPacked() == row.packed);
+  DWORD major = 77, minor = 77;
+  {
+    const ReplacedExport version("DllGetVersion", tell);
+    result = E_ABORT;
+    CHECK_BOTH(GetComCtlVersion(&major, &minor) == E_FAIL, GetComCtlVersionPacked() == 0);
+    CHECK_BOTH(major == 77, minor == 77);
+    result = S_FALSE;
+    CHECK_BOTH(GetComCtlVersion(&major, &minor) == S_FALSE, GetComCtlVersionPacked() == 0x6000A);
+    CHECK_BOTH(major == 6, minor == 0x1000A);
   }
+  const ReplacedExport missing("DllGetVersion", nullptr);
+  CHECK_BOTH(GetComCtlVersion(&major, &minor) == S_OK, GetComCtlVersionPacked() == 0x40000);
+  CHECK_BOTH(major == 4, minor == 0);
   CHECK(GetComCtlVersion(nullptr, &minor) == E_INVALIDARG);
   CHECK(GetComCtlVersion(&major, nullptr) == E_INVALIDARG);
   REPLACE(LoadLibraryW, [](auto...) { return nullptr; });

@@ -27,13 +27,6 @@ TEST_CASE("each locale of the table is Windows' own, both ways") {
 TEST_CASE("the exact file is found, or the nearest that is there") {
   const ScratchFolder scratch;
   const std::wstring folder = scratch / L"";
-  const auto make = [&](const wchar_t* path, bool isFolder = false) {
-    const std::filesystem::path place = scratch / path;
-    std::filesystem::create_directories(isFolder ? place : place.parent_path());
-    if (!isFolder) {
-      scratch.Write(path, "x");
-    }
-  };
   const auto find = [&](LANGID language, LocalisedFileForm form) {
     const WString path = FindLocalisedFile(folder.c_str(), L"a.b.dll", language, form);
     return path.empty() ? WString() : path.substr(folder.length());
@@ -69,7 +62,11 @@ TEST_CASE("the exact file is found, or the nearest that is there") {
       {L"resources\\de-DE\\a.b.dll", false, kFolder, L"resources\\de-DE\\a.b.dll"}};
   for (const auto& [path, isFolder, form, found] : steps) {
     CAPTURE(path);
-    make(path, isFolder);
+    const std::filesystem::path place = scratch / path;
+    std::filesystem::create_directories(isFolder ? place : place.parent_path());
+    if (!isFolder) {
+      scratch.Write(path, "x");
+    }
     CHECK(find(0x0407, form) == found);
   }
   const ReplacedExport missing("GetLocaleInfoEx", nullptr);

@@ -3,13 +3,7 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("a message filter is changed from Windows 7 on where the function is there") {
-  struct Call {
-    HWND window;
-    UINT message;
-    DWORD action;
-    CHANGEFILTERSTRUCT* status;
-    bool operator==(const Call&) const = default;
-  };
+  using Call = std::tuple<HWND, UINT, DWORD, CHANGEFILTERSTRUCT*>;
   static Call seen;
   static BOOL answer;
   const auto change = +[](HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT* status) {
@@ -30,8 +24,7 @@ TEST_CASE("a message filter is changed from Windows 7 on where the function is t
     const ReplacedExport filter("ChangeWindowMessageFilterEx", row.function);
     seen = {};
     answer = row.functionAnswer;
-    CHECK(AllowWindowMessage(given.window, given.message, given.action, given.status) ==
-          row.answer);
+    CHECK(std::apply(AllowWindowMessage, given) == row.answer);
     CHECK((seen == given) == (row.minor == 1 && row.function != nullptr));
   }
 }
