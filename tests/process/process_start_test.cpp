@@ -57,6 +57,8 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
     return IsOurs("close", handle) ? TRUE : original(handle);
   });
   REPLACE(CreateProcessAsUserW, [](auto, auto token, auto...) { return !IsOurs("start", token); });
+  // Where this runs on another window station, nothing is granted on the interactive one.
+  REPLACE(OpenWindowStationW, [](auto...) { return nullptr; });
   REPLACE(CreateProcessW, [](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");
     CHECK(std::get<1>(std::tuple(given...)) == std::wstring(L"\"program\" "));

@@ -12,12 +12,12 @@
 #include "tests/support/testing.h"
 
 // Deletes the deny entries of an object whose DACL is `list`, not a copy of it.
-static BOOL DeleteDenyAces(const TestAcl& list, PSID sid) {
+static void DeleteDenyAces(const TestAcl& list, PSID sid) {
   REPLACE(GetSecurityInfo, [&](auto, auto, auto, auto, auto, auto, ACL** dacl, auto...) {
     *dacl = list.acl;
     return DWORD{ERROR_SUCCESS};
   });
-  return DeleteDenyACEofObject(sid, nullptr, SE_WINDOW_OBJECT);
+  DeleteDenyACEofObject(sid, nullptr, SE_WINDOW_OBJECT);
 }
 
 TEST_CASE("the last of equal entries is found, copies keep all, sizes count all") {
@@ -37,7 +37,7 @@ TEST_CASE("the last of equal entries is found, copies keep all, sizes count all"
   CHECK(denying.acl->AceCount == 3);
 }
 
-TEST_CASE("a new entry goes in front of the first of its own rank and keeps the order") {
+TEST_CASE("a new entry goes in front of the first of its own rank") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
   struct Case {
     BYTE type, flags;

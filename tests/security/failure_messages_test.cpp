@@ -15,6 +15,7 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   // More than fits on the stack, and enough to have all calls made.
   const TestAcl many(std::vector<TestAce>(51));
+  const TestAcl few(std::vector<TestAce>(3));
   TestAce ace{.mask = 9};
   TestAce audit{.type = SYSTEM_AUDIT_ACE_TYPE};
   const TestAcl list({{.type = 1}, audit});
@@ -46,17 +47,20 @@ TEST_CASE("each failing call has its message, then the operation its own") {
        {L"AllowAccessToDesktop", [&] { return AllowAccessToDesktop(&ace.sid, scope.desktop); }},
        {L"GetFromToken", [&] { return GetFromToken(token.get(), TokenUser); }},
        {L"CreateTokenPriv", [&] { return CreateTokenPriv(&count, names, FALSE); }},
-       {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }},
        {L"AllowTokenFullAccessToObject",
         [&] { return allowAll(scope.desktop, SE_WINDOW_OBJECT, L"Desktop"); }},
        {L"AllowTokenFullAccessToObject",
         [&] { return allowAll(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
        {L"AllowTokenFullAccessToObject",
-        [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }}},
+        [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
+       // Last: the object's list grows.
+       {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }}},
       [&] {
+        // A token's groups are many already.
+        ACL* const dacl = operation == L"AllowTokenFullAccessToObject" ? few.acl : many.acl;
         for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
           SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
-                          many.acl, nullptr);
+                          dacl, nullptr);
         }
       });
   CheckAgainstFile(Ascii(seen), L"failure_messages.txt");
