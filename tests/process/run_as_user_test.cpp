@@ -105,5 +105,5 @@ TEST_CASE("each failing call of a start has its message") {
         SetProcessWindowStation(scope.station);
         SetThreadDesktop(scope.desktop);
       });
-  CheckAgainstFile(seen, L"start_failures.txt");
+  CheckAgainstFile(Ascii(seen), L"start_failures.txt");
 }
