@@ -5,11 +5,13 @@
 #include "lib/process/remote_client.h"
 #include "lib/process/shutdown_privilege.h"
 #include "lib/sysinfo/computer_name.h"
+#include "tests/support/shown_arguments.h"
 #include "tests/support/testing.h"
 
 TEST_CASE("the shutdown privilege is enabled when the call and the last error say so") {
   for (const auto& [answer, error] : {std::pair{TRUE, 0UL}, {TRUE, 1300UL}, {FALSE, 0UL}}) {
-    REPLACE(AdjustTokenPrivileges, [=](auto...) {
+    REPLACE(AdjustTokenPrivileges, [=](auto, auto, auto, TOKEN_PRIVILEGES* asked, auto...) {
+      CHECK(Shown(asked) == "SeShutdownPrivilege attributes 2");
       SetLastError(error);
       return answer;
     });

@@ -37,7 +37,10 @@ std::string Shown(Argument argument) {
     const auto predefined = static_cast<LONG>(reinterpret_cast<LONG_PTR>(argument));
     return predefined < 0 ? std::to_string(predefined - static_cast<LONG>(0x80000000)) : "key";
   } else if constexpr (std::is_same_v<Argument, TOKEN_PRIVILEGES*>) {
-    return "attributes " + Shown(argument->Privileges[0].Attributes);
+    char name[64] = "";
+    DWORD length = sizeof(name);
+    LookupPrivilegeNameA(nullptr, &argument->Privileges[0].Luid, name, &length);
+    return name + (" attributes " + Shown(argument->Privileges[0].Attributes));
   } else if constexpr (std::is_same_v<Argument, SECURITY_ATTRIBUTES*>) {
     return "inheritance " + Shown(argument->bInheritHandle);
   } else if constexpr (std::is_same_v<Argument, STARTUPINFOW*>) {

@@ -3,94 +3,117 @@
 #include <windows.h>
 
 #include <map>
+#include <set>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "tests/support/failing_call.h"
 #include "tests/support/shown_arguments.h"
 
 namespace kelvo::test {
 
-// Stands between a module and Windows: counts the calls of each function in a table, makes one call
-// fail, and keeps a book of what is open.
-struct Interception {
-  std::map<std::string, void*> originals;
-  std::map<std::string, int> calls;
-  // Each call with its arguments, in order.
-  std::string transcript;
-  // The function whose call of this number, counted from 1, fails, or ends the thread before it.
-  std::pair<std::string, int> chosen;
-  bool ends = false;
-  // What is open, with the function that opened it.
-  std::map<const void*, std::string> open;
-};
-inline Interception interception;
+// What a function does with handles. Of one that is kLeftOut the arguments are not shown: they vary
+// from machine to machine, or their effect shows them. kEndsInSize: the last one is left out.
+enum class Handles { kNone, kLeftOut, kEndsInSize, kOpens, kCloses };
 
 // A row of the table: a function of Windows, and what is called in its place.
 struct Watched {
   const char* name;
   void* instead;
+  bool closes;
 };
 
-// Of what neither opens nor closes, the arguments may vary from machine to machine.
-enum class Handles { kNone, kVaries, kOpens, kCloses };
+// Comes between a module and Windows: counts the calls of each function in a table, makes one call
+// fail, and keeps a book of what is open.
+struct Interception {
+  std::map<std::string, void*> originals;
+  std::map<std::string, int> calls;
+  // The distinct calls with their arguments, where these say anything.
+  std::set<std::string> shown;
+  // The function whose call of this number, counted from 1, fails, or ends the thread before it.
+  std::pair<std::string, int> chosen;
+  bool ends = false;
+  // What is open, with the function that opened it and those that close it.
+  std::map<const void*, std::pair<std::string, std::string_view>> open;
+};
+inline Interception interception;
 
-// An argument that points to a handle, or a result that is one.
+// The handles in an argument that points to some, or in a result.
 template <typename Value>
-const void* OpenedHandle([[maybe_unused]] Value value, bool isResult) {
-  if constexpr (std::is_pointer_v<Value> && !std::is_function_v<std::remove_pointer_t<Value>>) {
+std::vector<const void*> OpenedHandles([[maybe_unused]] Value value, bool isResult) {
+  if constexpr (std::is_same_v<Value, PROCESS_INFORMATION*>) {
+    return {value->hProcess, value->hThread};
+  } else if constexpr (std::is_pointer_v<Value> &&
+                       !std::is_function_v<std::remove_pointer_t<Value>>) {
     using Target = std::remove_pointer_t<Value>;
     if (isResult) {
-      return value;
+      return {value};
     }
     if constexpr (std::is_pointer_v<Target> && !std::is_const_v<Target>) {
-      return value != nullptr ? *value : nullptr;
+      return {value != nullptr ? *value : nullptr};
     }
   }
-  return nullptr;
+  return {};
 }
 
-// `failure` is what the function returns to say that it failed; 0 besides a last error.
+// `failure` is what the function returns to say that it failed; 0 besides a last error. `closers`
+// names the functions that close what it opens.
 template <typename Function, typename... Given>
-auto Intercept(const char* name, long long failure, Handles handles, Given... given) {
+auto Intercept(const char* name, long long failure, Handles handles, std::string_view closers,
+               Given... given) {
   using Result = std::invoke_result_t<Function, Given...>;
-  auto& [originals, calls, transcript, chosen, ends, open] = interception;
+  auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
+  const bool closes = handles == Handles::kCloses;
+  std::string call = closes || handles == Handles::kLeftOut ? "" : ShownCall(name, given...);
+  if (handles == Handles::kEndsInSize) {
+    call.replace(call.rfind(',') + 2, std::string::npos, "size)");
+  }
   // The C runtime's own calls are not Windows'.
-  if (std::isupper(*name) != 0) {
-    transcript += (handles == Handles::kVaries ? name : ShownCall(name, given...)) + "\r\n";
+  if (std::isupper(*name) != 0 && call.find_first_of("123456789'") != std::string::npos) {
+    shown.insert(call);
   }
   if (fails && ends) {
     ExitThread(0);
   }
-  if (fails && handles != Handles::kCloses) {
+  if (fails && !closes) {
     SetLastError(kFailure);
     return (Result)failure;
   }
-  if (handles == Handles::kCloses) {
-    (open.erase((const void*)(ULONG_PTR)given), ...);
+  if (closes) {
+    // What another function should have closed stays in the book.
+    std::erase_if(open, [&](const auto& row) {
+      return row.second.second.find(name) != std::string_view::npos &&
+             ((row.first == (const void*)(ULONG_PTR)given) || ...);
+    });
   }
   const Result result = reinterpret_cast<Function>(originals[name])(given...);
   const bool succeeded = failure == kFailure ? !result : result != (Result)failure;
   if (handles == Handles::kOpens && succeeded) {
-    for (const void* handle : {OpenedHandle(given, false)..., OpenedHandle(result, true)}) {
-      open.try_emplace(handle, name);
+    for (const auto& opened : {OpenedHandles(given, false)..., OpenedHandles(result, true)}) {
+      for (const void* handle : opened) {
+        open.try_emplace(handle, name, closers);
+      }
     }
     open.erase(nullptr);
   }
-  if (handles == Handles::kCloses) {
+  if (closes) {
     // Hides what an earlier call said, unless that was read first.
     SetLastError(fails ? kFailure : ERROR_SUCCESS);
   }
   return fails ? (Result)failure : result;
 }
 
-#define WATCH(function, failure, handles)                                                     \
+#define WATCH(function, failure, handles, ...)                                                \
   Watched {                                                                                   \
     #function, reinterpret_cast<void*>(static_cast<decltype(&::function)>([](auto... given) { \
-      return Intercept<decltype(&::function)>(#function, failure, handles, given...);         \
-    }))                                                                                       \
+      return Intercept<decltype(&::function)>(#function, failure, handles,                    \
+                                              std::string_view{__VA_ARGS__}, given...);       \
+    })),                                                                                      \
+        (handles) == kCloses                                                                  \
   }
 
 // Directs a module's imports to the table.

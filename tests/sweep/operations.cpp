@@ -1,10 +1,14 @@
 #include "tests/sweep/operations.h"
 
+#include <windows.h>
+
+#include <sddl.h>
+
 #include <array>
 
 #include "lib/paths/file_exists.h"
 #include "lib/paths/shell_folder_path.h"
-#include "lib/process/process_command_line.h"
+#include "lib/platform/owned.h"
 #include "lib/process/process_readiness.h"
 #include "lib/process/remote_client.h"
 #include "lib/process/run_as_user.h"
@@ -51,13 +55,38 @@ std::wstring Answer(Run run) {
 
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
-DWORD number;
-HANDLE Event() {
-  static const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-  return event;
+TOKEN_ELEVATION_TYPE elevation;
+// What differs from machine to machine, but for the full names that the sweep gives to all.
+WString IsThere(const WString& text) {
+  if (text.empty()) {
+    return L"nothing";
+  }
+  return text == L"full name" ? text : L"a text";
 }
-// What differs from machine to machine.
-WString IsThere(const WString& text) { return text.empty() ? L"nothing" : L"a text"; }
+
+WString AllowEvent() {
+  SECURITY_ATTRIBUTES emptyList = {sizeof(emptyList), nullptr, FALSE};
+  ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:", SDDL_REVISION_1,
+                                                       &emptyList.lpSecurityDescriptor, nullptr);
+  const OwnedKernelObject event(CreateEventW(&emptyList, FALSE, FALSE, nullptr));
+  const BOOL answer = ModifySecurity(event.get(), SYNCHRONIZE);
+  DWORD size = 0;
+  GetKernelObjectSecurity(event.get(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+  return Text(answer && size > sizeof(SECURITY_DESCRIPTOR_RELATIVE) + sizeof(ACL));
+}
+
+WString AllowDesktop() {
+  static const HDESK desktop =
+      CreateDesktopW(L"kelvo sweep", nullptr, nullptr, 0, GENERIC_ALL, nullptr);
+  return Text(AllowTokenFullAccessToObject(GetCurrentProcessToken(), desktop, SE_WINDOW_OBJECT,
+                                           L"Desktop"));
+}
+
+WString CountPrivileges() {
+  DWORD count = 0;
+  const OwnedLocalMemory<TOKEN_PRIVILEGES> made(CreateTokenPriv(&count, nullptr, TRUE));
+  return made ? Text(count) : L"none";
+}
 
 WString ReadList() {
   RegistryAccessFlags = KEY_WOW64_64KEY;
@@ -79,7 +108,6 @@ WString WriteAndDelete() {
   answers += L" " + Text(RegistryValueExists(HKEY_CURRENT_USER, kKey, L"n"));
   answers += L" " + Text(RegistryDeleteValue(HKEY_CURRENT_USER, kKey, L"n"));
   answers += L" " + Text(RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"Software", L"kelvo sweep"));
-  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep");
   return answers;
 }
 

@@ -7,20 +7,18 @@
 #include <winternl.h>
 #include <wtsapi32.h>
 
-#include <numeric>
-#include <set>
+#include <sstream>
 
 #include "lib/platform/guarded_call.h"
 #include "lib/platform/module.h"
-#include "lib/registry/registry_string.h"
-#include "lib/string/format_text.h"
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 #include "tests/sweep/interception.h"
 #include "tests/sweep/operations.h"
-#include "tool/dependent_applications.h"
 
 using enum Handles;
+using Lines = std::vector<std::string>;
+
 static const auto kWatched = std::to_array<Watched>({
 #include "tests/sweep/watched.def"
 });
@@ -32,24 +30,74 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   if (found == nullptr || row == kWatched.end()) {
     return found;
   }
-  interception.originals[row->name] = reinterpret_cast<void*>(found);
+  interception.originals.try_emplace(row->name, reinterpret_cast<void*>(found));
   return reinterpret_cast<FARPROC>(row->instead);
 }
 
-static std::string written;
-static std::wstring answer;
-static BOOL WINAPI KeepWritten(HANDLE, const void* bytes, DWORD size, DWORD* done, OVERLAPPED*) {
-  written.append(static_cast<const char*>(bytes), size);
-  return (*done = size) != 0;
+// Calls `instead` in place of a function, also where the function is made to fail.
+#define STAND_IN(function, instead)   \
+  interception.originals[#function] = \
+      reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
+
+// For what differs from machine to machine, and what no machine of the tests has.
+static Lines written;
+static void StandInForMachine() {
+  STAND_IN(GetProcAddress, FindIntercepted);
+  STAND_IN(WriteFile, [](HANDLE file, auto bytes, DWORD size, DWORD* done, auto overlapped) {
+    if (file != GetStdHandle(STD_OUTPUT_HANDLE)) {
+      return WriteFile(file, bytes, size, done, overlapped);
+    }
+    written.emplace_back(static_cast<const char*>(bytes), *done = size);
+    return TRUE;
+  });
+  // As if the program stood beside the simulator's libraries.
+  STAND_IN(GetModuleFileNameW, [](HMODULE, LPWSTR path, DWORD size) {
+    return static_cast<DWORD>(ProgramPath(L"simulator\\sorrel.exe").copy(path, size - 1));
+  });
+  STAND_IN(GetComputerNameExW, [](auto, LPWSTR name, auto...) -> BOOL {
+    return lstrcpyW(name, L"full name") != nullptr;
+  });
+  STAND_IN(GetUserNameExW, [](auto, LPWSTR name, auto...) -> BOOLEAN {
+    return lstrcpyW(name, L"full name") != nullptr;
+  });
+  STAND_IN(WTSQuerySessionInformationW, [](auto, auto, auto, LPWSTR* name, auto) {
+    *name = static_cast<LPWSTR>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, 99));
+    return *lstrcpyW(*name, L"client") != 0 ? TRUE : FALSE;
+  });
+  // A process that has ended: Wine now and then fails to start one.
+  static constexpr auto kStart = [](auto... given) -> BOOL {
+    *std::get<sizeof...(given) - 1>(std::tuple(given...)) = {
+        CreateEventW(nullptr, TRUE, TRUE, nullptr), CreateEventW(nullptr, TRUE, TRUE, nullptr), 1,
+        1};
+    return TRUE;
+  };
+  STAND_IN(CreateProcessW, kStart);
+  STAND_IN(CreateProcessAsUserW, kStart);
 }
 
-// As if the program stood beside the simulator's libraries.
-static DWORD WINAPI NameSimulatedProgram(HMODULE, LPWSTR path, DWORD size) {
-  return static_cast<DWORD>(ProgramPath(L"simulator\\sorrel.exe").copy(path, size - 1));
+// The lines that are not empty.
+static Lines LinesOf(const std::string& text) {
+  Lines lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) {
+    std::erase(line, '\r');
+    // What is not text would make the file of expectations no text either.
+    std::ranges::replace_if(line, [](char byte) { return byte < ' ' || byte > '~'; }, '?');
+    lines.insert(lines.end(), line.empty() ? 0 : 1, line);
+  }
+  return lines;
 }
 
-// A list of applications recorded, no certificate in either store; the simulator's
-// Bluetooth library loaded, where an operation finds it by its name.
+static std::string Joined(const char* before, const auto& lines, const char* after) {
+  std::string text;
+  for (const std::string& line : lines) {
+    text += before + line + after;
+  }
+  return text;
+}
+
+// What an operation finds: a list of applications, no certificate in either store, a value of each
+// kind that it reads; the simulator's Bluetooth library loaded, so that it is found by its name.
 struct Machine {
   Machine() {
     std::filesystem::current_path(ProgramPath(L"certificates"));
@@ -58,14 +106,42 @@ struct Machine {
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", L"1,0,Copying|3,5");
     std::freopen(standardError.string().c_str(), "w", stderr);
   }
+  Machine(const Machine&) = delete;
+  ~Machine() {
+    Clear();
+    std::freopen("NUL", "w", stderr);
+  }
+
+  // Removes what operations leave, those of a test that was cut short too.
+  static void Clear() {
+    CleanMachine::Clear();
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep");
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep values");
+    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, kProductOptions, L"ProductSuite");
+    std::filesystem::remove("shared file");
+  }
+
+  static void Prepare(const Operation& operation) {
+    Clear();
+    const std::wstring list = operation.list;
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ, list.c_str(),
+                    static_cast<DWORD>((list.size() + 1) * sizeof(wchar_t)));
+    const DWORD number = 1;
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\kelvo sweep values", L"number", REG_DWORD,
+                    &number, sizeof(number));
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, kProductOptions, L"ProductSuite", REG_MULTI_SZ,
+                    L"kelvo suite\0", sizeof(L"kelvo suite\0"));
+    std::ofstream("shared file");
+  }
 
   // kFails: the chosen call fails. kEnds: it ends the run, like an ended process. kGoesOn: no call
   // fails, and the run begins with what the last one left.
   enum class How { kFails, kEnds, kGoesOn };
 
-  // Runs an operation in a library where nothing has run yet, and tells all that came of it;
-  // nothing when the table has no more.
-  std::string Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
+  // Runs an operation in a library where nothing has run yet, and tells all that came of it: what
+  // was written, the answer, what changed in the list and the stores, what is open, the journal and
+  // standard error. Nothing when the table has no more.
+  Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"sweep_operations.dll").c_str()));
     const auto* const operation =
         reinterpret_cast<const Operation*>(GetProcAddress(library.get(), "operations")) + index;
@@ -74,19 +150,16 @@ struct Machine {
     }
     name = operation->name;
     if (how != How::kGoesOn) {
-      RegistryWriteString(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName,
-                          operation->list);
-      RemoveTestCertificates();
+      Prepare(*operation);
     }
     std::filesystem::remove(journal);
-    std::filesystem::remove("shared file");
-    std::ofstream("shared file");
+    SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_RESULT",
+                            name.find("refused.inf") != std::string::npos ? L"5" : L"0");
     interception = {{}, {}, {}, chosen, how == How::kEnds, {}};
     written.clear();
     WatchImports(library.get(), kWatched);
-    interception.originals["GetProcAddress"] = reinterpret_cast<void*>(FindIntercepted);
-    interception.originals["GetModuleFileNameW"] = reinterpret_cast<void*>(NameSimulatedProgram);
-    interception.originals["WriteFile"] = reinterpret_cast<void*>(KeepWritten);
+    StandInForMachine();
+    static std::wstring answer;
     answer = L"ended";
     const OwnedKernelObject thread(CreateThread(
         nullptr, 0,
@@ -99,64 +172,136 @@ struct Machine {
     WaitForSingleObject(thread.get(), INFINITE);
     // Before the library is unloaded.
     calls = interception.calls;
-    transcript = interception.transcript;
-    // By name: handles come in any order.
-    std::multiset<std::string> names;
-    for (const auto& [handle, function] : interception.open) {
-      names.insert(" " + function);
-    }
-    const auto leftOpen = std::accumulate(names.begin(), names.end(), std::string());
-    const WString state =
-        FormatText(L"= %s [%s] [%s] [%s]", answer.c_str(), ReadApplicationList().c_str(),
-                   SubjectsInStore(L"TrustedPublisher").c_str(), SubjectsInStore(L"CA").c_str());
-    reached = written + Ascii(state.c_str());
-    std::string all = reached + leftOpen + "\r\n" + ReadBytes(journal) + ReadBytes(standardError);
-    // What is not text would make the file of expectations no text either.
-    std::ranges::replace_if(all, [](char byte) { return byte < '\n' || byte > '~'; }, '?');
-    return all;
+    return Collected(Ascii(answer), operation->list);
   }
 
-  std::string name;
-  std::map<std::string, int> calls;
-  std::string transcript;
-  // The lines, what was answered, the list and the stores.
-  std::string reached;
+  Lines Collected(const std::string& answer, const std::wstring& listBefore) {
+    std::string text = Joined("", written, "") + "= " + answer + "\n";
+    if (const std::wstring list = Applications(); list != listBefore) {
+      text += "list: " + Ascii(list) + "\n";
+    }
+    for (const wchar_t* store : {L"TrustedPublisher", L"CA"}) {
+      const std::wstring subjects = SubjectsInStore(store);
+      text += subjects.empty() ? "" : Ascii(store + (L": " + subjects)) + "\n";
+    }
+    reached = LinesOf(text);
+    // By name: handles come in any order.
+    std::multiset<std::string> open;
+    for (const auto& [handle, functions] : interception.open) {
+      open.insert("open " + functions.first);
+    }
+    return LinesOf(text + Joined("", open, "\n") + ReadBytes(journal) + ReadBytes(standardError));
+  }
+
+  static constexpr const wchar_t* kProductOptions =
+      L"System\\CurrentControlSet\\Control\\ProductOptions";
+  // First: it refuses every machine but a throw-away one.
   CleanMachine clean;
   ScratchFolder folder;
   std::filesystem::path journal = folder / "journal";
   std::filesystem::path standardError = folder / "standard error";
+  OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo sweep")};
+  std::string name;
+  std::map<std::string, int> calls;
+  // The lines, what was answered, the list and the stores.
+  Lines reached;
 };
 
-TEST_CASE("each call that fails has the consequences that stand in sweep.txt, and no others") {
-  Machine machine;
-  std::string seen;
-  std::string undisturbed;
-  std::string transcripts;
-  for (int index = 0; !(undisturbed = machine.Run(index, {})).empty(); ++index) {
-    // What came of it, and the calls whose failure leads there, in the order of the table.
-    std::vector<std::array<std::string, 2>> outcomes = {{undisturbed, ""}};
-    transcripts += "# " + machine.name + "\r\n\r\n" + machine.transcript + "\r\n";
-    const auto calls = machine.calls;
-    for (const auto& [function, made] : calls) {
-      for (int nth = 1; nth <= made; ++nth) {
-        const std::string outcome = machine.Run(index, {function, nth});
-        auto known = std::ranges::find(outcomes, outcome, [](auto& row) { return row[0]; });
-        if (known == outcomes.end()) {
-          known = outcomes.insert(known, {outcome, ""});
-        }
-        // How often memory is asked for is the compiler's business.
-        const std::string call =
-            " " + function + (function == "malloc" ? "" : "-" + std::to_string(nth));
-        known->at(1) += known->at(1).ends_with(" malloc") ? "" : call;
-      }
+// Continues on the next line where a line would be longer than 120 columns.
+static void Append(std::string& text, const std::string& more) {
+  const std::size_t column = text.size() - (text.rfind('\n') + 1);
+  text += (column + std::min(more.find('\r'), more.size()) > 120 ? "\r\n " : "") + more;
+}
+
+// A report line that one of these cannot look for, format or write is left out.
+const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
+const std::string kNoChange = " no change\r\n";
+
+// The numbers of the lines that are not in `after`, and the new lines, each with the number of the
+// line that it comes behind.
+static std::string Changes(const Lines& before, const Lines& after) {
+  std::string without;
+  std::string added;
+  auto at = after.begin();
+  const auto add = [&](auto end, std::size_t line) {
+    for (; at != end; ++at) {
+      added += "+" + std::to_string(line) + " " + *at + "\r\n";
     }
-    seen += "# " + machine.name + "\r\n\r\n";
-    for (const auto& [outcome, failed] : outcomes) {
-      seen += ">" + failed + "\r\n" + outcome + "\r\n";
+  };
+  for (std::size_t line = 0; line < before.size(); ++line) {
+    const auto same = std::find(at, after.end(), before[line]);
+    if (same == after.end()) {
+      without += (without.empty() ? " without " : " ") + std::to_string(line + 1);
+    } else {
+      add(same, line);
+      ++at;
     }
   }
+  add(after.end(), before.size());
+  return before == after ? kNoChange : without + "\r\n" + added;
+}
+
+// Without memory, an operation ends with an exception after a beginning of its lines, with the old
+// list or the new one, and leaves nothing else behind.
+static void CheckException(const Lines& undisturbed, const Lines& outcome) {
+  const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
+  CHECK((first != outcome.end() && *first == "= an exception"));
+  Lines most = undisturbed;
+  std::ranges::replace_if(
+      most, [](auto& line) { return line.starts_with("= "); }, "= an exception");
+  const std::string changes = Changes(most, outcome);
+  CHECK(changes.substr(changes.find('\n')) == "\n");
+}
+
+TEST_CASE("a failing call has the consequences that rules or sweep.txt name, and no others") {
+  Machine machine;
+  std::string seen;
+  std::set<std::string> shown;
+  Lines undisturbed;
+  for (int index = 0; !(undisturbed = machine.Run(index, {})).empty(); ++index) {
+    shown.merge(interception.shown);
+    const int lineCount = static_cast<int>(written.size());
+    const auto calls = machine.calls;
+    // What came of failing calls, and these.
+    std::vector<std::pair<Lines, std::string>> outcomes;
+    std::set<Lines> withoutLine;
+    for (const auto& [function, made] : calls) {
+      for (int nth = 1; nth <= made; ++nth) {
+        INFO(machine.name, ": ", function, "-", nth, " of\n", Joined("", undisturbed, "\n"));
+        const Lines outcome = machine.Run(index, {function, nth});
+        auto known = std::ranges::find(outcomes, outcome, [](auto& row) { return row.first; });
+        if (std::ranges::find(kWatched, function, &Watched::name)->closes) {
+          CHECK(Changes(undisturbed, outcome) == kNoChange);
+        } else if (kReporting.find(function) != std::string::npos && nth <= lineCount) {
+          Lines expected = undisturbed;
+          expected.erase(expected.begin() + nth - 1);
+          CHECK(Changes(expected, outcome) == kNoChange);
+          withoutLine.insert(expected);
+        } else if (function != "malloc") {
+          known = known != outcomes.end() ? known : outcomes.insert(known, {outcome, "when"});
+          std::string& failed = known->second;
+          const bool isFirst = failed.find(" " + function + "-") == std::string::npos;
+          Append(failed, (isFirst ? " " + function + "-" : " ") + std::to_string(nth));
+        } else if ((known == outcomes.end() || outcome == undisturbed) &&
+                   !withoutLine.contains(outcome)) {
+          CheckException(undisturbed, outcome);
+        }
+      }
+    }
+    seen += "# " + machine.name + (lineCount > 0 ? "" : Joined(" ", undisturbed, "")) + "\r\n";
+    int number = 0;
+    for (const std::string& line : lineCount > 0 ? undisturbed : Lines()) {
+      seen += std::to_string(++number) + " " + line + "\r\n";
+    }
+    for (auto& [outcome, failed] : outcomes) {
+      const bool isShort = lineCount == 0 && outcome != undisturbed;
+      Append(failed, isShort ? Joined(" ", outcome, "") + "\r\n" : Changes(undisturbed, outcome));
+      seen += failed;
+    }
+    seen += "\r\n";
+  }
   CheckAgainstFile(seen, L"sweep.txt");
-  CheckAgainstFile(transcripts, L"calls.txt");
+  CheckAgainstFile(Joined("", shown, "\r\n"), L"calls.txt");
 }
 
 TEST_CASE("a command that is ended at any call leaves what its next run completes") {
@@ -168,10 +313,13 @@ TEST_CASE("a command that is ended at any call leaves what its next run complete
       // Ended where memory is asked for, a run keeps the C runtime's locks.
       for (int nth = 1; nth <= made && function != "malloc"; ++nth) {
         INFO(function, "-", nth);
-        machine.Run(index, {function, nth}, Machine::How::kEnds);
-        REQUIRE(answer == L"ended");
+        const Lines ended = machine.Run(index, {function, nth}, Machine::How::kEnds);
+        REQUIRE(std::ranges::count(ended, "= ended") == 1);
+        // The service is there only for an application that is recorded.
+        const bool isServiceSet = ended.back().starts_with("BluetoothSetLocalServiceInfo ");
+        CHECK((!isServiceSet || std::ranges::count(ended, "list: kite;brindle") == 1));
         machine.Run(index, {}, Machine::How::kGoesOn);
-        CHECK(machine.reached == expected);
+        CHECK(Changes(expected, machine.reached) == kNoChange);
       }
     }
   }

@@ -1,5 +1,6 @@
 #include "tool/driver_privilege.h"
 
+#include "tests/support/shown_arguments.h"
 #include "tests/support/testing.h"
 
 TEST_CASE("the last error after the adjustment tells whether the privilege is enabled") {
@@ -12,7 +13,10 @@ TEST_CASE("the last error after the adjustment tells whether the privilege is en
        {Row{ERROR_NOT_ALL_ASSIGNED, false, "ERR: OpenProcessToken failed, err = 00000514\r\n"},
         Row{ERROR_SUCCESS, true, ""}}) {
     std::string written;
-    REPLACE(AdjustTokenPrivileges, [&](auto...) { return SetLastError(error), TRUE; });
+    REPLACE(AdjustTokenPrivileges, [&](auto, auto, auto, TOKEN_PRIVILEGES* asked, auto...) {
+      CHECK(Shown(asked) == "SeLoadDriverPrivilege attributes 2");
+      return SetLastError(error), TRUE;
+    });
     // Closing the token must not hide it.
     REPLACE(CloseHandle, [&](auto original, HANDLE handle) {
       return original(handle), SetLastError(ERROR_INVALID_HANDLE), TRUE;
