@@ -1,4 +1,4 @@
-# What may include what: cmake -D root=... -P check_includes.cmake
+# What may include what: cmake -D source_folder=... -P check_includes.cmake
 cmake_minimum_required(VERSION 3.25)
 
 # Each facility of the library with those that it may stand on.
@@ -16,18 +16,18 @@ set(ui platform string registry sysinfo security)
 
 set(patterns "")
 foreach(room lib tool status simulator examples benchmarks tests)
-  list(APPEND patterns ${root}/${room}/*.h ${root}/${room}/*.cpp ${root}/${room}/*.c)
+  list(APPEND patterns ${source_folder}/${room}/*.h ${source_folder}/${room}/*.cpp ${source_folder}/${room}/*.c)
 endforeach()
-file(GLOB_RECURSE files RELATIVE ${root} ${patterns})
+file(GLOB_RECURSE files RELATIVE ${source_folder} ${patterns})
 list(LENGTH files count)
 if(count LESS 100)
-  message(FATAL_ERROR "only ${count} sources below ${root}")
+  message(FATAL_ERROR "only ${count} sources below ${source_folder}")
 endif()
 foreach(file ${files})
   string(REGEX MATCH "^([a-z]+)/([a-z]+)" place ${file})
   set(room ${CMAKE_MATCH_1})
   set(facility ${CMAKE_MATCH_2})
-  file(STRINGS ${root}/${file} includes REGEX "^#include \"")
+  file(STRINGS ${source_folder}/${file} includes REGEX "^#include \"")
   foreach(include ${includes})
     string(REGEX MATCH "\"([a-z]+)/(([a-z]+)/)?(internal/)?" place ${include})
     set(other_room ${CMAKE_MATCH_1})
@@ -47,7 +47,7 @@ foreach(file ${files})
 endforeach()
 
 # The library's page has each public header once, and no other.
-file(STRINGS ${root}/docs/library.md rows REGEX "\\(\\.\\./lib/")
+file(STRINGS ${source_folder}/docs/library.md rows REGEX "\\(\\.\\./lib/")
 list(TRANSFORM rows REPLACE ".*\\(\\.\\./(lib/[^)]*)\\).*" "\\1")
 list(FILTER files INCLUDE REGEX "^lib/[a-z]+/[a-z0-9_]+[.]h$")
 list(SORT rows)
