@@ -56,7 +56,7 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
   const ScratchKey key;
   wchar_t old[] = L"old";
   CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", old, 4) == 0);
-  CHECK(old == std::wstring());
+  CHECK(std::wstring(old) == L"");
   for (const auto& [type, stored, length, expected] : rows) {
     StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored);
     CAPTURE(stored);

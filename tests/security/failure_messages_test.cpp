@@ -1,3 +1,10 @@
+#include <aclapi.h>
+
+#include <functional>
+#include <map>
+
+#include "lib/process/interactive_desktop.h"
+#include "lib/process/run_as_user.h"
 #include "lib/security/access_control_entry.h"
 #include "lib/security/access_control_list.h"
 #include "lib/security/canonical_order.h"
@@ -7,9 +14,37 @@
 #include "lib/security/token_object_access.h"
 #include "lib/security/token_privileges.h"
 #include "lib/security/window_object_access.h"
-#include "tests/security/recorded_failures.h"
+#include "lib/string/format_text.h"
+#include "lib/trace/trace_sink.h"
+#include "tests/security/test_acl.h"
+#include "tests/support/failing_call.h"
 
+constexpr FailingCall kWatched[] = {
+    SETS_LAST_ERROR(OpenProcessToken), SETS_LAST_ERROR(GetTokenInformation),
+    SETS_LAST_ERROR(AdjustTokenPrivileges), SETS_LAST_ERROR(GetUserObjectInformationW),
+    SETS_LAST_ERROR(HeapAlloc), SETS_LAST_ERROR(LocalAlloc), SETS_LAST_ERROR(CopySid),
+    RETURNS_ERROR(GetSecurityInfo), SETS_LAST_ERROR(GetAclInformation), SETS_LAST_ERROR(GetAce),
+    SETS_LAST_ERROR(InitializeAcl), SETS_LAST_ERROR(AddAce), RETURNS_ERROR(SetSecurityInfo),
+    SETS_LAST_ERROR(InitializeSecurityDescriptor), SETS_LAST_ERROR(GetKernelObjectSecurity),
+    SETS_LAST_ERROR(GetSecurityDescriptorDacl), SETS_LAST_ERROR(GetUserNameW),
+    RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
+    SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
+    SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
+    // Last: when it fails to restore the station, that is lost.
+    SETS_LAST_ERROR(SetProcessWindowStation)};
+
+// The operation under test and what it has traced, without the traces of others that it calls.
+static std::wstring operation, traced;
+
+// Makes each call that an operation makes to these functions fail, and then throw, one at a time.
+// As a rule the operation then fails and names a call that failed, but not one that threw; a last
+// message comes from its clean-up, except where it fails at once. failure_messages.txt has each
+// outcome of each operation with the first call of each function that leads to it.
 TEST_CASE("each failing call has its message, then the operation its own") {
+  // In place of the interactive station, which everybody shares.
+  const DesktopScope standIn(L"kelvo stand-in", L"Default");
+  REPLACE(OpenWindowStationW,
+          [](auto original, auto, auto... rest) { return original(L"kelvo stand-in", rest...); });
   const WindowObjects scope;
   const OwnedKernelObject token = OwnToken();
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
@@ -23,45 +58,87 @@ TEST_CASE("each failing call has its message, then the operation its own") {
   const PSID sids[] = {&invalid};
   const wchar_t* const names[] = {L"SeNoSuchPrivilege", nullptr};
   DWORD count = 0;
+  wchar_t command[] = L"no such program";
   const auto allowAll = [&](HANDLE object, SE_OBJECT_TYPE type, const wchar_t* name) {
     return AllowTokenFullAccessToObject(token.get(), object, type, name);
   };
-  const std::wstring seen = RecordFailures(
-      {SETS_LAST_ERROR(GetTokenInformation), SETS_LAST_ERROR(HeapAlloc),
-       SETS_LAST_ERROR(LocalAlloc), SETS_LAST_ERROR(CopySid), RETURNS_ERROR(GetSecurityInfo),
-       SETS_LAST_ERROR(GetAclInformation), SETS_LAST_ERROR(GetAce), SETS_LAST_ERROR(InitializeAcl),
-       SETS_LAST_ERROR(AddAce), RETURNS_ERROR(SetSecurityInfo),
-       SETS_LAST_ERROR(GetKernelObjectSecurity), SETS_LAST_ERROR(GetSecurityDescriptorDacl),
-       SETS_LAST_ERROR(GetUserNameW), RETURNS_ERROR(SetEntriesInAclW),
-       SETS_LAST_ERROR(MakeAbsoluteSD), SETS_LAST_ERROR(SetSecurityDescriptorDacl),
-       SETS_LAST_ERROR(SetKernelObjectSecurity)},
-      {{L"FindACEInACL", [&] { return FindACEInACL(list.acl, ace.get()) == 0; }},
-       {L"CopyACL", [&] { return CopyACL(TestAcl({}, 40).acl, list.acl); }},
-       {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, audit.get()) == 0; }},
-       {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, ace.get()) == 0; }},
-       {L"CalculateACLSize", [&] { return CalculateACLSize(list.acl, sids, 1, nullptr, 0); }},
-       {L"AllocateACE", [&] { return AllocateACE(0, 0, 1, &ace.sid); }},
-       {L"DeleteDenyACEofObject",
-        [&] { return DeleteDenyACEofObject(&ace.sid, scope.desktop, SE_WINDOW_OBJECT); }},
-       {L"AllowAccessToWinSta", [&] { return AllowAccessToWinSta(&ace.sid, scope.station); }},
-       {L"AllowAccessToDesktop", [&] { return AllowAccessToDesktop(&ace.sid, scope.desktop); }},
-       {L"GetFromToken", [&] { return GetFromToken(token.get(), TokenUser); }},
-       {L"CreateTokenPriv", [&] { return CreateTokenPriv(&count, names, FALSE); }},
-       {L"AllowTokenFullAccessToObject",
-        [&] { return allowAll(scope.desktop, SE_WINDOW_OBJECT, L"Desktop"); }},
-       {L"AllowTokenFullAccessToObject",
-        [&] { return allowAll(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
-       {L"AllowTokenFullAccessToObject",
-        [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
-       // Last: the object's list grows.
-       {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }}},
-      [&] {
-        // A token's groups are many already.
-        ACL* const dacl = operation == L"AllowTokenFullAccessToObject" ? few.acl : many.acl;
-        for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
-          SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
-                          dacl, nullptr);
+  const std::pair<const wchar_t*, std::function<bool()>> operations[] = {
+      {L"FindACEInACL", [&] { return FindACEInACL(list.acl, ace.get()) == 0; }},
+      {L"CopyACL", [&] { return CopyACL(TestAcl({}, 40).acl, list.acl); }},
+      {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, audit.get()) == 0; }},
+      {L"GetACEInsertionIndex", [&] { return GetACEInsertionIndex(list.acl, ace.get()) == 0; }},
+      {L"CalculateACLSize", [&] { return CalculateACLSize(list.acl, sids, 1, nullptr, 0); }},
+      {L"AllocateACE", [&] { return AllocateACE(0, 0, 1, &ace.sid); }},
+      {L"DeleteDenyACEofObject",
+       [&] { return DeleteDenyACEofObject(&ace.sid, scope.desktop, SE_WINDOW_OBJECT); }},
+      {L"AllowAccessToWinSta", [&] { return AllowAccessToWinSta(&ace.sid, scope.station); }},
+      {L"AllowAccessToDesktop", [&] { return AllowAccessToDesktop(&ace.sid, scope.desktop); }},
+      {L"GetFromToken", [&] { return GetFromToken(token.get(), TokenUser); }},
+      {L"CreateTokenPriv", [&] { return CreateTokenPriv(&count, names, FALSE); }},
+      {L"AllowTokenFullAccessToObject",
+       [&] { return allowAll(scope.desktop, SE_WINDOW_OBJECT, L"Desktop"); }},
+      {L"AllowTokenFullAccessToObject",
+       [&] { return allowAll(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
+      {L"AllowTokenFullAccessToObject",
+       [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
+      // The object's list grows.
+      {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }},
+      {L"RunAsUser", [&] { return IsOnInteractiveDesktop(); }},
+      {L"RunAsUser", [&] { return RunAsUser(command, TRUE, nullptr); }}};
+  SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
+    const std::wstring text = tag == std::wstring(L"RunAsEx") ? message : L"a wrong tag";
+    traced += text.starts_with(operation + L" ") ? L"," + text.substr(operation.length()) : L"";
+    throw 1;  // is the sink's own trouble
+  });
+  std::map<std::wstring, std::map<std::wstring, std::wstring>> outcomes;
+  for (const auto& [name, succeeds] : operations) {
+    operation = name;
+    const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
+      // A restoring call may have been the one that failed.
+      SetProcessWindowStation(scope.station);
+      SetThreadDesktop(scope.desktop);
+      for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
+        SetSecurityInfo(object, SE_WINDOW_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr,
+                        operation.starts_with(L"AllowAccess") ? many.acl : few.acl, nullptr);
+      }
+      traced.clear();
+      bool succeeded = false;
+      const bool wasReached = failing.run(nth, throws, [&] { succeeded = succeeds(); });
+      if (!wasReached && succeeded) {
+        return false;
+      }
+      std::wstring outcome = succeeded ? L"succeeds" : L"fails at once";
+      const std::wstring cleanUp = L", exception caught in __finally";
+      if (!succeeded && traced.ends_with(cleanUp)) {
+        outcome = L"fails";
+        traced.erase(traced.length() - cleanUp.length());
+      }
+      const WString named = throws ? L"" : FormatText(L", %hs Failed", failing.function);
+      const bool isRule = wasReached && !succeeded && traced == named.c_str();
+      outcome += isRule ? L" as a rule" : traced;
+      std::wstring& calls = outcomes[name][outcome + (wasReached && throws ? L" (thrown)" : L"")];
+      const WString call = FormatText(L" %hs-", failing.function);
+      if (wasReached && calls.find(call.c_str()) == std::wstring::npos) {
+        calls += call.c_str() + std::to_wstring(nth);
+      }
+      return wasReached;
+    };
+    for (const FailingCall& failing : kWatched) {
+      for (const bool throws : {false, true}) {
+        for (int nth = 1; isReached(failing, nth, throws); ++nth) {
         }
-      });
+      }
+    }
+  }
+  SetTraceSink(nullptr);
+  TraceMessage(L"nobody", L"listens");
+  std::wstring seen;
+  for (const auto& [name, ofName] : outcomes) {
+    seen += name + L"\n";
+    for (const auto& [outcome, calls] : ofName) {
+      const bool isLong = outcome.length() + calls.length() > 115;
+      seen += L"    " + outcome + (isLong ? L":\n       " : L":") + calls + L"\n";
+    }
+  }
   CheckAgainstFile(Ascii(seen), L"failure_messages.txt");
 }

@@ -87,10 +87,10 @@ TEST_CASE("the browser's file is looked for in the system directory, its name ke
   });
   CHECK_FALSE(IsIEVersionAtLeast(nullptr, {0, 0, 0, 0}));
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
-  CHECK(text == std::wstring(L"not available"));
-  CHECK(GetIEVersionName(nullptr, {5, 50, 4134, 601}) == std::wstring());
-  CHECK(GetIEVersionName(nullptr, {5, 50, 4134, 600}) == std::wstring(L"Internet Explorer 5.5"));
-  CHECK(GetIEVersionName(nullptr, {6, 0, 0, 0}) == std::wstring(L"Internet Explorer 5.5"));
+  CHECK(std::wstring(text) == L"not available");
+  CHECK(WString(GetIEVersionName(nullptr, {5, 50, 4134, 601})) == L"");
+  CHECK(WString(GetIEVersionName(nullptr, {5, 50, 4134, 600})) == L"Internet Explorer 5.5");
+  CHECK(WString(GetIEVersionName(nullptr, {6, 0, 0, 0})) == L"Internet Explorer 5.5");
 }
 
 TEST_CASE("the common controls tell their version, or are 4.0 when they cannot") {
