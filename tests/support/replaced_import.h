@@ -28,11 +28,13 @@ void VisitImports(HMODULE module, Visit visit) {
   const auto* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(
       image + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
   for (; library->Name != 0; ++library) {
-    // mingw's import libraries align pointers at 4 bytes only: they are copied out and in.
-    ULONG_PTR name = 0;
-    for (DWORD at = 0;
-         std::memcpy(&name, image + library->OriginalFirstThunk + at, sizeof(name)), name != 0;
-         at += sizeof(name)) {
+    for (DWORD at = 0;; at += sizeof(ULONG_PTR)) {
+      // mingw's import libraries align pointers at 4 bytes only: they are copied out and in.
+      ULONG_PTR name = 0;
+      std::memcpy(&name, image + library->OriginalFirstThunk + at, sizeof(name));
+      if (name == 0) {
+        break;
+      }
       if (!IMAGE_SNAP_BY_ORDINAL(name) &&
           visit(reinterpret_cast<const char*>(image + library->Name),
                 std::string(reinterpret_cast<IMAGE_IMPORT_BY_NAME*>(image + name)->Name),

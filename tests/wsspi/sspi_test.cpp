@@ -24,9 +24,12 @@ TEST_CASE("the interface is tried again after each failure and loaded once") {
   };
   CHECK(fails(47, 2));
   isMissing = false;
-  CHECK((ReplacedExport("InitSecurityInterfaceW", nullptr), fails(59, 5)));
-  CHECK(
-      (ReplacedExport("InitSecurityInterfaceW", +[]() -> void* { return nullptr; }), fails(63, 5)));
+  const auto giveNothing = +[]() -> void* { return nullptr; };
+  for (const auto& [function, line] :
+       {std::pair{decltype(giveNothing){}, 59U}, {giveNothing, 63U}}) {
+    const ReplacedExport initialize("InitSecurityInterfaceW", function);
+    CHECK(fails(line, 5));
+  }
   wsspi::SspiInitialize();
   wsspi::SspiInitialize();
   CHECK_BOTH(wsspi::IsSspiInitialized(), loads == 4);
