@@ -118,7 +118,8 @@ struct Machine {
     RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep");
     RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep values");
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, kProductOptions, L"ProductSuite");
-    std::filesystem::remove("shared file");
+    SetFileAttributesW(L"shared file", FILE_ATTRIBUTE_NORMAL);
+    DeleteFileW(L"shared file");
   }
 
   static void Prepare(const Operation& operation) {
