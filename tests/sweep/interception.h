@@ -68,12 +68,13 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  std::string call = closes || handles == Handles::kLeftOut ? "" : ShownCall(name, given...);
+  // The C runtime's own calls are not Windows'.
+  const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
+  std::string call = isShown ? ShownCall(name, given...) : "";
   if (handles == Handles::kEndsInSize) {
     call.replace(call.rfind(',') + 2, std::string::npos, "size)");
   }
-  // The C runtime's own calls are not Windows'.
-  if (std::isupper(*name) != 0 && call.find_first_of("123456789'") != std::string::npos) {
+  if (call.find_first_of("123456789'") != std::string::npos) {
     shown.insert(call);
   }
   if (fails && ends) {

@@ -65,10 +65,11 @@ WString IsThere(const WString& text) {
 }
 
 WString AllowEvent() {
-  SECURITY_ATTRIBUTES emptyList = {sizeof(emptyList), nullptr, FALSE};
-  ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:", SDDL_REVISION_1,
-                                                       &emptyList.lpSecurityDescriptor, nullptr);
-  const OwnedKernelObject event(CreateEventW(&emptyList, FALSE, FALSE, nullptr));
+  OwnedLocalMemory<void> emptyList;
+  ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:", SDDL_REVISION_1, emptyList.Receive(),
+                                                       nullptr);
+  SECURITY_ATTRIBUTES attributes = {sizeof(attributes), emptyList.get(), FALSE};
+  const OwnedKernelObject event(CreateEventW(&attributes, FALSE, FALSE, nullptr));
   const BOOL answer = ModifySecurity(event.get(), SYNCHRONIZE);
   DWORD size = 0;
   GetKernelObjectSecurity(event.get(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
@@ -76,10 +77,11 @@ WString AllowEvent() {
 }
 
 WString AllowDesktop() {
-  static const HDESK desktop =
-      CreateDesktopW(L"kelvo sweep", nullptr, nullptr, 0, GENERIC_ALL, nullptr);
-  return Text(AllowTokenFullAccessToObject(GetCurrentProcessToken(), desktop, SE_WINDOW_OBJECT,
-                                           L"Desktop"));
+  HDESK const desktop = CreateDesktopW(L"kelvo sweep", nullptr, nullptr, 0, GENERIC_ALL, nullptr);
+  const BOOL answer =
+      AllowTokenFullAccessToObject(GetCurrentProcessToken(), desktop, SE_WINDOW_OBJECT, L"Desktop");
+  CloseDesktop(desktop);
+  return Text(answer);
 }
 
 WString CountPrivileges() {

@@ -55,14 +55,17 @@ static void StandInForMachine() {
     return static_cast<DWORD>(ProgramPath(L"simulator\\sorrel.exe").copy(path, size - 1));
   });
   STAND_IN(GetComputerNameExW, [](auto, LPWSTR name, auto...) -> BOOL {
-    return lstrcpyW(name, L"full name") != nullptr;
+    lstrcpyW(name, L"full name");
+    return TRUE;
   });
   STAND_IN(GetUserNameExW, [](auto, LPWSTR name, auto...) -> BOOLEAN {
-    return lstrcpyW(name, L"full name") != nullptr;
+    lstrcpyW(name, L"full name");
+    return TRUE;
   });
-  STAND_IN(WTSQuerySessionInformationW, [](auto, auto, auto, LPWSTR* name, auto) {
+  STAND_IN(WTSQuerySessionInformationW, [](auto, auto, auto, LPWSTR* name, auto) -> BOOL {
     *name = static_cast<LPWSTR>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, 99));
-    return *lstrcpyW(*name, L"client") != 0 ? TRUE : FALSE;
+    lstrcpyW(*name, L"client");
+    return TRUE;
   });
   // A process that has ended: Wine now and then fails to start one.
   static constexpr auto kStart = [](auto... given) -> BOOL {
