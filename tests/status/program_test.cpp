@@ -41,24 +41,17 @@ struct Machine {
   ~Machine() { RemovePublished(); }
 
   static void RemovePublished() {
+    std::error_code ignored;
     for (const wchar_t* const file : {L"oem6.inf", L"oem8.inf", L"oem9.inf"}) {
-      std::filesystem::remove(kInfFolder + file);
+      std::filesystem::remove(kInfFolder + file, ignored);
     }
   }
 
   CleanMachine clean;
-  ProgramFolder folder{
-      {L"sorrel.exe", L"sorrel.exe"},
-      {L"sorrel_status.exe", L"sorrel_status.exe"},
-      {L"simulator\\bthprops.cpl", L"bthprops.cpl"},
-      {L"simulator\\difxapi.dll", L"difxapi.dll"},
-      {L"certificates\\binary.cer", L"binary.cer"},
-      {L"certificates\\base64.cer", L"base64.cer"},
-      {L"certificates\\bundle.p7b", L"bundle.p7b"},
-      {L"sorrel_status.exe", L"alone\\sorrel_status.exe"},
-      {L"sorrel_status.exe", L"versioned\\sorrel_status.exe"},
-      {L"sorrel.exe", L"versioned\\difxapi.dll"},
-  };
+  ProgramFolder folder{{L"sorrel_status.exe", L"sorrel_status.exe"},
+                       {L"sorrel_status.exe", L"alone\\sorrel_status.exe"},
+                       {L"sorrel_status.exe", L"versioned\\sorrel_status.exe"},
+                       {L"sorrel.exe", L"versioned\\difxapi.dll"}};
 };
 
 static void StoreList(DWORD type, const std::wstring& list) {

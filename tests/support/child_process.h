@@ -49,13 +49,18 @@ inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = n
   return {exitCode, ReadBytes(folder / "output"), ReadBytes(folder / "errors")};
 }
 
-// A folder with copies of programs and of what they use, the current one while this lives. A copy
-// is named by its path in the folder of this test program and its path in the new folder.
+// A folder with sorrel.exe, the simulator's libraries and certificates, the current one while this
+// lives, and further copies: the path in the folder of this test program, then in the new folder.
 struct ProgramFolder : ScratchFolder {
-  ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> copies) {
-    for (const auto& [program, name] : copies) {
+  ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {
+    for (const wchar_t* const file :
+         {L"sorrel.exe", L"simulator\\bthprops.cpl", L"simulator\\difxapi.dll",
+          L"certificates\\binary.cer", L"certificates\\base64.cer", L"certificates\\bundle.p7b"}) {
+      Copy(file, std::filesystem::path(file).filename());
+    }
+    for (const auto& [file, name] : further) {
       std::filesystem::create_directories((path / name).parent_path());
-      std::filesystem::copy_file(ProgramPath(program), path / name);
+      Copy(file, name);
     }
     std::filesystem::current_path(path / "");
   }
@@ -65,6 +70,10 @@ struct ProgramFolder : ScratchFolder {
   static ChildResult Run(const std::wstring& commandLine) {
     const std::filesystem::path program = commandLine.substr(0, commandLine.find(L' '));
     return RunChild(commandLine, absolute(program).c_str());
+  }
+
+  void Copy(const wchar_t* file, const std::filesystem::path& name) const {
+    std::filesystem::copy_file(ProgramPath(file), path / name);
   }
 };
 

@@ -48,40 +48,29 @@ struct Rehearsal {
   }
 
   CleanMachine machine;
-  ProgramFolder folder{
-      {L"sorrel.exe", L"sorrel.exe"},
-      {L"simulator\\bthprops.cpl", L"bthprops.cpl"},
-      {L"simulator\\difxapi.dll", L"difxapi.dll"},
-      {L"certificates\\binary.cer", L"binary.cer"},
-      {L"certificates\\base64.cer", L"base64.cer"},
-      {L"certificates\\bundle.p7b", L"bundle.p7b"},
-      {L"sorrel.exe", L"alone\\sorrel.exe"},
-      {L"sorrel.exe", L"swapped\\sorrel.exe"},
-      {L"simulator\\bthprops.cpl", L"swapped\\difxapi.dll"},
-      {L"simulator\\difxapi.dll", L"swapped\\bthprops.cpl"},
-      {L"sorrel.exe", L"without_security.exe"},
-      {L"sorrel.exe", L"without_crypt32.exe"},
-  };
+  ProgramFolder folder{{L"sorrel.exe", L"alone\\sorrel.exe"},
+                       {L"sorrel.exe", L"swapped\\sorrel.exe"},
+                       {L"simulator\\bthprops.cpl", L"swapped\\difxapi.dll"},
+                       {L"simulator\\difxapi.dll", L"swapped\\bthprops.cpl"},
+                       {L"sorrel.exe", L"without_security.exe"},
+                       {L"sorrel.exe", L"without_crypt32.exe"}};
 };
 
 TEST_CASE("sorrel.exe writes, returns, calls and leaves what transcript.txt says") {
   const Rehearsal machine;
-  std::istringstream transcript(ReadBytes(ProgramPath(L"expected\\transcript.txt")));
-  // As an editor of whatever system ends a line.
-  const auto readLine = [&](std::string& line) {
-    const bool isThere = static_cast<bool>(std::getline(transcript, line));
-    line.erase(std::min(line.find('\r'), line.size()));
-    return isThere;
-  };
+  // An editor of whatever system may have ended its lines.
+  std::string bytes = ReadBytes(ProgramPath(L"expected\\transcript.txt"));
+  std::erase(bytes, '\r');
+  std::istringstream transcript(bytes);
   // The lines that are written once, under a name, and the name: "@NAME:", lines, an empty line.
   std::vector<std::pair<std::string, std::string>> named;
   std::string seen;
-  for (std::string line; readLine(line);) {
+  for (std::string line; std::getline(transcript, line);) {
     if (line.starts_with("# ")) {
       seen += line + "\r\n\r\n";
     } else if (line.starts_with("@") && line.ends_with(":")) {
       std::string text;
-      for (std::string next; readLine(next) && !next.empty();) {
+      for (std::string next; std::getline(transcript, next) && !next.empty();) {
         text += next + "\r\n";
       }
       REQUIRE_FALSE(text.empty());
