@@ -1,3 +1,4 @@
+#include "lib/platform/module.h"
 #include "lib/sysinfo/computer_name.h"
 #include "lib/sysinfo/system_directories.h"
 #include "lib/sysinfo/user_name.h"
@@ -46,6 +47,8 @@ TEST_CASE("directories end in one separator and fit their buffers") {
 }
 
 TEST_CASE("names have the format asked for; plain ones stand in for account and computer") {
+  // Wine takes long to load it for each name.
+  const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
   const auto tell = [](auto, wchar_t* name, DWORD* size) {
     return TellDirectory(name, *size) < *size ? TRUE : FALSE;
   };

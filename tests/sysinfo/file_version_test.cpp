@@ -99,6 +99,7 @@ TEST_CASE("the common controls tell their version, or are 4.0 when they cannot")
     *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};
     return result;
   };
+  const OwnedModule kept(LoadLibraryW(L"comctl32.dll"));
   DWORD major = 77, minor = 77;
   {
     const ReplacedExport version("DllGetVersion", tell);
