@@ -12,9 +12,11 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
   const ReplacedExport describe(
       "GetMonitorInfoA", +[](HMONITOR monitor, MONITORINFO* info) -> BOOL {
         const auto number = static_cast<LONG>(reinterpret_cast<INT_PTR>(monitor));
-        const DWORD size = info->cbSize;
+        if (info->cbSize != 40) {
+          return FALSE;
+        }
         *info = {40, {number, 1, 2, 40}, {number, 11, 12, 13}, 0};
-        return size == 40;
+        return TRUE;
       });
   MONITORINFO primary{40, {}, {}, 0};
   GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &primary);
