@@ -12,11 +12,6 @@ TEST_CASE("a part of a text ends where the text does; bytes are two digits each"
   CHECK(BytesToHex(nullptr, 3) == L"");
 }
 
-TEST_CASE("tokens are counted as they are read") {
-  CHECK_BOTH(CountTokens(L";a;;b", L";", true) == 2, CountTokens(L";a;;b", L";", false) == 4);
-  CHECK_BOTH(CountTokens(L"a;b", L"", true) == 1, CountTokens(L"", L"", true) == 0);
-}
-
 TEST_CASE("replacing takes arguments that lie in the text, and none that is too long") {
   WString text = L"a-b-ab";
   CHECK(ReplaceAll(text, text.c_str() + 4, text.c_str() + 2) == 1);

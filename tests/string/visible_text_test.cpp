@@ -4,13 +4,7 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("text is shown in UTF-8, what acts on a terminal as its number") {
-  struct Row {
-    std::wstring text;
-    std::string utf8;
-    std::string visible;
-    std::size_t columns;
-  };
-  const Row rows[] = {
+  const std::tuple<std::wstring, std::string, std::string, std::size_t> rows[] = {
       {L"", "", "", 0},
       {L"a \u00E9\u0416\u20AC", "a \xC3\xA9\xD0\x96\xE2\x82\xAC", "a \xC3\xA9\xD0\x96\xE2\x82\xAC",
        5},

@@ -38,36 +38,28 @@ TEST_CASE("the exact file is found, or the nearest that is there") {
   CHECK(GetLocalisedFilePath(nullptr, L"a", 0x0407, kSuffix) == L"a_de-DE");
   CHECK(GetLocalisedFilePath(L"C:\\x", L"a", 0xFFFF, kSuffix) == L"");
   CHECK(GetLocalisedFilePath(L"C:\\x", nullptr, 0x0407, kSuffix) == L"");
-  // What is made one after the other, and what is then found for German (Germany).
-  struct Step {
-    const wchar_t* path;
-    bool isFolder;
-    LocalisedFileForm form;
-    const wchar_t* found;
-  };
-  const Step steps[] = {
-      {L"a.b_nonsense name.dll", false, kSuffix, L""},
-      {L"a.b_de-DE.dll", true, kSuffix, L""},
-      {L"a.b_ja-JP.dllx", false, kSuffix, L""},
-      {L"A.B_ja-JP.DLL", false, kSuffix, L"a.b_ja-JP.dll"},
-      {L"a.b_es-US.dll", false, kSuffix, L"a.b_es-US.dll"},
-      {L"a.b_da-DK.dll", false, kSuffix, L"a.b_da-DK.dll"},
-      {L"a.b_en-GB.dll", false, kSuffix, L"a.b_en-GB.dll"},
-      {L"a.b_en-US.dll", false, kSuffix, L"a.b_en-US.dll"},
-      {L"a.b_de-CH.dll", false, kSuffix, L"a.b_de-CH.dll"},
-      {L"a.b_de-AT.dll", false, kSuffix, L"a.b_de-AT.dll"},
-      {L"resources\\de-CH", true, kFolder, L""},
-      {L"resources\\en-US\\a.b.dll", false, kFolder, L"resources\\en-US\\a.b.dll"},
-      {L"resources\\de-CH\\a.b.dll", false, kFolder, L"resources\\de-CH\\a.b.dll"},
-      {L"resources\\de-DE\\a.b.dll", false, kFolder, L"resources\\de-DE\\a.b.dll"}};
-  for (const auto& [path, isFolder, form, found] : steps) {
+  // What is made one after the other, of a path that ends in a separator only the folder, and what
+  // is then found for German (Germany).
+  const wchar_t* const steps[][2] = {{L"a.b_nonsense name.dll", L""},
+                                     {L"a.b_de-DE.dll\\", L""},
+                                     {L"a.b_ja-JP.dllx", L""},
+                                     {L"A.B_ja-JP.DLL", L"a.b_ja-JP.dll"},
+                                     {L"a.b_es-US.dll", L"a.b_es-US.dll"},
+                                     {L"a.b_da-DK.dll", L"a.b_da-DK.dll"},
+                                     {L"a.b_en-GB.dll", L"a.b_en-GB.dll"},
+                                     {L"a.b_en-US.dll", L"a.b_en-US.dll"},
+                                     {L"a.b_de-CH.dll", L"a.b_de-CH.dll"},
+                                     {L"a.b_de-AT.dll", L"a.b_de-AT.dll"},
+                                     {L"resources\\de-CH\\", L""},
+                                     {L"resources\\en-US\\a.b.dll", L"resources\\en-US\\a.b.dll"},
+                                     {L"resources\\de-CH\\a.b.dll", L"resources\\de-CH\\a.b.dll"},
+                                     {L"resources\\de-DE\\a.b.dll", L"resources\\de-DE\\a.b.dll"}};
+  for (const auto& [path, found] : steps) {
     CAPTURE(path);
-    const std::filesystem::path place = scratch / path;
-    std::filesystem::create_directories(isFolder ? place : place.parent_path());
-    if (!isFolder) {
-      scratch.Write(path, "x");
-    }
-    CHECK(find(0x0407, form) == found);
+    std::filesystem::create_directories((scratch / path).parent_path());
+    scratch.Write(path, "x");
+    const bool isInFolder = std::wstring_view(path).starts_with(L"resources");
+    CHECK(find(0x0407, isInFolder ? kFolder : kSuffix) == found);
   }
   const ReplacedExport missing("GetLocaleInfoEx", nullptr);
   CHECK(find(0x0407, kFolder) == L"resources\\de-DE\\a.b.dll");

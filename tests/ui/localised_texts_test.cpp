@@ -38,8 +38,6 @@ TEST_CASE("all occurrences in a buffer of eight characters are replaced") {
       {L"aa45", L"a", L"012", L"0120124"}, {L"aa", L"a", L"01234567", L"0123456"}};
   for (const auto& [text, search, replacement, result] : rows) {
     CAPTURE(text);
-    CAPTURE(search);
-    CAPTURE(replacement);
     wchar_t buffer[] = L"........####";
     std::copy_n(text, std::min(std::wcslen(text) + 1, std::size_t{8}), buffer);
     CHECK(ReplaceAllInBuffer(buffer, 8, search, replacement) == (result != nullptr));
@@ -88,20 +86,36 @@ TEST_CASE("a window's labels and buttons are rewritten, its other controls are n
 }
 
 TEST_CASE("a console gets characters, a file bytes, and to write a part of them is to fail") {
-  std::string seen;
+  std::wstring seen;
   DWORD lost = 0;
-  const auto write = [&](auto, auto, const auto* text, DWORD length, DWORD* written, auto) {
-    seen.assign(static_cast<const char*>(static_cast<const void*>(text)), length);
+  BOOL answer = TRUE;
+  const auto write = [&](const auto* text, DWORD length, DWORD* written) {
+    seen.assign(text, text + length);
     *written = length - lost;
-    return TRUE;
+    return answer;
   };
-  REPLACE(WriteConsoleW, write);
-  REPLACE(WriteFile, write);
+  REPLACE(WriteConsoleW, [&](auto, auto, auto text, DWORD length, DWORD* written, auto) {
+    return write(static_cast<const wchar_t*>(text), length, written);
+  });
+  REPLACE(WriteFile, [&](auto, auto, auto text, DWORD size, DWORD* written, auto) {
+    return write(static_cast<const BYTE*>(text), size, written);
+  });
+  const auto errors = reinterpret_cast<HANDLE>(std::uintptr_t{STD_ERROR_HANDLE});
+  REPLACE(GetStdHandle,
+          [](auto, DWORD device) { return reinterpret_cast<HANDLE>(std::uintptr_t{device}); });
   for (const bool isConsole : {true, false}) {
-    REPLACE(GetConsoleMode, [=](auto...) { return isConsole ? TRUE : FALSE; });
-    for (lost = 0; lost < 2; ++lost) {
-      CHECK(WriteUtf8(STD_OUTPUT_HANDLE, "\xC3\xA4\n") == (lost == 0));
-      CHECK(seen == (isConsole ? std::string("\xE4\0\r", 3) : "\xC3\xA4\r\n"));
-    }
+    REPLACE(GetConsoleMode,
+            [=](auto, HANDLE asked, auto) -> BOOL { return asked == errors && isConsole; });
+    // Characters of two, three and four bytes; the last one has two units.
+    CHECK(WriteUtf8(STD_ERROR_HANDLE, "\xC3\xA9\n\xE2\x82\xAC\xF0\x9F\x98\x80\n"));
+    CHECK(seen == (isConsole ? L"\u00E9\r\n\u20AC\U0001F600\r\n"
+                             : L"\xC3\xA9\r\n\xE2\x82\xAC\xF0\x9F\x98\x80\r\n"));
+    lost = 1;
+    CHECK_FALSE(WriteUtf8(STD_ERROR_HANDLE, "a"));
+    CHECK(WriteUtf8(STD_ERROR_HANDLE, ""));
+    lost = 0;
+    answer = FALSE;
+    CHECK_FALSE(WriteUtf8(STD_ERROR_HANDLE, "a"));
+    answer = TRUE;
   }
 }

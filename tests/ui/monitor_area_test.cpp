@@ -21,15 +21,12 @@ TEST_CASE("the nearest monitor's area is given where it can be told, else the pr
   MONITORINFO primary{40, {}, {}, 0};
   GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &primary);
   const MONITORINFO nearest{40, {30, 1, 2, 40}, {30, 11, 12, 13}, 0};
-  struct Row {
-    int monitors;
-    LONG x;  // 0: no monitor there
-    const char* missing;
-    bool isNearest;
-  };
-  for (const auto& [monitors, x, missing, isNearest] :
-       {Row(2, 5, "", true), Row(1, 5, "", false), Row(2, 0, "", false),
-        Row(2, 5, "MonitorFromPoint", false), Row(2, 5, "GetMonitorInfoA", false)}) {
+  // At 0 there is no monitor.
+  for (const auto& [monitors, x, missing, isNearest] : {std::tuple{2, 5L, "", true},
+                                                        {1, 5L, "", false},
+                                                        {2, 0L, "", false},
+                                                        {2, 5L, "MonitorFromPoint", false},
+                                                        {2, 5L, "GetMonitorInfoA", false}}) {
     const MONITORINFO& expected = isNearest ? nearest : primary;
     REPLACE(GetSystemMetrics, [&](auto original, int index) {
       return index == SM_CMONITORS ? monitors : original(index);

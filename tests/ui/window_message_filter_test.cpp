@@ -10,21 +10,18 @@ TEST_CASE("a message filter is changed from Windows 7 on where the function is t
     seen = {window, message, action, status};
     return answer;
   };
-  struct Row {
-    DWORD minor;
-    decltype(change) function;
-    BOOL functionAnswer;
-    bool answer;
-  };
   CHANGEFILTERSTRUCT status{};
   const Call given{GetDesktopWindow(), 9, MSGFLT_DISALLOW, &status};
-  for (const Row& row : {Row{0, change, TRUE, false}, Row{1, change, 2, true},
-                         Row{1, change, FALSE, false}, Row{1, nullptr, TRUE, false}}) {
-    const auto windows = PretendWindows(2, 6, row.minor);
-    const ReplacedExport filter("ChangeWindowMessageFilterEx", row.function);
+  for (const auto& [minor, function, functionAnswer, expected] :
+       {std::tuple{0UL, change, TRUE, false},
+        {1UL, change, 2, true},
+        {1UL, change, FALSE, false},
+        {1UL, nullptr, TRUE, false}}) {
+    const auto windows = PretendWindows(2, 6, minor);
+    const ReplacedExport filter("ChangeWindowMessageFilterEx", function);
     seen = {};
-    answer = row.functionAnswer;
-    CHECK(std::apply(AllowWindowMessage, given) == row.answer);
-    CHECK((seen == given) == (row.minor == 1 && row.function != nullptr));
+    answer = functionAnswer;
+    CHECK(std::apply(AllowWindowMessage, given) == expected);
+    CHECK((seen == given) == (minor == 1 && function != nullptr));
   }
 }
