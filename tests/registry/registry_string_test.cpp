@@ -11,71 +11,60 @@ static std::wstring Expanded(const wchar_t* text) {
 }
 
 TEST_CASE("a text value is read whole or not at all") {
-  const std::wstring longest(1023, L'x');
-  struct Row {
-    DWORD type;
-    std::wstring stored;
-    std::size_t cutBytes;
-    std::wstring expected;
-  };
-  const auto rows = std::to_array(
-      {Row(REG_SZ, L"\u017D\U0001F600;b\0"s, 0, L"\u017D\U0001F600;b"), Row(REG_SZ, L"\0"s, 0, L""),
-       Row(REG_SZ, L"", 0, L""), Row(REG_SZ, longest + L'\0', 0, longest),
-       Row(REG_SZ, longest + L'y', 0, longest + L'y'),
-       Row(REG_SZ, longest + L"y\0"s, 0, L"default"), Row(REG_SZ, L"abc", 0, L"abc"),
-       Row(REG_SZ, L"abc", 1, L"abc"), Row(REG_SZ, L"ab\0cd\0"s, 0, L"ab"),
-       Row(REG_EXPAND_SZ, L"%SystemRoot%\\x\0"s, 0, Expanded(L"%SystemRoot%\\x")),
-       Row(REG_SZ, L"%SystemRoot%\\x\0"s, 0, L"%SystemRoot%\\x"),
-       Row(REG_EXPAND_SZ, longest.substr(764) + L'\0', 0, longest.substr(764)),
-       Row(REG_DWORD, L"ab", 0, L"default"), Row(REG_BINARY, L"ab\0"s, 0, L"default"),
-       Row(REG_MULTI_SZ, L"ab\0\0"s, 0, L"default")});
   const ScratchKey key;
-  const auto read = [&](const wchar_t* defaultText) {
+  const auto readBack = [&](const wchar_t* defaultText) {
     return RegistryReadString(HKEY_CURRENT_USER, key.c_str(), L"value", defaultText);
   };
-  CHECK_BOTH(read(L"default") == L"default", read(nullptr).empty());
-  for (const auto& [type, stored, cutBytes, expected] : rows) {
+  CHECK_BOTH(readBack(L"default") == L"default", readBack(nullptr).empty());
+  const auto read = [&](DWORD type, const std::wstring& stored, std::size_t cutBytes = 0) {
     StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored, cutBytes);
-    CHECK(read(L"default").c_str() == expected);
+    return std::wstring(readBack(L"default").c_str());
+  };
+  CHECK(read(REG_SZ, L"\u017D\U0001F600;b\0"s) == L"\u017D\U0001F600;b");
+  CHECK_BOTH(read(REG_SZ, L"\0"s) == L"", read(REG_SZ, L"") == L"");
+  CHECK_BOTH(read(REG_SZ, L"abc") == L"abc", read(REG_SZ, L"abc", 1) == L"abc");
+  CHECK(read(REG_SZ, L"ab\0cd\0"s) == L"ab");
+  const std::wstring longest(1023, L'x');
+  CHECK(read(REG_SZ, longest + L'\0') == longest);
+  CHECK(read(REG_SZ, longest + L'y') == longest + L'y');
+  CHECK(read(REG_SZ, longest + L"y\0"s) == L"default");
+  CHECK(read(REG_SZ, L"%SystemRoot%\\x\0"s) == L"%SystemRoot%\\x");
+  CHECK(read(REG_EXPAND_SZ, L"%SystemRoot%\\x\0"s) == Expanded(L"%SystemRoot%\\x"));
+  const std::wstring longExpandable(259, L'x');
+  CHECK(read(REG_EXPAND_SZ, longExpandable + L'\0') == longExpandable);
+  for (const auto type : {DWORD{REG_DWORD}, DWORD{REG_BINARY}, DWORD{REG_MULTI_SZ}}) {
+    CHECK(read(type, L"ab\0\0"s) == L"default");
   }
 }
 
 TEST_CASE("a caller's buffer is filled, ended and never left") {
-  struct Row {
-    DWORD type;
-    std::wstring stored;
-    std::size_t length;
-    std::wstring expected;
-  };
-  const auto rows =
-      std::to_array({Row(REG_SZ, L"abc\0"s, 4, L"abc"), Row(REG_SZ, L"abcd\0"s, 4, L""),
-                     Row(REG_SZ, L"abcd", 4, L"abc"),
-                     Row(REG_EXPAND_SZ, L"%OS%.\0"s, 6, Expanded(L"%OS%.").substr(0, 5)),
-                     Row(REG_BINARY, L"ab\0"s, 4, L""), Row(REG_SZ, L"\0"s, 1, L""),
-                     Row(REG_SZ, L"a\0"s, 0, L"")});
   const ScratchKey key;
   wchar_t old[] = L"old";
   CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", old, 4) == 0);
   CHECK(std::wstring(old) == L"");
-  for (const auto& [type, stored, length, expected] : rows) {
+  const auto read = [&](std::size_t length, DWORD type, const std::wstring& stored) {
     StoreUnits(HKEY_CURRENT_USER, key.c_str(), L"value", type, stored);
-    CAPTURE(stored);
-    CAPTURE(length);
     std::wstring buffer(length + 1, L'!');
-    CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", buffer.data(),
-                                   length) == expected.length());
-    CHECK_BOTH(std::exchange(buffer.back(), L'\0') == L'!', buffer.c_str() == expected);
-  }
+    const std::size_t count =
+        RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", buffer.data(), length);
+    CHECK(std::exchange(buffer.back(), L'\0') == L'!');
+    CHECK(count == std::wcslen(buffer.c_str()));
+    return std::wstring(buffer.c_str());
+  };
+  CHECK_BOTH(read(4, REG_SZ, L"abc\0"s) == L"abc", read(4, REG_SZ, L"abcd\0"s) == L"");
+  CHECK(read(4, REG_SZ, L"abcd") == L"abc");
+  CHECK(read(6, REG_EXPAND_SZ, L"%OS%.\0"s) == Expanded(L"%OS%.").substr(0, 5));
+  CHECK(read(4, REG_BINARY, L"ab\0"s) == L"");
+  CHECK_BOTH(read(1, REG_SZ, L"\0"s) == L"", read(0, REG_SZ, L"a\0"s) == L"");
 }
 
 TEST_CASE("a text is stored with its terminator") {
-  const ScratchKey key;
-  const std::wstring path = (key + L"\\two\\missing").c_str();
+  const StandInKey user(HKEY_CURRENT_USER);
   for (const auto& [write, flag] : {std::pair(&RegistryWriteString, RRF_RT_REG_SZ),
                                     {&RegistryWriteExpandString, RRF_RT_REG_EXPAND_SZ}}) {
-    CHECK(write(HKEY_CURRENT_USER, path.c_str(), L"", L"a;b") == 0);
+    CHECK(write(HKEY_CURRENT_USER, L"two\\missing", L"", L"a;b") == 0);
     DWORD size = 0;
-    RegGetValueW(HKEY_CURRENT_USER, path.c_str(), L"", static_cast<DWORD>(flag) | RRF_NOEXPAND,
+    RegGetValueW(user.key.get(), L"two\\missing", L"", static_cast<DWORD>(flag) | RRF_NOEXPAND,
                  nullptr, nullptr, &size);
     CHECK(size == 8);
   }

@@ -7,12 +7,7 @@ TEST_CASE("the values of a key are listed by name and text") {
   const std::wstring all(16383, L'x');
   const std::wstring hidden = L"<not listed>";
   // A number is shown as text, which runs on into what the text before it left; a text does not.
-  struct Row {
-    DWORD type;
-    std::size_t cutBytes;
-    std::wstring stored, listed;
-  };
-  const Row rows[] = {
+  const std::tuple<DWORD, std::size_t, std::wstring, std::wstring> rows[] = {
       {REG_DWORD, 0, L"\x01\0"s, L"\x01"},
       {REG_SZ, 0, L"abcdefg\0"s, L"abcdefg"},
       {REG_DWORD, 0, L"12", L"12cdefg"},

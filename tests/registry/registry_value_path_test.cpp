@@ -4,13 +4,7 @@
 
 TEST_CASE("a full value path is split into root, key path and value name") {
   // A path without both parts is refused; without two separators it leaves the texts alone.
-  struct Row {
-    const wchar_t* path;
-    bool isWhole;
-    HKEY root;
-    WString keyPath, name;
-  };
-  const Row rows[] = {
+  const std::tuple<const wchar_t*, bool, HKEY, WString, WString> rows[] = {
       {L"HKEY_CURRENT_USER\\Software\\App\\x", true, HKEY_CURRENT_USER, L"Software\\App", L"x"},
       {L"HKEY_CLASSES_ROOT\\.x\\y", true, HKEY_CLASSES_ROOT, L".x", L"y"},
       {L"HKEY_LOCAL_MACHINE\\a\\\u017E", true, HKEY_LOCAL_MACHINE, L"a", L"\u017E"},

@@ -6,9 +6,9 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("numbers and bytes are read as written, a value is deleted and its key stays") {
-  const ScratchKey scratch;
   HKEY const root = HKEY_CURRENT_USER;
-  const wchar_t* const key = scratch.c_str();
+  const StandInKey user(root);
+  const wchar_t* const key = L"key";
   std::string bytes = "before";
   CHECK_BOTH(!RegistryKeyExists(root, key), RegistryReadBoolean(root, key, L"n", true));
   CHECK(RegistryReadBinary(root, key, L"n", bytes) == ERROR_FILE_NOT_FOUND);
