@@ -14,20 +14,13 @@ TEST_CASE("a command line is read where a process of an old NT has it") {
     basic[1] = block;
     return kind == 0 && size == 48 ? 0L : 1L;
   };
-  struct Row {
-    DWORD platform, minorVersion;
-    decltype(find) query;
-    std::size_t goodReads;
-    DWORD bufferBytes, answer;
-  };
-  const Row rows[] = {{2, 0, find, 3, 16, 16}, {2, 0, find, 3, 15, 0},   {2, 0, find, 2, 16, 0},
-                      {2, 0, find, 1, 16, 0},  {2, 0, find, 0, 16, 0},   {2, 1, find, 3, 16, 0},
-                      {1, 0, find, 3, 16, 0},  {2, 0, nullptr, 3, 16, 0}};
+  using Query = decltype(find);
+  const std::tuple<DWORD, DWORD, Query, std::size_t, DWORD, DWORD> rows[] = {
+      {2, 0, find, 3, 16, 16}, {2, 0, find, 3, 15, 0},   {2, 0, find, 2, 16, 0},
+      {2, 0, find, 1, 16, 0},  {2, 0, find, 0, 16, 0},   {2, 1, find, 3, 16, 0},
+      {1, 0, find, 3, 16, 0},  {2, 0, nullptr, 3, 16, 0}};
   for (const auto& [platform, minor, query, good, size, answer] : rows) {
-    CAPTURE(platform);
-    CAPTURE(minor);
-    CAPTURE(good);
-    CAPTURE(size);
+    INFO("platform ", platform, ", minor ", minor, ", good reads ", good, ", bytes ", size);
     const auto windows = PretendWindows(platform, 6, minor);
     std::vector<SIZE_T> reads;
     REPLACE(ReadProcessMemory,

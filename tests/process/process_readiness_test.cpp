@@ -4,17 +4,45 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the time-out") {
-  const std::wstring child = ProgramPath(L"test_child.exe");
-  const std::wstring name = L"kelvo test " + std::to_wstring(GetCurrentProcessId());
-  const auto start = [&](const std::wstring& arguments, bool pump, DWORD timeoutMs) {
-    return StartProcessAndWaitForMutex(child.c_str(), arguments.c_str(), pump, name.c_str(),
-                                       timeoutMs);
+  const auto windows2000 = PretendWindows(2, 5, 0);
+  DWORD now = 0;
+  REPLACE(GetTickCount, [&](auto) { return now; });
+  REPLACE(Sleep, [&](auto, DWORD pause) { now += pause; });
+  REPLACE(CreateProcessW, [](auto, auto... given) {
+    std::get<9>(std::tuple(given...))->hProcess = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    return TRUE;
+  });
+  // Each lookup takes a millisecond. The program makes the mutex, or has this one closed, before a
+  // lookup of that number.
+  int lookups = 0, mutexAt = 0, closeAt = 0;
+  REPLACE(OpenMutexW, [&](auto, DWORD access, BOOL inherits, LPCWSTR name) {
+    CHECK_BOTH(access == MUTEX_ALL_ACCESS, inherits == FALSE);
+    CHECK(name == std::wstring(L"Global\\name"));
+    ++now;
+    ++lookups;
+    if (lookups == closeAt) {
+      PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
+    }
+    return lookups == mutexAt ? CreateMutexW(nullptr, FALSE, nullptr) : nullptr;
+  });
+  const auto wait = [&](bool pumps, DWORD timeoutMs) {
+    // The clock wraps soon.
+    now = MAXDWORD - 150;
+    lookups = 0;
+    return StartProcessAndWaitForMutex(L"program", nullptr, pumps, L"name", timeoutMs);
   };
-  CHECK(StartProcessAndWaitForMutex(L"not there", L"", false, name.c_str(), 10000) == -1);
-  CHECK_BOTH(start(L"", false, 150) == -3, start(L"", true, 150) == -3);
-  CHECK(start(L"close " + std::to_wstring(GetCurrentThreadId()), true, 10000) == -2);
-  CHECK(start(L"mutex \"Global\\" + name + L"\"", false, 0) == -3);
-  CHECK(start(L"", true, 10000) == 0);  // the mutex of the one before
+  CHECK_BOTH(wait(false, 303) == -3, lookups == 3);
+  CHECK_BOTH(wait(false, 304) == -3, lookups == 4);
+  CHECK_BOTH(wait(false, 0) == -3, lookups == 0);
+  CHECK_BOTH(wait(true, 9) == -3, lookups == 9);
+  closeAt = 2;
+  CHECK_BOTH(wait(true, 9) == -2, lookups == 2);
+  mutexAt = 1;
+  CHECK_BOTH(wait(true, 9) == 0, lookups == 1);
+  CHECK_BOTH(wait(false, 303) == 0, lookups == 1);
+}
+
+TEST_CASE("messages are pumped until none waits, or up to a WM_CLOSE") {
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
   std::string calls;
@@ -28,28 +56,4 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
   });
   CHECK_BOTH(PumpWaitingMessages() == 16, calls == "translate dispatch ");
   CHECK_BOTH(PumpWaitingMessages() == 0, calls == "translate dispatch translate dispatch ");
-}
-
-TEST_CASE("the mutex is looked for every 100 ms, by a clock that wraps, as long as there is time") {
-  const auto windows2000 = PretendWindows(2, 5, 0);
-  DWORD now = 0;
-  int lookups = 0;
-  REPLACE(GetTickCount, [&](auto) { return now; });
-  REPLACE(Sleep, [&](auto, DWORD pause) { now += pause; });
-  REPLACE(CreateProcessW, [&](auto, auto... given) {
-    std::get<9>(std::tuple(given...))->hProcess = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-    return TRUE;
-  });
-  REPLACE(OpenMutexW, [&](auto, DWORD access, BOOL inherits, LPCWSTR name) {
-    CHECK_BOTH(access == MUTEX_ALL_ACCESS, inherits == FALSE);
-    CHECK(name == std::wstring(L"Global\\name"));
-    ++lookups;
-    return nullptr;
-  });
-  for (const auto& [timeout, expected] : {std::pair(300UL, 3), {301UL, 4}, {0UL, 0}}) {
-    now = MAXDWORD - 150;
-    lookups = 0;
-    CHECK(StartProcessAndWaitForMutex(L"program", nullptr, false, L"name", timeout) == -3);
-    CHECK(lookups == expected);
-  }
 }

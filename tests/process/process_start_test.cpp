@@ -30,15 +30,11 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
   const std::wstring name = L"kelvo_test_" + std::to_wstring(GetCurrentProcessId());
   const OwnedKernelObject go(CreateEventW(nullptr, TRUE, FALSE, name.c_str()));
   const OwnedKernelObject done(CreateEventW(nullptr, FALSE, FALSE, (name + L"_done").c_str()));
-  const std::wstring arguments = L"report " + name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
+  const std::wstring arguments = name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
   const std::wstring command = L"\"" + program + L"\" " + arguments;
   // Where a call is made from, and what RunAsUser does there, but for waiting; nothing where it is
   // LaunchInUserSession that is called. No child may inherit the handles that stay open.
-  struct Place {
-    const wchar_t *station, *desktop;
-    std::string before, after;
-  };
-  const Place places[] = {
+  const std::tuple<const wchar_t*, const wchar_t*, std::string, std::string> places[] = {
       {nullptr, nullptr, "", ""},
       {nullptr, nullptr, "create free ", ""},
       {nullptr, L"kelvo desktop", "create free station desktop ", "close close "},
@@ -46,86 +42,77 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  const auto run = [&](const Place& place, bool waits, HANDLE* slot) {
-    if (place.before.empty()) {
-      return LaunchInUserSession(program.c_str(), arguments.c_str(), waits, slot);
-    }
-    // Everybody shares the interactive one: another is granted access to.
-    REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
-      calls += ShownCall("open", name, rest...) + " ";
-      return original(L"kelvo stand-in", rest...);
-    });
-    NOTE(OpenDesktopW, GetLastError() == 0 ? ShownCall("open", given...) + " " : "late ");
-    NOTE(CreateProcessAsUserW, GetLastError() == 0 ? "create " : "late ");
-    NOTE(HeapFree, "free ");
-    NOTE(SetProcessWindowStation, "station ");
-    NOTE(SetThreadDesktop, "desktop ");
-    NOTE(WaitForSingleObject, "wait ");
-    NOTE(CloseDesktop, "close ");
-    NOTE(CloseWindowStation, "close ");
-    const BOOL isDone = RunAsUser(std::wstring(command).data(), waits, slot);
-    CHECK(calls == place.before + (waits ? "wait " : "") + place.after);
-    return isDone == TRUE;
-  };
-  for (const Place& place : places) {
+  // Everybody shares the interactive one: another is granted access to.
+  REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
+    calls += ShownCall("open", name, rest...) + " ";
+    return original(L"kelvo stand-in", rest...);
+  });
+  NOTE(OpenDesktopW, GetLastError() == 0 ? ShownCall("open", given...) + " " : "late ");
+  NOTE(CreateProcessAsUserW, GetLastError() == 0 ? "create " : "late ");
+  NOTE(HeapFree, "free ");
+  NOTE(SetProcessWindowStation, "station ");
+  NOTE(SetThreadDesktop, "desktop ");
+  NOTE(WaitForSingleObject, "wait ");
+  NOTE(CloseDesktop, "close ");
+  NOTE(CloseWindowStation, "close ");
+  for (const auto& [station, desktop, callsBefore, callsAfter] : places) {
     // Waiting comes last: a program that still ends would keep the folder from being removed.
-    for (const bool waits : {false, true}) {
-      for (const bool takesHandle : {true, false}) {
-        CAPTURE(place.before);
-        INFO("waits: ", waits, ", takes the handle: ", takesHandle);
-        const bool moves = place.station != nullptr;
-        const DesktopScope standIn(moves ? L"kelvo stand-in" : nullptr,
-                                   moves ? L"Default" : nullptr);
-        const DesktopScope scope(place.station, place.desktop);
-        const std::wstring before = CurrentDesktop();
-        waits ? SetEvent(go.get()) : ResetEvent(go.get());
-        OwnedKernelObject process;
-        calls.clear();
-        REQUIRE(run(place, waits, takesHandle ? process.Receive() : nullptr));
-        CHECK(CurrentDesktop() == before);
-        CHECK(WaitForSingleObject(done.get(), 0) == (waits ? WAIT_OBJECT_0 : WAIT_TIMEOUT));
-        SetEvent(go.get());
-        CHECK((waits || WaitForSingleObject(done.get(), 10000) == WAIT_OBJECT_0));
-        DWORD exitCode = takesHandle ? 0 : 7;
-        WaitForSingleObject(process.get(), waits ? 0 : 10000);
-        GetExitCodeProcess(process.get(), &exitCode);
-        CHECK(exitCode == 7);
-        CHECK(ReadBytes(program + L".txt") == Ascii(command + L"|WinSta0\\Default"));
-        std::filesystem::remove(program + L".txt");
+    for (const auto& [waits, takesHandle] :
+         {std::pair{false, true}, {false, false}, {true, true}, {true, false}}) {
+      INFO(callsBefore, "waits: ", waits, ", takes the handle: ", takesHandle);
+      const bool moves = station != nullptr;
+      const DesktopScope standIn(moves ? L"kelvo stand-in" : nullptr, moves ? L"Default" : nullptr);
+      const DesktopScope scope(station, desktop);
+      const std::wstring before = CurrentDesktop();
+      waits ? SetEvent(go.get()) : ResetEvent(go.get());
+      OwnedKernelObject process;
+      HANDLE* const slot = takesHandle ? process.Receive() : nullptr;
+      calls.clear();
+      if (callsBefore.empty()) {
+        REQUIRE(LaunchInUserSession(program.c_str(), arguments.c_str(), waits, slot));
+      } else {
+        REQUIRE(RunAsUser(std::wstring(command).data(), waits, slot) == TRUE);
+        CHECK(calls == callsBefore + (waits ? "wait " : "") + callsAfter);
       }
+      CHECK(CurrentDesktop() == before);
+      CHECK(WaitForSingleObject(done.get(), 0) == (waits ? WAIT_OBJECT_0 : WAIT_TIMEOUT));
+      SetEvent(go.get());
+      CHECK((waits || WaitForSingleObject(done.get(), 10000) == WAIT_OBJECT_0));
+      DWORD exitCode = takesHandle ? 0 : 7;
+      WaitForSingleObject(process.get(), waits ? 0 : 10000);
+      GetExitCodeProcess(process.get(), &exitCode);
+      CHECK(exitCode == 7);
+      CHECK(ReadBytes(program + L".txt") == Ascii(command + L"|WinSta0\\Default"));
+      std::filesystem::remove(program + L".txt");
     }
   }
 }
 
 TEST_CASE("letter case matters where a process is started, not where one asks") {
-  struct Row {
-    const wchar_t *station, *desktop;
-    DWORD needed;
-    BOOL isInteractive;
-    int moves;
-  };
-  const Row rows[] = {{L"WinSta0", L"Default", 520, TRUE, 0},
-                      {L"WINSTA0", L"DEFAULT", 520, TRUE, 1},
-                      {L"W\u0130nSta0", L"Default", 520, FALSE, 1},
-                      {L"WinSta0", L"Default2", 520, FALSE, 0},
-                      {L"WinSta0", L"Default", 521, FALSE, 0}};
-  for (const Row& row : rows) {
-    CAPTURE(row.desktop);
-    const wchar_t* names[] = {row.station, row.desktop};
+  const std::tuple<const wchar_t*, const wchar_t*, DWORD, BOOL, int> rows[] = {
+      {L"WinSta0", L"Default", 520, TRUE, 0},
+      {L"WINSTA0", L"DEFAULT", 520, TRUE, 1},
+      {L"W\u0130nSta0", L"Default", 520, FALSE, 1},
+      {L"WinSta0", L"Default2", 520, FALSE, 0},
+      {L"WinSta0", L"Default", 521, FALSE, 0}};
+  for (const auto& [station, desktop, needed, isInteractive, moves] : rows) {
+    INFO(station, ", ", desktop, ", ", needed);
+    const wchar_t* names[] = {station, desktop};
     int asked = 0, moved = 0;
-    REPLACE(GetUserObjectInformationW, [&](auto, auto, auto, void* text, auto, auto* needed) {
+    REPLACE(GetUserObjectInformationW, [&](auto, auto, auto, void* text, auto, auto* size) {
       lstrcpyW(static_cast<wchar_t*>(text), names[asked++ % 2]);
-      return (*needed = row.needed) != 0;
+      *size = needed;
+      return TRUE;
     });
     REPLACE(OpenWindowStationW, [&](auto...) {
       ++moved;
       return nullptr;
     });
-    CHECK(IsOnInteractiveDesktop() == row.isInteractive);
+    CHECK(IsOnInteractiveDesktop() == isInteractive);
     asked = 0;
     HANDLE untouched = &moved;
     CHECK_FALSE(RunAsUser(std::wstring(L"no such program").data(), FALSE, &untouched));
-    CHECK_BOTH(untouched == &moved, moved == row.moves);
+    CHECK_BOTH(untouched == &moved, moved == moves);
   }
 }
 
@@ -148,12 +135,8 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
     calls += "caller";
     return FALSE;
   });
-  struct Road {
-    DWORD minorVersion, ownSession;  // of Windows 5
-    bool tellsConsoleSession, duplicates;
-    const wchar_t* desktop;
-    std::string happens;  // RunAsUser leaves its token open
-  };
+  // RunAsUser leaves its token open.
+  using Road = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
   for (const auto& [minor, ownSession, tells, duplicates, desktop, happens] :
        {Road{1, 5, true, true, nullptr, "close1start2close2"},
         Road{1, 3, true, false, nullptr, "start1close1"},
