@@ -10,19 +10,19 @@
 static UINT Write(wchar_t* to, const std::wstring& text) {
   return static_cast<UINT>(lstrlenW(lstrcpyW(to, text.c_str())));
 }
-static BOOL WINAPI TellComputerName(int format, wchar_t* name, DWORD* size) {
-  *size = 10;
-  return name != nullptr && Write(name, L"computer " + std::to_wstring(format)) > 0;
-}
-static BOOL WINAPI TellUserName(int format, wchar_t* name, DWORD*) {
-  return Write(name, L"user " + std::to_wstring(format)) > 0;
-}
-static UINT WINAPI TellWow64Directory(wchar_t* path, UINT) { return Write(path, L"wow 64"); }
 
 TEST_CASE("each entry of the report asks what its name says") {
-  const ReplacedExport computer("GetComputerNameExW", &TellComputerName);
-  const ReplacedExport user("GetUserNameExW", &TellUserName);
-  const ReplacedExport wow64("GetSystemWow64DirectoryW", &TellWow64Directory);
+  const ReplacedExport computer(
+      "GetComputerNameExW", +[](int format, wchar_t* name, DWORD* size) -> BOOL {
+        *size = 10;
+        return name != nullptr && Write(name, L"computer " + std::to_wstring(format)) > 0;
+      });
+  const ReplacedExport user(
+      "GetUserNameExW", +[](int format, wchar_t* name, DWORD*) -> BOOL {
+        return Write(name, L"user " + std::to_wstring(format)) > 0;
+      });
+  const ReplacedExport wow64(
+      "GetSystemWow64DirectoryW", +[](wchar_t* path, UINT) { return Write(path, L"wow 64"); });
   REPLACE(GetComputerNameW, [](auto, auto to, auto) { return Write(to, L"netbios") > 0; });
   REPLACE(GetUserNameW, [](auto, auto to, auto) { return Write(to, L"account") > 0; });
   REPLACE(GetSystemDirectoryW, [](auto, auto to, auto) { return Write(to, L"system"); });

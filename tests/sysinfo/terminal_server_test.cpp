@@ -4,18 +4,13 @@
 
 TEST_CASE("a product suite is found in its list") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
-  struct List {
-    DWORD type;
-    const wchar_t* data;
-    DWORD size;
-    bool isFound;
-  };
   // The last two have no terminator; the last one no last byte either.
-  const List lists[] = {{REG_SZ, L"Terminal Server\0", 34, false},
-                        {REG_MULTI_SZ, L"A\0terminal Server\0", 38, false},
-                        {REG_MULTI_SZ, L"A\0\0Terminal Server\0", 40, false},
-                        {REG_MULTI_SZ, L"A\0Terminal Server!", 34, true},
-                        {REG_MULTI_SZ, L"A\0Terminal Server!", 33, true}};
+  const std::tuple<DWORD, const wchar_t*, DWORD, bool> lists[] = {
+      {REG_SZ, L"Terminal Server\0", 34, false},
+      {REG_MULTI_SZ, L"A\0terminal Server\0", 38, false},
+      {REG_MULTI_SZ, L"A\0\0Terminal Server\0", 40, false},
+      {REG_MULTI_SZ, L"A\0Terminal Server!", 34, true},
+      {REG_MULTI_SZ, L"A\0Terminal Server!", 33, true}};
   // It is longer when it is read than it was when its size was asked.
   REPLACE(RegQueryValueExW, [](auto original, auto... given) {
     const LSTATUS status = original(given...);
