@@ -5,10 +5,7 @@
 
 TEST_CASE("a certificate goes in once, a collection adds nothing, a missing store is an error") {
   RemoveTestCertificates();
-  struct Row {
-    const wchar_t *file, *subjects;
-  };
-  for (const auto& [file, subjects] : {Row{L"bundle.p7b", L""},
+  for (const auto& [file, subjects] : {std::pair{L"bundle.p7b", L""},
                                        {L"binary.cer", L"Tessalin Test Publisher"},
                                        {L"binary.cer", L"Tessalin Test Publisher"}}) {
     const std::wstring path = ProgramPath(std::wstring(L"certificates\\") + file);

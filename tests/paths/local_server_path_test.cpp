@@ -16,17 +16,12 @@ TEST_CASE("a local server is the file that its class registers") {
   WString path;
   CHECK(GetLocalServerPath(L"kelvo.test", path) == 0x80110411);
   RegistryWriteString(HKEY_CLASSES_ROOT, L"kelvo.test\\CLSID", nullptr, classKey.c_str() + 6);
-  struct Row {
-    const wchar_t* key;
-    WString stored;
-    DWORD answer;
-    WString expected;
-  };
-  const Row rows[] = {{L"\\LocalServer32", server, 0, server},
-                      {L"\\LocalServer", server + L" /automation /x", 0, server + L" "},
-                      {L"\\LocalServer32", WString(L"\"") + server + L"\"", 3, server + L" "},
-                      {L"\\LocalServer32", server + filling, 0, server},
-                      {L"\\LocalServer32", server + filling + L"/", ERROR_MORE_DATA, server}};
+  const std::tuple<const wchar_t*, WString, DWORD, WString> rows[] = {
+      {L"\\LocalServer32", server, 0, server},
+      {L"\\LocalServer", server + L" /automation /x", 0, server + L" "},
+      {L"\\LocalServer32", WString(L"\"") + server + L"\"", 3, server + L" "},
+      {L"\\LocalServer32", server + filling, 0, server},
+      {L"\\LocalServer32", server + filling + L"/", ERROR_MORE_DATA, server}};
   for (const auto& [key, stored, answer, expected] : rows) {
     StoreUnits(HKEY_CLASSES_ROOT, (classKey + key).c_str(), nullptr, REG_SZ, stored.c_str());
     CHECK_BOTH(GetLocalServerPath(L"kelvo.test", path) == answer, path == expected);

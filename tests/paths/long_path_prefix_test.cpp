@@ -3,12 +3,7 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("a prefix is put before what is fully qualified, and taken off what it was put before") {
-  struct Row {
-    const wchar_t* path;
-    const wchar_t* added;
-    const wchar_t* removed;
-  };
-  const Row rows[] = {
+  const wchar_t* const rows[][3] = {
       {nullptr, L"", L""},
       {L"Z:\\x", L"\\\\?\\Z:\\x", L"Z:\\x"},
       {L"a:/x/./y/..\\z", L"\\\\?\\a:\\x\\z", L"a:/x/./y/..\\z"},

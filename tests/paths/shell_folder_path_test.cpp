@@ -8,15 +8,12 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
   const StandInKey user(HKEY_CURRENT_USER);
   wchar_t out[MAX_PATH];
   const WString deep = WString(L"C:\\") + WString(240, L'd') + L"\\";
-  struct Row {
-    WString path, directory;
-  };
-  const auto modules = std::to_array(
-      {Row(L"C:\\a b\\c.exe", L"C:\\a b\\"), Row(L"", L""), Row(deep + WString(10, L'n'), deep),
-       Row(deep + WString(11, L'n'), deep), Row(deep + WString(300, L'n'), deep),
-       Row(WString(253, L'n') + L"\\a", WString(253, L'n') + L"\\"),
-       Row(WString(254, L'n') + L"\\a", L""), Row(WString(253, L'n'), WString(253, L'n') + L"\\"),
-       Row(WString(254, L'n'), L"")});
+  const std::pair<WString, WString> modules[] = {
+      {L"C:\\a b\\c.exe", L"C:\\a b\\"},  {L"", L""},
+      {deep + WString(10, L'n'), deep},   {deep + WString(11, L'n'), deep},
+      {deep + WString(300, L'n'), deep},  {WString(253, L'n') + L"\\a", WString(253, L'n') + L"\\"},
+      {WString(254, L'n') + L"\\a", L""}, {WString(253, L'n'), WString(253, L'n') + L"\\"},
+      {WString(254, L'n'), L""}};
   for (const auto& [path, directory] : modules) {
     HMODULE const module = GetModuleHandleW(L"kernel32.dll");
     REPLACE(GetModuleFileNameW, [&](auto, HMODULE asked, auto to, DWORD size) {
@@ -27,12 +24,7 @@ TEST_CASE("a shell folder comes from the first place that has one, else from the
     const bool isFound = GetShellFolderPath(&module, out, L"Personal");
     CHECK_BOTH(isFound == !directory.empty(), out == directory);
   }
-  struct Stored {
-    HKEY root;
-    const wchar_t* key;
-    WString stored, path;
-  };
-  const Stored rows[] = {
+  const std::tuple<HKEY, const wchar_t*, WString, WString> rows[] = {
       {HKEY_LOCAL_MACHINE, L"Shell Folders", L"D:\\machine", L"D:\\machine\\"},
       {HKEY_CURRENT_USER, L"Shell Folders", L"%TEMP%\\user\\", L"%TEMP%\\user\\"},
       {HKEY_LOCAL_MACHINE, L"User Shell Folders", WString(258, L'm'), WString(258, L'm') + L"\\"},

@@ -39,12 +39,9 @@ TEST_CASE("the last of equal entries is found, copies keep all, sizes count all"
 
 TEST_CASE("a new entry goes in front of the first of its own rank") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
-  struct Case {
-    BYTE type, flags;
-    DWORD index;
-  };
-  const Case cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},    {5, 0x0F, 3},       {1, 0x10, 4},
-                        {6, 0x10, 4}, {0, 0x13, 4}, {5, 0x10, 5}, {2, 0, kNoAceIndex}};
+  const std::tuple<BYTE, BYTE, DWORD> cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
+                                                 {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
+                                                 {0, 0x13, 4}, {5, 0x10, 5}, {2, 0, kNoAceIndex}};
   for (const auto& [type, flags, index] : cases) {
     TestAce added{.type = type, .flags = flags};
     CHECK(GetACEInsertionIndex(list.acl, added.get()) == index);

@@ -74,7 +74,9 @@ inline OwnedKernelObject OwnToken() {
 
 // A station and a desktop whose access lists are real ones on every Wine: Wine 10 sees none of a
 // window object, but that of the same handle as a kernel object.
-struct WindowObjects {
+struct WindowObjects : DesktopScope {
+  WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
+
   static constexpr auto kAsKernelObject = [](auto original, HANDLE object, SE_OBJECT_TYPE type,
                                              SECURITY_INFORMATION what, auto... rest) {
     // Nothing else is read, and writing does not protect the list from what it inherits.
@@ -87,9 +89,6 @@ struct WindowObjects {
                                                                       kAsKernelObject};
   ReplacedImport<decltype(::SetSecurityInfo), AsKernelObject> writing{"SetSecurityInfo",
                                                                       kAsKernelObject};
-  DesktopScope scope{L"kelvo security test", L"kelvo desktop"};
-  HWINSTA station = scope.station;
-  HDESK desktop = scope.desktop;
 };
 
 }  // namespace kelvo::test
