@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+#include "lib/platform/module.h"
 #include "lib/string/utf8.h"
 #include "lib/sysinfo/common_controls_version.h"
 #include "lib/sysinfo/file_version_text.h"
