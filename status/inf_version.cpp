@@ -2,7 +2,7 @@
 
 #include <setupapi.h>
 
-#include "status/setup_api.h"
+#include "lib/platform/system_library.h"
 
 namespace kelvo {
 
@@ -30,7 +30,7 @@ DWORD ReadEntry(decltype(&SetupGetLineTextW) getLineText, HINF inf, const wchar_
 
 InfVersion ReadInfVersion(const wchar_t* infPath) {
   InfVersion version;
-  const OwnedModule library = LoadSetupApi();
+  const OwnedModule library = LoadSystemLibrary(L"setupapi.dll");
   auto* const open = KELVO_FIND_FUNCTION(library.get(), SetupOpenInfFileW);
   auto* const close = KELVO_FIND_FUNCTION(library.get(), SetupCloseInfFile);
   auto* const getLineText = KELVO_FIND_FUNCTION(library.get(), SetupGetLineTextW);

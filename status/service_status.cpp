@@ -5,8 +5,8 @@
 #include <cwchar>
 #include <vector>
 
+#include "lib/platform/system_library.h"
 #include "lib/string/format_text.h"
-#include "status/setup_api.h"
 #include "tool/handsfree_service.h"
 
 namespace kelvo {
@@ -14,7 +14,7 @@ namespace kelvo {
 namespace {
 
 struct DeviceFunctions {
-  OwnedModule library = LoadSetupApi();
+  OwnedModule library = LoadSystemLibrary(L"setupapi.dll");
   decltype(&SetupDiGetClassDevsW) getDevices =
       KELVO_FIND_FUNCTION(library.get(), SetupDiGetClassDevsW);
   decltype(&SetupDiEnumDeviceInfo) enumDevice =

@@ -5,7 +5,7 @@
 #include <memory>
 #include <type_traits>
 
-#include "lib/platform/module.h"
+#include "lib/platform/system_library.h"
 #include "lib/wsspi/sspi_loader.h"
 
 namespace kelvo {
@@ -29,7 +29,7 @@ struct Crypt32 {
 // False, with the last error set, when the library or a function of it is missing. The library
 // stays loaded, since a store may stay open.
 bool BindCrypt32(Crypt32& bound) {
-  const HMODULE library = LoadLibraryW(L"crypt32.dll");
+  const HMODULE library = LoadSystemLibrary(L"crypt32.dll").release();
   const auto find = [library](auto& function, const char* name) {
     function = FindFunction<std::remove_pointer_t<std::remove_reference_t<decltype(function)>>>(
         library, name);
