@@ -1,7 +1,8 @@
 # What the program's file needs and says:
 # cmake -D program=... -D libraries=... -D most_bytes=... -D readobj=... -D osslsigncode=... -D source_folder=... -P check_program_file.cmake
 
-execute_process(COMMAND ${readobj} --coff-imports --file-headers --sections --coff-debug-directory ${program}
+execute_process(COMMAND ${readobj} --coff-imports --file-headers --sections --coff-debug-directory --coff-load-config
+  ${program}
   OUTPUT_VARIABLE facts COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "Import {\n  Name: [^\n]+" needed "${facts}")
 list(TRANSFORM needed REPLACE "Import {\n  Name: " "")
@@ -19,8 +20,9 @@ if(facts MATCHES "MEM_EXECUTE [^\n]*\n *IMAGE_SCN_MEM_READ [^\n]*\n *IMAGE_SCN_M
   message(SEND_ERROR "${program} has a section that can be written and executed")
 endif()
 # ASLR over the whole address space, no execution of data, control-flow enforcement's shadow stack; a .pdb without a
-# folder, and no time of the build.
-foreach(fact "_DYNAMIC_BASE " "_HIGH_ENTROPY_VA " "_NX_COMPAT " "_EX_CET_COMPAT " "PDBFileName: [^/\\\n]+\n" "Type: Repro ")
+# folder, and no time of the build; imported libraries from the system directory alone, which Wine does not obey.
+foreach(fact "_DYNAMIC_BASE " "_HIGH_ENTROPY_VA " "_NX_COMPAT " "_EX_CET_COMPAT " "PDBFileName: [^/\\\n]+\n" "Type: Repro "
+    "DependentLoadFlags: 0x800\n")
   if(NOT facts MATCHES "${fact}")
     message(SEND_ERROR "${program} is not marked ${fact}")
   endif()
