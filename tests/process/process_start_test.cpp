@@ -52,7 +52,7 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
   NOTE(HeapFree, "free ");
   NOTE(SetProcessWindowStation, "station ");
   NOTE(SetThreadDesktop, "desktop ");
-  NOTE(WaitForSingleObject, "wait ");
+  NOTE(WaitForSingleObject, std::get<1>(std::tuple(given...)) == INFINITE ? "wait " : "late ");
   NOTE(CloseDesktop, "close ");
   NOTE(CloseWindowStation, "close ");
   for (const auto& [station, desktop, callsBefore, callsAfter] : places) {
@@ -70,6 +70,7 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
       calls.clear();
       if (callsBefore.empty()) {
         REQUIRE(LaunchInUserSession(program.c_str(), arguments.c_str(), waits, slot));
+        CHECK((calls.find("wait ") != std::string::npos) == waits);
       } else {
         REQUIRE(RunAsUser(std::wstring(command).data(), waits, slot) == TRUE);
         CHECK(calls == callsBefore + (waits ? "wait " : "") + callsAfter);
