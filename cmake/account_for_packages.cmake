@@ -43,6 +43,9 @@ foreach(archive ${CPACK_PACKAGE_FILES})
     list(APPEND sums ${sha1})
     append(files file)
     append(relationships contains)
+    if(file MATCHES "/([a-z_]+)\\.(exe|dll|cpl)$")
+      set(number_of_${CMAKE_MATCH_1} ${number})
+    endif()
   endforeach()
 
   list(SORT sums)
@@ -54,18 +57,41 @@ foreach(archive ${CPACK_PACKAGE_FILES})
   append(relationships describes)
 endforeach()
 
-# What of others is inside our programs: a library of the compiler's or a header, its name and its licence.
-foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1" "libmingwex.a;mingw-w64-runtime;ZPL-2.1"
-    "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT" "/usr/include/cxxopts.hpp;cxxopts;MIT")
+# describe(PACKAGE)   sets `version` and `purl` (a package URL) to those of a package of Debian's
+function(describe package)
+  execute_process(COMMAND dpkg-query -W -f \${Version} ${package} OUTPUT_VARIABLE version COMMAND_ERROR_IS_FATAL ANY)
+  string(REPLACE "+" "%2B" purl "pkg:deb/debian/${package}@${version}")
+  string(REPLACE ":" "%3A" purl "${purl}")
+  string(REPLACE "pkg%3A" "pkg:" purl "${purl}")
+  set(version ${version} PARENT_SCOPE)
+  set(purl ${purl} PARENT_SCOPE)
+endfunction()
+
+# What of others is inside our programs: a library of the compiler's or a header, its name, its licence, and the files that
+# hold it.
+set(all "sorrel;sorrel_status;bthprops;difxapi")
+foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${all}"
+    "libmingwex.a;mingw-w64-runtime;ZPL-2.1;${all}" "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT;sorrel_status"
+    "/usr/include/cxxopts.hpp;cxxopts;MIT;sorrel_status")
   list(POP_FRONT part library name licence)
   execute_process(COMMAND ${CPACK_COMPILER} -print-file-name=${library}
     OUTPUT_VARIABLE library OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
   file(REAL_PATH ${library} library)
   execute_process(COMMAND dpkg -S ${library} OUTPUT_VARIABLE package COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX REPLACE ":.*" "" package "${package}")
-  execute_process(COMMAND dpkg-query -W -f \${Version} ${package} OUTPUT_VARIABLE version COMMAND_ERROR_IS_FATAL ANY)
+  describe(${package})
   append(packages part)
-  append(relationships links)
+  foreach(holder ${part})
+    set(holder ${number_of_${holder}})
+    append(relationships links)
+  endforeach()
+endforeach()
+
+# What made them.
+foreach(package clang-19 lld-19 llvm-19 binutils-mingw-w64-x86-64 cmake ninja-build zip)
+  describe(${package})
+  append(packages tool)
+  append(relationships builds)
 endforeach()
 
 string(TIMESTAMP now "%Y-%m-%dT%H:%M:%SZ" UTC)
@@ -79,3 +105,7 @@ set(bill sorrel-${CPACK_PACKAGE_VERSION}-win64.spdx.json)
 file(WRITE ${CPACK_PACKAGE_DIRECTORY}/${bill} "${object}\n")
 file(SHA256 ${CPACK_PACKAGE_DIRECTORY}/${bill} sha256)
 file(WRITE ${CPACK_PACKAGE_DIRECTORY}/SHA256SUMS "${sums_file}${sha256}  ${bill}\n")
+if(DEFINED ENV{SORREL_SUMS_KEY})
+  execute_process(COMMAND openssl dgst -sha256 -sign $ENV{SORREL_SUMS_KEY} -out SHA256SUMS.sig SHA256SUMS
+    WORKING_DIRECTORY ${CPACK_PACKAGE_DIRECTORY} COMMAND_ERROR_IS_FATAL ANY)
+endif()

@@ -1,5 +1,5 @@
-# What `cmake --install` puts in place and `cpack` packs: the components "tool" (what a setup ships), "documentation" and
-# "simulator" in one package, "sdk" (the library, as the CMake package kelvo) and "symbols" in one each.
+# What `cmake --install` puts in place and `cpack` packs: the components "tool" (what a setup ships), "documentation" in
+# one package, "simulator" (never beside signed programs, which would load its libraries), "sdk" (the library, as the CMake package kelvo) and "symbols" in one each.
 
 include(CMakePackageConfigHelpers)
 
@@ -7,7 +7,7 @@ install(TARGETS sorrel sorrel_status RUNTIME DESTINATION bin COMPONENT tool)
 install(FILES $<TARGET_FILE_DIR:sorrel>/sorrel.pdb $<TARGET_FILE_DIR:sorrel>/sorrel_status.pdb DESTINATION bin COMPONENT symbols EXCLUDE_FROM_ALL)
 
 # The tree is the repository's, so that the pages' links hold.
-install(FILES README.md CHANGELOG.md DESTINATION share/doc/sorrel COMPONENT documentation OPTIONAL)
+install(FILES README.md CHANGELOG.md SECURITY.md DESTINATION share/doc/sorrel COMPONENT documentation OPTIONAL)
 install(DIRECTORY docs installers DESTINATION share/doc/sorrel COMPONENT documentation)
 
 install(TARGETS kelvo_simulator_bthprops kelvo_simulator_difxapi LIBRARY DESTINATION lib/sorrel/simulator
@@ -29,12 +29,13 @@ install(FILES ${PROJECT_BINARY_DIR}/kelvo-config.cmake ${PROJECT_BINARY_DIR}/kel
 install(FILES docs/library.md CHANGELOG.md DESTINATION share/doc/kelvo COMPONENT sdk OPTIONAL)
 install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONENT sdk)
 
-# Three archives, which unpack into one folder. What is in them is signed before and accounted for afterwards.
+# Four archives, which unpack into one folder. What is in them is signed before and accounted for afterwards.
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
 set(CPACK_ARCHIVE_TOOL_FILE_NAME sorrel-${PROJECT_VERSION}-win64)
+set(CPACK_ARCHIVE_SIMULATOR_FILE_NAME sorrel-${PROJECT_VERSION}-win64-simulator)
 set(CPACK_ARCHIVE_SDK_FILE_NAME kelvo-${PROJECT_VERSION}-win64-mingw-sdk)
 set(CPACK_ARCHIVE_SYMBOLS_FILE_NAME sorrel-${PROJECT_VERSION}-win64-symbols)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
@@ -46,8 +47,9 @@ endif()
 set(CPACK_SOURCE_FOLDER ${PROJECT_SOURCE_DIR})
 set(CPACK_COMPILER ${CMAKE_CXX_COMPILER} --target=${CMAKE_CXX_COMPILER_TARGET})
 include(CPack)
-foreach(component tool documentation simulator)
+foreach(component tool documentation)
   cpack_add_component(${component} GROUP tool)
 endforeach()
+cpack_add_component(simulator GROUP simulator)
 cpack_add_component(sdk GROUP sdk)
 cpack_add_component(symbols GROUP symbols)
