@@ -2,8 +2,17 @@
 ;   makensis -DFILES=FOLDER -DOUTPUT=FILE setup.nsi
 ; FOLDER holds sorrel.exe, sorrel_status.exe, Tessalin.inf and what belongs to it, trusted.cer and trusted_i.cer.
 
+; CVE-2025-43715: a user of the computer could put another program into the folder from which an older NSIS' setup runs.
+!ifndef OLD_NSIS_ACCEPTED
+  !if ${NSIS_PACKEDVERSION} < 0x030B0000
+    !warning "NSIS ${NSIS_VERSION} lets a user of the computer gain the setup's rights (CVE-2025-43715): use 3.11 or later."
+  !endif
+!endif
+
 Unicode true
 Target amd64-unicode
+; Only administrators can write there. The product's own.
+!define SORREL_LOG "$WINDIR\Logs\sorrel_brindle.log"
 !include sorrel.nsh
 
 !define PRODUCT "Software\Microsoft\Windows\CurrentVersion\Uninstall\Brindle"
@@ -12,13 +21,26 @@ Name "Brindle"
 OutFile "${OUTPUT}"
 RequestExecutionLevel admin
 InstallDir "$PROGRAMFILES64\Brindle"
-Page directory
 Page instfiles
 UninstPage uninstConfirm
 UninstPage instfiles
 
 !insertmacro RunSorrel ""
 !insertmacro RunSorrel "un."
+
+; There is no page that asks for the folder. /D= may name another one: it must be one that only administrators write to, since
+; what is in it runs with their rights.
+Function .onInit
+  StrCpy $0 "$INSTDIR"
+  System::Call 'kernel32::GetFullPathNameW(w r0, i ${NSIS_MAX_STRLEN}, w .r1, p 0)'
+  StrLen $2 "$PROGRAMFILES64\"
+  StrCpy $3 "$1" $2
+  ${If} $3 != "$PROGRAMFILES64\"
+    SetErrorLevel 1603
+    Quit
+  ${EndIf}
+  StrCpy $INSTDIR "$1"
+FunctionEnd
 
 !macro RemoveProduct
   Delete "$INSTDIR\sorrel.exe"

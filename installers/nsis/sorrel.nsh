@@ -4,12 +4,9 @@
 ;   Call RunSorrel
 ;   Pop $0                     0, 3010: the computer must be restarted, 1603: a step failed
 ;
-; What it wrote is then in SORREL_LOG. Not nsExec::ExecToStack, which keeps 1,023 characters of it.
+; What it wrote is then in SORREL_LOG, which the setup defines. Not nsExec::ExecToStack, which keeps 1,023 characters of it.
 
 !include LogicLib.nsh
-
-; Only administrators can write there.
-!define SORREL_LOG "$WINDIR\Logs\sorrel.log"
 
 !macro RunSorrel un
 Function ${un}RunSorrel
@@ -18,7 +15,7 @@ Function ${un}RunSorrel
   Push $2
   Push $3
   Delete "${SORREL_LOG}"
-  nsExec::Exec '"$SYSDIR\cmd.exe" /s /c ""$INSTDIR\sorrel.exe" $0 >"${SORREL_LOG}""'
+  nsExec::Exec '"$SYSDIR\cmd.exe" /d /s /c ""$INSTDIR\sorrel.exe" $0 >"${SORREL_LOG}""'
   Pop $1
   StrCpy $0 0
   ${IfThen} $1 S!= "0" ${|} StrCpy $0 1603 ${|}

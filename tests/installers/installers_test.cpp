@@ -2,13 +2,12 @@
 #include "tests/support/testing.h"
 
 // The log of the last run, in a prefix that is thrown away.
-static const wchar_t* const kLog = L"C:\\windows\\logs\\sorrel.log";
+static const wchar_t* const kLog = L"C:\\windows\\logs\\sorrel_brindle.log";
 
 // How a setup is run. `folder` is where the product goes.
 struct Installer {
   std::filesystem::path folder;
   std::wstring install, installBadCertificate, uninstall;
-  DWORD failure = 1603;
   bool takesBack = true;
   // Its lines are read by run_sorrel.cmd.
   bool readsItself = true;
@@ -27,30 +26,31 @@ struct Case {
 };
 
 constexpr std::size_t kCasesOfInstaller = 5;
+constexpr DWORD kFailure = 1603;
 
 static std::wstring Events(int count) {
   return count == 0 ? L""
                     : L"1,0,ERR: Reboot required by none of these many words|" + Events(count - 1);
 }
 
-static std::vector<Case> Cases(DWORD failure) {
+static std::vector<Case> Cases() {
   const std::wstring longLine = L"1,0," + std::wstring(1002, L'x') + L"ERR: amid a line|";
   return {
       // What is to be seen of the installer itself, kCasesOfInstaller.
       {"driver installed", 0},
-      {"publisher not trusted", failure, L"0xE0000242"},
+      {"publisher not trusted", kFailure, L"0xE0000242"},
       {"restart", 3010, L"0", L"1"},
-      {"failure and restart", failure, L"5", L"1"},
-      {"no certificate", failure, L"0", L"0", L"1,0,one", L"0", true, true},
+      {"failure and restart", kFailure, L"5", L"1"},
+      {"no certificate", kFailure, L"0", L"0", L"1,0,one", L"0", true, true},
       // What is to be seen of the reading of the lines.
       {"preinstalled", 0, L"0xE000020B"},
       {"preinstalled, the other code", 0, L"0xE0000301"},
       {"no update needed", 0, L"0x103"},
-      {"driver fails", failure, L"5"},
+      {"driver fails", kFailure, L"5"},
       {"long log, success", 0, L"0", L"0", Events(30) + longLine},
-      {"long log, failure", failure, L"0xE0000242", L"0", Events(30)},
+      {"long log, failure", kFailure, L"0xE0000242", L"0", Events(30)},
       {"long log, restart", 3010, L"0", L"1", Events(30)},
-      {"the tool ends abnormally", failure, L"0", L"0", L"1,0,last", L"1"},
+      {"the tool ends abnormally", kFailure, L"0", L"0", L"1,0,last", L"1"},
       {"no Bluetooth library", 0, L"0", L"0", L"1,0,one", L"0", false},
   };
 }
@@ -92,7 +92,7 @@ static DWORD Status(const std::wstring& words) {
 static void CheckEachCase(const Installer& installer) {
   const CleanMachine machine;
   const std::wstring good = L"\"" + ProgramPath(L"installers\\good\\files\\");
-  std::vector<Case> cases = Cases(installer.failure);
+  std::vector<Case> cases = Cases();
   if (!installer.readsItself) {
     cases.resize(kCasesOfInstaller);
   }
@@ -102,7 +102,7 @@ static void CheckEachCase(const Installer& installer) {
     const DWORD products = RegisteredProducts();
     CHECK(RunChild(row.badCertificate ? installer.installBadCertificate : installer.install)
               .exitCode == row.code);
-    const bool failed = row.code == installer.failure;
+    const bool failed = row.code == kFailure;
     CHECK(Status(L"--publisher " + good + L"trusted.cer\" --intermediate " + good +
                  L"trusted_i.cer\"") == (row.badCertificate ? 1 : 0));
     const std::string log = ReadBytes(kLog);
@@ -144,32 +144,40 @@ TEST_CASE("run_sorrel.cmd") {
            L"run_sorrel.cmd", L"install " + inf + inf + quoted(L"trusted_i.cer") + L"brindle"),
        .uninstall = command(L"run_sorrel.cmd", L"uninstall none brindle"),
        .takesBack = false});
+  std::filesystem::remove(folder / L"sorrel.exe");
+  SetEnvironmentVariableW(L"errorlevel", L"0");
+  CHECK(RunChild(command(L"run_sorrel.cmd", L"register")).exitCode == 1603);
+  SetEnvironmentVariableW(L"errorlevel", nullptr);
 }
 
 TEST_CASE("the NSIS setup") {
-  const ScratchFolder scratch;
-  const std::filesystem::path folder = scratch / L"\u017Dlu\u0165 & Co";
-  const auto setup = [&](const wchar_t* kind) {
-    return L"\"" + ProgramPath(kind) + L"\\brindle_setup.exe\" /S /D=" + std::wstring(folder);
+  const std::filesystem::path folder = L"C:\\Program Files\\\u017Dlu\u0165 & Co";
+  const auto setup = [&](const wchar_t* kind, const std::wstring& to) {
+    return L"\"" + ProgramPath(kind) + L"\\brindle_setup.exe\" /S /D=" + to;
   };
   CheckEachCase({.folder = folder,
-                 .install = setup(L"installers\\good"),
-                 .installBadCertificate = setup(L"installers\\bad"),
+                 .install = setup(L"installers\\good", folder),
+                 .installBadCertificate = setup(L"installers\\bad", folder),
                  .uninstall = L"\"" + std::wstring(folder / "uninstall.exe") + L"\" /S _?=" +
                               std::wstring(folder)});
+  for (const wchar_t* const elsewhere :
+       {L"C:\\Brindle", L"C:\\Program Files\\..\\Brindle", L"C:\\Program Files (x86)\\Brindle"}) {
+    CHECK(RunChild(setup(L"installers\\good", elsewhere)).exitCode == 1603);
+    CHECK_FALSE(std::filesystem::exists(elsewhere));
+  }
 }
 
 TEST_CASE("the MSI package") {
   // No product of an earlier build may hold on to the files.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   const auto package = [&](const wchar_t* way, const wchar_t* kind) {
-    return L"msiexec /qn " + std::wstring(way) + L" \"" + ProgramPath(kind) + L"\\brindle.msi\"";
+    // No words can name another folder: the files are looked for in this one.
+    return L"msiexec /qn " + std::wstring(way) + L" \"" + ProgramPath(kind) +
+           L"\\brindle.msi\" InstallFolder=C:\\elsewhere INSTALLFOLDER=C:\\elsewhere";
   };
   CheckEachCase({.folder = L"C:\\Program Files\\Brindle",
                  .install = package(L"/i", L"installers\\good"),
                  .installBadCertificate = package(L"/i", L"installers\\bad"),
                  .uninstall = package(L"/x", L"installers\\good"),
-                 // Windows' own engine ends with 1603.
-                 .failure = ERROR_FUNCTION_FAILED,
                  .readsItself = false});
 }
