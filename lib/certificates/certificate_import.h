@@ -23,7 +23,9 @@ inline constexpr const wchar_t* kTrustedPublisherStore = L"TrustedPublisher";
 inline constexpr const wchar_t* kIntermediateCaStore = L"CA";
 
 // ImportCertToSystemStore for "TrustedPublisher": the publishers whose signed driver packages
-// Windows installs without a question.
+// Windows installs without a question. It also trusts what else they sign, such as scripts, macros
+// and ClickOnce applications, for every user of the computer: use a certificate that signs drivers
+// only.
 DWORD ImportCertToTrustedPublishers(const wchar_t* file);
 
 // ImportCertToSystemStore for "CA": the intermediate certification authorities.

@@ -6,7 +6,8 @@ namespace kelvo {
 // returns true, even when that fails. The first argument is not used.
 //
 // With `copyFirst`, `source` is copied to a new file "wqr..." in the temporary folder, and the copy
-// is moved instead, so that the caller may change or delete `source` at once. When the copy cannot
+// is moved instead, so that the caller may change or delete `source` at once. Until the restart it
+// lies there, where the account's other programs can change it. When the copy cannot
 // be made, when either path is null, and when `source` is empty, nothing is scheduled.
 //
 // On NT this is MoveFileExW, which needs administrative rights. On Windows 9x it is an entry in the

@@ -14,11 +14,13 @@ namespace kelvo {
 // duration of the call, and the token's user gets full access to the station and its desktop for
 // good (AllowTokenFullAccessToObject). Needs a Windows that knows SeTakeOwnershipPrivilege, and
 // SeAssignPrimaryTokenPrivilege unless the token may be assigned without it. The new process and
-// its thread get a null DACL: everyone has full access. Enables, for the rest of this process's
-// life, those that it holds of SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
-// SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege and SeCreateTokenPrivilege. Leaves open
-// the token, and the station and desktop that it opened. Failures are traced
-// (lib/trace/trace_sink.h).
+// its thread get a null DACL: everyone has full access, so called as SYSTEM this gives every user
+// of the computer a process with SYSTEM's rights. Put a full path in quotation marks first in the
+// command line, or Windows tries "C:\Program.exe" for "C:\Program Files\...". Enables, for the rest
+// of this process's life, those that it holds of SeTakeOwnershipPrivilege, SeTcbPrivilege,
+// SeChangeNotifyPrivilege, SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege and
+// SeCreateTokenPrivilege. Leaves open the token, and the station and desktop that it opened.
+// Failures are traced (lib/trace/trace_sink.h).
 BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process);
 
 }  // namespace kelvo

@@ -14,7 +14,9 @@ namespace kelvo {
 // in the caller's own session and account instead (CreateProcessW). On Windows 2000 it always runs
 // in the caller's account: through RunAsUser (lib/process/run_as_user.h) when the caller is in the
 // console session but not on the interactive desktop, otherwise in the caller's session. The
-// program inherits environment and current directory, but no handles.
+// program inherits environment and current directory, but no handles. A service must not let it run
+// as itself: ask QueryUserTokenOfSession first. Its environment reaches the user's program: put no
+// secret there. Give a full path.
 //
 // With `wait`, returns only after the program has ended. When `processHandle` is not null, it
 // receives the process's handle, which the caller closes; it is unchanged on failure.

@@ -8,7 +8,8 @@ namespace kelvo {
 
 // Removes the deny entries (ACCESS_DENIED_ACE_TYPE) for one SID from an object's DACL, except one
 // at index 0, and writes the DACL back (SetSecurityInfo), even when it held none. The handle needs
-// READ_CONTROL and WRITE_DAC. An object without a DACL is left as it is.
+// READ_CONTROL and WRITE_DAC. An object without a DACL is left as it is. For a group's SID the
+// denial ends for all of its members, until the object is deleted: a station with its session.
 //
 // Object entries stay, since their SID is looked for right after the mask, where they hold other
 // data; so do callback entries. Returns TRUE when the DACL was written back or there is none; an

@@ -9,7 +9,8 @@ namespace kelvo {
 // entries of other accounts, then the new entry, then everything from the first inherited entry on;
 // explicit entries of the account, denying ones too, are dropped. A file without a DACL gets one
 // with this entry alone. A protected list stays protected and an auto-inherited one auto-inherited;
-// one that is both becomes auto-inherited only.
+// one that is both ("D:PAI") becomes auto-inherited only, and so takes its folder's entries. A link
+// is followed: use a path that no other account can redirect.
 //
 // Needs the rights READ_CONTROL and WRITE_DAC (GetFileSecurityW, SetFileSecurityW). Returns TRUE
 // when the file has its new list, which is set in one call. Otherwise returns FALSE, leaves the
