@@ -12,9 +12,10 @@ TEST_CASE("a product suite is found in its list") {
       {REG_MULTI_SZ, L"A\0Terminal Server!", 34, true},
       {REG_MULTI_SZ, L"A\0Terminal Server!", 33, true}};
   // It is longer when it is read than it was when its size was asked.
-  REPLACE(RegQueryValueExW, [](auto original, auto... given) {
-    const LSTATUS status = original(given...);
-    *std::get<5>(std::tuple(given...)) -= std::get<4>(std::tuple(given...)) == nullptr ? 8 : 0;
+  REPLACE(RegQueryValueExW, [](auto original, auto... arguments) {
+    const LSTATUS status = original(arguments...);
+    *std::get<5>(std::tuple(arguments...)) -=
+        std::get<4>(std::tuple(arguments...)) == nullptr ? 8 : 0;
     return status;
   });
   for (const auto& [type, data, size, isFound] : lists) {
