@@ -6,7 +6,7 @@
 namespace kelvo {
 
 OwnedModule LoadSystemLibrary(const wchar_t* name) {
-  std::array<wchar_t, 2 * MAX_PATH> path{};
+  std::array<wchar_t, std::size_t{2} * MAX_PATH> path{};
   const UINT length = GetSystemDirectoryW(path.data(), MAX_PATH);
   const std::size_t nameLength = std::wcslen(name);
   if (length == 0) {

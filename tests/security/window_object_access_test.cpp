@@ -114,7 +114,7 @@ TEST_CASE("a privilege set holds the names that the system knows") {
   const OwnedLocalMemory<TOKEN_PRIVILEGES> set(CreateTokenPriv(&count, names, FALSE));
   REQUIRE((count == 2 && set.get()->PrivilegeCount == 2));
   CHECK(LocalSize(set.get()) == 4 + 12 * count);
-  const auto& privileges = set.get()->Privileges;
+  const LUID_AND_ATTRIBUTES* const privileges = set.get()->Privileges;
   CHECK_BOTH(privileges[0].Luid.LowPart == 20, privileges[1].Luid.LowPart == 7);
   CHECK(privileges[1].Attributes == 3);
 }
