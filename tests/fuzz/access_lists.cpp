@@ -9,10 +9,8 @@
 
 namespace kelvo::fuzz {
 
-namespace {
-
 // An entry of some type with a SID of some length.
-std::string AnyAce(Input& input) {
+static std::string AnyAce(Input& input) {
   const std::size_t authorities = input.Number(3);
   std::string ace(16 + 4 * authorities, '\0');
   std::ranges::generate(ace, [&] { return static_cast<char>(input.Number(2)); });
@@ -24,7 +22,7 @@ std::string AnyAce(Input& input) {
   return ace;
 }
 
-std::string AnyList(Input& input) {
+static std::string AnyList(Input& input) {
   std::string list("\2\0\0\0\0\0\0\0", sizeof(ACL));
   const std::size_t count = input.Number(4);
   for (std::size_t index = 0; index < count; ++index) {
@@ -36,7 +34,7 @@ std::string AnyList(Input& input) {
 }
 
 // Changes some bytes, and now and then the length.
-void Break(std::string& list, Input& input) {
+static void Break(std::string& list, Input& input) {
   for (std::size_t left = input.Number(6); left > 0; --left) {
     list[input.Number(list.size() - 1)] = static_cast<char>(input.Number(0xFF));
   }
@@ -50,7 +48,7 @@ void Break(std::string& list, Input& input) {
   std::memcpy(&list[2], &claimed, sizeof(claimed));
 }
 
-const Target kAccessLists("access lists", [](Input& input) {
+static const Target kAccessLists("access lists", [](Input& input) {
   std::string list = AnyList(input);
   const bool isSound = input.Chance();
   if (!isSound) {
@@ -75,7 +73,5 @@ const Target kAccessLists("access lists", [](Input& input) {
            "the entries are the same");
   }
 });
-
-}  // namespace
 
 }  // namespace kelvo::fuzz

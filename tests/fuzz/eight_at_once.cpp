@@ -3,7 +3,6 @@
 #include <process.h>
 
 #include <algorithm>
-#include <array>
 
 #include "tests/fuzz/input.h"
 #include "tests/support/throw_away_prefix.h"
@@ -11,9 +10,7 @@
 
 namespace kelvo::fuzz {
 
-namespace {
-
-std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
+static std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   std::intptr_t process = -1;
   // Under load Wine now and then fails to start a program.
   for (DWORD tries = 0; process == -1; ++tries) {
@@ -24,37 +21,32 @@ std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   return process;
 }
 
-void ExpectSuccess(std::intptr_t process) {
-  int code = -1;
-  _cwait(&code, process, 0);
-  Expect(code == 0, "the exit code is 0");
-}
-
-// The list, which must have no stray separator and no name twice.
-std::wstring WellFormedList() {
+// Waits for tools, after which the list must have no stray separator and no name twice. Returns it.
+static std::wstring ListAfter(const std::vector<std::intptr_t>& processes) {
+  for (const std::intptr_t process : processes) {
+    int code = -1;
+    _cwait(&code, process, 0);
+    Expect(code == 0, "the exit code is 0");
+  }
   const WString list = ReadApplicationList();
   Expect(list.empty() || (L";" + list + L";").find(L";;") == WString::npos,
          "no stray separator is in the list");
   std::vector<WString> names = ApplicationsInList(list);
   std::ranges::sort(names);
   Expect(std::ranges::adjacent_find(names) == names.end(), "no name is in the list twice");
-  return list.c_str();
+  return std::wstring(list);
 }
 
-const Target kEightAtOnce("eight at once", [](Input& input) {
+static const Target kEightAtOnce("eight at once", [](Input& input) {
   test::RequireThrowAwayPrefix();
-  std::array names{L"ant", L"bee", L"cat", L"dog", L"eel", L"fox", L"gnu", L"hen"};
-  std::array<std::intptr_t, names.size()> processes{};
-  std::ranges::transform(names, processes.begin(), [&](const wchar_t* name) {
-    return Start(input.Chance() ? L"register" : L"unregister", name);
-  });
-  std::ranges::for_each(processes, ExpectSuccess);
-  WellFormedList();
-  ExpectSuccess(Start(L"register", L"owl"));
-  Expect(WellFormedList().ends_with(L"owl"), "the next run adds its name");
-  ExpectSuccess(Start(L"unregister", L"owl"));
+  std::vector<std::intptr_t> processes;
+  for (const wchar_t* const name :
+       {L"ant", L"bee", L"cat", L"dog", L"eel", L"fox", L"gnu", L"hen"}) {
+    processes.push_back(Start(input.Chance() ? L"register" : L"unregister", name));
+  }
+  ListAfter(processes);
+  Expect(ListAfter({Start(L"register", L"owl")}).ends_with(L"owl"), "the next run adds its name");
+  ListAfter({Start(L"unregister", L"owl")});
 });
-
-}  // namespace
 
 }  // namespace kelvo::fuzz

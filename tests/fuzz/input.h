@@ -10,18 +10,34 @@
 
 namespace kelvo::fuzz {
 
+// Ends the program, and prints how to repeat the input, when `holds` is false.
+void Expect(bool holds, const char* what);
+
 // Random choices that a seed repeats.
 class Input {
  public:
   explicit Input(std::uint64_t seed) : engine_(seed) {}
 
   // From 0 to `most`, the bounds more often than the rest.
-  std::size_t Number(std::size_t most);
+  std::size_t Number(std::size_t most) {
+    const std::uint64_t drawn = engine_();
+    if (drawn % 8 == 0) {
+      return drawn % 16 == 0 ? 0 : most;
+    }
+    return static_cast<std::size_t>((drawn >> 8) % (most + 1));
+  }
+
   bool Chance() { return Number(1) == 1; }
+
   // Up to `most` units, each one of `alphabet`, or any at all when that is empty.
-  std::wstring Text(std::size_t most, const std::wstring& alphabet = L"");
-  // Such a text without NUL.
-  std::wstring Word(std::size_t most, const std::wstring& alphabet = L"");
+  std::wstring Text(std::size_t most, const std::wstring& alphabet = L"") {
+    std::wstring text(Number(most), L'\0');
+    for (wchar_t& unit : text) {
+      unit = alphabet.empty() ? static_cast<wchar_t>(Number(0xFFFF))
+                              : alphabet[Number(alphabet.length() - 1)];
+    }
+    return text;
+  }
 
  private:
   std::mt19937_64 engine_;
@@ -31,14 +47,19 @@ class Input {
 // `atStart` is true, begins where one ends. One byte too far is a fault.
 class GuardedMemory {
  public:
-  GuardedMemory(std::size_t size, bool atStart);
-  GuardedMemory(const GuardedMemory&) = delete;
-  ~GuardedMemory();
-
+  GuardedMemory(std::size_t size, bool atStart)
+      : size_(size), block_(TakeBlock()), data_(block_ + (atStart ? 0 : kRoom - size)) {
+    Expect(size <= kRoom, "guarded memory is large enough");
+  }
   template <typename Content>
   GuardedMemory(const std::basic_string<Content>& content, bool atStart)
       : GuardedMemory(content.size() * sizeof(Content), atStart) {
     std::memcpy(data_, content.data(), size_);
+  }
+  GuardedMemory(const GuardedMemory&) = delete;
+  ~GuardedMemory() {
+    std::memset(data_, kFiller, size_);
+    freeBlocks.push_back(block_);
   }
 
   template <typename Content>
@@ -47,6 +68,25 @@ class GuardedMemory {
   }
 
  private:
+  static constexpr std::size_t kPage = 0x1000;
+  static constexpr std::size_t kRoom = 0x10000;
+  // Fills what surrounds the memory in its block: no zero that might end a string.
+  static constexpr int kFiller = 0xA5;
+  // Used again, since reserving one takes longer than most inputs do.
+  static inline std::vector<BYTE*> freeBlocks;
+
+  static BYTE* TakeBlock() {
+    if (!freeBlocks.empty()) {
+      BYTE* const block = freeBlocks.back();
+      freeBlocks.pop_back();
+      return block;
+    }
+    auto* const reserved =
+        static_cast<BYTE*>(VirtualAlloc(nullptr, kRoom + (2 * kPage), MEM_RESERVE, PAGE_NOACCESS));
+    void* const block = VirtualAlloc(reserved + kPage, kRoom, MEM_COMMIT, PAGE_READWRITE);
+    return static_cast<BYTE*>(std::memset(block, kFiller, kRoom));
+  }
+
   std::size_t size_;
   BYTE* block_;
   BYTE* data_;
@@ -57,9 +97,6 @@ struct GuardedText : GuardedMemory {
   GuardedText(const std::wstring& text, bool atStart) : GuardedMemory(text + L'\0', atStart) {}
   operator const wchar_t*() const { return As<wchar_t>(); }
 };
-
-// Ends the program, and prints how to repeat the input, when `holds` is false.
-void Expect(bool holds, const char* what);
 
 // Something that random input is tried on. Each file defines its own.
 struct Target {

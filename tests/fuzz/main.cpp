@@ -1,6 +1,6 @@
-// fuzz                          names the targets
-// fuzz TARGET SEED SECONDS      tries random input on a target for that long
-// fuzz TARGET --input NUMBER    tries one input again
+// fuzz                         names the targets
+// fuzz TARGET NUMBER SECONDS   tries the input of this number on a target, and for that long those
+//                              that follow
 // What it finds is on standard error: the programs that it starts write to standard output.
 
 #include <windows.h>
@@ -13,13 +13,24 @@
 
 namespace kelvo::fuzz {
 
-namespace {
+static const Target* currentTarget = nullptr;
+static std::uint64_t currentInput = 0;
 
-const Target* currentTarget = nullptr;
-std::uint64_t currentInput = 0;
+void Expect(bool holds, const char* what) {
+  if (!holds) {
+    std::cerr << "FAILED: " << what << "\nRepeat it with: scripts/fuzz \"" << currentTarget->name
+              << "\" " << currentInput << "\n";
+    TerminateProcess(GetCurrentProcess(), 1);
+  }
+}
+
+}  // namespace kelvo::fuzz
+
+using namespace kelvo;
+using namespace kelvo::fuzz;
 
 // Guarded calls would swallow a fault: this sees it before they do.
-LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
+static LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
   const DWORD code = exception->ExceptionRecord->ExceptionCode;
   Expect(code != EXCEPTION_ACCESS_VIOLATION && code != EXCEPTION_ILLEGAL_INSTRUCTION &&
              code != EXCEPTION_STACK_OVERFLOW,
@@ -27,55 +38,26 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
   return EXCEPTION_CONTINUE_SEARCH;
 }
 
-void TryInput(std::uint64_t number) {
-  currentInput = number;
-  Input input(number);
-  Expect(GuardedCall([&] { currentTarget->run(input); }), "no exception leaves the operation");
-}
-
-void TryFor(std::uint64_t seed, std::uint64_t seconds) {
-  // Each seed has inputs of its own.
-  constexpr std::uint64_t kInputsOfSeed = 1'000'000'000;
-  const ULONGLONG start = GetTickCount64();
-  std::uint64_t tried = 0;
-  while ((GetTickCount64() - start) / 1000 < seconds) {
-    TryInput((seed * kInputsOfSeed) + tried++);
-  }
-  std::cerr << currentTarget->name << ": " << tried << " inputs\n";
-}
-
-}  // namespace
-
-void Expect(bool holds, const char* what) {
-  if (!holds) {
-    std::cerr << "FAILED: " << what << "\nRepeat it with: scripts/fuzz \"" << currentTarget->name
-              << "\" --input " << currentInput << "\n";
-    TerminateProcess(GetCurrentProcess(), 1);
-  }
-}
-
-}  // namespace kelvo::fuzz
-
 int main(int count, char** words) {
-  using namespace kelvo::fuzz;
   AddVectoredExceptionHandler(1, OnException);
   for (const Target* const target : Target::all) {
-    currentTarget = target;
     if (count != 4) {
       std::cout << target->name << "\n";
-    } else if (target->name != std::string(words[1])) {
-      continue;
-    } else if (words[2] == std::string("--input")) {
-      TryInput(std::stoull(words[3]));
-      return 0;
-    } else {
-      TryFor(std::stoull(words[2]), std::stoull(words[3]));
+    } else if (target->name == std::string(words[1])) {
+      currentTarget = target;
+      const std::uint64_t first = std::stoull(words[2]);
+      const ULONGLONG end = GetTickCount64() + std::stoull(words[3]) * 1000;
+      for (currentInput = first; currentInput == first || GetTickCount64() < end; ++currentInput) {
+        Input input(currentInput);
+        Expect(GuardedCall([&] { target->run(input); }), "no exception leaves the operation");
+      }
+      std::cerr << target->name << ": " << currentInput - first << " inputs\n";
       return 0;
     }
   }
-  if (count != 1) {
-    std::cerr << "There is no such target.\n";
-    return 2;
+  if (count == 1) {
+    return 0;
   }
-  return 0;
+  std::cerr << "There is no such target.\n";
+  return 2;
 }

@@ -11,13 +11,11 @@
 
 namespace kelvo::fuzz {
 
-namespace {
-
 // The resource is in the one block of this size, in front of or after a page without access.
-std::size_t resourceSize = 0;
-std::unique_ptr<GuardedMemory> resource;
+static std::size_t resourceSize = 0;
+static std::unique_ptr<GuardedMemory> resource;
 
-const Target kVersionResources("version resources", [](Input& input) {
+static const Target kVersionResources("version resources", [](Input& input) {
   static Input* random;
   static REPLACE(GetFileVersionInfoSizeW, [](auto...) { return static_cast<DWORD>(resourceSize); });
   static REPLACE(GetFileVersionInfoW, [](auto, auto, auto, DWORD size, void* data) {
@@ -42,8 +40,6 @@ const Target kVersionResources("version resources", [](Input& input) {
   GetFileVersionText(L"");
   resourceSize = 0;
 });
-
-}  // namespace
 
 }  // namespace kelvo::fuzz
 
