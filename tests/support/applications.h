@@ -2,9 +2,13 @@
 
 #include <windows.h>
 
+#include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "tests/support/certificate_store.h"
+#include "tests/support/child_process.h"
+#include "tests/support/files.h"
 #include "tests/support/throw_away_prefix.h"
 #include "tool/dependent_applications.h"
 
@@ -19,31 +23,45 @@ inline std::wstring Applications() {
   return isThere ? list : L"none";
 }
 
-// While it lives, no application is recorded and none of this suite's certificates is in a store.
-// Then the list that was there is put back, and what the test imported is removed.
+// No application is recorded and no certificate is in a store when it begins and when it ends.
 struct CleanMachine {
-  CleanMachine() {
-    RequireThrowAwayPrefix();
-    hadList = RegGetValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications",
-                           RRF_RT_ANY | RRF_NOEXPAND, &type, list, &size) == ERROR_SUCCESS;
-    Clear();
-  }
+  CleanMachine() { Clear(); }
   CleanMachine(const CleanMachine&) = delete;
-  ~CleanMachine() {
-    Clear();
-    if (hadList) {
-      RegSetKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", type, list, size);
-    }
-  }
+  ~CleanMachine() { Clear(); }
+
   static void Clear() {
-    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications");
     RemoveTestCertificates();
+    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications");
+  }
+};
+
+// On such a machine a folder with sorrel.exe, the simulator's libraries and certificates, the
+// current one while this lives, and further copies: the path in the folder of this test program,
+// then in the new folder.
+struct ProgramFolder : CleanMachine, ScratchFolder {
+  ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {
+    for (const wchar_t* const file :
+         {L"sorrel.exe", L"simulator\\bthprops.cpl", L"simulator\\difxapi.dll",
+          L"certificates\\binary.cer", L"certificates\\base64.cer", L"certificates\\bundle.p7b"}) {
+      Copy(file, std::filesystem::path(file).filename());
+    }
+    for (const auto& [file, name] : further) {
+      std::filesystem::create_directories((path / name).parent_path());
+      Copy(file, name);
+    }
+    std::filesystem::current_path(path / "");
+  }
+  ~ProgramFolder() { std::filesystem::current_path(ProgramPath(L"")); }
+
+  // Runs a command line whose first word is a program in this folder.
+  static ChildResult Run(const std::wstring& commandLine) {
+    const std::filesystem::path program = commandLine.substr(0, commandLine.find(L' '));
+    return RunChild(commandLine, absolute(program).c_str());
   }
 
-  BYTE list[0x10000];
-  DWORD size = sizeof(list);
-  DWORD type = 0;
-  bool hadList = false;
+  void Copy(const wchar_t* file, const std::filesystem::path& name) const {
+    std::filesystem::copy_file(ProgramPath(file), path / name);
+  }
 };
 
 }  // namespace kelvo::test

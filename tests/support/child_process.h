@@ -49,32 +49,4 @@ inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = n
   return {exitCode, ReadBytes(folder / "output"), ReadBytes(folder / "errors")};
 }
 
-// A folder with sorrel.exe, the simulator's libraries and certificates, the current one while this
-// lives, and further copies: the path in the folder of this test program, then in the new folder.
-struct ProgramFolder : ScratchFolder {
-  ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {
-    for (const wchar_t* const file :
-         {L"sorrel.exe", L"simulator\\bthprops.cpl", L"simulator\\difxapi.dll",
-          L"certificates\\binary.cer", L"certificates\\base64.cer", L"certificates\\bundle.p7b"}) {
-      Copy(file, std::filesystem::path(file).filename());
-    }
-    for (const auto& [file, name] : further) {
-      std::filesystem::create_directories((path / name).parent_path());
-      Copy(file, name);
-    }
-    std::filesystem::current_path(path / "");
-  }
-  ~ProgramFolder() { std::filesystem::current_path(ProgramPath(L"")); }
-
-  // Runs a command line whose first word is a program in this folder.
-  static ChildResult Run(const std::wstring& commandLine) {
-    const std::filesystem::path program = commandLine.substr(0, commandLine.find(L' '));
-    return RunChild(commandLine, absolute(program).c_str());
-  }
-
-  void Copy(const wchar_t* file, const std::filesystem::path& name) const {
-    std::filesystem::copy_file(ProgramPath(file), path / name);
-  }
-};
-
 }  // namespace kelvo::test

@@ -8,8 +8,6 @@
 #include <string_view>
 #include <type_traits>
 
-#include "tests/support/ascii.h"
-
 namespace kelvo::test {
 
 // What a test can compare of an argument: a number, a constant string without its folder, a few
@@ -25,12 +23,11 @@ std::string Shown(Argument argument) {
       return std::to_string(reinterpret_cast<ULONG_PTR>(argument));
     }
     const std::basic_string_view text(argument);
-    const auto shown = text.substr(text.find(':') == 1 ? text.rfind('\\') : 0);
-    if constexpr (std::is_same_v<Argument, LPCSTR>) {
-      return "'" + std::string(shown) + "'";
-    } else {
-      return "'" + Ascii(shown) + "'";
+    std::string shown;
+    for (const auto unit : text.substr(text.find(':') == 1 ? text.rfind('\\') : 0)) {
+      shown += static_cast<char>(unit);
     }
+    return "'" + shown + "'";
   } else if (argument == nullptr) {
     return "0";
   } else if constexpr (std::is_same_v<Argument, HKEY>) {

@@ -16,8 +16,8 @@
 namespace kelvo::test {
 
 // What a function does with handles. Of one that is kLeftOut the arguments are not shown: they vary
-// from machine to machine, or their effect shows them. kEndsInSize: the last one is left out.
-enum class Handles { kNone, kLeftOut, kEndsInSize, kOpens, kCloses };
+// from machine to machine, or their effect shows them.
+enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
 // A row of the table: a function of Windows, and what is called in its place.
 struct Watched {
@@ -41,22 +41,17 @@ struct Interception {
 };
 inline Interception interception;
 
-// The handles in an argument that points to some, or in a result.
-template <typename Value>
-std::vector<const void*> OpenedHandles([[maybe_unused]] Value value, bool isResult) {
-  if constexpr (std::is_same_v<Value, PROCESS_INFORMATION*>) {
-    return {value->hProcess, value->hThread};
-  } else if constexpr (std::is_pointer_v<Value> &&
-                       !std::is_function_v<std::remove_pointer_t<Value>>) {
-    using Target = std::remove_pointer_t<Value>;
-    if (isResult) {
-      return {value};
-    }
-    if constexpr (std::is_pointer_v<Target> && !std::is_const_v<Target>) {
-      return {value != nullptr ? *value : nullptr};
-    }
-  }
+// The handles that an argument points to.
+template <typename Argument>
+std::vector<const void*> HandlesAt(Argument) {
   return {};
+}
+template <typename Target>
+std::vector<const void*> HandlesAt(Target** place) {
+  return {place != nullptr ? reinterpret_cast<const void*>(*place) : nullptr};
+}
+inline std::vector<const void*> HandlesAt(PROCESS_INFORMATION* started) {
+  return {started->hProcess, started->hThread};
 }
 
 // `failure` is what the function returns to say that it failed; 0 besides a last error. `closers`
@@ -70,15 +65,12 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   const bool closes = handles == Handles::kCloses;
   // The C runtime's own calls are not Windows'.
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
-  std::string call = isShown ? ShownCall(name, given...) : "";
-  if (handles == Handles::kEndsInSize) {
-    call.replace(call.rfind(',') + 2, std::string::npos, "size)");
-  }
+  const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {
     shown.insert(call);
   }
   if (fails && ends) {
-    ExitThread(0);
+    ExitThread(1);
   }
   if (fails && !closes) {
     SetLastError(kFailure);
@@ -91,10 +83,10 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
              ((row.first == (const void*)(ULONG_PTR)given) || ...);
     });
   }
-  const Result result = reinterpret_cast<Function>(originals[name])(given...);
+  Result result = reinterpret_cast<Function>(originals[name])(given...);
   const bool succeeded = failure == kFailure ? !result : result != (Result)failure;
   if (handles == Handles::kOpens && succeeded) {
-    for (const auto& opened : {OpenedHandles(given, false)..., OpenedHandles(result, true)}) {
+    for (const auto& opened : {HandlesAt(given)..., HandlesAt(&result)}) {
       for (const void* handle : opened) {
         open.try_emplace(handle, name, closers);
       }

@@ -50,9 +50,10 @@ static void StandInForMachine() {
     written.emplace_back(static_cast<const char*>(bytes), *done = size);
     return TRUE;
   });
-  // As if the program stood beside the simulator's libraries.
+  // As if this were that program.
   STAND_IN(GetModuleFileNameW, [](HMODULE, LPWSTR path, DWORD size) {
-    return static_cast<DWORD>(ProgramPath(L"simulator\\sorrel.exe").copy(path, size - 1));
+    return static_cast<DWORD>(
+        std::filesystem::absolute("sorrel.exe").wstring().copy(path, size - 1));
   });
   STAND_IN(GetComputerNameExW, [](auto, LPWSTR name, auto...) -> BOOL {
     lstrcpyW(name, L"full name");
@@ -84,8 +85,6 @@ static Lines LinesOf(const std::string& text) {
   std::istringstream stream(text);
   for (std::string line; std::getline(stream, line);) {
     std::erase(line, '\r');
-    // What is not text would make the file of expectations no text either.
-    std::ranges::replace_if(line, [](char byte) { return byte < ' ' || byte > '~'; }, '?');
     lines.insert(lines.end(), line.empty() ? 0 : 1, line);
   }
   return lines;
@@ -101,41 +100,25 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
 
 // What an operation finds: a list of applications, no certificate in either store, a value of each
 // kind that it reads; the simulator's Bluetooth library loaded, so that it is found by its name.
-struct Machine {
-  Machine() {
-    std::filesystem::current_path(ProgramPath(L"certificates"));
-    LoadLibraryW(ProgramPath(L"simulator\\bthprops.cpl").c_str());
-    SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", journal.c_str());
+struct Machine : ProgramFolder {
+  Machine() : ProgramFolder({{L"versioned_english.dll", L"versioned_english.dll"}}) {
+    LoadLibraryW((path / "bthprops.cpl").c_str());
+    SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", L"1,0,Copying|3,5");
-    std::freopen(standardError.string().c_str(), "w", stderr);
-  }
-  Machine(const Machine&) = delete;
-  ~Machine() {
-    Clear();
-    std::freopen("NUL", "w", stderr);
-  }
-
-  // Removes what operations leave, those of a test that was cut short too.
-  static void Clear() {
-    CleanMachine::Clear();
-    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep");
-    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep values");
-    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, kProductOptions, L"ProductSuite");
-    SetFileAttributesW(L"shared file", FILE_ATTRIBUTE_NORMAL);
-    DeleteFileW(L"shared file");
   }
 
   static void Prepare(const Operation& operation) {
     Clear();
-    const std::wstring list = operation.list;
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ, list.c_str(),
-                    static_cast<DWORD>((list.size() + 1) * sizeof(wchar_t)));
-    const DWORD number = 1;
-    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\kelvo sweep values", L"number", REG_DWORD,
-                    &number, sizeof(number));
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, kProductOptions, L"ProductSuite", REG_MULTI_SZ,
-                    L"kelvo suite\0", sizeof(L"kelvo suite\0"));
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep");
+    SetFileAttributesW(L"shared file", FILE_ATTRIBUTE_NORMAL);
+    std::filesystem::remove("shared file");
     std::ofstream("shared file");
+    StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ,
+               operation.list + std::wstring(1, L'\0'));
+    StoreUnits(HKEY_CURRENT_USER, L"Software\\kelvo sweep values", L"number", REG_DWORD,
+               std::wstring(L"\1\0", 2));
+    StoreUnits(HKEY_LOCAL_MACHINE, L"System\\CurrentControlSet\\Control\\ProductOptions",
+               L"ProductSuite", REG_MULTI_SZ, std::wstring(L"kelvo suite\0", 13));
   }
 
   // kFails: the chosen call fails. kEnds: it ends the run, like an ended process. kGoesOn: no call
@@ -143,8 +126,8 @@ struct Machine {
   enum class How { kFails, kEnds, kGoesOn };
 
   // Runs an operation in a library where nothing has run yet, and tells all that came of it: what
-  // was written, the answer, what changed in the list and the stores, what is open, the journal and
-  // standard error. Nothing when the table has no more.
+  // was written, the answer, what changed in the list and the stores, what is open, and the
+  // journal. Nothing when the table has no more.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"sweep_operations.dll").c_str()));
     const auto* const operation =
@@ -156,7 +139,7 @@ struct Machine {
     if (how != How::kGoesOn) {
       Prepare(*operation);
     }
-    std::filesystem::remove(journal);
+    std::filesystem::remove("journal");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_RESULT",
                             name.find("refused.inf") != std::string::npos ? L"5" : L"0");
     interception = {{}, {}, {}, chosen, how == How::kEnds, {}};
@@ -174,14 +157,10 @@ struct Machine {
         },
         reinterpret_cast<void*>(operation->run), 0, nullptr));
     WaitForSingleObject(thread.get(), INFINITE);
-    // Before the library is unloaded.
+    // Before the library is unloaded, which calls some more.
     calls = interception.calls;
-    return Collected(Ascii(answer), operation->list);
-  }
-
-  Lines Collected(const std::string& answer, const std::wstring& listBefore) {
-    std::string text = Joined("", written, "") + "= " + answer + "\n";
-    if (const std::wstring list = Applications(); list != listBefore) {
+    std::string text = Joined("", written, "") + "= " + Ascii(answer) + "\n";
+    if (const std::wstring list = Applications(); list != operation->list) {
       text += "list: " + Ascii(list) + "\n";
     }
     for (const wchar_t* store : {L"TrustedPublisher", L"CA"}) {
@@ -194,16 +173,9 @@ struct Machine {
     for (const auto& [handle, functions] : interception.open) {
       open.insert("open " + functions.first);
     }
-    return LinesOf(text + Joined("", open, "\n") + ReadBytes(journal) + ReadBytes(standardError));
+    return LinesOf(text + Joined("", open, "\n") + ReadBytes("journal"));
   }
 
-  static constexpr const wchar_t* kProductOptions =
-      L"System\\CurrentControlSet\\Control\\ProductOptions";
-  // First: it refuses every machine but a throw-away one.
-  CleanMachine clean;
-  ScratchFolder folder;
-  std::filesystem::path journal = folder / "journal";
-  std::filesystem::path standardError = folder / "standard error";
   OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo sweep")};
   std::string name;
   std::map<std::string, int> calls;

@@ -11,16 +11,22 @@
 //   alone\sorrel.exe, with none
 //   swapped\sorrel.exe, with each library under the other's name, hence without its functions
 //   without_security.exe and without_crypt32.exe, for which Wine has no such library
-struct Rehearsal {
-  Rehearsal() {
+struct Rehearsal : ProgramFolder {
+  Rehearsal()
+      : ProgramFolder({{L"sorrel.exe", L"alone\\sorrel.exe"},
+                       {L"sorrel.exe", L"swapped\\sorrel.exe"},
+                       {L"simulator\\bthprops.cpl", L"swapped\\difxapi.dll"},
+                       {L"simulator\\difxapi.dll", L"swapped\\bthprops.cpl"},
+                       {L"sorrel.exe", L"without_security.exe"},
+                       {L"sorrel.exe", L"without_crypt32.exe"}}) {
     for (const std::wstring library : {L"security", L"crypt32"}) {
       const std::wstring key =
           L"Software\\Wine\\AppDefaults\\without_" + library + L".exe\\DllOverrides";
       RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), library.c_str(), REG_SZ, L"", 2);
     }
-    folder.Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
+    Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
     // From no bytes at all Wine 8 makes whatever lies on its stack.
-    folder.Write("empty.cer", "\n");
+    Write("empty.cer", "\n");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
 
@@ -46,14 +52,6 @@ struct Rehearsal {
                    SubjectsInStore(L"TrustedPublisher").c_str(), SubjectsInStore(L"CA").c_str());
     return run.output + Ascii(state.c_str()) + ReadBytes("journal");
   }
-
-  CleanMachine machine;
-  ProgramFolder folder{{L"sorrel.exe", L"alone\\sorrel.exe"},
-                       {L"sorrel.exe", L"swapped\\sorrel.exe"},
-                       {L"simulator\\bthprops.cpl", L"swapped\\difxapi.dll"},
-                       {L"simulator\\difxapi.dll", L"swapped\\bthprops.cpl"},
-                       {L"sorrel.exe", L"without_security.exe"},
-                       {L"sorrel.exe", L"without_crypt32.exe"}};
 };
 
 TEST_CASE("sorrel.exe writes, returns, calls and leaves what transcript.txt says") {

@@ -15,14 +15,18 @@ TEST_CASE("the last error after the adjustment tells whether the privilege is en
     std::string written;
     REPLACE(AdjustTokenPrivileges, [&](auto, auto, auto, TOKEN_PRIVILEGES* asked, auto...) {
       CHECK(Shown(asked) == "SeLoadDriverPrivilege attributes 2");
-      return SetLastError(error), TRUE;
+      SetLastError(error);
+      return TRUE;
     });
     // Closing the token must not hide it.
     REPLACE(CloseHandle, [&](auto original, HANDLE handle) {
-      return original(handle), SetLastError(ERROR_INVALID_HANDLE), TRUE;
+      original(handle);
+      SetLastError(ERROR_INVALID_HANDLE);
+      return TRUE;
     });
     REPLACE(WriteFile, [&](auto, auto, auto bytes, DWORD size, DWORD* done, auto) {
-      return written.append(static_cast<const char*>(bytes), *done = (size + 1) / 2), TRUE;
+      written.append(static_cast<const char*>(bytes), *done = (size + 1) / 2);
+      return TRUE;
     });
     CHECK_BOTH(EnableLoadDriverPrivilege() == isEnabled, written == output);
   }
