@@ -19,6 +19,7 @@ namespace kelvo {
 // catch the wsspi::SspiException* that this may throw.
 DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName);
 
+// Windows' names of the stores of the two functions below.
 inline constexpr const wchar_t* kTrustedPublisherStore = L"TrustedPublisher";
 inline constexpr const wchar_t* kIntermediateCaStore = L"CA";
 

@@ -14,12 +14,15 @@ namespace kelvo {
 template <typename Kind>
 class Owned {
  public:
+  // The Windows type.
   using Handle = typename Kind::Handle;
 
   Owned() = default;
+  // Takes over a handle; moving passes it on.
   explicit Owned(Handle handle) : handle_(handle) {}
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;
+  // Takes the other's handle, which then owns none.
   Owned(Owned&& other) noexcept : handle_(other.release()) {}
   Owned& operator=(Owned&& other) noexcept {
     reset(other.release());
@@ -27,6 +30,7 @@ class Owned {
   }
   ~Owned() { reset(); }
 
+  // Whether there is a handle, and the handle.
   explicit operator bool() const { return handle_ != Kind::None(); }
   [[nodiscard]] Handle get() const { return handle_; }
 
@@ -39,6 +43,7 @@ class Owned {
   // Returns the handle and no longer owns it.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 
+  // Closes the handle and takes over another one, or none.
   void reset(Handle handle = Kind::None()) {
     const Handle old = std::exchange(handle_, handle);
     if (old != Kind::None()) {

@@ -6,6 +6,7 @@
 
 namespace kelvo {
 
+// The window station and the desktop that the user at the screen works on.
 inline constexpr const wchar_t* kInteractiveStation = L"WinSta0";
 inline constexpr const wchar_t* kInteractiveDesktop = L"Default";
 

@@ -13,6 +13,7 @@ namespace kelvo {
 // ends one.
 BOOL EnablePrivilege(const wchar_t* name, BOOL enable);
 
+// How enabling a privilege went.
 struct PrivilegeOutcome {
   // What AdjustTokenPrivileges returned; FALSE when it was not reached. TRUE does not mean that the
   // token holds the privilege.

@@ -19,6 +19,7 @@ class StringTokenizer {
   // the end.
   StringTokenizer(WString text, WString delimiter, bool collapse);
 
+  // Returns whether NextToken has an item to hand out.
   [[nodiscard]] bool HasMoreTokens() const { return next_ < text_.length(); }
 
   // Returns the next item, or an empty string when there is none left.

@@ -7,6 +7,7 @@
 
 namespace wsspi {
 
+// What failed; an index of kSspiErrorTexts.
 enum SspiErrorCode : std::int32_t {
   ErrorSuccess = 0,
   ErrorNotInitialized = 1,
@@ -50,9 +51,12 @@ struct SspiException {
   SspiException(const wchar_t* atFile, std::uint32_t atLine, std::int32_t errorCode,
                 std::uint32_t errorDetail);
 
+  // Where it was thrown.
   kelvo::WString file;
   std::uint32_t line;
+  // An index of kSspiErrorTexts, or 16.
   std::int32_t code;
+  // 0, unless the failing call has a code of its own.
   std::uint32_t detail;
 };
 

@@ -1,0 +1,34 @@
+# Makes the comments of a header Doxygen's: one in front of a declaration belongs to it, and to the declarations that follow
+# without a blank line; one in front of a blank line belongs to the header.
+
+function print_block(mark,   i) {
+  for (i = 1; i <= count; ++i) {
+    line = block[i]
+    gsub(/[\\@<>#]/, "\\\\&", line)
+    sub(/\/\//, mark, line)
+    print line
+  }
+}
+
+/^#pragma once/ { print "//! @file\n" }
+/^ *\/\/ ?NOLINT/ { next }
+/^ *\/\// {
+  if (!in_comment) count = 0
+  in_comment = 1
+  block[++count] = $0
+  next
+}
+/^$/ {
+  if (in_comment) {
+    print "//! @file"
+    print_block("//!")
+  }
+  in_comment = count = 0
+}
+/[^ ]/ {
+  declares = !/^ *(public|private|protected|#|}|namespace|template)/
+  if (in_comment || count && ended && declares) print_block("///")
+  in_comment = 0
+  ended = /[;}]$/
+}
+{ print }
