@@ -54,7 +54,7 @@ endif()
 # How our programs are linked besides: hardened, with the checksum in the header (-release), and the same bytes wherever
 # they were built. Without control-flow guard: Debian 12's runtime lacks the function that it dispatches calls through.
 # kelvo_wide_program is for one that begins with wmain, kelvo_shipped_program for one that is shipped: what a debugger
-# needs stands in a .pdb beside it.
+# needs is in a .pdb with its name.
 add_library(kelvo_program INTERFACE)
 target_link_libraries(kelvo_program INTERFACE kelvo_build_options)
 add_library(kelvo_wide_program INTERFACE)

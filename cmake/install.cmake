@@ -1,5 +1,5 @@
 # What `cmake --install` puts in place and `cpack` packs: the components "tool" (what a setup ships), "documentation" in
-# one package, "simulator" (never beside signed programs, which would load its libraries), "sdk" (the library, as the CMake package kelvo) and "symbols" in one each.
+# one package, "simulator" (never in the folder of signed programs, which would load its libraries), "sdk" (the library, as the CMake package kelvo) and "symbols" in one each.
 
 include(CMakePackageConfigHelpers)
 

@@ -64,7 +64,8 @@ constexpr std::array kCommandForms = {
     CommandForm{3, L"register", RunRegisterFor}, CommandForm{3, L"unregister", RunUnregisterFor},
 };
 
-// Setup programs know this text as it stands: the examples run on into the next description.
+// Setup programs compare this text: it stays as it is, examples that run into the next line
+// included.
 constexpr std::array kUsageTexts = {
     L"invalid arguments\n",
     L"install: Install Certificate, Driver and Register Service, remember dependant application\n",

@@ -6,7 +6,7 @@
 namespace kelvo {
 
 bool EnableLoadDriverPrivilege() {
-  // The adjustment also succeeds when the token lacks the privilege: only the last error tells.
+  // The adjustment also succeeds when the token lacks the privilege: only the last error shows it.
   const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {
     // One wording for all three calls; the code tells them apart.

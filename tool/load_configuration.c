@@ -1,6 +1,6 @@
 // The load configuration of a program that is shipped: Windows 10 1607 and later load the libraries
-// that it imports from the system directory alone. One planted beside the program is too early for
-// NarrowLibrarySearch, which runs in wmain. Visual Studio's linker writes this by itself.
+// that it imports from the system directory alone. One planted in the program's folder is too early
+// for NarrowLibrarySearch, which runs in wmain. Visual Studio's linker writes this by itself.
 
 #include <windows.h>
 

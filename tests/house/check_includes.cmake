@@ -1,7 +1,7 @@
 # What may include what: cmake -D source_folder=... -P check_includes.cmake
 cmake_minimum_required(VERSION 3.25)
 
-# Each facility of the library with those that it may stand on.
+# Each facility of the library with those that it may include.
 set(platform "")
 set(string "")
 set(registry platform string)
@@ -35,9 +35,9 @@ foreach(file ${files})
     set(inner "${CMAKE_MATCH_4}")
     if(NOT room STREQUAL tests AND other_room STREQUAL tests OR
         room MATCHES "^(lib|tool)$" AND NOT other_room MATCHES "^(lib|${room})$")
-      message(SEND_ERROR "${file} points up: ${include}")
+      message(SEND_ERROR "${file} must not include a room above it: ${include}")
     elseif(room STREQUAL lib AND NOT other_facility STREQUAL facility AND NOT other_facility IN_LIST ${facility})
-      message(SEND_ERROR "${file}: lib/${facility} does not stand on lib/${other_facility}")
+      message(SEND_ERROR "${file}: lib/${facility} must not include lib/${other_facility}")
     elseif(inner AND NOT room STREQUAL lib AND NOT (room STREQUAL tests AND facility STREQUAL other_facility))
       message(SEND_ERROR "${file} includes an inner header of the library: ${include}")
     elseif(inner AND file MATCHES "^lib/[a-z]+/[a-z0-9_]+[.]h$")

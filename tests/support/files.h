@@ -49,7 +49,7 @@ inline std::wstring ProgramPath(const std::wstring& name) {
 }
 
 // Compares what was seen with a file that the test lists under EXPECTED, byte by byte, and shows
-// where they differ first. What was seen then stands beside that file's copy as FILE.seen.
+// where they differ first. What was seen is then in FILE.seen, in the folder of that copy.
 inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);
   const std::string expected = ReadBytes(path);

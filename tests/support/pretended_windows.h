@@ -14,7 +14,7 @@ inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
     const DWORD size = record->dwOSVersionInfoSize;
     *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
     lstrcpyW(record->szCSDVersion, servicePack);
-    // NT 4.0 does not know the extended record.
+    // NT 4.0 does not support the extended record.
     return major != 4 || size == sizeof(*record);
   };
   return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", report);

@@ -84,7 +84,7 @@ struct ReplacedImport<Result(Parameters...), Replacement> {
                                parameters...);
   }
 
-  // Each lambda has a type, and so an `active`, of its own.
+  // Each lambda has its own type, and so its own `active`.
   static inline ReplacedImport* active = nullptr;
   const char* function;
   Replacement replacement;
@@ -108,7 +108,7 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
   })
 
 // While it lives, GetProcAddress returns `function` for the export `name` of any module; null
-// stands for a Windows that does not have it.
+// means a Windows that does not have it.
 struct ReplacedExport {
   ReplacedExport(const char* exported, void* function) : name(exported) {
     replaced[name] = reinterpret_cast<FARPROC>(function);

@@ -3,7 +3,7 @@
 #include "tests/support/shown_arguments.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("the last error after the adjustment tells whether the privilege is enabled") {
+TEST_CASE("EnableLoadDriverPrivilege: the last error after the adjustment decides") {
   struct Row {
     DWORD error;
     bool isEnabled;
