@@ -17,7 +17,13 @@ TEST_CASE("reflection is switched where Windows has the function, a view has its
   CHECK_BOTH(GetRegistryViewAccess(0) == 0, GetRegistryViewAccess(3) == 0);
 }
 
-TEST_CASE("the cache of programs' names has the key of Windows Vista and later") {
-  CHECK(GetMuiCacheKeyName() ==
-        L"Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache");
+TEST_CASE("the cache of programs' names has another key from Windows Vista on, none before XP") {
+  const std::tuple<DWORD, DWORD, WString> rows[] = {
+      {6, 0, L"Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"},
+      {5, 2, L"Software\\Microsoft\\Windows\\ShellNoRoam\\MUICache"},
+      {5, 0, L""}};
+  for (const auto& [major, minor, name] : rows) {
+    const auto windows = PretendWindows(2, major, minor);
+    CHECK(GetMuiCacheKeyName() == name);
+  }
 }

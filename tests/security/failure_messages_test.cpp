@@ -90,7 +90,8 @@ TEST_CASE("each failing call has its message, then the operation its own") {
     traced += text.starts_with(operation + L" ") ? L"," + text.substr(operation.length()) : L"";
     throw 1;  // is the sink's own trouble
   });
-  std::map<std::wstring, std::map<std::wstring, std::wstring>> outcomes;
+  // By operation and outcome, the calls that failed and those that threw.
+  std::map<std::wstring, std::map<std::wstring, std::array<std::wstring, 2>>> outcomes;
   for (const auto& [name, succeeds] : operations) {
     operation = name;
     const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
@@ -116,7 +117,7 @@ TEST_CASE("each failing call has its message, then the operation its own") {
       const WString named = throws ? L"" : FormatText(L", %hs Failed", failing.function);
       const bool isRule = wasReached && !succeeded && traced == named.c_str();
       outcome += isRule ? L" as a rule" : traced;
-      std::wstring& calls = outcomes[name][outcome + (wasReached && throws ? L" (thrown)" : L"")];
+      std::wstring& calls = outcomes[name][outcome][throws ? 1 : 0];
       const WString call = FormatText(L" %hs-", failing.function);
       if (wasReached && calls.find(call.c_str()) == std::wstring::npos) {
         calls += call.c_str() + std::to_wstring(nth);
@@ -130,14 +131,28 @@ TEST_CASE("each failing call has its message, then the operation its own") {
       }
     }
   }
+  // Nobody fails, so the token's user is let into the desktop, by the rights of desktops.
+  WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
+  RunAsUser(command, TRUE, nullptr);
+  CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);
   SetTraceSink(nullptr);
   TraceMessage(L"nobody", L"listens");
   std::wstring seen;
+  const auto show = [&](const std::wstring& outcome, const std::wstring& calls) {
+    const bool isLong = outcome.length() + calls.length() > 115;
+    seen += L"    " + outcome + (isLong ? L":\n       " : L":") + calls + L"\n";
+  };
   for (const auto& [name, ofName] : outcomes) {
     seen += name + L"\n";
     for (const auto& [outcome, calls] : ofName) {
-      const bool isLong = outcome.length() + calls.length() > 115;
-      seen += L"    " + outcome + (isLong ? L":\n       " : L":") + calls + L"\n";
+      const auto& [failed, thrown] = calls;
+      const bool isSame = failed == thrown && !failed.empty();
+      if (!failed.empty() || thrown.empty()) {
+        show(outcome + (isSame ? L" (also thrown)" : L""), failed);
+      }
+      if (!thrown.empty() && !isSame) {
+        show(outcome + L" (thrown)", thrown);
+      }
     }
   }
   CheckAgainstFile(Ascii(seen), L"failure_messages.txt");

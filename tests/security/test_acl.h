@@ -52,6 +52,10 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
   return descriptor;
 }
 
+// The beginning of an entry that grants all rights to one.
+const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
+const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
+
 // The DACL of an object of whatever kind, "none" when it has none.
 inline std::wstring ReadDacl(HANDLE object) {
   std::vector<BYTE> descriptor(0x10000);
