@@ -3,13 +3,23 @@
 #include "tests/support/ascii.h"
 #include "tests/support/desktop_scope.h"
 
-// Waits for the event that its first argument names, writes its command line and desktop into a
-// file beside itself, reports that by the event "..._done" and ends with 7.
-int wmain(int, wchar_t** words) {
+// Its first thread notes its desktop and ends at once. The second one waits for the event that the
+// first argument names, writes the command line and the desktop into a file beside itself, reports
+// that by the event "..._done" and ends the program with 7.
+static std::wstring desktop;
+
+static DWORD WINAPI Work(void* arguments) {
+  auto* const words = static_cast<wchar_t**>(arguments);
   const std::wstring event = words[1];
   WaitForSingleObject(OpenEventW(SYNCHRONIZE, FALSE, event.c_str()), 10000);
-  const std::wstring text = GetCommandLineW() + (L"|" + kelvo::test::CurrentDesktop());
+  const std::wstring text = GetCommandLineW() + (L"|" + desktop);
   std::ofstream((std::wstring(words[0]) + L".txt").c_str()) << kelvo::test::Ascii(text);
   SetEvent(OpenEventW(EVENT_MODIFY_STATE, FALSE, (event + L"_done").c_str()));
-  return 7;
+  ExitProcess(7);
+}
+
+int wmain(int, wchar_t** words) {
+  desktop = kelvo::test::CurrentDesktop();
+  CreateThread(nullptr, 0, Work, words, 0, nullptr);
+  ExitThread(0);
 }

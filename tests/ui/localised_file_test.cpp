@@ -19,7 +19,7 @@ TEST_CASE("each locale of the table is Windows' own, both ways") {
       CHECK_BOTH(known == std::wstring(name), LocaleNameToLCID(name, 0) == id);
     }
   }
-  CHECK_BOTH(count == 158, FindLocaleName(0x00010407) == std::wstring(L"de-DE"));
+  CHECK_BOTH(count == 158, FindLocaleName(0x000F0407) == std::wstring(L"de-DE"));
   CHECK_BOTH(FindLocaleName(0x01000407) == nullptr, FindLocaleId(L"AF-za") == 0x0436);
   CHECK_BOTH(FindLocaleId(L"de-C") == 0, FindLocaleId(nullptr) == 0);
 }
