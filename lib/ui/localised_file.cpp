@@ -37,8 +37,10 @@ bool IsFile(const WString& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
+bool IsNeutral(LANGID language) { return PRIMARYLANGID(language) == LANG_NEUTRAL; }
+
 // 0 when this Windows knows no language of that name.
-LANGID LanguageOf(const WString& name) {
+LANGID NumberOf(const WString& name) {
   auto* const getInfo = KELVO_FIND_FUNCTION(GetModuleHandleW(L"kernel32.dll"), GetLocaleInfoEx);
   DWORD number = 0;
   constexpr int kNumberLength = sizeof(number) / sizeof(wchar_t);
@@ -48,6 +50,20 @@ LANGID LanguageOf(const WString& name) {
   }
   const auto language = static_cast<LANGID>(number);
   return PRIMARYLANGID(language) != LANG_INVARIANT ? language : LANGID{0};
+}
+
+// 0 when the name is not a language's. Windows 10 gives well-formed names without a number of their
+// own, such as "en-DE" and "old", a neutral one: of these the primary language is known, or none.
+LANGID LanguageOf(const WString& name) {
+  const LANGID language = NumberOf(name);
+  return language == 0 || !IsNeutral(language)
+             ? language
+             : PRIMARYLANGID(NumberOf(name.substr(0, name.find(L"-"))));
+}
+
+// "The user's language" and its like, as the language that they stand for.
+LANGID Resolved(LANGID language) {
+  return IsNeutral(language) ? LanguageOf(GetLocaleInfoString(language, LOCALE_SNAME)) : language;
 }
 
 // How near a language is to the wanted one, nearest first.
@@ -61,8 +77,10 @@ int Distance(LANGID language, LANGID wanted) {
   return PRIMARYLANGID(language) == LANG_ENGLISH ? 2 : 3;
 }
 
+// Compares as file systems do.
 bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
-  return CompareNoCase(WString(a).c_str(), WString(b).c_str()) == 0;
+  return CompareStringOrdinal(a.data(), static_cast<int>(a.length()), b.data(),
+                              static_cast<int>(b.length()), TRUE) == CSTR_EQUAL;
 }
 
 // The language's name within the name of a file or folder that was found; empty when that has
@@ -122,7 +140,7 @@ WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID
   }
   const WString file = fileName;
   const PathPattern pattern = PatternOf(folder, file, form);
-  const WString nearest = file.empty() ? WString() : NearestName(pattern, language, form);
+  const WString nearest = file.empty() ? WString() : NearestName(pattern, Resolved(language), form);
   return nearest.empty() ? WString() : pattern.With(nearest);
 }
 

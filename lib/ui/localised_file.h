@@ -24,7 +24,10 @@ WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LAN
 // Returns the path of the file for `language`. When that file does not exist, returns the first
 // that does: in the same primary language, in English (United States), in another English, in any
 // language; among equals, the first by name. Empty when there is none. GetLocaleInfoEx, looked up
-// at run time, says which language a file is for; without it only the exact file is found.
+// at run time, says which language a file is for; without it only the exact file is found. A name
+// such as "en-DE", which has no number of its own on Windows, counts as its part before the "-".
+// LANG_NEUTRAL, LOCALE_USER_DEFAULT and LOCALE_SYSTEM_DEFAULT are the languages that they stand
+// for.
 WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                           LocalisedFileForm form);
 

@@ -28,7 +28,7 @@ TEST_CASE("the exact file is found, or the nearest that is there") {
   const ScratchFolder scratch;
   const std::wstring folder = scratch / L"";
   const auto find = [&](LANGID language, LocalisedFileForm form) {
-    const WString path = FindLocalisedFile(folder.c_str(), L"a.b.dll", language, form);
+    const WString path = FindLocalisedFile(folder.c_str(), L"\u00E9.x", language, form);
     return path.empty() ? WString() : path.substr(folder.length());
   };
   constexpr auto kFolder = LocalisedFileForm::kFolder, kSuffix = LocalisedFileForm::kSuffix;
@@ -40,27 +40,40 @@ TEST_CASE("the exact file is found, or the nearest that is there") {
   CHECK(GetLocalisedFilePath(L"C:\\x", nullptr, 0x0407, kSuffix) == L"");
   // What is made one after the other, of a path that ends in a separator only the folder, and what
   // is then found for German (Germany).
-  const wchar_t* const steps[][2] = {{L"a.b_nonsense name.dll", L""},
-                                     {L"a.b_de-DE.dll\\", L""},
-                                     {L"a.b_ja-JP.dllx", L""},
-                                     {L"A.B_ja-JP.DLL", L"a.b_ja-JP.dll"},
-                                     {L"a.b_da-DK.dll", L"a.b_da-DK.dll"},
-                                     {L"a.b_en-GB.dll", L"a.b_en-GB.dll"},
-                                     {L"a.b_en-US.dll", L"a.b_en-US.dll"},
-                                     {L"a.b_de-CH.dll", L"a.b_de-CH.dll"},
-                                     {L"a.b_de-AT.dll", L"a.b_de-AT.dll"},
-                                     {L"resources\\de-CH\\", L""},
-                                     {L"resources\\en-US\\a.b.dll", L"resources\\en-US\\a.b.dll"},
-                                     {L"resources\\de-CH\\a.b.dll", L"resources\\de-CH\\a.b.dll"},
-                                     {L"resources\\de-DE\\a.b.dll", L"resources\\de-DE\\a.b.dll"}};
+  const wchar_t* const steps[][2] = {
+      {L"\u00E9_old.x", L""},
+      {L"\u00E9_de-DE.x\\", L""},
+      {L"\u00E9_ja-JP.xy", L""},
+      {L"\u00C9_ja-JP.X", L"\u00E9_ja-JP.x"},
+      {L"\u00E9_da-DK.x", L"\u00E9_da-DK.x"},
+      {L"\u00E9_en-DE.x", L"\u00E9_en-DE.x"},
+      {L"\u00E9_en-US.x", L"\u00E9_en-US.x"},
+      {L"\u00E9_de-CH.x", L"\u00E9_de-CH.x"},
+      {L"\u00E9_de-AT.x", L"\u00E9_de-AT.x"},
+      {L"resources\\de-CH\\", L""},
+      {L"resources\\en-US\\\u00E9.x", L"resources\\en-US\\\u00E9.x"},
+      {L"resources\\de-CH\\\u00E9.x", L"resources\\de-CH\\\u00E9.x"},
+      {L"resources\\de-DE\\\u00E9.x", L"resources\\de-DE\\\u00E9.x"}};
+  // As on Windows 10, for a user whose language is German.
+  const auto getNumber = +[](LPCWSTR name, LCTYPE type, LPWSTR number, int size) {
+    const bool hasNone = name == std::wstring(L"en-DE") || name == std::wstring(L"old");
+    *reinterpret_cast<DWORD*>(number) = LOCALE_CUSTOM_UNSPECIFIED;
+    return hasNone ? 2 : GetLocaleInfoEx(name, type, number, size);
+  };
+  const ReplacedExport numbers("GetLocaleInfoEx", getNumber);
+  REPLACE(GetLocaleInfoW, [](auto original, LCID id, auto... to) {
+    return original(id == LOCALE_USER_DEFAULT ? 0x0407 : id, to...);
+  });
   for (const auto& [path, found] : steps) {
     CAPTURE(path);
     std::filesystem::create_directories((scratch / path).parent_path());
     scratch.Write(path, "x");
     const bool isInFolder = std::wstring_view(path).starts_with(L"resources");
-    CHECK(find(0x0407, isInFolder ? kFolder : kSuffix) == found);
+    for (const int german : {0x0407, 0x0400}) {
+      CHECK(find(static_cast<LANGID>(german), isInFolder ? kFolder : kSuffix) == found);
+    }
   }
   const ReplacedExport missing("GetLocaleInfoEx", nullptr);
-  CHECK(find(0x0407, kFolder) == L"resources\\de-DE\\a.b.dll");
-  CHECK_BOTH(find(0x0807, kSuffix) == L"a.b_de-CH.dll", find(0x0411, kFolder) == L"");
+  CHECK(find(0x0407, kFolder) == L"resources\\de-DE\\\u00E9.x");
+  CHECK_BOTH(find(0x0807, kSuffix) == L"\u00E9_de-CH.x", find(0x0411, kFolder) == L"");
 }
