@@ -1,34 +1,49 @@
 #include "lib/ui/resource_languages.h"
 
 #include <algorithm>
+#include <exception>
 
 namespace kelvo {
 
 namespace {
 
+// No exception may leave a function that Windows calls: it waits here until the enumeration ends.
+struct Enumeration {
+  std::vector<LANGID> languages;
+  std::exception_ptr failure;
+};
+
 BOOL CALLBACK AppendLanguage(HMODULE /*module*/, LPCWSTR /*type*/, LPCWSTR /*name*/, WORD language,
-                             LONG_PTR languages) {
+                             LONG_PTR context) {
   // NOLINTNEXTLINE(performance-no-int-to-ptr): the enumeration passes a pointer on as a number
-  reinterpret_cast<std::vector<LANGID>*>(languages)->push_back(language);
-  return TRUE;
+  auto& enumeration = *reinterpret_cast<Enumeration*>(context);
+  try {
+    enumeration.languages.push_back(language);
+    return TRUE;
+  } catch (...) {
+    enumeration.failure = std::current_exception();
+    return FALSE;
+  }
 }
 
 // Ends the enumeration with the first name, which is valid only in here.
-BOOL CALLBACK AppendLanguagesOfFirst(HMODULE module, LPCWSTR type, LPWSTR name,
-                                     LONG_PTR languages) {
-  EnumResourceLanguagesW(module, type, name, AppendLanguage, languages);
+BOOL CALLBACK AppendLanguagesOfFirst(HMODULE module, LPCWSTR type, LPWSTR name, LONG_PTR context) {
+  EnumResourceLanguagesW(module, type, name, AppendLanguage, context);
   return FALSE;
 }
 
 }  // namespace
 
 std::vector<LANGID> GetStringResourceLanguages(HMODULE module) {
-  std::vector<LANGID> languages;
+  Enumeration enumeration;
   if (module != nullptr) {
     EnumResourceNamesW(module, RT_STRING, AppendLanguagesOfFirst,
-                       reinterpret_cast<LONG_PTR>(&languages));
+                       reinterpret_cast<LONG_PTR>(&enumeration));
   }
-  return languages;
+  if (enumeration.failure) {
+    std::rethrow_exception(enumeration.failure);
+  }
+  return std::move(enumeration.languages);
 }
 
 LANGID ChooseResourceLanguage(const std::vector<LANGID>& offered, LANGID requested) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cwchar>
+#include <exception>
 
 #include "lib/ui/text_substitution.h"
 
@@ -25,9 +26,15 @@ bool IsLabelOrButton(HWND window) {
          std::wcsstr(className.data(), L"button") != nullptr;
 }
 
-BOOL CALLBACK RewriteChild(HWND child, LPARAM /*unused*/) {
-  if (IsLabelOrButton(child)) {
-    RewriteWindowText(child);
+// No exception may leave a function that Windows calls: the last one waits until all are visited.
+BOOL CALLBACK RewriteChild(HWND child, LPARAM failure) {
+  try {
+    if (IsLabelOrButton(child)) {
+      RewriteWindowText(child);
+    }
+  } catch (...) {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the enumeration passes a pointer on as a number
+    *reinterpret_cast<std::exception_ptr*>(failure) = std::current_exception();
   }
   return TRUE;
 }
@@ -36,7 +43,12 @@ BOOL CALLBACK RewriteChild(HWND child, LPARAM /*unused*/) {
 
 BOOL RewriteWindowTexts(HWND window) {
   RewriteWindowText(window);
-  return EnumChildWindows(window, RewriteChild, 0);
+  std::exception_ptr failure;
+  const BOOL result = EnumChildWindows(window, RewriteChild, reinterpret_cast<LPARAM>(&failure));
+  if (failure) {
+    std::rethrow_exception(failure);
+  }
+  return result;
 }
 
 }  // namespace kelvo

@@ -23,7 +23,6 @@ TEST_CASE("a module tells the languages of its first string table; kinship choos
 
 TEST_CASE("a locale has a name, unless Windows has no names") {
   CHECK_BOTH(LocaleNameFromLcid(0x0007) == L"de", LocaleNameFromLcid(0x12345) == L"");
-  CHECK(GetLocaleInfoString(0x0807, LOCALE_SNAME) == L"de-CH");
   const ReplacedExport missing("LCIDToLocaleName", nullptr);
   CHECK(LocaleNameFromLcid(0x0007) == L"");
 }
@@ -83,6 +82,37 @@ TEST_CASE("a window's labels and buttons are rewritten, its other controls are n
     CHECK(text.c_str() == rows[i][2]);
   }
   TextSubstitutions().clear();
+}
+
+TEST_CASE("an enumeration lets memory that runs out be known when it is over, not before") {
+  bool hasMemory = true, isThrown = false;
+  REPLACE(malloc,
+          [&](auto original, std::size_t size) { return hasMemory ? original(size) : nullptr; });
+  const auto call = [&](auto callback, auto... given) {
+    hasMemory = false;
+    try {
+      callback(given...);
+    } catch (...) {
+      isThrown = true;
+    }
+    hasMemory = true;
+    return FALSE;
+  };
+  REPLACE(EnumResourceLanguagesW, [&](auto, auto... given) {
+    const auto& [module, type, name, append, context] = std::tuple(given...);
+    return call(append, module, type, name, WORD{9}, context);
+  });
+  REPLACE(EnumChildWindows,
+          [&](auto, auto, auto rewrite, auto context) { return call(rewrite, nullptr, context); });
+  // Every window is a label with this text.
+  REPLACE(GetClassNameW,
+          [](auto, auto, auto* name, auto) { return lstrlenW(lstrcpyW(name, L"static")); });
+  REPLACE(GetWindowTextW,
+          [](auto, auto, auto* text, auto) { return lstrlenW(lstrcpyW(text, L"Kelvo")); });
+  HMODULE const library = LoadLibraryW(ProgramPath(L"named_strings.dll").c_str());
+  CHECK_THROWS_AS(GetStringResourceLanguages(library), std::bad_alloc);
+  CHECK_THROWS_AS(RewriteWindowTexts(nullptr), std::bad_alloc);
+  CHECK_FALSE(isThrown);
 }
 
 TEST_CASE("a console gets characters, a file bytes, and to write a part of them is to fail") {
