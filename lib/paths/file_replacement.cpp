@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <cwchar>
 
 #include "lib/paths/internal/trailing_backslash.h"
 #include "lib/string/wstring.h"
@@ -15,7 +16,8 @@ namespace {
 // The path of a copy in the temporary folder, empty when none could be made.
 WString CopyToTemporaryFile(const wchar_t* source) {
   std::array<wchar_t, MAX_PATH> folder{};
-  std::array<wchar_t, MAX_PATH> copy{};
+  // Made first: when memory runs out, there is no copy yet.
+  WString copy(MAX_PATH, L'\0');
   if (GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()) == 0 ||
       GetTempFileNameW(folder.data(), L"wqr", 0, copy.data()) == 0) {
     return {};
@@ -25,7 +27,8 @@ WString CopyToTemporaryFile(const wchar_t* source) {
     DeleteFileW(copy.data());
     return {};
   }
-  return {copy.data()};
+  copy.resize(std::wcslen(copy.c_str()));
+  return copy;
 }
 
 WString ShortName(const wchar_t* path) {
@@ -34,15 +37,20 @@ WString ShortName(const wchar_t* path) {
   return {length > 0 && length < name.size() ? name.data() : path};
 }
 
-void AddToWininit(const wchar_t* source, const wchar_t* target) {
+bool AddToWininit(const wchar_t* source, const wchar_t* target) {
   std::array<wchar_t, 256> directory{};
   GetWindowsDirectoryW(directory.data(), static_cast<UINT>(directory.size()));
   if (!internal::EnsureTrailingBackslash(directory)) {
-    return;
+    return false;
   }
   const WString file = WString(directory.data()) + L"WININIT.INI";
-  WritePrivateProfileStringW(L"Rename", ShortName(target).c_str(), ShortName(source).c_str(),
-                             file.c_str());
+  return WritePrivateProfileStringW(L"Rename", ShortName(target).c_str(), ShortName(source).c_str(),
+                                    file.c_str()) != FALSE;
+}
+
+bool Schedule(const wchar_t* source, const wchar_t* target) {
+  constexpr DWORD kFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_DELAY_UNTIL_REBOOT;
+  return IsWinNT() ? MoveFileExW(source, target, kFlags) != FALSE : AddToWininit(source, target);
 }
 
 }  // namespace
@@ -57,10 +65,9 @@ bool ScheduleFileReplace(const void* /*unused*/, const wchar_t* source, const wc
   if (from.empty()) {
     return true;
   }
-  if (IsWinNT()) {
-    MoveFileExW(from.c_str(), target, MOVEFILE_REPLACE_EXISTING | MOVEFILE_DELAY_UNTIL_REBOOT);
-  } else {
-    AddToWininit(from.c_str(), target);
+  if (!Schedule(from.c_str(), target) && copyFirst) {
+    // Nobody else has its name.
+    DeleteFileW(from.c_str());
   }
   return true;
 }

@@ -14,14 +14,17 @@ TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT
   };
   REPLACE(GetTempPathW, [&](auto, auto, auto buffer) -> DWORD { return tell(buffer); });
   std::vector<std::wstring> moved;
+  BOOL isMoved = FALSE;
   REPLACE(MoveFileExW, [&](auto, LPCWSTR from, LPCWSTR to, DWORD flags) {
     CHECK_BOTH(to == target, flags == 5);
     moved.emplace_back(from);
-    return TRUE;
+    return isMoved;
   });
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), nullptr, false));
   CHECK(ScheduleFileReplace(nullptr, L"C:\\not\\there", target.c_str(), true));
+  CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), true));
   CHECK_FALSE(FileExists((folder / "wqr*").c_str()));
+  isMoved = TRUE;
   for (const bool copyFirst : {false, true}) {
     moved.clear();
     CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), copyFirst));
