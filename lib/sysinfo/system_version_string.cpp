@@ -117,6 +117,8 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
                                          key.Receive()) == ERROR_SUCCESS;
     text += FormatText(L"%s (Build %d)", hasHotfix ? L"Service Pack 6a" : servicePack.c_str(),
                        Build(version));
+    // Inside the guard, like every other call.
+    key.reset();
   } else if (servicePack.empty()) {
     text += FormatNumbers(version);
   } else {
@@ -158,6 +160,7 @@ WString GetSystemVersionString() {
   OwnedRegistryKey key;
   WString text;
   if (!GuardedCall([&] { Describe(key, text); })) {
+    GuardedCall([&] { key.reset(); });
     text += L"catch(unhandled exception) while querying system version";
   }
   return text;
@@ -171,7 +174,11 @@ WString GetSystemVersionNumbers() {
       numbers = FormatNumbers(version);
     }
   });
-  return numbers.empty() ? WString(L"0.0.0.0") : numbers;
+  // Short enough for the string itself, and the other is moved out: neither takes memory.
+  if (numbers.empty()) {
+    numbers = L"0.0.0.0";
+  }
+  return numbers;
 }
 
 }  // namespace kelvo
