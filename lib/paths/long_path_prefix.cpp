@@ -26,11 +26,16 @@ bool BeginsWithDrive(std::wstring_view path) {
          IsSeparator(path[2]);
 }
 
-// "\\server" and what follows, but not "\\?\" and "\\.\".
+// After "\\", what Windows takes for a server: "\\.\" and "\\?\" begin the paths of devices.
+bool BeginsWithName(std::wstring_view path) {
+  const std::wstring_view name = path.substr(0, path.find_first_of(L"\\/"));
+  return !name.empty() && name != L"." && name != L"?";
+}
+
+// "\\server" and what follows.
 bool BeginsWithServer(std::wstring_view path) {
-  const bool isDevice =
-      path.length() >= 4 && (path[2] == L'?' || path[2] == L'.') && IsSeparator(path[3]);
-  return path.length() >= 3 && IsSeparator(path[0]) && IsSeparator(path[1]) && !isDevice;
+  return path.length() >= 3 && IsSeparator(path[0]) && IsSeparator(path[1]) &&
+         BeginsWithName(path.substr(2));
 }
 
 // Empty when the path cannot be resolved.
@@ -63,8 +68,8 @@ WString AddLongPathPrefix(const wchar_t* path) {
 
 WString RemoveLongPathPrefix(const wchar_t* path) {
   const std::wstring_view given = ViewOf(path);
-  if (given.length() > kUncPrefix.length() &&
-      _wcsnicmp(path, kUncPrefix.data(), kUncPrefix.length()) == 0) {
+  if (!given.empty() && _wcsnicmp(path, kUncPrefix.data(), kUncPrefix.length()) == 0 &&
+      BeginsWithName(given.substr(kUncPrefix.length()))) {
     return WString(L"\\\\").append(given.substr(kUncPrefix.length()));
   }
   // After the prefix "/" is not a separator.

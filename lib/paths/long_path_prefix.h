@@ -16,7 +16,8 @@ WString AddLongPathPrefix(const wchar_t* path);
 
 // Removes the prefix: "\\?\C:\x" becomes "C:\x", and "\\?\UNC\server\share", with "UNC" in any
 // letter case, becomes "\\server\share". Returns every other path unchanged, including those of
-// volumes ("\\?\Volume{...}") and devices. Throws std::bad_alloc when memory runs out.
+// volumes ("\\?\Volume{...}") and devices ("\\?\UNC\.\pipe\x" would become one). Throws
+// std::bad_alloc when memory runs out.
 WString RemoveLongPathPrefix(const wchar_t* path);
 
 // Returns true when `path` begins with "\\?\".

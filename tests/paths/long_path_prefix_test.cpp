@@ -20,6 +20,8 @@ TEST_CASE("a prefix is put before what is fully qualified, and taken off what it
       {L"\\??\\C:\\x", L"\\??\\C:\\x", L"\\??\\C:\\x"},
       {L"\\\\?\\unc\\server\\share", L"\\\\?\\unc\\server\\share", L"\\\\server\\share"},
       {L"\\\\?\\UNC\\", L"\\\\?\\UNC\\", L"\\\\?\\UNC\\"},
+      {L"\\\\?\\UNC\\.\\pipe\\x", L"\\\\?\\UNC\\.\\pipe\\x", L"\\\\?\\UNC\\.\\pipe\\x"},
+      {L"\\\\\\x", L"\\\\\\x", L"\\\\\\x"},
       {L"\\\\?\\Volume{1}\\x", L"\\\\?\\Volume{1}\\x", L"\\\\?\\Volume{1}\\x"}};
   for (const auto& [path, added, removed] : rows) {
     CAPTURE(added);
