@@ -40,6 +40,15 @@ class Owned {
     return &handle_;
   }
 
+  // After the call that Receive() was for: keeps what it stored when it succeeded. What a failing
+  // call may have stored is nobody's, and is not closed. Returns whether the call succeeded.
+  bool KeepIf(bool succeeded) {
+    if (!succeeded) {
+      release();
+    }
+    return succeeded;
+  }
+
   // Returns the handle and no longer owns it.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 

@@ -16,9 +16,10 @@ internal::StartedProcess StartProgram(const wchar_t* exePath, const wchar_t* arg
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION started{};
-  CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS,
-                 nullptr, nullptr, &startup, &started);
-  return internal::StartedProcess(started);
+  const BOOL isCreated =
+      CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, NORMAL_PRIORITY_CLASS,
+                     nullptr, nullptr, &startup, &started);
+  return {isCreated, started};
 }
 
 StartResult WaitForMutex(const WString& name, bool pumpMessages, DWORD timeoutMs) {

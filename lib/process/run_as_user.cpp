@@ -72,9 +72,10 @@ bool StartProcess(HANDLE token, wchar_t* commandLine, Launch& launch) {
   startup.lpDesktop = launch.desktopPath.data();
   PROCESS_INFORMATION started{};
   SetLastError(ERROR_SUCCESS);
-  CreateProcessAsUserW(token, nullptr, commandLine, &launch.attributes, &launch.attributes, FALSE,
-                       0, nullptr, nullptr, &startup, &started);
-  launch.started = internal::StartedProcess(started);
+  const BOOL isCreated =
+      CreateProcessAsUserW(token, nullptr, commandLine, &launch.attributes, &launch.attributes,
+                           FALSE, 0, nullptr, nullptr, &startup, &started);
+  launch.started = {isCreated, started};
   return internal::Check(static_cast<bool>(launch.started.process),
                          L"RunAsUser CreateProcessAsUser Failed");
 }
@@ -108,8 +109,9 @@ BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process) {
   const HDESK desktop = GetThreadDesktop(GetCurrentThreadId());
   OwnedKernelObject ownToken;
   GuardedCall([&] {
-    OpenProcessToken(GetCurrentProcess(), TOKEN_ASSIGN_PRIMARY | TOKEN_DUPLICATE | TOKEN_QUERY,
-                     ownToken.Receive());
+    ownToken.KeepIf(OpenProcessToken(GetCurrentProcess(),
+                                     TOKEN_ASSIGN_PRIMARY | TOKEN_DUPLICATE | TOKEN_QUERY,
+                                     ownToken.Receive()) != FALSE);
   });
   if (!internal::Check(static_cast<bool>(ownToken), L"RunAsUser OpenProcessToken On Self Failed")) {
     return FALSE;

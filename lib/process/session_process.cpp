@@ -22,7 +22,7 @@ bool RunsInConsoleSession() {
 // A token to start a process with, for the user of the console session; null when there is none.
 OwnedKernelObject TokenOfConsoleUser() {
   OwnedKernelObject token;
-  return QueryUserTokenOfSession(GetActiveConsoleSessionId(), token.Receive())
+  return token.KeepIf(QueryUserTokenOfSession(GetActiveConsoleSessionId(), token.Receive()))
              ? internal::DuplicateAsPrimary(std::move(token))
              : OwnedKernelObject();
 }
@@ -32,13 +32,12 @@ internal::StartedProcess Start(WString& commandLine, const OwnedKernelObject& to
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION started{};
   wchar_t* const line = commandLine.data();
-  if (token) {
-    CreateProcessAsUserW(token.get(), nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                         &startup, &started);
-  } else {
-    CreateProcessW(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started);
-  }
-  return internal::StartedProcess(started);
+  const BOOL isCreated = token
+                             ? CreateProcessAsUserW(token.get(), nullptr, line, nullptr, nullptr,
+                                                    FALSE, 0, nullptr, nullptr, &startup, &started)
+                             : CreateProcessW(nullptr, line, nullptr, nullptr, FALSE, 0, nullptr,
+                                              nullptr, &startup, &started);
+  return {isCreated, started};
 }
 
 }  // namespace

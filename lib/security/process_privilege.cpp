@@ -22,7 +22,8 @@ BOOL EnablePrivilege(const wchar_t* name, BOOL enable) {
   return GuardedAnswer(FALSE, [&]() -> BOOL {
     LUID privilege{};
     if (LookupPrivilegeValueW(nullptr, name, &privilege) == FALSE ||
-        OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES, token.Receive()) == FALSE) {
+        !token.KeepIf(OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES,
+                                       token.Receive()) != FALSE)) {
       return FALSE;
     }
     return AdjustPrivilege(token.get(), privilege, enable != FALSE);
@@ -32,8 +33,8 @@ BOOL EnablePrivilege(const wchar_t* name, BOOL enable) {
 PrivilegeOutcome EnablePrivilegeWithOutcome(const wchar_t* name) {
   OwnedKernelObject token;
   LUID privilege{};
-  if (OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY,
-                       token.Receive()) == FALSE ||
+  if (!token.KeepIf(OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES | TOKEN_QUERY,
+                                     token.Receive()) != FALSE) ||
       LookupPrivilegeValueW(nullptr, name, &privilege) == FALSE) {
     return {.error = GetLastError()};
   }

@@ -24,9 +24,10 @@ using OwnedSid = Owned<AllocatedSid>;
 // The token that the calling thread acts under.
 OwnedKernelObject OpenEffectiveToken() {
   OwnedKernelObject token;
-  if (OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive()) == FALSE &&
+  if (!token.KeepIf(OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive()) !=
+                    FALSE) &&
       GetLastError() == ERROR_NO_TOKEN) {
-    OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive());
+    token.KeepIf(OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive()) != FALSE);
   }
   return token;
 }

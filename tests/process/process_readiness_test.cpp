@@ -8,9 +8,10 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
   DWORD now = 0;
   REPLACE(GetTickCount, [&](auto) { return now; });
   REPLACE(Sleep, [&](auto, DWORD pause) { now += pause; });
-  REPLACE(CreateProcessW, [](auto, auto... given) {
+  BOOL isStarted = FALSE;
+  REPLACE(CreateProcessW, [&](auto, auto... given) {
     std::get<9>(std::tuple(given...))->hProcess = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-    return TRUE;
+    return isStarted;
   });
   // Each lookup takes a millisecond. The program makes the mutex, or has this one closed, before a
   // lookup of that number.
@@ -30,6 +31,8 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
     lookups = 0;
     return StartProcessAndWaitForMutex(L"program", nullptr, pumps, L"name", timeoutMs);
   };
+  CHECK_BOTH(wait(false, 303) == -1, lookups == 0);
+  isStarted = TRUE;
   CHECK_BOTH(wait(false, 303) == -3, lookups == 3);
   CHECK_BOTH(wait(false, 304) == -3, lookups == 4);
   CHECK_BOTH(wait(false, 0) == -3, lookups == 0);

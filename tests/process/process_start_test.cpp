@@ -118,23 +118,31 @@ TEST_CASE("letter case matters where a process is started, not where one asks") 
 }
 
 TEST_CASE("the road to a process depends on Windows, session, token and desktop") {
+  // Every call leaves something in the places for handles, and fails or not.
+  HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   auto* const tell = +[]() -> DWORD { return 5; };
   const ReplacedExport query(
       "WTSQueryUserToken", +[](ULONG session, HANDLE* token) -> BOOL {
-        *token = reinterpret_cast<HANDLE>(session == 5 ? 0x7701ULL : 0);
+        *token = reinterpret_cast<HANDLE>(0x7701ULL);
         return session == 5;
       });
   REPLACE(CloseHandle, [](auto original, HANDLE handle) {
     return IsOurs("close", handle) ? TRUE : original(handle);
   });
-  REPLACE(CreateProcessAsUserW, [](auto, auto token, auto...) { return !IsOurs("start", token); });
+  const auto fail = [=](const auto&... given) -> BOOL {
+    std::get<sizeof...(given) - 1>(std::tie(given...))->hProcess = ended;
+    return FALSE;
+  };
+  REPLACE(CreateProcessAsUserW, [=](auto, auto token, auto... given) {
+    return !IsOurs("start", token) || fail(given...);
+  });
   // Where this runs on another window station, nothing is granted on the interactive one.
   REPLACE(OpenWindowStationW, [](auto...) { return nullptr; });
-  REPLACE(CreateProcessW, [](auto, auto... given) {
+  REPLACE(CreateProcessW, [=](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");
     CHECK(std::get<1>(std::tuple(given...)) == std::wstring(L"\"program\" "));
     calls += "caller";
-    return FALSE;
+    return fail(given...);
   });
   // RunAsUser leaves its token open.
   using Road = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
@@ -152,7 +160,7 @@ TEST_CASE("the road to a process depends on Windows, session, token and desktop"
       return TRUE;
     });
     REPLACE(DuplicateTokenEx, [=](auto, auto, auto, auto, auto, auto, HANDLE* token) {
-      *token = duplicates ? reinterpret_cast<HANDLE>(0x7702ULL) : nullptr;
+      *token = reinterpret_cast<HANDLE>(0x7702ULL);
       return duplicates;
     });
     HANDLE untouched = &calls;

@@ -10,7 +10,8 @@ template <typename Information>
 bool ReadProcessToken(TOKEN_INFORMATION_CLASS kind, Information& information) {
   OwnedKernelObject token;
   DWORD size = 0;
-  return OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive()) != FALSE &&
+  return token.KeepIf(OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive()) !=
+                      FALSE) &&
          GetTokenInformation(token.get(), kind, &information, sizeof(information), &size) != FALSE;
 }
 

@@ -12,8 +12,8 @@ OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token) {
   OwnedKernelObject duplicate;
   // The impersonation level means nothing for a primary token.
   GuardedCall([&] {
-    DuplicateTokenEx(token.get(), MAXIMUM_ALLOWED, nullptr, SecurityDelegation, TokenPrimary,
-                     duplicate.Receive());
+    duplicate.KeepIf(DuplicateTokenEx(token.get(), MAXIMUM_ALLOWED, nullptr, SecurityDelegation,
+                                      TokenPrimary, duplicate.Receive()) != FALSE);
   });
   return duplicate ? std::move(duplicate) : std::move(token);
 }

@@ -8,8 +8,10 @@ namespace kelvo::internal {
 // The handles of a process that CreateProcessW or CreateProcessAsUserW created; null before that.
 struct StartedProcess {
   StartedProcess() = default;
-  explicit StartedProcess(const PROCESS_INFORMATION& started)
-      : process(started.hProcess), thread(started.hThread) {}
+  // `isCreated` is the call's result: what it left in the record when it failed is not a process.
+  StartedProcess(BOOL isCreated, const PROCESS_INFORMATION& started)
+      : process(isCreated != FALSE ? started.hProcess : nullptr),
+        thread(isCreated != FALSE ? started.hThread : nullptr) {}
 
   OwnedKernelObject process;
   OwnedKernelObject thread;
