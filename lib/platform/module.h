@@ -21,14 +21,13 @@ struct ModuleTraits {
 using OwnedModule = Owned<internal::ModuleTraits>;
 
 // Returns the function that `module` exports as `name` (GetProcAddress), or null when the module is
-// null or has no such export; GetLastError then says why.
+// null or has no such export; GetLastError then says why. For a null module that is what the call
+// that should have loaded it left there.
 template <typename Function>
 Function* FindFunction(HMODULE module, const char* name) {
-  if (module == nullptr) {
-    SetLastError(ERROR_MOD_NOT_FOUND);
-    return nullptr;
-  }
-  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+  return module == nullptr
+             ? nullptr
+             : reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(module, name)));
 }
 
 }  // namespace kelvo

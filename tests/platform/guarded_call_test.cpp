@@ -14,7 +14,7 @@ TEST_CASE("a guarded call answers whether its action came to an end") {
 TEST_CASE("a place for a new handle holds none; a null module has no functions") {
   OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   CHECK(*event.Receive() == nullptr);
-  SetLastError(ERROR_SUCCESS);
+  SetLastError(ERROR_BAD_EXE_FORMAT);
   CHECK((FindFunction<void()>(nullptr, "Sleep") == nullptr));
-  CHECK(GetLastError() == ERROR_MOD_NOT_FOUND);
+  CHECK(GetLastError() == ERROR_BAD_EXE_FORMAT);
 }
