@@ -1,6 +1,7 @@
 #include "tool/driver_interface.h"
 
 #include "lib/paths/file_exists.h"
+#include "lib/paths/module_path.h"
 #include "lib/sysinfo/system_directories.h"
 #include "tool/console_report.h"
 
@@ -10,33 +11,32 @@ namespace {
 
 constexpr const wchar_t* kLibraryName = L"difxapi.dll";
 
-// The program's own folder, with its last backslash; empty when it is unknown.
-WString ProgramDirectory() {
-  constexpr DWORD kMaxPathLength = 0x8000;
-  WString path(kMaxPathLength, L'\0');
-  path.resize(GetModuleFileNameW(nullptr, path.data(), kMaxPathLength));
-  path.resize(path.rfind(L"\\") + 1);
-  return path;
+// The copy beside the program; empty when the program's own path is unknown.
+WString OwnCopyPath() {
+  const WString program = ReadModulePath(nullptr);
+  const std::size_t directoryLength = program.rfind(L"\\") + 1;
+  return directoryLength > 0 ? program.substr(0, directoryLength) + kLibraryName : WString();
 }
 
 }  // namespace
 
 WString DriverInterfacePath() {
-  const WString ownCopy = ProgramDirectory() + kLibraryName;
+  const WString ownCopy = OwnCopyPath();
   return FileExists(ownCopy.c_str()) ? ownCopy : WString(GetSystemDirectoryPath()) + kLibraryName;
 }
 
-bool BindDriverInterface(DriverInterface& driver) {
-  driver.library.reset(LoadLibraryW(DriverInterfacePath().c_str()));
+DWORD BindDriverInterface(DriverInterface& driver) {
+  const WString path = DriverInterfacePath();
+  driver.library.reset(LoadLibraryW(path.c_str()));
   if (!driver.library) {
-    return false;
+    return GetLastError();
   }
   driver.setLogCallback = KELVO_FIND_FUNCTION(driver.library.get(), SetDifxLogCallbackW);
   if (driver.setLogCallback == nullptr) {
-    return false;
+    return GetLastError();
   }
   driver.installPackage = KELVO_FIND_FUNCTION(driver.library.get(), DriverPackageInstallW);
-  return driver.installPackage != nullptr;
+  return driver.installPackage == nullptr ? GetLastError() : ERROR_SUCCESS;
 }
 
 void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description,

@@ -20,11 +20,11 @@ struct DriverInterface {
 // otherwise in the system directory. Overwrites the buffer of GetSystemDirectoryPath.
 WString DriverInterfacePath();
 
-// Loads the library at DriverInterfacePath and looks its functions up. Returns false when the
-// library or a function is missing; GetLastError then says why, and nothing may be called. The
-// library is loaded by its full path: it is one of Windows' known libraries, and by its bare name
-// Windows would load its own copy.
-bool BindDriverInterface(DriverInterface& driver);
+// Loads the library at DriverInterfacePath and looks its functions up. Returns 0, or the code that
+// says why the library or a function is missing; nothing may be called then. The library is loaded
+// by its full path: it is one of Windows' known libraries, and by its bare name Windows would load
+// its own copy.
+DWORD BindDriverInterface(DriverInterface& driver);
 
 // The interface's log callback: reports the event as one "INFO: " line. A null description counts
 // as empty; `context` is unused. May be called on any thread. No exception leaves it: when memory

@@ -69,8 +69,8 @@ void ImportCertificate(const CertificateStep& step, const wchar_t* file) {
 
 void InstallDriverPackage(const wchar_t* infPath) {
   DriverInterface driver;
-  if (!BindDriverInterface(driver)) {
-    ReportDriverFailure(GetLastError());
+  if (const DWORD error = BindDriverInterface(driver); error != ERROR_SUCCESS) {
+    ReportDriverFailure(error);
     return;
   }
   driver.setLogCallback(DifxLogCallback, nullptr);

@@ -29,7 +29,11 @@ TEST_CASE("libraries come from the program's folder and the system's alone") {
 TEST_CASE("the driver installation interface is loaded by its path, beside the program first") {
   const ScratchFolder folder;
   std::wstring asked;
+  bool isPathKnown = true;
   REPLACE(GetModuleFileNameW, [&](auto, auto, auto to, DWORD size) {
+    if (!isPathKnown) {
+      return DWORD{0};
+    }
     lstrcpynW(to, (folder / L"sorrel.exe").c_str(), static_cast<int>(size));
     return static_cast<DWORD>(lstrlenW(to));
   });
@@ -39,10 +43,22 @@ TEST_CASE("the driver installation interface is loaded by its path, beside the p
   REPLACE(LoadLibraryW, [&](auto, LPCWSTR name) {
     return asked = name, SetLastError(ERROR_BAD_EXE_FORMAT), nullptr;
   });
+  // Memory that is freed may change the last error.
+  REPLACE(free, [](auto original, void* memory) {
+    original(memory);
+    SetLastError(ERROR_GEN_FAILURE);
+  });
   DriverInterface driver;
-  CHECK_FALSE(BindDriverInterface(driver));
-  CHECK_BOTH(GetLastError() == ERROR_BAD_EXE_FORMAT, asked == L"S:\\system\\difxapi.dll");
+  CHECK(BindDriverInterface(driver) == ERROR_BAD_EXE_FORMAT);
+  CHECK(asked == L"S:\\system\\difxapi.dll");
   const std::wstring ownCopy = folder.Write("difxapi.dll", "");
-  CHECK_FALSE(BindDriverInterface(driver));
+  BindDriverInterface(driver);
   CHECK(asked == ownCopy);
+  // The current folder is not taken for the program's.
+  std::filesystem::current_path(folder.path);
+  isPathKnown = false;
+  BindDriverInterface(driver);
+  CHECK(asked == L"S:\\system\\difxapi.dll");
+  isPathKnown = true;
+  std::filesystem::current_path(ProgramPath(L""));
 }
