@@ -2,8 +2,8 @@
 
 #include <objbase.h>
 
+#include <algorithm>
 #include <array>
-#include <cwchar>
 
 #include "lib/paths/file_exists.h"
 #include "lib/registry/registry_key.h"
@@ -77,11 +77,11 @@ DWORD GetLocalServerPath(const wchar_t* progId, WString& path) {
   if (status != ERROR_SUCCESS) {
     return static_cast<DWORD>(status);
   }
-  server = server.substr(0, server.find(L"/"));
+  server.resize(std::min(server.find(L"/"), server.length()));
   if (!FileExists(server.c_str())) {
     return ERROR_PATH_NOT_FOUND;
   }
-  path = server;
+  path = std::move(server);
   return ERROR_SUCCESS;
 }
 

@@ -2,10 +2,10 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
-#include <cwchar>
-#include <iterator>
 #include <string_view>
+#include <type_traits>
 
 #include "lib/platform/guarded_call.h"
 #include "lib/platform/module.h"
@@ -88,7 +88,7 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
   if (RegQueryValueExW(key.get(), L"ProductType", nullptr, nullptr,
                        reinterpret_cast<BYTE*>(type.data()), &size) != ERROR_SUCCESS ||
       size > kLength * sizeof(wchar_t)) {
-    // The key has always been left open here.
+    // Left open on purpose.
     key.release();
     text += L"error obtaining Windows NT4 registry product information";
     return false;
@@ -110,20 +110,21 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
 }
 
 void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
-  const auto& stored = version.szCSDVersion;
-  const WString servicePack(std::wstring_view(stored, wcsnlen(stored, std::size(stored))));
-  if (version.dwMajorVersion == 4 && CompareNoCase(servicePack.c_str(), L"Service Pack 6") == 0) {
+  // With a NUL of its own. An array, since a structured exception below skips destructors.
+  std::array<wchar_t, std::extent_v<decltype(version.szCSDVersion)> + 1> servicePack{};
+  std::ranges::copy(version.szCSDVersion, servicePack.begin());
+  if (version.dwMajorVersion == 4 && CompareNoCase(servicePack.data(), L"Service Pack 6") == 0) {
     const bool hasHotfix = RegOpenKeyExW(HKEY_LOCAL_MACHINE, kHotfix, 0, KEY_QUERY_VALUE,
                                          key.Receive()) == ERROR_SUCCESS;
-    text += FormatText(L"%s (Build %d)", hasHotfix ? L"Service Pack 6a" : servicePack.c_str(),
+    text += FormatText(L"%s (Build %d)", hasHotfix ? L"Service Pack 6a" : servicePack.data(),
                        Build(version));
     // Inside the guard, like every other call.
     key.reset();
-  } else if (servicePack.empty()) {
+  } else if (servicePack.front() == L'\0') {
     text += FormatNumbers(version);
   } else {
     text += FormatText(L"(%i.%i.%i %s)", version.dwMajorVersion, version.dwMinorVersion,
-                       Build(version), servicePack.c_str());
+                       Build(version), servicePack.data());
   }
 }
 
