@@ -3,62 +3,40 @@
 #include <windows.h>
 
 #include <array>
-#include <atomic>
 #include <clocale>
 #include <cwctype>
-#include <memory>
-#include <new>
+#include <numeric>
 #include <string_view>
 
 namespace kelvo {
 
 namespace {
 
-// A call into Windows costs far more than mapping one unit, so 256 are mapped at once, when one of
-// them is first needed, and kept for the life of the process.
-using Page = std::array<wchar_t, 256>;
+// Every unit with its lower case.
+using Table = std::array<wchar_t, 0x10000>;
 
-wchar_t MapUnit(wchar_t unit) {
-  wchar_t mapped = unit;
-  // The invariant locale, so that the user's settings do not change which strings are equal.
-  return LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, &unit, 1, &mapped, 1) == 1 ? mapped : unit;
-}
-
-// Null when memory runs out or the mapping fails.
-const Page* MakePage(wchar_t first) {
-  std::unique_ptr<Page> page(new (std::nothrow) Page);
-  Page units{};
-  for (wchar_t& unit : units) {
-    unit = first++;
-  }
+// A call into Windows costs far more than mapping one unit, so all are mapped at once. The only
+// surrogates that form a pair here, U+DBFF and U+DC00, stand for a character without letter case.
+Table MakeTable() {
+  Table units;
+  const auto fill = [&] { std::iota(units.begin(), units.end(), L'\0'); };
+  fill();
   constexpr int kCount = static_cast<int>(units.size());
-  if (page && LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, units.data(), kCount, page->data(),
-                           kCount) != kCount) {
-    page.reset();
+  // The invariant locale, so that the user's settings do not change which strings are equal. In
+  // place, as this flag allows.
+  if (LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, units.data(), kCount, units.data(), kCount) !=
+      kCount) {
+    fill();
   }
-  return page.release();
+  return units;
 }
 
 wchar_t FoldInDefaultLocale(wchar_t unit) {
-  static std::array<std::atomic<const Page*>, 256> pages;
   if (unit < 0x100) {
     return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit - L'A' + L'a') : unit;
   }
-  std::atomic<const Page*>& place = pages[unit >> 8];
-  const Page* page = place.load(std::memory_order_acquire);
-  if (page == nullptr) {
-    page = MakePage(static_cast<wchar_t>(unit & 0xFF00));
-    const Page* other = nullptr;
-    if (page == nullptr) {
-      return MapUnit(unit);
-    }
-    if (!place.compare_exchange_strong(other, page)) {
-      // Another thread was faster.
-      delete page;
-      page = other;
-    }
-  }
-  return (*page)[unit & 0xFF];
+  static const Table table = MakeTable();
+  return table[unit];
 }
 
 wchar_t FoldInLocale(wchar_t unit) { return static_cast<wchar_t>(std::towlower(unit)); }
