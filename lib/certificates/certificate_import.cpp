@@ -3,7 +3,6 @@
 #include <wincrypt.h>
 
 #include <memory>
-#include <type_traits>
 
 #include "lib/platform/system_library.h"
 #include "lib/wsspi/sspi_loader.h"
@@ -19,28 +18,25 @@ constexpr DWORD kContentTypes = 0x3FFE;
 // crypt32.dll is bound at run time, so that a program that imports no certificate starts without
 // it, and a missing function becomes an error code.
 struct Crypt32 {
+  // False, with the last error set, when the library or a function of it is missing. The library
+  // stays loaded, since a store may stay open.
+  bool Bind() {
+    const HMODULE library = LoadSystemLibrary(L"crypt32.dll").release();
+    openStore = KELVO_FIND_FUNCTION(library, CertOpenStore);
+    queryObject = KELVO_FIND_FUNCTION(library, CryptQueryObject);
+    addCertificate = KELVO_FIND_FUNCTION(library, CertAddCertificateContextToStore);
+    freeCertificate = KELVO_FIND_FUNCTION(library, CertFreeCertificateContext);
+    closeStore = KELVO_FIND_FUNCTION(library, CertCloseStore);
+    return openStore != nullptr && queryObject != nullptr && addCertificate != nullptr &&
+           freeCertificate != nullptr && closeStore != nullptr;
+  }
+
   decltype(&CertOpenStore) openStore = nullptr;
   decltype(&CryptQueryObject) queryObject = nullptr;
   decltype(&CertAddCertificateContextToStore) addCertificate = nullptr;
   decltype(&CertFreeCertificateContext) freeCertificate = nullptr;
   decltype(&CertCloseStore) closeStore = nullptr;
 };
-
-// False, with the last error set, when the library or a function of it is missing. The library
-// stays loaded, since a store may stay open.
-bool BindCrypt32(Crypt32& bound) {
-  const HMODULE library = LoadSystemLibrary(L"crypt32.dll").release();
-  const auto find = [library](auto& function, const char* name) {
-    function = FindFunction<std::remove_pointer_t<std::remove_reference_t<decltype(function)>>>(
-        library, name);
-    return function != nullptr;
-  };
-  return library != nullptr && find(bound.openStore, "CertOpenStore") &&
-         find(bound.queryObject, "CryptQueryObject") &&
-         find(bound.addCertificate, "CertAddCertificateContextToStore") &&
-         find(bound.freeCertificate, "CertFreeCertificateContext") &&
-         find(bound.closeStore, "CertCloseStore");
-}
 
 struct StoreCloser {
   decltype(&CertCloseStore) close;
@@ -86,7 +82,7 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   }
   // All functions are looked up before the first call: a missing one leaves nothing half done.
   Crypt32 crypt32;
-  if (!BindCrypt32(crypt32)) {
+  if (!crypt32.Bind()) {
     return GetLastError();
   }
   BoundStore systemStore(

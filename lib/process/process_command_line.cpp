@@ -7,7 +7,6 @@
 
 #include "lib/platform/internal/windows_version.h"
 #include "lib/platform/module.h"
-#include "lib/sysinfo/windows_release.h"
 
 namespace kelvo {
 
@@ -57,7 +56,7 @@ bool ReadParameters(HANDLE process, ProcessParameters& parameters) {
 
 DWORD GetProcessCommandLine(HANDLE process, void* buffer, DWORD bufferBytes) {
   const OSVERSIONINFOW version = internal::QueryWindowsVersion();
-  if (IsWin7(version) || !IsWinNT(version)) {
+  if (internal::IsNtAtLeast(version, 6, 1) || !internal::IsNtAtLeast(version, 0, 0)) {
     return 0;
   }
   queryProcess = KELVO_FIND_FUNCTION(GetModuleHandleW(L"ntdll.dll"), NtQueryInformationProcess);

@@ -1,32 +1,17 @@
 #pragma once
 
-#include <windows.h>
-
 namespace kelvo {
 
 // Which Windows is running. IsWin95 is true for Windows 95 only, every other function for its
 // release and later ones: IsWin98 on Windows 9x, the rest on NT. None tells a workstation from a
 // server, so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
 //
-// The forms without an argument ask GetVersionExW on each call and return false when it fails. From
-// Windows 8.1 on it reports 6.2 to a program whose manifest does not name 8.1 or later.
+// Each call asks GetVersionExW, and returns false when that fails. From Windows 8.1 on it reports
+// 6.2 to a program whose manifest does not name 8.1 or later.
 
 // Windows 9x with minor version 0.
-bool IsWin95(const OSVERSIONINFOW& version);
-// Windows 9x with any other minor version, Windows Millennium Edition included.
-bool IsWin98(const OSVERSIONINFOW& version);
-bool IsWinNT(const OSVERSIONINFOW& version);
-bool IsWin2000(const OSVERSIONINFOW& version);
-bool IsWinXP(const OSVERSIONINFOW& version);
-bool IsWinVista(const OSVERSIONINFOW& version);
-bool IsWin7(const OSVERSIONINFOW& version);
-bool IsWin8(const OSVERSIONINFOW& version);
-// True on the 64-bit Windows XP too, which has the version of Server 2003.
-bool IsWinServer2003(const OSVERSIONINFOW& version);
-bool IsWinServer2008(const OSVERSIONINFOW& version);
-bool IsWinServer2012(const OSVERSIONINFOW& version);
-
 bool IsWin95();
+// Windows 9x with any other minor version, Windows Millennium Edition included.
 bool IsWin98();
 bool IsWinNT();
 bool IsWin2000();
@@ -34,6 +19,7 @@ bool IsWinXP();
 bool IsWinVista();
 bool IsWin7();
 bool IsWin8();
+// True on the 64-bit Windows XP too, which has the version of Server 2003.
 bool IsWinServer2003();
 bool IsWinServer2008();
 bool IsWinServer2012();
