@@ -45,7 +45,7 @@ void StringTokenizer::CollapseRuns() {
 
 void StringTokenizer::SkipRun() {
   const std::wstring_view text = text_;
-  while (next_ < text.length() && text[next_] == delimiter_.c_str()[0]) {
+  while (next_ < text.length() && text[next_] == delimiter_[0]) {
     ++next_;
   }
 }
@@ -54,8 +54,8 @@ WString StringTokenizer::NextToken() {
   const std::wstring_view text = text_;
   const std::size_t start = next_;
   // Searching for one unit is the cheaper search.
-  const std::size_t end = delimiter_.length() == 1 ? text.find(delimiter_.c_str()[0], start)
-                                                   : text.find(delimiter_, start);
+  const std::size_t end =
+      delimiter_.length() == 1 ? text.find(delimiter_[0], start) : text.find(delimiter_, start);
   if (end == std::wstring_view::npos) {
     next_ = text.length();
   } else {

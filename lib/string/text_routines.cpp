@@ -1,5 +1,6 @@
 #include "lib/string/text_routines.h"
 
+#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -19,11 +20,13 @@ std::size_t CountOccurrences(std::wstring_view text, std::wstring_view search) {
   return count;
 }
 
-// Throws as WString does when the result would be too long.
+// The string that the result is written to.
 WString RoomFor(const WString& text, std::size_t count, std::size_t removed, std::size_t added) {
   const std::size_t kept = text.length() - (count * removed);
-  const bool fits = added <= (text.max_size() - kept) / count;
-  return {fits ? kept + (count * added) : WString::npos, L'\0'};
+  if (added > (text.max_size() - kept) / count) {
+    throw std::length_error("string too long");
+  }
+  return {kept + (count * added), L'\0'};
 }
 
 }  // namespace

@@ -53,7 +53,9 @@ void WString::resize(std::size_t count, wchar_t unit) {
 }
 
 WString WString::substr(std::size_t start, std::size_t count) const {
-  return WString().assign(*this, start, count);
+  WString part;
+  part.assign(*this, start, count);
+  return part;
 }
 
 }  // namespace kelvo

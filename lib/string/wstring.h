@@ -8,9 +8,10 @@
 namespace kelvo {
 
 // A string of UTF-16 units, always followed by a NUL: std::wstring, but a null pointer counts as an
-// empty string, and the messages of its exceptions do not depend on the standard library. With
-// libstdc++, up to seven units are stored in the object itself. Positions and counts are in units.
-// Operations are those of the standard:
+// empty string, and the messages of its exceptions do not depend on the standard library. It has
+// what the library itself needs: take std::wstring_view for everything else. With libstdc++, up to
+// seven units are stored in the object itself. Positions and counts are in units. Operations are
+// those of the standard:
 //   - a start position past the end throws std::out_of_range "invalid string position";
 //   - growth beyond max_size() throws std::length_error "string too long"; constructing one from a
 //     longer view throws with the standard library's own message;
@@ -52,12 +53,18 @@ class WString {
     return text_.rfind(text, start);
   }
 
+  [[nodiscard]] auto begin() const { return text_.begin(); }
+  [[nodiscard]] auto end() const { return text_.end(); }
+  // The NUL too, at the position length().
+  [[nodiscard]] wchar_t operator[](std::size_t position) const { return text_[position]; }
+  [[nodiscard]] std::size_t size() const { return text_.size(); }
   [[nodiscard]] std::size_t length() const { return text_.length(); }
   [[nodiscard]] std::size_t max_size() const { return text_.max_size(); }
   [[nodiscard]] bool empty() const { return text_.empty(); }
   [[nodiscard]] const wchar_t* c_str() const { return text_.c_str(); }
   // Points to length() units that may be written and the NUL after them, which may not.
   [[nodiscard]] wchar_t* data() { return text_.data(); }
+  [[nodiscard]] const wchar_t* data() const { return text_.data(); }
 
   // NOLINTNEXTLINE(google-explicit-constructor): a view of the whole string loses nothing
   operator std::wstring_view() const { return text_; }

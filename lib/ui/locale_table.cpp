@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 #include "lib/string/internal/ascii_case.h"
 
@@ -81,12 +82,11 @@ const wchar_t* FindLocaleName(LCID locale) {
 }
 
 LCID FindLocaleId(const wchar_t* name) {
-  for (const Locale& locale : kLocales) {
-    if (name != nullptr && internal::EqualsIgnoringAsciiCase(locale.name, name)) {
-      return locale.id;
-    }
-  }
-  return 0;
+  const std::wstring_view sought = name != nullptr ? name : L"";
+  const auto* const found = std::ranges::find_if(kLocales, [sought](const Locale& locale) {
+    return internal::EqualsIgnoringAsciiCase(locale.name, sought);
+  });
+  return found != std::end(kLocales) ? found->id : 0;
 }
 
 }  // namespace kelvo
