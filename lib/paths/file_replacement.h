@@ -13,8 +13,7 @@ namespace kelvo {
 //
 // On NT this is MoveFileExW, which needs administrative rights. On Windows 9x it is an entry in the
 // section "Rename" of "WININIT.INI" in the Windows directory, with short names (GetShortPathNameW);
-// a name without a short form of at most 254 characters is written as it is. Throws std::bad_alloc
-// when memory runs out.
+// a name without a short form of at most 254 characters is written as it is.
 bool ScheduleFileReplace(const void* unused, const wchar_t* source, const wchar_t* target,
                          bool copyFirst);
 

@@ -10,14 +10,12 @@ namespace kelvo {
 // Resolves `path` with GetFullPathNameW and adds the prefix: "C:\x" becomes "\\?\C:\x",
 // "\\server\share\x" and "//server/share/x" become "\\?\UNC\server\share\x". Returns `path`
 // unchanged when it is empty, begins with "\\?\", "\\.\" or "\??\", is not fully qualified ("C:x",
-// "\x", "x"), names a device ("C:\NUL"), cannot be resolved, or would be too long. Throws
-// std::bad_alloc when memory runs out.
+// "\x", "x"), names a device ("C:\NUL"), cannot be resolved, or would be too long.
 WString AddLongPathPrefix(const wchar_t* path);
 
 // Removes the prefix: "\\?\C:\x" becomes "C:\x", and "\\?\UNC\server\share", with "UNC" in any
 // letter case, becomes "\\server\share". Returns every other path unchanged, including those of
-// volumes ("\\?\Volume{...}") and devices ("\\?\UNC\.\pipe\x" would become one). Throws
-// std::bad_alloc when memory runs out.
+// volumes ("\\?\Volume{...}") and devices ("\\?\UNC\.\pipe\x" would become one).
 WString RemoveLongPathPrefix(const wchar_t* path);
 
 // Returns true when `path` begins with "\\?\".

@@ -8,8 +8,7 @@ namespace kelvo {
 // (GetModuleFileNameW). A null pointer or a null handle means the program itself. The result is a
 // process-wide buffer of 255 characters, which the next call overwrites. It is empty when the
 // process has no such module, and when the directory with its backslash is longer than 254
-// characters. A path without a backslash counts as a directory. Throws std::bad_alloc when memory
-// runs out.
+// characters. A path without a backslash counts as a directory.
 const wchar_t* GetModuleDirectory(const HMODULE* module);
 
 }  // namespace kelvo

@@ -14,8 +14,7 @@ namespace kelvo {
 // backslash counts as empty.
 //
 // When none of the four has one, `out` receives GetModuleDirectory(module)
-// (lib/paths/module_directory.h), and the function returns whether that is not empty. Throws
-// std::bad_alloc when memory runs out.
+// (lib/paths/module_directory.h), and the function returns whether that is not empty.
 bool GetShellFolderPath(const HMODULE* module, std::span<wchar_t, MAX_PATH> out,
                         const wchar_t* valueName);
 

@@ -20,7 +20,8 @@ enum StartResult : std::int32_t {
 // On Windows 2000 and later, and on a terminal server, the mutex is looked for in the global name
 // space ("Global\"), and so in all sessions. A mutex that does not grant MUTEX_ALL_ACCESS counts as
 // missing. Anybody can make the mutex first: its existence is a sign, no proof, that the program
-// runs. The name may have any length. Null strings count as empty.
+// runs. A name that is too long for Windows (260 characters) is one that no mutex has. Null strings
+// count as empty.
 //
 // With `pumpMessages`, the calling thread's messages are dispatched during the wait, and a WM_CLOSE
 // among them ends it; this keeps a processor busy. With a `timeoutMs` of 0, the program is started

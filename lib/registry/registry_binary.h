@@ -13,8 +13,7 @@ namespace kelvo {
 
 // Reads a REG_BINARY value into `bytes`. Returns 0, or the error code of the open or the query
 // (RegQueryValueExW) that failed. `bytes` is unchanged on failure, and also, although 0 is
-// returned, when the value is empty or has another type. Throws std::bad_alloc when memory runs
-// out.
+// returned, when the value is empty or has another type.
 LSTATUS RegistryReadBinary(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            std::string& bytes);
 

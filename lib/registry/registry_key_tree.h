@@ -13,8 +13,7 @@ namespace kelvo {
 // characters). A deeper tree is not deleted: the error code of deleting a key that still has
 // subkeys is returned. A subkey whose name has 255 characters is not walked either. Keys are opened
 // with RegistryAccessFlags (lib/registry/registry_key.h) and deleted with RegDeleteKeyExW, or,
-// where Windows lacks that, with RegDeleteKeyW, which knows no view. Throws std::bad_alloc when
-// memory runs out.
+// where Windows lacks that, with RegDeleteKeyW, which knows no view.
 LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_t* keyName);
 
 }  // namespace kelvo

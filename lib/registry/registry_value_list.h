@@ -14,8 +14,9 @@ using NameTextList = std::vector<std::pair<WString, WString>>;
 
 // Returns every REG_SZ, REG_EXPAND_SZ and REG_DWORD value of the key `subkey` below `root`, an open
 // or a predefined key, with its name, in the order of RegEnumValueW. Empty when the key does not
-// open with KEY_READ | RegistryAccessFlags (lib/registry/registry_key.h). A value whose name has
-// more than 16,382 characters or whose data has more than 16,383 is skipped.
+// open with KEY_READ | RegistryAccessFlags (lib/registry/registry_key.h), and when RegQueryInfoKeyW
+// fails. A value whose name has more than 16,382 characters or whose data has more than 16,383 is
+// skipped.
 //   - REG_SZ: the string up to its first NUL, or to the end of the data when that has none; an odd
 //     last byte becomes a character of its own.
 //   - REG_EXPAND_SZ: that string, expanded with ExpandEnvironmentStringsW, or as it is stored when

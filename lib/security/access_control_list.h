@@ -16,7 +16,8 @@ DWORD FindACEInACL(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 
 // Appends all entries of `source`, in their order, to an initialized list with room for them.
 // Returns FALSE when either list cannot be read or AddAce refuses an entry, as when it does not
-// fit; entries appended before that stay.
+// fit; entries appended before that stay. A `source` without entries is copied with success,
+// whatever `destination` is.
 BOOL CopyACL(ACL* destination, const ACL* source);
 
 // Returns the size in bytes of a list that holds the entries of `acl` (none for null), an allow or

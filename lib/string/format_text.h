@@ -9,7 +9,7 @@ namespace kelvo {
 // Formats the arguments as the wide printf functions of Windows' own C runtime do (_vsnwprintf), to
 // any length. "%s" inserts a wide string, whichever printf functions the compiler brings; "%d"
 // inserts a 32-bit number, "%08lX" a code. `format` must not be null. Returns an empty string when
-// the runtime rejects it. Throws std::bad_alloc when memory runs out.
+// the runtime rejects it.
 WString FormatText(const wchar_t* format, ...);
 WString FormatTextV(const wchar_t* format, std::va_list arguments);
 

@@ -7,7 +7,7 @@
 namespace kelvo {
 
 // Returns `count` bytes as hexadecimal digits: two upper-case digits for each byte, nothing between
-// them. Returns an empty string for a null pointer. Throws std::bad_alloc when memory runs out.
+// them. Returns an empty string for a null pointer.
 WString BytesToHex(const void* bytes, std::size_t count);
 
 }  // namespace kelvo

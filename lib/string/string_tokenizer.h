@@ -10,7 +10,7 @@ namespace kelvo {
 //   for (StringTokenizer items(list, L";", true); items.HasMoreTokens();) Use(items.NextToken());
 // Walking all items takes time linear in the length of the string. The delimiter must not be empty:
 // with `collapse` the constructor would never return, without it NextToken would return empty items
-// forever. Throws std::bad_alloc when memory runs out.
+// forever.
 class StringTokenizer {
  public:
   // Keeps both strings. With `collapse`, runs of adjacent delimiters count as one, and delimiters

@@ -7,7 +7,7 @@
 namespace kelvo {
 
 // Strings are NUL-terminated or a WString; a null pointer counts as an empty string. Positions and
-// counts are in UTF-16 units. All functions throw std::bad_alloc when memory runs out.
+// counts are in UTF-16 units.
 
 // Returns `count` units from `start` on, or as many as there are: an empty string when `start` is
 // at the end or past it.

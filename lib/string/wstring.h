@@ -16,7 +16,8 @@ namespace kelvo {
 //   - growth beyond max_size() throws std::length_error "string too long"; constructing one from a
 //     longer view throws with the standard library's own message;
 //   - a count that reaches past the end is cut at the end;
-//   - std::bad_alloc is thrown when memory runs out.
+//   - std::bad_alloc is thrown when memory runs out, as by every operation of the library that
+//     makes a string, unless its header says what it answers then.
 // When an operation throws, the string is unchanged.
 class WString {
  public:

@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// The names of this computer. All throw std::bad_alloc when memory runs out.
+// The names of this computer.
 
 // Returns the NetBIOS name (GetComputerNameW), of at most 15 characters; empty on failure.
 WString GetComputerNetbiosName();

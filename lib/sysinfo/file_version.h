@@ -6,7 +6,8 @@ namespace kelvo {
 
 // The numbers in the fixed block of a file's version resource (GetFileVersionInfoW,
 // VerQueryValueW). A null path, a file without such a block and one whose block does not lie inside
-// its resource have no version.
+// its resource have no version. That is what is checked, not the block's signature: in a file from
+// an untrusted source the numbers may be anything, and Windows takes its resource apart.
 
 // Compares a file's version with major.minor.build.revision: returns 1 when the file's is higher, 0
 // when equal, -1 when lower, 2 when it has none. The results 1 and 0 leave the memory that the
@@ -27,7 +28,7 @@ bool GetFileVersionString(wchar_t* text, const wchar_t* path);
 // Writes the version of a file in the system directory, given by name, as
 // "major.minor.build.revision" into `text`, which must have room for kFileVersionStringCapacity
 // characters; "not available" when there is none. Always returns true. Overwrites the buffer of
-// GetSystemDirectoryPath. Throws std::bad_alloc when memory runs out.
+// GetSystemDirectoryPath.
 bool GetSystemFileVersionString(wchar_t* text, const wchar_t* fileName);
 
 }  // namespace kelvo

@@ -6,8 +6,7 @@ namespace kelvo {
 
 // Returns true when "Shdocvw.dll" in the system directory has this version or a higher one; false
 // when the file is missing or has no version. Overwrites the buffer of GetSystemDirectoryPath and
-// leaves the memory of the version resource allocated when it returns true. Throws std::bad_alloc
-// when memory runs out.
+// leaves the memory of the version resource allocated when it returns true.
 bool IsIEVersionAtLeast(const void* ignored, const int (&version)[4]);
 
 // Returns the name of the Internet Explorer release, from 3.0 to 5.5, that has exactly this

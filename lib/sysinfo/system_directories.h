@@ -15,11 +15,11 @@ const wchar_t* GetSystemDirectoryPath();
 
 // Returns the directory of the 32-bit libraries on a 64-bit Windows (GetSystemWow64DirectoryW,
 // looked up at run time), of at most 1,023 characters and the separator. Empty when Windows does
-// not have the function. Throws std::bad_alloc when memory runs out.
+// not have the function.
 WString GetSystemWow64DirectoryPath();
 
 // Returns the system directory that 64-bit programs see, which in a 64-bit process is the path of
-// GetSystemDirectoryPath; overwrites its buffer. Throws std::bad_alloc when memory runs out.
+// GetSystemDirectoryPath; overwrites its buffer.
 WString GetNativeSystemDirectoryPath();
 
 }  // namespace kelvo

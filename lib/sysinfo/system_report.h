@@ -11,8 +11,7 @@ namespace kelvo {
 // HKEY_LOCAL_MACHINE "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). Shell folders
 // come from SHGetSpecialFolderPathW and are not created. A query that fails has the value "0", an
 // empty string, or "failed to query " and the name of a shell folder; an environment key that does
-// not open adds no entries. Throws std::bad_alloc when memory runs out, and leaves `report`
-// incomplete then.
+// not open adds no entries. When it throws, `report` is incomplete.
 void CollectSystemReport(NameTextList& report);
 
 }  // namespace kelvo

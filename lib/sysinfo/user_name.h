@@ -12,7 +12,7 @@
 
 namespace kelvo {
 
-// The user that the calling thread runs as. All throw std::bad_alloc when memory runs out.
+// The user that the calling thread runs as.
 
 // Returns the name of the user's account, without its domain (GetUserNameW); empty on failure.
 WString GetAccountName();

@@ -12,8 +12,7 @@ enum class LocalisedFileForm {
   kSuffix,  // FOLDER\file_NAME.ext; the extension is what follows from the last dot on
 };
 
-// Null pointers count as empty strings; `folder` may end in a backslash or not. Both functions
-// throw std::bad_alloc when memory runs out.
+// Null pointers count as empty strings; `folder` may end in a backslash or not.
 
 // Returns the path of a file for one language, whether it exists or not. The language's name is
 // that of GetLocaleInfoW (LOCALE_SNAME). Empty for a language without a name and for an empty file
