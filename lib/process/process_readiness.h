@@ -26,6 +26,8 @@ enum StartResult : std::int32_t {
 // With `pumpMessages`, the calling thread's messages are dispatched during the wait, and a WM_CLOSE
 // among them ends it; this keeps a processor busy. With a `timeoutMs` of 0, the program is started
 // and kTimedOut is returned without looking for the mutex.
+//   const StartResult result = StartProcessAndWaitForMutex(
+//       L"C:\\App\\app.exe", L"/start", false, L"App is ready", 10'000);
 StartResult StartProcessAndWaitForMutex(const wchar_t* exePath, const wchar_t* arguments,
                                         bool pumpMessages, const wchar_t* mutexName,
                                         DWORD timeoutMs);

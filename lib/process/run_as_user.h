@@ -8,7 +8,10 @@ namespace kelvo {
 // "WinSta0\Default", whatever desktop the caller is on, and returns whether it was started.
 // `commandLine` must be writable (CreateProcessAsUserW). With `wait`, returns only when the new
 // process has ended. `process` may be null; otherwise it receives the new process's handle, which
-// the caller closes, and is unchanged on failure.
+// the caller closes, and is unchanged on failure:
+//   wchar_t command[] = L"\"C:\\Program Files\\App\\app.exe\" /start";
+//   OwnedKernelObject process;
+//   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());
 //
 // When this process is not on "WinSta0" (in exactly this letter case), it is moved there for the
 // duration of the call, and the token's user gets full access to the station and its desktop for

@@ -19,7 +19,10 @@ namespace kelvo {
 // secret there. Give a full path.
 //
 // With `wait`, returns only after the program has ended. When `processHandle` is not null, it
-// receives the process's handle, which the caller closes; it is unchanged on failure.
+// receives the process's handle, which the caller closes; it is unchanged on failure:
+//   OwnedKernelObject process;
+//   LaunchInUserSession(L"C:\\App\\app.exe", L"/start", true, process.Receive());
+//   const BOOL hasEnded = GetExitCodeProcess(process.get(), &exitCode);
 bool LaunchInUserSession(const wchar_t* exePath, const wchar_t* arguments, bool wait,
                          HANDLE* processHandle);
 

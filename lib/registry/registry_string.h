@@ -25,6 +25,8 @@ inline constexpr DWORD kMaxRegistryStringSize = 2048;
 // A REG_EXPAND_SZ value is expanded with ExpandEnvironmentStringsW into 260 characters (MAX_PATH),
 // the NUL included. A longer result is cut to what Windows wrote into them; when the expansion
 // fails, the stored string is returned.
+//   const WString folder =
+//       RegistryReadString(HKEY_CURRENT_USER, L"Software\\App", L"Folder", L"C:\\App");
 WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            const wchar_t* defaultText);
 

@@ -18,6 +18,9 @@ namespace kelvo {
 // its last error. A list that reaches past its descriptor, or an entry past its list, counts as a
 // failed GetAclInformation. Nothing is printed for a null or invalid SID, nor for a file without a
 // descriptor, whose size GetFileSecurityW reports without an error. Throws nothing.
+//   // All users may read the file.
+//   const BOOL isAllowed =
+//       AddFileAccessRights(L"C:\\App\\log.txt", L"S-1-5-32-545", FILE_GENERIC_READ);
 BOOL AddFileAccessRights(const wchar_t* path, const wchar_t* sid, DWORD accessMask);
 
 }  // namespace kelvo

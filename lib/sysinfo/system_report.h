@@ -12,6 +12,9 @@ namespace kelvo {
 // come from SHGetSpecialFolderPathW and are not created. A query that fails has the value "0", an
 // empty string, or "failed to query " and the name of a shell folder; an environment key that does
 // not open adds no entries. When it throws, `report` is incomplete.
+//   NameTextList report;
+//   CollectSystemReport(report);
+//   for (const auto& [name, text] : report) log += name + L": " + text + L"\n";
 void CollectSystemReport(NameTextList& report);
 
 }  // namespace kelvo

@@ -8,6 +8,9 @@ using TraceSink = void (*)(const wchar_t* tag, const wchar_t* message);
 
 // Makes `sink` the destination of all messages traced in this process, on any thread. Null, which
 // is the initial state, drops them.
+//   SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
+//     DebugTrace(L"%s: %s", tag, message);  // lib/trace/debug_trace.h
+//   });
 void SetTraceSink(TraceSink sink);
 
 // Passes two NUL-terminated strings to the sink: `tag` names the part of the library, `message` is

@@ -17,6 +17,9 @@ enum class LocalisedFileForm {
 // Returns the path of a file for one language, whether it exists or not. The language's name is
 // that of GetLocaleInfoW (LOCALE_SNAME). Empty for a language without a name and for an empty file
 // name.
+//   // C:\App\resources\de-DE\texts.dll on a German Windows
+//   const WString path = GetLocalisedFilePath(
+//       L"C:\\App", L"texts.dll", GetUserDefaultUILanguage(), LocalisedFileForm::kFolder);
 WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                              LocalisedFileForm form);
 
