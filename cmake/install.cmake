@@ -27,6 +27,8 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/kelvo-config.cmake.in ${PROJECT_BINARY_
 install(FILES ${PROJECT_BINARY_DIR}/kelvo-config.cmake ${PROJECT_BINARY_DIR}/kelvo-config-version.cmake
   DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(FILES docs/library.md CHANGELOG.md DESTINATION share/doc/kelvo COMPONENT sdk OPTIONAL)
+# What scripts/docs has made, if it was run.
+install(DIRECTORY build/docs/html/ DESTINATION share/doc/kelvo/reference COMPONENT sdk OPTIONAL)
 install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONENT sdk)
 
 # Four archives, which unpack into one folder. What is in them is signed before and accounted for afterwards.

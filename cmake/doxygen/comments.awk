@@ -26,7 +26,9 @@ function print_block(mark,   i) {
   in_comment = count = 0
 }
 /[^ ]/ {
-  declares = !/^ *(public|private|protected|#|}|namespace|template)/
+  match($0, /^ */)
+  if (in_comment) indent = RLENGTH
+  declares = RLENGTH == indent && !/^ *(public|private|protected|#|}|namespace|template)/
   if (in_comment || count && ended && declares) print_block("///")
   in_comment = 0
   ended = /[;}]$/

@@ -28,6 +28,8 @@ class Owned {
     reset(other.release());
     return *this;
   }
+
+  // Closes the handle.
   ~Owned() { reset(); }
 
   // Whether there is a handle, and the handle.

@@ -14,6 +14,8 @@ inline constexpr const wchar_t* kInteractiveDesktop = L"Default";
 struct DesktopNames {
   // 520 bytes.
   using Name = std::array<wchar_t, 260>;
+
+  // Each empty when it was not read.
   Name station{};
   Name desktop{};
 };

@@ -6,6 +6,7 @@
 
 namespace kelvo {
 
+// What StartProcessAndWaitForMutex returns.
 enum StartResult : std::int32_t {
   kMutexAppeared = 0,
   kNotStarted = -1,

@@ -25,6 +25,7 @@ class WString {
   static constexpr std::size_t npos = std::wstring::npos;
 
   WString() = default;
+  // Copies a NUL-terminated string, null as an empty one, or a view, or takes `count` times `unit`.
   // NOLINTNEXTLINE(google-explicit-constructor): literals are strings
   WString(const wchar_t* text) { AssignCString(text); }
   explicit WString(std::wstring_view text) : text_(text) {}
@@ -35,13 +36,21 @@ class WString {
 
   // Copies `count` units of `text` from `start` on. `text` may be this string.
   WString& assign(const WString& text, std::size_t start, std::size_t count = npos);
+
+  // Adds `text` at the end.
   WString& append(std::wstring_view text);
   WString& operator+=(const WString& text) { return append(text); }
+
+  // Removes `count` units from `start` on.
   WString& erase(std::size_t start, std::size_t count = npos);
+
   // Shortens the string to `count` units, or fills it up to `count` with `unit`.
   void resize(std::size_t count, wchar_t unit = L'\0');
+
+  // Makes the string empty.
   void clear() { text_.clear(); }
 
+  // Returns a copy of `count` units from `start` on.
   [[nodiscard]] WString substr(std::size_t start, std::size_t count = npos) const;
 
   // Finds the first occurrence at or after `start`. An empty string occurs at every position up to
@@ -54,22 +63,30 @@ class WString {
     return text_.rfind(text, start);
   }
 
+  // Iterators over the units.
   [[nodiscard]] auto begin() const { return text_.begin(); }
   [[nodiscard]] auto end() const { return text_.end(); }
-  // The NUL too, at the position length().
+
+  // Returns the unit at a position; the NUL at the position length().
   [[nodiscard]] wchar_t operator[](std::size_t position) const { return text_[position]; }
+
+  // Return the number of units, without the NUL; the largest one there may be; whether it is 0.
   [[nodiscard]] std::size_t size() const { return text_.size(); }
   [[nodiscard]] std::size_t length() const { return text_.length(); }
   [[nodiscard]] std::size_t max_size() const { return text_.max_size(); }
   [[nodiscard]] bool empty() const { return text_.empty(); }
+
+  // Returns the units with a NUL after them.
   [[nodiscard]] const wchar_t* c_str() const { return text_.c_str(); }
   // Points to length() units that may be written and the NUL after them, which may not.
   [[nodiscard]] wchar_t* data() { return text_.data(); }
   [[nodiscard]] const wchar_t* data() const { return text_.data(); }
 
+  // A view of the whole string.
   // NOLINTNEXTLINE(google-explicit-constructor): a view of the whole string loses nothing
   operator std::wstring_view() const { return text_; }
 
+  // Compare unit by unit, and join.
   friend bool operator==(const WString&, const WString&) = default;
   friend auto operator<=>(const WString&, const WString&) = default;
   friend WString operator+(WString left, const WString& right) {

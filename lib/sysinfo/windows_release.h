@@ -13,14 +13,19 @@ namespace kelvo {
 bool IsWin95();
 // Windows 9x with any other minor version, Windows Millennium Edition included.
 bool IsWin98();
+
+// NT of the release in the name, or a later one.
 bool IsWinNT();
 bool IsWin2000();
 bool IsWinXP();
 bool IsWinVista();
 bool IsWin7();
 bool IsWin8();
+
 // True on the 64-bit Windows XP too, which has the version of Server 2003.
 bool IsWinServer2003();
+
+// The same as IsWinVista and IsWin8.
 bool IsWinServer2008();
 bool IsWinServer2012();
 
