@@ -1,7 +1,7 @@
 #include "lib/ui/text_substitution.h"
 
-#include <algorithm>
 #include <cwchar>
+#include <string>
 #include <string_view>
 
 #include "lib/string/internal/text_replacement.h"
@@ -13,16 +13,13 @@ BOOL ReplaceAllInBuffer(wchar_t* buffer, std::size_t capacity, const wchar_t* se
   if (buffer == nullptr || search == nullptr || *search == L'\0') {
     return FALSE;
   }
-  const std::wstring_view text(buffer, wcsnlen(buffer, capacity));
-  const std::wstring_view sought(search);
-  const std::wstring_view inserted(replacement == nullptr ? L"" : replacement);
-  if (text.length() == capacity || text.find(sought) == std::wstring_view::npos) {
+  const std::wstring_view given(buffer, wcsnlen(buffer, capacity));
+  if (given.length() == capacity || given.find(search) == std::wstring_view::npos) {
     return FALSE;
   }
-  WString result(capacity - 1, L'\0');
-  const std::size_t kept =
-      internal::WriteReplaced(text, sought, inserted, {result.data(), result.length()});
-  std::copy_n(result.c_str(), kept, buffer);
+  const std::wstring text(given);
+  const std::wstring_view inserted(replacement == nullptr ? L"" : replacement);
+  const std::size_t kept = internal::WriteReplaced(text, search, inserted, {buffer, capacity - 1});
   buffer[kept] = L'\0';
   return TRUE;
 }

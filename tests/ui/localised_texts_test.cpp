@@ -110,7 +110,7 @@ TEST_CASE("an enumeration lets memory that runs out be known when it is over, no
   REPLACE(GetClassNameW,
           [](auto, auto, auto* name, auto) { return lstrlenW(lstrcpyW(name, L"static")); });
   REPLACE(GetWindowTextW,
-          [](auto, auto, auto* text, auto) { return lstrlenW(lstrcpyW(text, L"Kelvo")); });
+          [](auto, auto, auto* text, auto) { return lstrlenW(lstrcpyW(text, L"Kelvo, Kelvo")); });
   HMODULE const library = LoadLibraryW(ProgramPath(L"named_strings.dll").c_str());
   CHECK_THROWS_AS(GetStringResourceLanguages(library), std::bad_alloc);
   CHECK_THROWS_AS(RewriteWindowTexts(nullptr), std::bad_alloc);
