@@ -151,3 +151,24 @@ TEST_CASE("a console gets characters, a file bytes, and to write a part of them 
     answer = TRUE;
   }
 }
+
+TEST_CASE("a long text reaches a console in pieces, each of whole characters") {
+  std::wstring seen;
+  REPLACE(GetConsoleMode, [](auto...) -> BOOL { return TRUE; });
+  REPLACE(WriteConsoleW,
+          [&](auto, auto, const void* text, DWORD length, DWORD* done, auto) -> BOOL {
+            seen.append(static_cast<const wchar_t*>(text), length);
+            CHECK_FALSE(IS_HIGH_SURROGATE(seen.back()));
+            *done = length;
+            // In characters; what a console took at once before Windows 10.
+            return length < 0x8000;
+          });
+  std::wstring expected = L"a";
+  std::string text = "a";
+  for (int i = 0; i < 40000; ++i) {
+    expected += L"\U0001F600";
+    text += "\xF0\x9F\x98\x80";
+  }
+  CHECK(WriteUtf8(STD_OUTPUT_HANDLE, text));
+  CHECK((seen == expected));
+}
