@@ -1,32 +1,12 @@
 #include "tool/driver_interface.h"
 
-#include "lib/paths/file_exists.h"
-#include "lib/paths/module_path.h"
-#include "lib/sysinfo/system_directories.h"
 #include "tool/console_report.h"
+#include "tool/library_search.h"
 
 namespace kelvo {
 
-namespace {
-
-constexpr const wchar_t* kLibraryName = L"difxapi.dll";
-
-// The copy beside the program; empty when the program's own path is unknown.
-WString OwnCopyPath() {
-  const WString program = ReadModulePath(nullptr);
-  const std::size_t directoryLength = program.rfind(L"\\") + 1;
-  return directoryLength > 0 ? program.substr(0, directoryLength) + kLibraryName : WString();
-}
-
-}  // namespace
-
-WString DriverInterfacePath() {
-  const WString ownCopy = OwnCopyPath();
-  return FileExists(ownCopy.c_str()) ? ownCopy : WString(GetSystemDirectoryPath()) + kLibraryName;
-}
-
 DWORD BindDriverInterface(DriverInterface& driver) {
-  const WString path = DriverInterfacePath();
+  const WString path = LibraryPath(L"difxapi.dll");
   driver.library.reset(LoadLibraryW(path.c_str()));
   if (!driver.library) {
     return GetLastError();

@@ -16,11 +16,7 @@ struct DriverInterface {
   decltype(&DriverPackageInstallW) installPackage = nullptr;
 };
 
-// Returns the full path of "difxapi.dll" in the program's own folder when that file exists,
-// otherwise in the system directory. Overwrites the buffer of GetSystemDirectoryPath.
-WString DriverInterfacePath();
-
-// Loads the library at DriverInterfacePath and looks its functions up. Returns 0, or the code that
+// Loads "difxapi.dll" from its LibraryPath and looks its functions up. Returns 0, or the code that
 // says why the library or a function is missing; nothing may be called then. The library is loaded
 // by its full path: it is one of Windows' known libraries, and by its bare name Windows would load
 // its own copy.

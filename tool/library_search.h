@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lib/string/wstring.h"
+
 namespace kelvo {
 
 // Narrows the process's search for libraries to the program's own folder and the system directory
@@ -7,5 +9,9 @@ namespace kelvo {
 // administrative rights. On a Windows without that function, such as Windows 7 without its 2011
 // update, only the current folder is removed from the search (SetDllDirectoryW).
 void NarrowLibrarySearch();
+
+// Returns the full path of a library in the program's own folder when that file exists, otherwise
+// in the system directory. Overwrites the buffer of GetSystemDirectoryPath.
+WString LibraryPath(const wchar_t* name);
 
 }  // namespace kelvo
