@@ -2,17 +2,41 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <exception>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "lib/certificates/certificate_import.h"
+#include "lib/paths/file_exists.h"
+#include "lib/platform/owned.h"
+#include "lib/string/visible_text.h"
+#include "lib/sysinfo/file_version.h"
+#include "lib/sysinfo/system_version_string.h"
+#include "lib/sysinfo/vista_elevation.h"
+#include "lib/ui/utf8_output.h"
 #include "status/application_status.h"
 #include "status/certificate_status.h"
+#include "status/command_line.h"
 #include "status/driver_package_status.h"
-#include "status/interface_status.h"
+#include "status/report.h"
 #include "status/service_status.h"
-#include "status/system_status.h"
+#include "tool/library_search.h"
 
 namespace kelvo {
 
 namespace {
+
+enum ExitCode : int {
+  kAllPresent = 0,
+  kSomethingAbsent = 1,
+  kWrongCommandLine = 2,
+  kSomethingUnknown = 3
+};
 
 struct StoreKind {
   const char* kind;
@@ -22,32 +46,81 @@ struct StoreKind {
 constexpr StoreKind kPublisher = {"publisher", kTrustedPublisherStore};
 constexpr StoreKind kIntermediate = {"intermediate", kIntermediateCaStore};
 
+// Where the driver installation interface is; it is not loaded.
+Item QueryInterface() {
+  constexpr const char* kKind = "interface";
+  constexpr const wchar_t* kLibrary = L"difxapi.dll";
+  const WString path = LibraryPath(kLibrary);
+  if (!FileExists(path.c_str())) {
+    return {kKind, State::kAbsent, kLibrary, {}};
+  }
+  std::array<wchar_t, kFileVersionStringCapacity> version{};
+  GetFileVersionString(version.data(), path.c_str());
+  return {kKind, State::kPresent, path, {TextDetail("version", L"version", version.data())}};
+}
+
+// Like IsAdmin, whatever the group's attributes are, but with as much room as the groups take.
+DWORD QueryAdministrator(bool& isAdministrator) {
+  OwnedKernelObject token;
+  DWORD size = 0;
+  if (OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, token.Receive()) == FALSE) {
+    return GetLastError();
+  }
+  GetTokenInformation(token.get(), TokenGroups, nullptr, 0, &size);
+  std::vector<std::byte> buffer(std::max<std::size_t>(size, sizeof(TOKEN_GROUPS)));
+  if (GetTokenInformation(token.get(), TokenGroups, buffer.data(), size, &size) == FALSE) {
+    return GetLastError();
+  }
+  const auto& groups = *reinterpret_cast<const TOKEN_GROUPS*>(buffer.data());
+  isAdministrator = std::ranges::any_of(
+      std::span(&groups.Groups[0], groups.GroupCount), [](const SID_AND_ATTRIBUTES& group) {
+        return IsWellKnownSid(group.Sid, WinBuiltinAdministratorsSid) != FALSE;
+      });
+  return ERROR_SUCCESS;
+}
+
+Item QuerySystem() {
+  WString name = GetSystemVersionString();
+  if (name.find(L"(") == 0) {
+    // From Windows 10 on it has no name, only the numbers.
+    name = L"Windows " + name;
+  }
+  const WString numbers = GetSystemVersionNumbers();
+  const std::wstring_view inParentheses = numbers;
+  const std::size_t first = inParentheses.find_first_not_of(L"(");
+  const std::size_t last = inParentheses.find_last_not_of(L")");
+  Item item{"system", State::kInfo, name, {}};
+  item.details.push_back({"version", WString(inParentheses.substr(first, last + 1 - first)), {}});
+  bool isAdministrator = false;
+  if (const DWORD error = QueryAdministrator(isAdministrator)) {
+    item.state = State::kUnknown;
+    AddError(item, "error", {}, error);
+  } else {
+    item.details.push_back({"administrator", isAdministrator,
+                            isAdministrator ? L"administrator" : L"not an administrator"});
+  }
+  const bool isElevated = IsVistaProcessElevated();
+  item.details.push_back({"elevated", isElevated, isElevated ? L"elevated" : L"not elevated"});
+  return item;
+}
+
 void AppendCertificates(const StoreKind& store, const std::vector<WString>& files,
                         std::vector<Item>& items) {
-  FILETIME now{};
-  GetSystemTimeAsFileTime(&now);
   for (const WString& file : files) {
-    items.push_back(DescribeCertificate(store.kind, file,
-                                        QueryCertificate(file.c_str(), store.storeName), now));
+    items.push_back(QueryCertificate(store.kind, file, store.storeName));
   }
 }
 
-void AppendStore(const StoreKind& store, std::vector<Item>& items) {
-  items.push_back(DescribeStore(store.kind, store.storeName, QueryStore(store.storeName)));
-}
-
 std::vector<Item> AnswerInGeneral() {
-  std::vector<Item> items = DescribeApplications(QueryApplicationList(), {});
-  AppendStore(kPublisher, items);
-  AppendStore(kIntermediate, items);
+  std::vector<Item> items = QueryApplications({});
+  items.push_back(QueryStore(kPublisher.kind, kPublisher.storeName));
+  items.push_back(QueryStore(kIntermediate.kind, kIntermediate.storeName));
   // Without its device: the list of devices takes setupapi.dll, which makes a plain call slower.
-  items.push_back(DescribeService({}, QueryBluetoothLibrary()));
-  items.push_back(DescribeInterface(QueryInterface()));
-  items.push_back(DescribeSystem());
+  items.push_back(QueryService(DeviceSearch::kNone));
+  items.push_back(QueryInterface());
+  items.push_back(QuerySystem());
   return items;
 }
-
-}  // namespace
 
 std::vector<Item> Answer(const Questions& questions) {
   if (questions.IsGeneral()) {
@@ -55,17 +128,70 @@ std::vector<Item> Answer(const Questions& questions) {
   }
   std::vector<Item> items;
   if (!questions.applications.empty()) {
-    items = DescribeApplications(QueryApplicationList(), questions.applications);
+    items = QueryApplications(questions.applications);
   }
   AppendCertificates(kPublisher, questions.publishers, items);
   AppendCertificates(kIntermediate, questions.intermediates, items);
   for (const WString& inf : questions.driverPackages) {
-    items.push_back(DescribeDriverPackage(inf, QueryDriverPackage(inf.c_str())));
+    items.push_back(QueryDriverPackage(inf));
   }
   if (questions.service) {
-    items.push_back(DescribeService(QueryServiceDevice(), QueryBluetoothLibrary()));
+    items.push_back(QueryService(DeviceSearch::kBluetoothBus));
   }
   return items;
+}
+
+int ExitCodeOf(State worst) {
+  switch (worst) {
+    case State::kInfo:
+    case State::kPresent:
+      return kAllPresent;
+    case State::kAbsent:
+      return kSomethingAbsent;
+    case State::kUnknown:
+      break;
+  }
+  return kSomethingUnknown;
+}
+
+int Write(std::string_view text, int exitCode) {
+  HANDLE const output = GetStdHandle(STD_OUTPUT_HANDLE);
+  if (output == nullptr || output == INVALID_HANDLE_VALUE) {
+    return exitCode;
+  }
+  return WriteUtf8(STD_OUTPUT_HANDLE, text) ? exitCode : kSomethingUnknown;
+}
+
+int Run(int count, const wchar_t* const* words) {
+  const CommandLine line = ParseCommandLine(count, words);
+  switch (line.kind) {
+    case CommandLine::Kind::kHelp:
+      return Write(UsageText(), kAllPresent);
+    case CommandLine::Kind::kVersion:
+      return Write("sorrel_status " KELVO_VERSION "\n", kAllPresent);
+    case CommandLine::Kind::kWrong:
+      WriteUtf8(STD_ERROR_HANDLE, ToVisibleUtf8(line.mistake) + "\n\n" + UsageText());
+      return kWrongCommandLine;
+    case CommandLine::Kind::kQuestions:
+      break;
+  }
+  const std::vector<Item> items = Answer(line.questions);
+  return Write(line.asJson ? JsonReport(items) : TextReport(items), ExitCodeOf(WorstState(items)));
+}
+
+}  // namespace
+
+int AnswerCommandLine(int count, const wchar_t* const* words) {
+  try {
+    return Run(count, words);
+  } catch (const std::exception&) {
+    // Not WriteUtf8, which takes memory.
+    constexpr std::string_view kText = "sorrel_status: not enough memory\r\n";
+    DWORD written = 0;
+    WriteFile(GetStdHandle(STD_ERROR_HANDLE), kText.data(), static_cast<DWORD>(kText.length()),
+              &written, nullptr);
+    return kSomethingUnknown;
+  }
 }
 
 }  // namespace kelvo

@@ -12,13 +12,31 @@ namespace {
 
 constexpr const char* kApplication = "application";
 
-bool IsThere(const ApplicationList& list) {
-  return list.error != ERROR_FILE_NOT_FOUND && list.error != ERROR_PATH_NOT_FOUND;
+// What the registry holds where the list belongs.
+struct StoredList {
+  LSTATUS error = ERROR_SUCCESS;  // of opening the key or of querying the value
+  DWORD type = REG_NONE;
+  DWORD size = 0;  // in bytes
+
+  [[nodiscard]] bool IsThere() const {
+    return error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND;
+  }
+};
+
+StoredList QueryStoredList() {
+  StoredList list;
+  OwnedRegistryKey key;
+  list.error = OpenRegistryKey(HKEY_LOCAL_MACHINE, ServiceParametersKey, KEY_READ, key);
+  if (list.error == ERROR_SUCCESS) {
+    list.error = RegQueryValueExW(key.get(), ApplicationsValueName, nullptr, &list.type, nullptr,
+                                  &list.size);
+  }
+  return list;
 }
 
-Detail DescribeList(const ApplicationList& list, bool isEmpty) {
+Detail DescribeList(const StoredList& list, bool isEmpty) {
   constexpr const char* kKey = "list";
-  if (!IsThere(list)) {
+  if (!list.IsThere()) {
     return {kKey, L"none", L"none is recorded"};
   }
   if (list.type != REG_SZ && list.type != REG_EXPAND_SZ) {
@@ -30,41 +48,27 @@ Detail DescribeList(const ApplicationList& list, bool isEmpty) {
   return {kKey, isEmpty ? L"empty" : L"text", isEmpty ? L"the list is empty" : L""};
 }
 
-bool IsListed(const std::vector<WString>& listed, const WString& name) {
-  return std::any_of(listed.begin(), listed.end(), [&name](const WString& item) {
+State StateOf(const WString& name, const std::vector<WString>& listed) {
+  const bool isListed = std::any_of(listed.begin(), listed.end(), [&name](const WString& item) {
     return IsSameApplication(item, name.c_str());
   });
+  return isListed ? State::kPresent : State::kAbsent;
 }
 
 }  // namespace
 
-ApplicationList QueryApplicationList() {
-  ApplicationList list;
-  OwnedRegistryKey key;
-  list.error = OpenRegistryKey(HKEY_LOCAL_MACHINE, ServiceParametersKey, KEY_READ, key);
-  if (list.error == ERROR_SUCCESS) {
-    list.error = RegQueryValueExW(key.get(), ApplicationsValueName, nullptr, &list.type, nullptr,
-                                  &list.size);
-  }
-  list.text = ReadApplicationList();
-  return list;
-}
-
-std::vector<Item> DescribeApplications(const ApplicationList& list,
-                                       const std::vector<WString>& names) {
-  const std::vector<WString> listed = ApplicationsInList(list.text);
+std::vector<Item> QueryApplications(const std::vector<WString>& names) {
+  const StoredList list = QueryStoredList();
+  const std::vector<WString> listed = ApplicationsInList(ReadApplicationList());
   const std::vector<WString> nameless(1);
   const std::vector<WString>& all = listed.empty() ? nameless : listed;
   const Detail listDetail = DescribeList(list, listed.empty());
   std::vector<Item> items;
   for (const WString& name : names.empty() ? all : names) {
-    if (list.error != ERROR_SUCCESS && IsThere(list)) {
+    if (list.error != ERROR_SUCCESS && list.IsThere()) {
       items.push_back(UnknownItem(kApplication, name, static_cast<DWORD>(list.error)));
     } else {
-      items.push_back({kApplication,
-                       IsListed(listed, name) ? State::kPresent : State::kAbsent,
-                       name,
-                       {listDetail}});
+      items.push_back({kApplication, StateOf(name, listed), name, {listDetail}});
     }
   }
   return items;

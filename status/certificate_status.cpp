@@ -4,12 +4,11 @@
 
 #include "lib/certificates/certificate_handles.h"
 #include "lib/string/format_text.h"
+#include "lib/string/hex_text.h"
 
 namespace kelvo {
 
 namespace {
-
-using Hash = std::array<BYTE, 20>;  // SHA-1
 
 OwnedCertificateStore OpenStore(const wchar_t* name) {
   constexpr DWORD kFlags =
@@ -17,16 +16,20 @@ OwnedCertificateStore OpenStore(const wchar_t* name) {
   return OwnedCertificateStore(CertOpenStore(CERT_STORE_PROV_SYSTEM_W, 0, 0, kFlags, name));
 }
 
-bool ReadCertificate(const wchar_t* file, OwnedCertificate& certificate) {
+OwnedCertificate ReadCertificate(const WString& file) {
   const void* context = nullptr;
-  if (CryptQueryObject(CERT_QUERY_OBJECT_FILE, file,
-                       CERT_QUERY_CONTENT_FLAG_CERT | CERT_QUERY_CONTENT_FLAG_SERIALIZED_CERT,
+  if (CryptQueryObject(CERT_QUERY_OBJECT_FILE, file.c_str(), CERT_QUERY_CONTENT_FLAG_CERT,
                        CERT_QUERY_FORMAT_FLAG_ALL, 0, nullptr, nullptr, nullptr, nullptr, nullptr,
                        &context) == FALSE) {
-    return false;
+    return {};
   }
-  certificate.reset(static_cast<PCCERT_CONTEXT>(context));
-  return true;
+  return OwnedCertificate(static_cast<PCCERT_CONTEXT>(context));
+}
+
+bool IsInStore(HCERTSTORE store, PCCERT_CONTEXT certificate) {
+  const OwnedCertificate found(CertFindCertificateInStore(
+      store, X509_ASN_ENCODING | PKCS_7_ASN_ENCODING, 0, CERT_FIND_EXISTING, certificate, nullptr));
+  return static_cast<bool>(found);
 }
 
 WString Name(PCCERT_CONTEXT certificate, DWORD flags) {
@@ -38,26 +41,15 @@ WString Name(PCCERT_CONTEXT certificate, DWORD flags) {
   return {name.c_str()};
 }
 
-bool FillFromCertificate(PCCERT_CONTEXT certificate, Hash& hash, CertificateFacts& facts) {
+// Empty when Windows cannot hash it; GetLastError then says why.
+WString Thumbprint(PCCERT_CONTEXT certificate) {
+  std::array<BYTE, 20> hash{};  // SHA-1
   DWORD size = sizeof(hash);
   if (CertGetCertificateContextProperty(certificate, CERT_SHA1_HASH_PROP_ID, hash.data(), &size) ==
       FALSE) {
-    return false;
+    return {};
   }
-  for (const BYTE byte : hash) {
-    facts.thumbprint += FormatText(L"%02X", byte);
-  }
-  facts.subject = Name(certificate, 0);
-  facts.issuer = Name(certificate, CERT_NAME_ISSUER_FLAG);
-  facts.validUntil = certificate->pCertInfo->NotAfter;
-  return true;
-}
-
-bool IsInStore(HCERTSTORE store, Hash& hash) {
-  const CRYPT_HASH_BLOB wanted{static_cast<DWORD>(hash.size()), hash.data()};
-  const OwnedCertificate found(CertFindCertificateInStore(
-      store, X509_ASN_ENCODING | PKCS_7_ASN_ENCODING, 0, CERT_FIND_SHA1_HASH, &wanted, nullptr));
-  return static_cast<bool>(found);
+  return BytesToHex(hash.data(), hash.size());
 }
 
 WString TimeText(FILETIME time) {
@@ -67,70 +59,60 @@ WString TimeText(FILETIME time) {
                     parts.wHour, parts.wMinute, parts.wSecond);
 }
 
+bool HasExpired(PCCERT_CONTEXT certificate) {
+  FILETIME now{};
+  GetSystemTimeAsFileTime(&now);
+  return CompareFileTime(&certificate->pCertInfo->NotAfter, &now) < 0;
+}
+
+Detail StoreDetail(bool isThere) {
+  return {"store_exists", isThere, isThere ? L"" : L"no such store"};
+}
+
 }  // namespace
 
-CertificateFacts QueryCertificate(const wchar_t* file, const wchar_t* storeName) {
-  CertificateFacts facts;
-  OwnedCertificate certificate;
-  Hash hash{};
-  if (!ReadCertificate(file, certificate) || !FillFromCertificate(certificate.get(), hash, facts)) {
-    facts.error = GetLastError();
-    return facts;
+Item QueryCertificate(const char* kind, const WString& file, const wchar_t* storeName) {
+  const OwnedCertificate owned = ReadCertificate(file);
+  PCCERT_CONTEXT const certificate = owned.get();
+  const WString thumbprint = owned ? Thumbprint(certificate) : WString();
+  if (thumbprint.empty()) {
+    return UnknownItem(kind, file, GetLastError());
   }
   const OwnedCertificateStore store = OpenStore(storeName);
-  if (store) {
-    facts.isStoreThere = true;
-    facts.isInStore = IsInStore(store.get(), hash);
-  } else if (const DWORD error = GetLastError(); error != ERROR_FILE_NOT_FOUND) {
-    facts.error = error;
+  if (const DWORD error = GetLastError(); !store && error != ERROR_FILE_NOT_FOUND) {
+    return UnknownItem(kind, file, error);
   }
-  return facts;
-}
-
-Item DescribeCertificate(const char* kind, const WString& file, const CertificateFacts& facts,
-                         FILETIME now) {
-  if (facts.error != ERROR_SUCCESS) {
-    return UnknownItem(kind, file, facts.error);
-  }
-  const bool hasExpired = CompareFileTime(&facts.validUntil, &now) < 0;
+  const bool isThere = store && IsInStore(store.get(), certificate);
+  const bool hasExpired = HasExpired(certificate);
   return {kind,
-          facts.isInStore ? State::kPresent : State::kAbsent,
+          isThere ? State::kPresent : State::kAbsent,
           file,
-          {TextDetail("subject", L"subject", facts.subject),
-           TextDetail("issuer", L"issuer", facts.issuer),
-           TextDetail("thumbprint", L"thumbprint", facts.thumbprint),
-           TextDetail("valid_until", L"valid until", TimeText(facts.validUntil)),
+          {TextDetail("subject", L"subject", Name(certificate, 0)),
+           TextDetail("issuer", L"issuer", Name(certificate, CERT_NAME_ISSUER_FLAG)),
+           TextDetail("thumbprint", L"thumbprint", thumbprint),
+           TextDetail("valid_until", L"valid until", TimeText(certificate->pCertInfo->NotAfter)),
            {"expired", hasExpired, hasExpired ? L"expired" : L""},
-           {"store_exists", facts.isStoreThere, facts.isStoreThere ? L"" : L"no such store"}}};
+           StoreDetail(static_cast<bool>(store))}};
 }
 
-StoreFacts QueryStore(const wchar_t* storeName) {
-  StoreFacts facts;
+Item QueryStore(const char* kind, const wchar_t* storeName) {
   const OwnedCertificateStore store = OpenStore(storeName);
-  if (!store) {
-    facts.error = GetLastError();
-    return facts;
+  if (const DWORD error = GetLastError(); !store && error != ERROR_FILE_NOT_FOUND) {
+    return UnknownItem(kind, storeName, error);
   }
+  DWORD count = 0;
   // Each call frees the context that it is given.
   PCCERT_CONTEXT certificate = nullptr;
-  while ((certificate = CertEnumCertificatesInStore(store.get(), certificate)) != nullptr) {
-    ++facts.certificates;
-  }
-  return facts;
-}
-
-Item DescribeStore(const char* kind, const wchar_t* storeName, const StoreFacts& facts) {
-  const bool isThere = facts.error != ERROR_FILE_NOT_FOUND;
-  if (isThere && facts.error != ERROR_SUCCESS) {
-    return UnknownItem(kind, storeName, facts.error);
+  while (store &&
+         (certificate = CertEnumCertificatesInStore(store.get(), certificate)) != nullptr) {
+    ++count;
   }
   return {kind,
-          State::kTold,
+          State::kInfo,
           storeName,
-          {{"certificates", facts.certificates,
-            FormatText(facts.certificates == 1 ? L"%u certificate" : L"%u certificates",
-                       facts.certificates)},
-           {"store_exists", isThere, isThere ? L"" : L"no such store"}}};
+          {{"certificates", count,
+            FormatText(count == 1 ? L"%u certificate" : L"%u certificates", count)},
+           StoreDetail(static_cast<bool>(store))}};
 }
 
 }  // namespace kelvo

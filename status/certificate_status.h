@@ -7,36 +7,18 @@
 
 namespace kelvo {
 
-// What a certificate says of itself, and whether a store holds it.
-struct CertificateFacts {
-  DWORD error = ERROR_SUCCESS;  // why the file or the store could not be read
-  bool isStoreThere = false;
-  bool isInStore = false;
-  WString subject;
-  WString issuer;
-  WString thumbprint;  // SHA-1, in hexadecimal digits
-  FILETIME validUntil{};
-};
+// Both look into a system store of the local machine, opened read-only (CertOpenStore).
 
-// Reads the certificate in `file` and looks for it, by its SHA-1 hash, in a system store of the
-// local machine, which is opened read-only (CryptQueryObject, CertFindCertificateInStore). The file
-// must hold one certificate, in binary, Base64 or hexadecimal form: for a collection the error is
-// CRYPT_E_NO_MATCH.
-CertificateFacts QueryCertificate(const wchar_t* file, const wchar_t* storeName);
+// Reads the certificate in `file` and returns an item of this kind, present when the store holds
+// the same certificate (CryptQueryObject, CertFindCertificateInStore with CERT_FIND_EXISTING). It
+// is shown by its SHA-1 hash and said to have expired after its last moment.
+//
+// The file holds one certificate in binary, Base64 or hexadecimal form; of several in Base64, as in
+// a PEM file with a chain, the first is looked at. For a collection (PKCS #7, a serialized store)
+// the item is unknown with CRYPT_E_NO_MATCH.
+Item QueryCertificate(const char* kind, const WString& file, const wchar_t* storeName);
 
-// Returns the item for a certificate: present when the store holds it. `now` is the time by which
-// it has expired or not.
-Item DescribeCertificate(const char* kind, const WString& file, const CertificateFacts& facts,
-                         FILETIME now);
-
-// The number of certificates in a system store of the local machine.
-struct StoreFacts {
-  DWORD error = ERROR_SUCCESS;  // ERROR_FILE_NOT_FOUND when there is no such store
-  DWORD certificates = 0;
-};
-
-StoreFacts QueryStore(const wchar_t* storeName);
-
-Item DescribeStore(const char* kind, const wchar_t* storeName, const StoreFacts& facts);
+// Returns an item with the number of certificates in the store.
+Item QueryStore(const char* kind, const wchar_t* storeName);
 
 }  // namespace kelvo

@@ -10,10 +10,21 @@ namespace kelvo {
 
 namespace {
 
-constexpr const char* kExitCodes = R"(
-Without options: all that can be told without a file to compare.
-Exit code: 0 all is present, 1 something is absent, 2 wrong command line,
-3 something could not be looked at (whatever else is absent).
+constexpr const char* kNotes = R"(
+Without options: everything that needs no file. That is the list of
+applications, the number of certificates in each store, bthprops.cpl,
+difxapi.dll and Windows itself. It looks at no driver package, at no device
+and for no certificate of the service.
+
+With --service: devices that Windows made for paired remote devices do not
+count. Windows removes the service's own while the radio is off or unplugged,
+and may add it a moment after the registration: "absent" is then no proof.
+None of this has been seen on a real radio yet.
+
+Exit code: 0 everything asked for is present, 1 something is absent, 2 wrong
+command line, 3 something could not be looked at (whatever else is absent) or
+not all of the report could be written. A program that is started without a
+standard output answers by its exit code alone.
 )";
 
 // The parser takes bytes. Each unit outside ASCII becomes three bytes outside ASCII, unpaired
@@ -45,25 +56,25 @@ WString FromBytes(std::string_view bytes) {
 
 cxxopts::Options MakeParser() {
   cxxopts::Options parser("sorrel_status.exe",
-                          "Tells what of the Tessalin hands-free service stands on this computer."
-                          " Changes nothing.\n");
+                          "Reports which parts of the hands-free service are installed on this"
+                          " computer. Changes nothing.\n");
   parser.custom_help(
-      "[--publisher FILE] [--intermediate FILE] [--inf FILE] [--application NAME]... [--service]"
-      " [--json]");
+      "[--publisher FILE]... [--intermediate FILE]... [--inf FILE]...\n"
+      "                    [--application NAME]... [--service] [--json]");
   const auto word = [] { return cxxopts::value<std::string>(); };
   parser.add_options()  //
-      ("publisher", "the file's certificate is in the store TrustedPublisher", word(), "FILE")(
-          "intermediate", "the file's certificate is in the store CA", word(), "FILE")(
-          "inf", "Windows has taken up the driver package of this INF file", word(), "FILE")(
-          "application", "the application is recorded as a dependant", word(), "NAME")(
+      ("publisher", "its certificate is in the store TrustedPublisher", word(), "FILE")(
+          "intermediate", "its certificate is in the store CA", word(), "FILE")(
+          "inf", "its driver package is in the driver store", word(), "FILE")(
+          "application", "the application is on the list", word(), "NAME")(
           "service", "the Bluetooth stack has a device for the service")(
-          "json", "answer with one JSON object")("help", "show this text")(
+          "json", "write one JSON object in ASCII")("help", "show this text")(
           "version", "show the program's version");
   return parser;
 }
 
-void TakeOption(const std::string& option, const WString& value, CommandLine& line) {
-  Questions& questions = line.questions;
+// Returns false for a switch that was given a value.
+bool TakeOption(const std::string& option, const WString& value, Questions& questions) {
   if (option == "publisher") {
     questions.publishers.push_back(value);
   } else if (option == "intermediate") {
@@ -72,7 +83,11 @@ void TakeOption(const std::string& option, const WString& value, CommandLine& li
     questions.driverPackages.push_back(value);
   } else if (option == "application") {
     questions.applications.push_back(value);
+  } else {
+    // What the parser gives to a switch without one.
+    return value == L"true";
   }
+  return true;
 }
 
 CommandLine Wrong(const WString& mistake) {
@@ -90,7 +105,9 @@ CommandLine FromParsed(const cxxopts::ParseResult& parsed) {
   line.asJson = parsed.count("json") != 0;
   line.questions.service = parsed.count("service") != 0;
   for (const cxxopts::KeyValue& argument : parsed.arguments()) {
-    TakeOption(argument.key(), FromBytes(argument.value()), line);
+    if (!TakeOption(argument.key(), FromBytes(argument.value()), line.questions)) {
+      return Wrong(L"Option '" + FromBytes(argument.key()) + L"' takes no value");
+    }
   }
   if (parsed.count("version") != 0) {
     line.kind = CommandLine::Kind::kVersion;
@@ -118,6 +135,6 @@ CommandLine ParseCommandLine(int count, const wchar_t* const* words) {
   }
 }
 
-std::string UsageText() { return MakeParser().help() + kExitCodes; }
+std::string UsageText() { return MakeParser().help() + kNotes; }
 
 }  // namespace kelvo

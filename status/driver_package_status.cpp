@@ -1,25 +1,41 @@
 #include "status/driver_package_status.h"
 
+#include <windows.h>
+
+#include <setupapi.h>
+
+#include <algorithm>
 #include <array>
-#include <cwchar>
+#include <cctype>
 #include <string>
-#include <string_view>
 
 #include "lib/platform/owned.h"
+#include "lib/platform/system_library.h"
 #include "lib/string/compare_no_case.h"
 
 namespace kelvo {
 
 namespace {
 
-DWORD ReadFileBytes(const wchar_t* path, std::string& bytes) {
+// Far above any INF file.
+constexpr LONGLONG kMostBytes = LONGLONG{4} * 1024 * 1024;
+
+// Opens a file and asks for its size. Should the path lead to another process's pipe, that process
+// cannot act as the caller.
+DWORD OpenFile(const WString& path, DWORD access, OwnedFile& file, LARGE_INTEGER& size) {
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const OwnedFile file(CreateFileW(path, GENERIC_READ, kShare, nullptr, OPEN_EXISTING, 0, nullptr));
+  file.reset(CreateFileW(path.c_str(), access, kShare, nullptr, OPEN_EXISTING,
+                         SECURITY_SQOS_PRESENT | SECURITY_ANONYMOUS, nullptr));
+  return file && GetFileSizeEx(file.get(), &size) != FALSE ? ERROR_SUCCESS : GetLastError();
+}
+
+DWORD ReadBytes(const WString& path, std::string& bytes) {
+  OwnedFile file;
   LARGE_INTEGER size{};
-  if (!file || GetFileSizeEx(file.get(), &size) == FALSE) {
-    return GetLastError();
+  if (const DWORD error = OpenFile(path, GENERIC_READ, file, size)) {
+    return error;
   }
-  if (size.HighPart != 0) {
+  if (size.QuadPart > kMostBytes) {
     return ERROR_FILE_TOO_LARGE;
   }
   bytes.resize(size.LowPart);
@@ -31,52 +47,137 @@ DWORD ReadFileBytes(const wchar_t* path, std::string& bytes) {
   return ERROR_SUCCESS;
 }
 
-WString InfFolder() {
-  std::array<wchar_t, MAX_PATH> windows{};
-  GetSystemWindowsDirectoryW(windows.data(), MAX_PATH);
-  return WString(windows.data()) + L"\\INF\\";
+bool HasVersionSection(std::string bytes) {
+  // INF files are ANSI or UTF-16.
+  std::erase(bytes, '\0');
+  std::transform(bytes.begin(), bytes.end(), bytes.begin(), [](char byte) {
+    return static_cast<char>(std::tolower(static_cast<unsigned char>(byte)));
+  });
+  return bytes.find("[version]") != std::string::npos;
 }
 
-// The name of the published file with these bytes, empty for none. `error` is that of the search or
-// of the last file that could not be read.
-WString FindPublishedCopy(const std::string& wanted, DWORD& error) {
-  const WString folder = InfFolder();
+// The content of a file of another size is nothing to us: it may be unreadable.
+DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) {
+  OwnedFile file;
+  LARGE_INTEGER size{};
+  if (const DWORD error = OpenFile(path, FILE_READ_ATTRIBUTES, file, size)) {
+    return error;
+  }
+  if (size.QuadPart != static_cast<LONGLONG>(wanted.size())) {
+    return ERROR_SUCCESS;
+  }
+  std::string bytes;
+  const DWORD error = ReadBytes(path, bytes);
+  isSame = error == ERROR_SUCCESS && bytes == wanted;
+  return error;
+}
+
+// Stores the name of the published file with these bytes; leaves `name` empty when there is none.
+DWORD FindPublishedCopy(const std::string& wanted, WString& name) {
+  std::array<wchar_t, MAX_PATH> windows{};
+  if (GetSystemWindowsDirectoryW(windows.data(), MAX_PATH) == 0) {
+    return GetLastError();
+  }
+  const WString folder = WString(windows.data()) + L"\\INF\\";
   WIN32_FIND_DATAW entry{};
   const OwnedFileSearch search(FindFirstFileW((folder + L"oem*.inf").c_str(), &entry));
+  DWORD error = ERROR_SUCCESS;
   bool isMore = static_cast<bool>(search);
-  std::string bytes;
   for (; isMore; isMore = FindNextFileW(search.get(), &entry) != FALSE) {
-    if (!IsPublishedName(entry.cFileName)) {
+    if (!IsPublishedName(entry.cFileName) ||
+        (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
       continue;
     }
-    if (const DWORD failed = ReadFileBytes((folder + entry.cFileName).c_str(), bytes)) {
+    bool isSame = false;
+    if (const DWORD failed = CompareFile(folder + entry.cFileName, wanted, isSame)) {
       error = failed;
-    } else if (bytes == wanted) {
-      error = ERROR_SUCCESS;
-      return entry.cFileName;
+    } else if (isSame) {
+      name = entry.cFileName;
+      return ERROR_SUCCESS;
     }
   }
-  if (const DWORD ended = GetLastError();
-      ended != ERROR_FILE_NOT_FOUND && ended != ERROR_NO_MORE_FILES) {
-    error = ended;
+  const DWORD ended = GetLastError();
+  return ended == ERROR_FILE_NOT_FOUND || ended == ERROR_NO_MORE_FILES ? error : ended;
+}
+
+struct SetupFunctions {
+  OwnedModule library = LoadSystemLibrary(L"setupapi.dll");
+  decltype(&SetupOpenInfFileW) open = KELVO_FIND_FUNCTION(library.get(), SetupOpenInfFileW);
+  decltype(&SetupCloseInfFile) close = KELVO_FIND_FUNCTION(library.get(), SetupCloseInfFile);
+  decltype(&SetupGetLineTextW) getLineText = KELVO_FIND_FUNCTION(library.get(), SetupGetLineTextW);
+
+  explicit operator bool() const {
+    return open != nullptr && close != nullptr && getLineText != nullptr;
   }
-  return {};
+};
+
+WString FullPath(const WString& path) {
+  const DWORD length = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+  WString full(length, L'\0');
+  GetFullPathNameW(path.c_str(), length, full.data(), nullptr);
+  return full;
+}
+
+DWORD ReadEntry(const SetupFunctions& functions, HINF inf, const wchar_t* key, WString& text) {
+  WString buffer(MAX_INF_STRING_LENGTH, L'\0');
+  if (functions.getLineText(nullptr, inf, L"Version", key, buffer.data(), MAX_INF_STRING_LENGTH,
+                            nullptr) == FALSE) {
+    return GetLastError();
+  }
+  text = buffer.c_str();
+  return ERROR_SUCCESS;
+}
+
+// Returns why an entry is missing.
+DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVersion) {
+  const SetupFunctions functions;
+  if (!functions) {
+    return GetLastError();
+  }
+  // A bare name would be looked for in Windows' INF folder.
+  HINF const inf = functions.open(FullPath(infPath).c_str(), nullptr, INF_STYLE_WIN4, nullptr);
+  if (inf == INVALID_HANDLE_VALUE) {
+    return GetLastError();
+  }
+  const DWORD providerError = ReadEntry(functions, inf, L"Provider", provider);
+  const DWORD versionError = ReadEntry(functions, inf, L"DriverVer", driverVersion);
+  functions.close(inf);
+  return providerError != ERROR_SUCCESS ? providerError : versionError;
 }
 
 }  // namespace
 
-DriverPackageFacts QueryDriverPackage(const wchar_t* infPath) {
-  DriverPackageFacts facts;
+Item QueryDriverPackage(const WString& infPath) {
+  constexpr const char* kKind = "driver_package";
   std::string bytes;
-  facts.error = ReadFileBytes(infPath, bytes);
-  if (facts.error == ERROR_SUCCESS) {
-    facts.publishedName = FindPublishedCopy(bytes, facts.error);
+  DWORD error = ReadBytes(infPath, bytes);
+  if (error == ERROR_SUCCESS && !HasVersionSection(bytes)) {
+    error = ERROR_SECTION_NOT_FOUND;
   }
-  if (!facts.publishedName.empty()) {
-    // From the given file: Windows may write a compiled form of an INF beside its published copy.
-    facts.version = ReadInfVersion(infPath);
+  WString publishedName;
+  if (error == ERROR_SUCCESS) {
+    error = FindPublishedCopy(bytes, publishedName);
   }
-  return facts;
+  if (error != ERROR_SUCCESS) {
+    return UnknownItem(kKind, infPath, error);
+  }
+  if (publishedName.empty()) {
+    return {kKind, State::kAbsent, infPath, {}};
+  }
+  WString provider;
+  WString driverVersion;
+  // From the given file: Windows may write a compiled form of an INF beside its published copy.
+  error = ReadVersion(infPath, provider, driverVersion);
+  Item item{kKind,
+            State::kPresent,
+            infPath,
+            {TextDetail("published_name", L"published as", publishedName),
+             TextDetail("provider", L"provider", provider),
+             TextDetail("driver_version", L"version", driverVersion)}};
+  if (error != ERROR_SUCCESS) {
+    AddError(item, "version_error", L"not all of it could be read: ", error);
+  }
+  return item;
 }
 
 bool IsPublishedName(std::wstring_view name) {
@@ -85,27 +186,6 @@ bool IsPublishedName(std::wstring_view name) {
   return name.length() > kPrefixLength && end != kPrefixLength && end != std::wstring_view::npos &&
          CompareNoCase(WString(name.substr(0, kPrefixLength)).c_str(), L"oem") == 0 &&
          CompareNoCase(WString(name.substr(end)).c_str(), L".inf") == 0;
-}
-
-Item DescribeDriverPackage(const WString& infPath, const DriverPackageFacts& facts) {
-  constexpr const char* kKind = "driver_package";
-  if (facts.error != ERROR_SUCCESS) {
-    return UnknownItem(kKind, infPath, facts.error);
-  }
-  if (facts.publishedName.empty()) {
-    return {kKind, State::kAbsent, infPath, {}};
-  }
-  Item item{kKind,
-            State::kPresent,
-            infPath,
-            {TextDetail("published_name", L"published as", facts.publishedName),
-             TextDetail("provider", L"provider", facts.version.provider),
-             TextDetail("driver_version", L"version", facts.version.driverVersion)}};
-  if (facts.version.error != ERROR_SUCCESS) {
-    item.details.push_back(TextDetail("version_error", L"not all of it could be read:",
-                                      DescribeError(facts.version.error)));
-  }
-  return item;
 }
 
 }  // namespace kelvo

@@ -1,28 +1,24 @@
 #pragma once
 
-#include <windows.h>
+#include <string_view>
 
 #include "lib/string/wstring.h"
-#include "status/inf_version.h"
 #include "status/item.h"
 
 namespace kelvo {
 
-struct DriverPackageFacts {
-  DWORD error = ERROR_SUCCESS;  // why a file could not be read
-  WString publishedName;        // the copy in Windows' INF folder, "oem3.inf"; empty for none
-  InfVersion version;           // read only when there is a copy
-};
-
-// Looks for a file with the same bytes among those that Windows published in its INF folder when it
-// staged driver packages. When one of them cannot be read and no other is the same, that is an
-// error.
-DriverPackageFacts QueryDriverPackage(const wchar_t* infPath);
+// Returns the item for the driver package of an INF file: present when a file with the same bytes
+// is among those that Windows published in its INF folder when it took packages into the driver
+// store. Packages with equal INF files and different catalogs are two for Windows, and one here.
+//   - Unknown when the file cannot be read, has no section "Version" (ERROR_SECTION_NOT_FOUND) or
+//     more than 4 MiB, and when a published file of the same size cannot be read and no other is
+//     the same.
+//   - A present one has provider and version of the section "Version", with the strings that these
+//     refer to inserted (SetupGetLineTextW; setupapi.dll is loaded for that and freed).
+Item QueryDriverPackage(const WString& infPath);
 
 // Returns whether a file in the INF folder is a published one: "oem", digits, ".inf", in any letter
 // case.
 bool IsPublishedName(std::wstring_view name);
-
-Item DescribeDriverPackage(const WString& infPath, const DriverPackageFacts& facts);
 
 }  // namespace kelvo

@@ -8,21 +8,9 @@
 
 namespace kelvo {
 
-namespace {
-
-WString SystemText(DWORD error) {
-  const WString message = FormatSystemMessage(error);
-  const std::wstring_view text = message;
-  return WString(text.substr(0, text.find_last_not_of(L". \r\n") + 1));
-}
-
-WString ErrorCode(DWORD error) { return FormatText(L"%08lX", error); }
-
-}  // namespace
-
 const char* StateName(State state) {
   switch (state) {
-    case State::kTold:
+    case State::kInfo:
       return "info";
     case State::kPresent:
       return "present";
@@ -35,7 +23,7 @@ const char* StateName(State state) {
 }
 
 State WorstState(const std::vector<Item>& items) {
-  State worst = State::kTold;
+  State worst = State::kInfo;
   for (const Item& item : items) {
     worst = std::max(worst, item.state);
   }
@@ -43,20 +31,23 @@ State WorstState(const std::vector<Item>& items) {
 }
 
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text) {
-  return {key, text, FormatText(L"%s %s", label, text.c_str())};
+  return {key, text, text.empty() ? text : WString(label) + L" " + text};
 }
 
-WString DescribeError(DWORD error) {
-  const WString text = SystemText(error);
-  return text.empty() ? ErrorCode(error) : ErrorCode(error) + L" " + text;
+void AddError(Item& item, const std::string& key, const WString& label, DWORD error) {
+  const WString code = FormatText(L"%08lX", error);
+  const WString message = FormatSystemMessage(error);
+  std::wstring_view text = message;
+  text = text.substr(0, text.find_last_not_of(L". \r\n") + 1);
+  item.details.push_back(
+      {key + "_code", code, label + code + (text.empty() ? L"" : L" ") + WString(text)});
+  item.details.push_back({key + "_text", WString(text), {}});
 }
 
 Item UnknownItem(const char* kind, const WString& name, DWORD error) {
-  return {kind,
-          State::kUnknown,
-          name,
-          {{"error_code", ErrorCode(error), DescribeError(error)},
-           {"error_text", SystemText(error), {}}}};
+  Item item{kind, State::kUnknown, name, {}};
+  AddError(item, "error", {}, error);
+  return item;
 }
 
 }  // namespace kelvo

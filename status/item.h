@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <string>
 #include <variant>
 #include <vector>
 
@@ -11,19 +12,19 @@ namespace kelvo {
 
 // From best to worst: the state of a list of items is that of its worst one.
 enum class State {
-  kTold,     // a fact, which is neither good nor bad
+  kInfo,     // a fact, which is neither good nor bad
   kPresent,  // it is there
   kAbsent,   // it is not there
-  kUnknown,  // it could not be read
+  kUnknown,  // it could not be looked at
 };
 
-// Returns the stable name of a state, as text and JSON write it.
+// Returns the stable name of a state, as both forms of the report write it.
 const char* StateName(State state);
 
 // One fact about an item: scripts find `value` under the stable name `key`, a person reads
-// `phrase`, or nothing when that is empty.
+// `phrase`. Either may be empty: then that reader gets nothing.
 struct Detail {
-  const char* key;
+  std::string key;
   std::variant<bool, DWORD, WString> value;
   WString phrase;
 };
@@ -37,17 +38,19 @@ struct Item {
   std::vector<Detail> details;
 };
 
-// Returns the state of the worst item, or kTold for no items.
+// Returns the state of the worst item, or kInfo for no items.
 State WorstState(const std::vector<Item>& items);
 
-// Returns the detail `key` with a string that a person sees after `label`.
+// Returns the detail `key` with a string that a person sees after `label`, unless it is empty.
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
-// Returns a Windows error code as the tool writes it: eight hexadecimal digits, then the system's
-// message, when there is one, without its full stop and line break.
-WString DescribeError(DWORD error);
+// Adds a Windows error code as two details: eight hexadecimal digits under `key` and "_code", the
+// system's message without its full stop and line break under `key` and "_text". A person reads
+// both after `label`.
+void AddError(Item& item, const std::string& key, const WString& label, DWORD error);
 
-// Returns an item for something that could not be read, with the error code and its message.
+// Returns an item for something that could not be looked at, with the keys "error_code" and
+// "error_text".
 Item UnknownItem(const char* kind, const WString& name, DWORD error);
 
 }  // namespace kelvo

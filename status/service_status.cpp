@@ -1,13 +1,22 @@
 #include "status/service_status.h"
 
+#include <windows.h>
+
+#include <cfgmgr32.h>
 #include <setupapi.h>
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cwchar>
+#include <optional>
+#include <string_view>
 #include <vector>
 
 #include "lib/platform/system_library.h"
 #include "lib/string/format_text.h"
 #include "tool/handsfree_service.h"
+#include "tool/library_search.h"
 
 namespace kelvo {
 
@@ -21,12 +30,14 @@ struct DeviceFunctions {
       KELVO_FIND_FUNCTION(library.get(), SetupDiEnumDeviceInfo);
   decltype(&SetupDiGetDeviceRegistryPropertyW) getProperty =
       KELVO_FIND_FUNCTION(library.get(), SetupDiGetDeviceRegistryPropertyW);
+  decltype(&SetupDiGetDeviceInstanceIdW) getInstanceId =
+      KELVO_FIND_FUNCTION(library.get(), SetupDiGetDeviceInstanceIdW);
   decltype(&SetupDiDestroyDeviceInfoList) destroyDevices =
       KELVO_FIND_FUNCTION(library.get(), SetupDiDestroyDeviceInfoList);
 
   explicit operator bool() const {
     return getDevices != nullptr && enumDevice != nullptr && getProperty != nullptr &&
-           destroyDevices != nullptr;
+           getInstanceId != nullptr && destroyDevices != nullptr;
   }
 };
 
@@ -37,7 +48,7 @@ WString ServiceHardwareId() {
                     id.Data4[4], id.Data4[5], id.Data4[6], id.Data4[7]);
 }
 
-// Empty for a device that has none.
+// Each id ends in a NUL, the last one in two. Empty for a device that has none.
 std::vector<wchar_t> ReadHardwareIds(const DeviceFunctions& functions, HDEVINFO devices,
                                      SP_DEVINFO_DATA& device) {
   DWORD size = 0;
@@ -51,72 +62,122 @@ std::vector<wchar_t> ReadHardwareIds(const DeviceFunctions& functions, HDEVINFO 
   return ids;
 }
 
-ServiceDevice FindServiceDevice(const DeviceFunctions& functions, HDEVINFO devices) {
+bool StartsWith(const wchar_t* text, std::wstring_view start) {
+  return _wcsnicmp(text, start.data(), start.length()) == 0;
+}
+
+// What follows the service's class identifier in a device's hardware ids, one entry for each id of
+// the service.
+std::vector<WString> ServiceIdSuffixes(const std::vector<wchar_t>& hardwareIds) {
+  const WString wanted = ServiceHardwareId();
+  std::vector<WString> suffixes;
+  for (const wchar_t* id = hardwareIds.data(); *id != L'\0'; id += std::wcslen(id) + 1) {
+    if (StartsWith(id, wanted)) {
+      suffixes.emplace_back(id + wanted.length());
+    }
+  }
+  return suffixes;
+}
+
+bool IsRemoteSuffix(const WString& suffix) {
+  constexpr std::wstring_view kMaker = L"_LOCALMFG&";
+  return StartsWith(suffix.c_str(), L"_VID") ||
+         (StartsWith(suffix.c_str(), kMaker) &&
+          !StartsWith(suffix.c_str() + kMaker.length(), L"0000"));
+}
+
+// The address in an instance id, such as the 12 digits in "...&0&001122334455_C00000000"; nothing
+// when it has none.
+std::optional<unsigned long long> AddressOf(const DeviceFunctions& functions, HDEVINFO devices,
+                                            SP_DEVINFO_DATA& device) {
+  constexpr std::ptrdiff_t kDigits = 12;
+  std::array<wchar_t, MAX_DEVICE_ID_LEN> id{};
+  functions.getInstanceId(devices, &device, id.data(), MAX_DEVICE_ID_LEN, nullptr);
+  const wchar_t* const separator = std::wcsrchr(id.data(), L'&');
+  if (separator == nullptr) {
+    return std::nullopt;
+  }
+  wchar_t* end = nullptr;
+  const unsigned long long address = std::wcstoull(separator + 1, &end, 16);
+  return end - (separator + 1) == kDigits ? std::optional(address) : std::nullopt;
+}
+
+bool IsServiceDevice(const DeviceFunctions& functions, HDEVINFO devices, SP_DEVINFO_DATA& device) {
+  const std::vector<WString> suffixes =
+      ServiceIdSuffixes(ReadHardwareIds(functions, devices, device));
+  if (suffixes.empty()) {
+    return false;
+  }
+  if (const auto address = AddressOf(functions, devices, device)) {
+    return *address == 0;
+  }
+  return std::none_of(suffixes.begin(), suffixes.end(), IsRemoteSuffix);
+}
+
+DWORD FindServiceDevice(const DeviceFunctions& functions, HDEVINFO devices, bool& isThere) {
   SP_DEVINFO_DATA device{};
   device.cbSize = sizeof(device);
   for (DWORD i = 0; functions.enumDevice(devices, i, &device) != FALSE; ++i) {
-    if (IsServiceDevice(ReadHardwareIds(functions, devices, device).data())) {
-      return {ERROR_SUCCESS, true};
+    if (IsServiceDevice(functions, devices, device)) {
+      isThere = true;
+      return ERROR_SUCCESS;
     }
   }
   const DWORD error = GetLastError();
-  return {error == ERROR_NO_MORE_ITEMS ? ERROR_SUCCESS : error, false};
+  return error == ERROR_NO_MORE_ITEMS ? ERROR_SUCCESS : error;
 }
 
-}  // namespace
-
-ServiceDevice QueryServiceDevice() {
+DWORD QueryServiceDevice(bool& isThere) {
   const DeviceFunctions functions;
   if (!functions) {
-    return {GetLastError(), false};
+    return GetLastError();
   }
   HDEVINFO const devices =
       functions.getDevices(nullptr, L"BTHENUM", nullptr, DIGCF_ALLCLASSES | DIGCF_PRESENT);
   if (devices == INVALID_HANDLE_VALUE) {
     // What Windows says where no Bluetooth bus has ever been enumerated.
     const DWORD error = GetLastError();
-    return {error == ERROR_INVALID_DATA ? ERROR_SUCCESS : error, false};
+    return error == ERROR_INVALID_DATA ? ERROR_SUCCESS : error;
   }
-  const ServiceDevice found = FindServiceDevice(functions, devices);
+  const DWORD error = FindServiceDevice(functions, devices, isThere);
   functions.destroyDevices(devices);
-  return found;
+  return error;
 }
 
-bool IsServiceDevice(const wchar_t* hardwareIds) {
-  const WString wanted = ServiceHardwareId();
-  for (const wchar_t* id = hardwareIds; *id != L'\0'; id += std::wcslen(id) + 1) {
-    if (_wcsnicmp(id, wanted.c_str(), wanted.length()) == 0) {
-      return true;
-    }
+void AddLibrary(Item& item) {
+  constexpr const char* kKey = "bluetooth_library";
+  // As data, so that nothing in it runs; by its path, since Wine's search for data is not narrowed.
+  const OwnedModule library(
+      LoadLibraryExW(LibraryPath(L"bthprops.cpl").c_str(), nullptr,
+                     LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));
+  if (library) {
+    item.details.push_back({kKey, true, L"bthprops.cpl is there"});
+    return;
   }
-  return false;
+  const DWORD error = GetLastError();
+  item.details.push_back({kKey, false, {}});
+  AddError(item, "bluetooth_library_error", L"no bthprops.cpl: ", error);
 }
 
-DWORD QueryBluetoothLibrary() {
-  // As the tool loads it, with the search for libraries narrowed.
-  const OwnedModule library(LoadLibraryW(L"bthprops.cpl"));
-  return library ? ERROR_SUCCESS : GetLastError();
-}
+}  // namespace
 
-Item DescribeService(const std::optional<ServiceDevice>& device, DWORD libraryError) {
-  constexpr const char* kKind = "service";
-  const bool hasLibrary = libraryError == ERROR_SUCCESS;
-  const Detail library{"bluetooth_library", hasLibrary,
-                       hasLibrary
-                           ? WString(L"bthprops.cpl can be loaded")
-                           : L"bthprops.cpl cannot be loaded: " + DescribeError(libraryError)};
-  if (!device) {
-    return {kKind,
-            State::kTold,
-            {},
-            {library, {"device", L"not looked for", L"its device is looked for with --service"}}};
-  }
-  if (device->error != ERROR_SUCCESS) {
-    Item item = UnknownItem(kKind, {}, device->error);
-    item.details.push_back(library);
+Item QueryService(DeviceSearch search) {
+  Item item{"service", State::kInfo, {}, {}};
+  if (search == DeviceSearch::kNone) {
+    AddLibrary(item);
+    item.details.push_back({{}, {}, L"its device is looked for with --service"});
     return item;
   }
-  return {kKind, device->isThere ? State::kPresent : State::kAbsent, {}, {library}};
+  bool isThere = false;
+  if (const DWORD error = QueryServiceDevice(isThere)) {
+    item = UnknownItem(item.kind, {}, error);
+  } else {
+    item.state = isThere ? State::kPresent : State::kAbsent;
+    item.details.push_back(
+        {"device", isThere, isThere ? L"Bluetooth has a device for it" : L"no device for it"});
+  }
+  AddLibrary(item);
+  return item;
 }
 
 }  // namespace kelvo

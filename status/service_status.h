@@ -1,34 +1,24 @@
 #pragma once
 
-#include <windows.h>
-
-#include <optional>
-
-#include "lib/string/wstring.h"
 #include "status/item.h"
 
 namespace kelvo {
 
-// Whether the service's device node exists; `error` says why that is unknown.
-struct ServiceDevice {
-  DWORD error = ERROR_SUCCESS;
-  bool isThere = false;
-};
+// Where a device is looked for, and whether that is done.
+enum class DeviceSearch { kNone, kBluetoothBus };
 
-// Looks through the present devices that the Bluetooth bus enumerates (SetupDiGetClassDevsW with
-// "BTHENUM", all classes; setupapi.dll is loaded for that) for the service's hardware id.
-ServiceDevice QueryServiceDevice();
-
-// Returns whether one of a device's hardware ids is that of the hands-free service: "BTHENUM\", its
-// class identifier in braces, and whatever follows, in any letter case. Each id ends in a NUL, the
-// last one in two.
-bool IsServiceDevice(const wchar_t* hardwareIds);
-
-// Returns 0 when "bthprops.cpl" can be loaded, otherwise the error code of loading it.
-DWORD QueryBluetoothLibrary();
-
-// Returns the item for the service. Without a `device`, which was not looked for then, it tells
-// only about the library.
-Item DescribeService(const std::optional<ServiceDevice>& device, DWORD libraryError);
+// Returns the item for the service: whether Windows has "bthprops.cpl", which is opened as data, so
+// that nothing in it runs, and, when asked for, whether the Bluetooth bus has a device for the
+// service. setupapi.dll is loaded for the devices and freed.
+//   - A device counts when it is present, one of its hardware ids begins with "BTHENUM\" and the
+//     service's class identifier in braces, and it is not certainly that of a paired remote device:
+//     its instance id ends in an address that is zero or, where it has no address, no hardware id
+//     goes on with "_VID" or with "_LOCALMFG&" and a number that is not 0000.
+//   - Certain: the bus makes such nodes for services of remote devices too, and theirs have the
+//     remote device's address. Not seen on a radio: the ids of the service's own node. Incoming
+//     serial ports, other local services, have "_LOCALMFG&0000" and an address of zero.
+//   - The nodes go with the radio, and may come a moment after the registration: "absent" is no
+//     proof while the radio is off or pulled.
+Item QueryService(DeviceSearch search);
 
 }  // namespace kelvo

@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("words are taken as they stand, or told to be wrong") {
+TEST_CASE("a command line is taken word by word, or said to be wrong") {
   using Kind = CommandLine::Kind;
   struct Row {
     std::vector<const wchar_t*> words;
@@ -19,6 +19,8 @@ TEST_CASE("words are taken as they stand, or told to be wrong") {
       {{L"--application", L"--json"}, Kind::kQuestions, {L"--json"}, L""},
       {{L"--version", L"--help"}, Kind::kHelp, {}, L""},
       {{L"--version"}, Kind::kVersion, {}, L""},
+      {{L"--service=false"}, Kind::kWrong, {}, L"Option 'service' takes no value"},
+      {{L"--json=0"}, Kind::kWrong, {}, L"Option 'json' takes no value"},
       {{L"--application"}, Kind::kWrong, {}, L"Option 'application' is missing an argument"},
       {{L"--Json"}, Kind::kWrong, {}, L"Option 'Json' does not exist"},
       {{L"\u0416\xD800"}, Kind::kWrong, {}, L"Unexpected word '\u0416\xD800'"},

@@ -1,54 +1,50 @@
-#include "status/item.h"
+#include <windows.h>
 
+#include <cfgmgr32.h>
 #include <setupapi.h>
-#include <wincrypt.h>
 
+#include <cstring>
+
+#include "status/answer.h"
 #include "status/application_status.h"
-#include "status/certificate_status.h"
 #include "status/driver_package_status.h"
+#include "status/report.h"
 #include "status/service_status.h"
-#include "status/text_report.h"
 #include "tests/support/testing.h"
+#include "tool/dependent_applications.h"
 
-TEST_CASE("what stands in place of the list decides what is told of an application") {
+TEST_CASE("what the registry holds in place of the list decides what is reported") {
   struct Row {
-    ApplicationList list;
+    DWORD type;
+    std::wstring stored;
     std::vector<WString> names;
     std::string report;
   };
+  const std::wstring longest = L"a;" + std::wstring(1021, L'x');
   const Row rows[] = {
-      {{0, REG_SZ, 8, L";a;;\u0416"},
+      {REG_SZ,
+       L";a;;\u0416",
        {L"A", L"\u0436", L"a;"},
        "present  application     A\npresent  application     \xD0\xB6\n"
        "absent   application     a;\n"},
-      {{0, REG_SZ, 2048, L"a;b"}, {}, "present  application     a\npresent  application     b\n"},
-      {{0, REG_SZ, 2, L";"}, {}, "absent   application     the list is empty\n"},
-      {{0, REG_EXPAND_SZ, 2049, L""},
+      {REG_SZ, L"a;b", {}, "present  application     a\npresent  application     b\n"},
+      {REG_SZ, L";", {}, "absent   application     the list is empty\n"},
+      {REG_SZ, longest, {L"a"}, "present  application     a\n"},
+      {REG_EXPAND_SZ,
+       longest + L"x",
        {L"a\x1B"},
        "absent   application     a<U+001B>; the list is too long: sorrel.exe takes it as empty\n"},
-      {{ERROR_PATH_NOT_FOUND, 0, 0, L""}, {L"a"}, "absent   application     a; none is recorded\n"},
-      {{0x20001234, 0, 0, L""}, {L"a"}, "unknown  application     a; 20001234\n"},
+      {REG_DWORD,
+       L"1",
+       {},
+       "absent   application     the list is not text: sorrel.exe takes it as empty\n"},
   };
-  for (const auto& [list, names, report] : rows) {
-    CHECK(TextReport(DescribeApplications(list, names)) == report);
+  const StandInKey machine(HKEY_LOCAL_MACHINE);
+  for (const auto& [type, stored, names, report] : rows) {
+    StoreUnits(machine.key.get(), ServiceParametersKey, ApplicationsValueName, type,
+               stored + L'\0');
+    CHECK(TextReport(QueryApplications(names)) == report);
   }
-  // Plain users may read the list, and no more.
-  REPLACE(RegOpenKeyExW,
-          [](auto, auto, auto, auto, REGSAM access, auto) { return static_cast<LSTATUS>(access); });
-  CHECK(QueryApplicationList().error == KEY_READ);
-}
-
-TEST_CASE("a certificate expires after its last moment; a store is opened only to be read") {
-  CertificateFacts facts{0, true, true, L"S", L"I", L"AB", {0xA9CF5280, 0x1CF3841}};
-  for (const auto& [now, end] : {std::pair(0x7FU, ""), {0x80U, ""}, {0x81U, "; expired"}}) {
-    CHECK(TextReport({DescribeCertificate("c", L"f", facts, {0xA9CF5200 + now, 0x1CF3841})}) ==
-          std::string("present  c               f; subject S; issuer I; thumbprint AB;") +
-              " valid until 2014-03-05T07:08:09Z" + end + "\n");
-  }
-  REPLACE(CertOpenStore, [](auto, auto, auto, auto, DWORD flags, auto) -> HCERTSTORE {
-    return SetLastError(flags), nullptr;
-  });
-  CHECK(QueryStore(L"CA").error == 0x2C000);
 }
 
 TEST_CASE("a published INF is named oem, a number, .inf") {
@@ -59,20 +55,27 @@ TEST_CASE("a published INF is named oem, a number, .inf") {
   }
 }
 
-TEST_CASE("the service's device is known by its hardware id") {
-  const std::wstring id = L"BTHENUM\\{3abb9028-beae-4bf1-acd7-5cd7d5e4e0ca}_LOCALMFG&000a";
+TEST_CASE("a device counts for the service unless it is certainly a remote device's") {
+  const std::wstring id = L"BTHENUM\\{3abb9028-beae-4bf1-acd7-5cd7d5e4e0ca}";
   struct Row {
-    std::wstring ids;
+    std::wstring ids, instanceId;
     DWORD listError, enumError;
     State state;
   };
+  constexpr DWORD kEnd = ERROR_NO_MORE_ITEMS;
   const Row rows[] = {
-      {L"x" + std::wstring(1, L'\0') + id, 0, ERROR_NO_MORE_ITEMS, State::kPresent},
-      {L"x" + id, 0, ERROR_NO_MORE_ITEMS, State::kAbsent},
-      {L"", 0, ERROR_NO_MORE_ITEMS, State::kAbsent},
-      {L"", 0, ERROR_ACCESS_DENIED, State::kUnknown},
-      {id, ERROR_INVALID_DATA, 0, State::kAbsent},
-      {id, ERROR_ACCESS_DENIED, 0, State::kUnknown},
+      {L"x" + std::wstring(1, L'\0') + id, L"", 0, kEnd, State::kPresent},
+      {L"x" + id, L"", 0, kEnd, State::kAbsent},
+      {id + L"_VID&0001004c", L"", 0, kEnd, State::kAbsent},
+      {id + L"_localmfg&000a", L"", 0, kEnd, State::kAbsent},
+      {id + L"_LOCALMFG&0000", L"", 0, kEnd, State::kPresent},
+      {id + L"_LOCALMFG&000a", L"B\\7&1&0&000000000000_00000001", 0, kEnd, State::kPresent},
+      {id, L"B\\7&1&0&00112233445A_C00000000", 0, kEnd, State::kAbsent},
+      {id, L"B\\7&1&0&0011223344_C00000000", 0, kEnd, State::kPresent},
+      {L"", L"", 0, kEnd, State::kAbsent},
+      {L"", L"", 0, ERROR_ACCESS_DENIED, State::kUnknown},
+      {id, L"", ERROR_INVALID_DATA, 0, State::kAbsent},
+      {id, L"", ERROR_ACCESS_DENIED, 0, State::kUnknown},
   };
   static Row row;
   static int open = 0;
@@ -104,12 +107,89 @@ TEST_CASE("the service's device is known by its hardware id") {
         std::copy_n(reinterpret_cast<const BYTE*>(row.ids.data()), size, out);
         return TRUE;
       });
+  const ReplacedExport getInstanceId(
+      "SetupDiGetDeviceInstanceIdW",
+      +[](HDEVINFO, PSP_DEVINFO_DATA, PWSTR out, DWORD size, PDWORD) -> BOOL {
+        CHECK(size == MAX_DEVICE_ID_LEN);
+        return lstrcpyW(out, row.instanceId.c_str()) != nullptr;
+      });
   const ReplacedExport destroy(
       "SetupDiDestroyDeviceInfoList", +[](HDEVINFO) -> BOOL { return --open == 0; });
   for (const Row& each : rows) {
     row = each;
-    const Item item = DescribeService(QueryServiceDevice(), 0);
-    CHECK_BOTH(item.state == each.state, std::get<bool>(item.details.back().value));
+    CAPTURE(row.ids);
+    CHECK(QueryService(DeviceSearch::kBluetoothBus).state == row.state);
     CHECK(open == 0);
   }
+}
+
+// What the program writes, in a place that takes no memory.
+static char written[0x1000];
+
+struct Surroundings {
+  HANDLE device = GetCurrentThread();  // standard output and standard error
+  BOOL writes = TRUE;
+  bool hasMemory = true;
+};
+
+// Runs the program with an option and its value.
+static int Run(const wchar_t* option, const wchar_t* value, const Surroundings& around = {}) {
+  const wchar_t* const words[] = {L"sorrel_status.exe", option, value};
+  bool hasMemory = true;
+  REPLACE(malloc, [&](auto original, auto size) { return hasMemory ? original(size) : nullptr; });
+  REPLACE(GetStdHandle, [&](auto, auto) { return around.device; });
+  REPLACE(WriteFile, [&](auto, auto, auto bytes, DWORD size, DWORD* done, auto) {
+    std::copy_n(static_cast<const char*>(bytes), size, written);
+    written[*done = size] = '\0';
+    return around.writes;
+  });
+  hasMemory = around.hasMemory;
+  const int code = AnswerCommandLine(value == nullptr ? 2 : 3, words);
+  hasMemory = true;
+  return code;
+}
+
+TEST_CASE("the exit code is the answer's unless a standard output that is there refuses it") {
+  const StandInKey machine(HKEY_LOCAL_MACHINE);
+  CHECK(Run(L"--application", L"a", {nullptr, FALSE}) == 1);
+  CHECK(Run(L"--application", L"a", {INVALID_HANDLE_VALUE, FALSE}) == 1);
+  CHECK(Run(L"--application", L"a", {GetCurrentThread(), FALSE}) == 3);
+  CHECK(Run(L"--help", nullptr, {GetCurrentThread(), FALSE}) == 3);
+}
+
+TEST_CASE("without memory the exit code is 3, and standard error says why") {
+  CHECK(Run(L"--version", nullptr, {GetCurrentThread(), TRUE, false}) == 3);
+  CHECK(std::string(written) == "sorrel_status: not enough memory\r\n");
+}
+
+TEST_CASE("the system has a name from Windows 10 on, and an administrator any number of groups") {
+  constexpr DWORD kCount = 200;
+  struct {
+    TOKEN_GROUPS first;
+    SID_AND_ATTRIBUTES others[kCount - 1];
+  } token = {{kCount, {}}, {}};
+  BYTE everyone[SECURITY_MAX_SID_SIZE];
+  BYTE administrators[SECURITY_MAX_SID_SIZE];
+  DWORD length = SECURITY_MAX_SID_SIZE;
+  CreateWellKnownSid(WinWorldSid, nullptr, everyone, &length);
+  length = SECURITY_MAX_SID_SIZE;
+  CreateWellKnownSid(WinBuiltinAdministratorsSid, nullptr, administrators, &length);
+  std::fill_n(token.first.Groups, kCount, SID_AND_ATTRIBUTES{everyone, SE_GROUP_ENABLED});
+  REPLACE(GetTokenInformation,
+          [&](auto original, auto asked, auto kind, void* out, DWORD size, DWORD* needed) -> BOOL {
+            if (kind != TokenGroups) {
+              return original(asked, kind, out, size, needed);
+            }
+            *needed = sizeof(token);
+            return size < sizeof(token) ? FALSE : std::memcpy(out, &token, size) != nullptr;
+          });
+  const auto windows10 = PretendWindows(VER_PLATFORM_WIN32_NT, 10, 0);
+  Run(L"--json", nullptr);
+  CHECK(std::strstr(written, "\"administrator\": false"));
+  // Filtered: the group only denies access.
+  token.others[kCount - 2] = {administrators, SE_GROUP_USE_FOR_DENY_ONLY};
+  Run(L"--json", nullptr);
+  CHECK(std::strstr(written, "\"administrator\": true"));
+  CHECK(std::strstr(written, "\"name\": \"Windows (10.0.1381)\""));
+  CHECK(std::strstr(written, "\"version\": \"10.0.1381\""));
 }

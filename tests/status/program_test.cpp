@@ -1,170 +1,138 @@
-#include <nlohmann/json.hpp>
+#include <windows.h>
+
+#include <wincrypt.h>
 
 #include <functional>
 #include <map>
-#include <regex>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "lib/string/visible_text.h"
+#include "status/certificate_status.h"
+#include "status/report.h"
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
-
-// Keeps names in the order in which they were written.
-using Json = nlohmann::ordered_json;
 
 static std::wstring FromUtf8(const std::string& text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
 
-static std::string Replaced(const std::string& text, const std::string& pattern,
-                            const std::string& by) {
-  return std::regex_replace(text, std::regex(pattern), by);
-}
-
-static const std::wstring kInfFolder = L"C:\\windows\\inf\\";
-
-// On a machine where nothing is installed, a folder, the current one, with certificates, INF files
-// and these programs:
-//   sorrel.exe and sorrel_status.exe, with the simulator's libraries beside them
-//   alone\sorrel_status.exe, with none
-//   versioned\sorrel_status.exe, with a driver library that has a version
-struct Machine {
-  Machine() {
+// On a clean machine a folder, the current one, with certificates, INF files, sorrel_status.exe
+// beside the simulator's libraries, and a copy of it beside a driver library that has a version.
+struct Machine : ProgramFolder {
+  Machine()
+      : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
+                       {L"certificates\\base64.cer", L"trusted_i.cer"},
+                       {L"sorrel_status.exe", L"sorrel_status.exe"},
+                       {L"sorrel_status.exe", L"versioned\\sorrel_status.exe"},
+                       {L"sorrel.exe", L"versioned\\difxapi.dll"}}) {
     const std::string inf =
         "[Version]\r\nSignature = \"$WINDOWS NT$\"\r\nProvider = %Maker%\r\n"
         "DriverVer = 01/01/2026,1.0.0.0\r\n[Strings]\r\nMaker = \"Tessalin rehearsal\"\r\n";
-    folder.Write("Tessalin.inf", inf);
-    folder.Write("unpublished.inf", Replaced(inf, "2026", "2027"));
-    folder.Write("incomplete.inf", Replaced(inf, "Provider.*\r\n", ""));
-    RemovePublished();
+    Write("Tessalin.inf", inf);
+    Write("unpublished.inf", Replaced(inf, "2026", "2027"));
+    Write("incomplete.inf", Replaced(inf, "Provider.*\r\n", ""));
+    Write("utf16.inf", Replaced(inf, "[^]", std::string("$&\0", 3)));
+    Write("large.inf", inf);
+    std::filesystem::resize_file("large.inf", 0x400001);
+    SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
+    PutBack();
   }
-  ~Machine() { RemovePublished(); }
+  ~Machine() { PutBack(); }
 
-  static void RemovePublished() {
-    std::error_code ignored;
-    for (const wchar_t* const file : {L"oem6.inf", L"oem8.inf", L"oem9.inf"}) {
+  static void PutBack() {
+    locked.reset();
+    for (const wchar_t* const file : {L"oem6.inf", L"oem7.inf", L"oem8.inf", L"oem9.inf"}) {
+      std::error_code ignored;
       std::filesystem::remove(kInfFolder + file, ignored);
     }
   }
 
-  CleanMachine clean;
-  ProgramFolder folder{{L"sorrel_status.exe", L"sorrel_status.exe"},
-                       {L"sorrel_status.exe", L"alone\\sorrel_status.exe"},
-                       {L"sorrel_status.exe", L"versioned\\sorrel_status.exe"},
-                       {L"sorrel.exe", L"versioned\\difxapi.dll"}};
+  // Publishes a file as oem6.inf, which nobody else can read then.
+  static void PublishLocked(const wchar_t* file) {
+    locked.reset();
+    const std::wstring published = kInfFolder + L"oem6.inf";
+    CopyFileW(file, published.c_str(), FALSE);
+    locked.reset(
+        CreateFileW(published.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+  }
+  static inline OwnedFile locked;
 };
-
-static void StoreList(DWORD type, const std::wstring& list) {
-  StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", type, list + L'\0');
-}
 
 // What a line of life.txt that begins with "* " does to the machine.
 static const std::map<std::string, std::function<void()>> kChanges = {
-    {"* Tessalin.inf is published as oem8.inf, incomplete.inf as oem9.inf",
+    {"* Tessalin.inf is published as oem8.inf, incomplete.inf as oem9.inf; oem7.inf is a folder",
      [] {
        std::filesystem::copy_file("Tessalin.inf", kInfFolder + L"oem8.inf");
        std::filesystem::copy_file("incomplete.inf", kInfFolder + L"oem9.inf");
+       std::filesystem::create_directory(kInfFolder + L"oem7.inf");
      }},
-    {"* oem6.inf is a folder, which cannot be read as a file",
-     [] { std::filesystem::create_directory(kInfFolder + L"oem6.inf"); }},
+    {"* oem6.inf, of another size, cannot be read", [] { Machine::PublishLocked(L"binary.cer"); }},
+    {"* oem6.inf, of the same size, cannot be read",
+     [] { Machine::PublishLocked(L"unpublished.inf"); }},
     {"* the store CA is gone",
      [] { RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\SystemCertificates\\CA"); }},
-    {"* the list is a number", [] { StoreList(REG_DWORD, L"1"); }},
-    {"* the list has 1,024 characters", [] { StoreList(REG_SZ, std::wstring(1024, L'x')); }},
 };
 
-// The values below a key of the local machine, a line each. Not the keys: Wine makes empty ones for
-// a store that is only read.
-static std::wstring ValuesBelow(const std::wstring& path) {
-  OwnedRegistryKey key;
-  OpenRegistryKey(HKEY_LOCAL_MACHINE, path.c_str(), KEY_READ, key);
-  std::wstring found;
-  std::vector<wchar_t> name(0x4000);
-  std::vector<BYTE> data(0x10000);
-  for (DWORD i = 0, length = 0x4000, size = 0x10000;
-       RegEnumValueW(key.get(), i, name.data(), &length, nullptr, nullptr, data.data(), &size) == 0;
-       ++i, length = 0x4000, size = 0x10000) {
-    found += path + L" " + name.data() + std::wstring(data.data(), data.data() + size) + L"\n";
-  }
-  for (DWORD i = 0; RegEnumKeyW(key.get(), i, name.data(), 0x4000) == ERROR_SUCCESS; ++i) {
-    found += ValuesBelow(path + L"\\" + name.data());
-  }
-  return found;
+// The administrators' page, which shows the usage and an example.
+static std::string Page() { return ReadBytes(ProgramPath(L"expected\\administrators.md")); }
+static std::string ShownOnPage(const std::string& kind) {
+  const std::string page = Page();
+  const std::size_t from = page.find("```" + kind + "\n") + kind.length() + 4;
+  return Replaced(page.substr(from, page.find("```", from) - from), "\n", "\r\n");
 }
 
-// The values below the tool's key, those of all stores, and the names in the INF folder.
-static std::wstring Snapshot() {
-  std::wstring found = ValuesBelow(L"SYSTEM\\CurrentControlSet\\Services\\Tessalin") +
-                       ValuesBelow(L"Software\\Microsoft\\SystemCertificates");
-  for (const auto& file : std::filesystem::directory_iterator(kInfFolder)) {
-    found += file.path().wstring() + L"\n";
-  }
-  return found;
-}
-
-// Checks that the JSON form says the same as the text form. Each rule, a pattern and what replaces
-// it, makes an item of one more like its line of the other, until no name or brace is left.
-static void CheckJson(const ChildResult& json, const ChildResult& text,
-                      const std::vector<std::pair<std::string, std::string>>& rules) {
-  static const std::map<DWORD, const char*> states = {
-      {0, "present"}, {1, "absent"}, {3, "unknown"}};
+// Checks that the JSON form says in ASCII, by keys that the page explains, what the text form says.
+static void CheckJson(const ChildResult& json, const ChildResult& text) {
+  using Json = nlohmann::ordered_json;
   const Json report = Json::parse(json.output);
-  CHECK(json.output == Replaced(report.dump(2) + "\n", "\n", "\r\n"));
+  CHECK(json.output == Replaced(report.dump(2, ' ', true) + "\n", "\n", "\r\n"));
   CHECK(json.exitCode == text.exitCode);
-  CHECK(report == Json{{"schema", 1},
-                       {"version", "1.0.0"},
-                       {"state", states.at(text.exitCode)},
-                       {"items", report["items"]}});
-  std::string lines;
-  for (const Json& item : report["items"]) {
-    std::string line = item.dump();
-    for (const auto& [pattern, words] : rules) {
-      line = Replaced(line, pattern, words);
+  CHECK(report["state"] == std::array{"present", "absent", "", "unknown"}[text.exitCode]);
+  std::istringstream lines(text.output);
+  std::string line;
+  for (const auto& item : report["items"]) {
+    std::getline(lines, line);
+    for (const auto& [key, value] : item.items()) {
+      CAPTURE(key);
+      CHECK(Page().find("`" + key + "`") != std::string::npos);
+      const std::string shown = value.is_number() ? value.dump() + " certificate"
+                                : value.is_string()
+                                    ? ToVisibleUtf8(FromUtf8(value.get<std::string>()))
+                                    : "";
+      // The text form leaves out what is as it should be.
+      CHECK((key == "item" || key == "list" || line.find(shown) != std::string::npos));
     }
-    lines += ToVisibleUtf8(FromUtf8(line)) + "\r\n";
   }
-  // Without the blanks that line up the columns.
-  CHECK(lines == Replaced(text.output, "(\\w+) +(\\w+( package)?) +([^\r]*\r\n)", "$1 $2 $4"));
 }
 
-// What differs from run to run has a name.
-static std::string Named(std::string output) {
-  output = Replaced(output, "[0-9A-F]{40}", "THUMBPRINT");
-  output = Replaced(output, "\\d{4}-[-0-9T:]{14}Z", "TIME");
-  output = Replaced(output, "[A-Z]:[^;]*kelvo test[^;\\\\]*", "FOLDER");
-  return Replaced(output, "(info     system)[^\r]+", "$1");
-}
-
-TEST_CASE("sorrel_status.exe reports what life.txt says, in both forms, and changes nothing") {
+TEST_CASE("sorrel_status.exe reports what life.txt says, in both forms, and loads no library") {
   const Machine machine;
   std::istringstream life(ReadBytes(ProgramPath(L"expected\\life.txt")));
-  std::vector<std::pair<std::string, std::string>> rules;
   std::string seen;
   for (std::string line; std::getline(life, line);) {
     line.erase(std::min(line.find('\r'), line.size()));
     CAPTURE(line);
-    if (line.starts_with("# ")) {
-      seen += (seen.empty() ? "" : "\r\n") + line + "\r\n\r\n";
-    } else if (line.starts_with("* ")) {
+    if (line.starts_with("* ")) {
       kChanges.at(line)();
       seen += line + "\r\n\r\n";
-    } else if (const std::size_t arrow = line.find(" =>"); arrow != std::string::npos) {
-      rules.emplace_back(line.substr(0, arrow), line.substr(std::min(arrow + 4, line.length())));
-      seen += line + "\r\n";
     } else if (line.starts_with("> sorrel.exe")) {
       ProgramFolder::Run(FromUtf8(line.substr(2)));
       seen += line + "\r\n\r\n";
     } else if (line.starts_with("> ")) {
-      // With --json in the file that form is shown.
+      // With --json in the file that form is the page's example.
       const std::wstring command = FromUtf8(Replaced(line.substr(2), " --json$", ""));
-      const std::wstring before = Snapshot();
+      std::filesystem::remove("journal");
       const ChildResult text = ProgramFolder::Run(command);
       const ChildResult json = ProgramFolder::Run(command + L" --json");
-      CHECK(Snapshot() == before);
+      CHECK(ReadBytes("journal") == "");
       CHECK_BOTH(text.errors == "", json.errors == "");
-      CheckJson(json, text, rules);
-      seen += line + "\r\n" + Named(line.ends_with(" --json") ? json.output : text.output) + "= " +
-              std::to_string(text.exitCode) + "\r\n\r\n";
+      CheckJson(json, text);
+      if (line.ends_with(" --json")) {
+        CHECK(Named(json.output) == Named(ShownOnPage("json")));
+      }
+      seen +=
+          line + "\r\n" + Named(text.output) + "= " + std::to_string(text.exitCode) + "\r\n\r\n";
     }
   }
   CheckAgainstFile(seen, L"life.txt");
@@ -177,8 +145,23 @@ TEST_CASE("a wrong command line ends with 2 and the usage on standard error") {
   const ChildResult version = ProgramFolder::Run(L"sorrel_status.exe --version");
   CHECK_BOTH(version.exitCode == 0, version.output == "sorrel_status 1.0.0\r\n");
   const ChildResult help = ProgramFolder::Run(L"sorrel_status.exe --help");
-  CHECK_BOTH(help.exitCode == 0, help.output.find("Usage:\r\n") != std::string::npos);
+  CHECK_BOTH(help.exitCode == 0, help.output == ShownOnPage("text"));
   CHECK(run.errors == "Option 'nothing' does not exist\r\n\r\n" + help.output);
-  // Where nothing can be written.
-  CHECK(RunChild(L"sorrel_status.exe --help", L"sorrel_status.exe", GENERIC_READ).exitCode == 3);
+}
+
+TEST_CASE("a certificate expires after its last moment") {
+  const Machine machine;
+  constexpr DWORD kLast = 0xA9CF5280;
+  REPLACE(CryptQueryObject, [](auto original, auto... given) {
+    const BOOL isRead = original(given...);
+    const void* const context = *std::get<sizeof...(given) - 1>(std::tuple(given...));
+    static_cast<PCCERT_CONTEXT>(context)->pCertInfo->NotAfter = {kLast, 0x1CF3841};
+    return isRead;
+  });
+  for (const auto& [now, end] : {std::pair(kLast - 1, ""), {kLast, ""}, {kLast + 1, "; expired"}}) {
+    REPLACE(GetSystemTimeAsFileTime, [=](auto, FILETIME* time) { *time = {now, 0x1CF3841}; });
+    const std::string report = TextReport({QueryCertificate("publisher", L"binary.cer", L"CA")});
+    CHECK(report.substr(report.find("valid")) ==
+          std::string("valid until 2014-03-05T07:08:09Z") + end + "\n");
+  }
 }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <initializer_list>
+#include <regex>
 #include <string>
 #include <utility>
 
@@ -22,6 +23,22 @@ inline std::wstring Applications() {
                                     RRF_RT_REG_SZ, nullptr, list, &size) == ERROR_SUCCESS;
   return isThere ? list : L"none";
 }
+
+inline std::string Replaced(const std::string& text, const std::string& pattern,
+                            const std::string& by) {
+  return std::regex_replace(text, std::regex(pattern), by);
+}
+
+// A report of sorrel_status.exe where what differs from run to run has a name.
+inline std::string Named(std::string report) {
+  report = Replaced(report, "[0-9A-F]{40}", "THUMBPRINT");
+  report = Replaced(report, "\\d{4}-[-0-9T:]{14}Z", "TIME");
+  report = Replaced(report, "[A-Z]:[^;]*kelvo test[^;\\\\]*", "FOLDER");
+  return Replaced(report, "system +[^;]+(; [^;]+); (not )?elevated", "system          WINDOWS$1");
+}
+
+// Where Windows publishes the INF files of the driver store.
+inline const std::wstring kInfFolder = L"C:\\windows\\inf\\";
 
 // No application is recorded and no certificate is in a store when it begins and when it ends.
 struct CleanMachine {
