@@ -135,7 +135,8 @@ DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVers
     return GetLastError();
   }
   // A bare name would be looked for in Windows' INF folder.
-  HINF const inf = functions.open(FullPath(infPath).c_str(), nullptr, INF_STYLE_WIN4, nullptr);
+  const WString path = FullPath(infPath);
+  HINF const inf = functions.open(path.c_str(), nullptr, INF_STYLE_WIN4, nullptr);
   if (inf == INVALID_HANDLE_VALUE) {
     return GetLastError();
   }

@@ -147,9 +147,9 @@ DWORD QueryServiceDevice(bool& isThere) {
 void AddLibrary(Item& item) {
   constexpr const char* kKey = "bluetooth_library";
   // As data, so that nothing in it runs; by its path, since Wine's search for data is not narrowed.
-  const OwnedModule library(
-      LoadLibraryExW(LibraryPath(L"bthprops.cpl").c_str(), nullptr,
-                     LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));
+  const WString path = LibraryPath(L"bthprops.cpl");
+  const OwnedModule library(LoadLibraryExW(
+      path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));
   if (library) {
     item.details.push_back({kKey, true, L"bthprops.cpl is there"});
     return;

@@ -36,6 +36,7 @@
 #include "lib/sysinfo/terminal_server.h"
 #include "lib/sysinfo/user_name.h"
 #include "lib/sysinfo/vista_elevation.h"
+#include "status/answer.h"
 #include "tool/command_line.h"
 #include "tool/dependent_applications.h"
 
@@ -119,6 +120,14 @@ WString WriteAndDelete() {
       const std::array words = {L"sorrel.exe", __VA_ARGS__};                           \
       return Answer([&] { return Text(RunCommandLine(words.size(), words.data())); }); \
     }                                                                                  \
+  }
+// A report on what the machine has, written at once.
+#define REPORT(...)                                                                       \
+  Operation {                                                                             \
+    "sorrel_status " #__VA_ARGS__, L"kite", [] {                                          \
+      const std::array words = {L"sorrel_status.exe", __VA_ARGS__};                       \
+      return Answer([&] { return Text(AnswerCommandLine(words.size(), words.data())); }); \
+    }                                                                                     \
   }
 #define CALL(...)                                                            \
   Operation {                                                                \

@@ -4,6 +4,7 @@
 #include <aclapi.h>
 #include <sddl.h>
 #include <security.h>
+#include <setupapi.h>
 #include <winternl.h>
 #include <wtsapi32.h>
 
@@ -44,7 +45,7 @@ static Lines written;
 static void StandInForMachine() {
   STAND_IN(GetProcAddress, FindIntercepted);
   STAND_IN(WriteFile, [](HANDLE file, auto bytes, DWORD size, DWORD* done, auto overlapped) {
-    if (file != GetStdHandle(STD_OUTPUT_HANDLE)) {
+    if (file != GetStdHandle(STD_OUTPUT_HANDLE) && file != GetStdHandle(STD_ERROR_HANDLE)) {
       return WriteFile(file, bytes, size, done, overlapped);
     }
     written.emplace_back(static_cast<const char*>(bytes), *done = size);
@@ -105,7 +106,11 @@ struct Machine : ProgramFolder {
     LoadLibraryW((path / "bthprops.cpl").c_str());
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", L"1,0,Copying|3,5");
+    Write("Tessalin.inf",
+          "[Version]\r\nSignature=\"$Windows NT$\"\r\nProvider=Tessalin\r\nDriverVer=1\r\n");
+    CopyFileW(L"Tessalin.inf", published.c_str(), FALSE);
   }
+  ~Machine() { DeleteFileW(published.c_str()); }
 
   static void Prepare(const Operation& operation) {
     Clear();
@@ -159,7 +164,8 @@ struct Machine : ProgramFolder {
     WaitForSingleObject(thread.get(), INFINITE);
     // Before the library is unloaded, which calls some more.
     calls = interception.calls;
-    std::string text = Joined("", written, "") + "= " + Ascii(answer) + "\n";
+    std::string text = Joined("", written, "");
+    text = (name.starts_with("sorrel_status") ? Named(text) : text) + "= " + Ascii(answer) + "\n";
     if (const std::wstring list = Applications(); list != operation->list) {
       text += "list: " + Ascii(list) + "\n";
     }
@@ -176,6 +182,7 @@ struct Machine : ProgramFolder {
     return LinesOf(text + Joined("", open, "\n") + ReadBytes("journal"));
   }
 
+  const std::wstring published = kInfFolder + L"oem8.inf";
   OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo sweep")};
   std::string name;
   std::map<std::string, int> calls;
@@ -191,6 +198,7 @@ static void Append(std::string& text, const std::string& more) {
 
 // A report line that one of these cannot look for, format or write is left out.
 const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
+const Lines kNoMemory = {"sorrel_status: not enough memory", "= 3"};
 const std::string kNoChange = " no change\r\n";
 
 // The numbers of the lines that are not in `after`, and the new lines, each with the number of the
@@ -239,6 +247,7 @@ TEST_CASE("a failing call has the consequences that rules or sweep.txt name, and
     shown.merge(interception.shown);
     const int lineCount = static_cast<int>(written.size());
     const auto calls = machine.calls;
+    const bool isReport = machine.name.starts_with("sorrel_status");
     // What came of failing calls, and these.
     std::vector<std::pair<Lines, std::string>> outcomes;
     // Without a line that the driver logs: that callback lets no exception out.
@@ -250,7 +259,14 @@ TEST_CASE("a failing call has the consequences that rules or sweep.txt name, and
         auto known = std::ranges::find(outcomes, outcome, [](auto& row) { return row.first; });
         if (std::ranges::find(kWatched, function, &Watched::name)->closes) {
           CHECK(Changes(undisturbed, outcome) == kNoChange);
-        } else if (kReporting.find(function) != std::string::npos && nth <= lineCount) {
+        } else if (isReport && function == "malloc") {
+          // Guarded calls of the library let no exception out.
+          CHECK((outcome == kNoMemory || outcome.size() == undisturbed.size()));
+        } else if (isReport && function.starts_with("_v")) {
+          // Each of the many texts could be missing.
+          CHECK(outcome.size() == undisturbed.size());
+        } else if (!isReport && kReporting.find(function) != std::string::npos &&
+                   nth <= lineCount) {
           Lines expected = undisturbed;
           expected.erase(expected.begin() + nth - 1);
           CHECK(Changes(expected, outcome) == kNoChange);
