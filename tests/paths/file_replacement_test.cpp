@@ -4,7 +4,7 @@
 #include "tests/support/testing.h"
 #include "tests/support/throw_away_prefix.h"
 
-TEST_CASE("a replacement waits in the system's list, or on Windows 9x in WININIT.INI") {
+TEST_CASE("ScheduleFileReplace: the system's list, or WININIT.INI on Windows 9x") {
   RequireThrowAwayPrefix();
   const ScratchFolder folder;
   const std::wstring source = folder.Write("new long file.txt", "new");

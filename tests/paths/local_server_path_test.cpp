@@ -6,7 +6,7 @@
 #include "tests/support/testing.h"
 #include "tests/support/throw_away_prefix.h"
 
-TEST_CASE("a local server is the file that its class registers") {
+TEST_CASE("GetLocalServerPath: the file that the class registers") {
   RequireThrowAwayPrefix();
   const ScratchFolder folder;
   const WString server = folder.Write("the server.exe", "").c_str();

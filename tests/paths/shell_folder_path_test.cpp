@@ -3,7 +3,7 @@
 #include "lib/registry/registry_string.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("a shell folder comes from the first place that has one, else from the module") {
+TEST_CASE("GetShellFolderPath: the first place that has one") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   const StandInKey user(HKEY_CURRENT_USER);
   wchar_t out[MAX_PATH];

@@ -3,7 +3,7 @@
 #include "lib/process/waiting_messages.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the time-out") {
+TEST_CASE("StartProcessAndWaitForMutex: ends with the mutex, a WM_CLOSE, the time-out") {
   const auto windows2000 = PretendWindows(2, 5, 0);
   DWORD now = 0;
   REPLACE(GetTickCount, [&](auto) { return now; });
@@ -44,7 +44,7 @@ TEST_CASE("a started program is waited for until its mutex, a WM_CLOSE or the ti
   CHECK_BOTH(wait(false, 303) == 0, lookups == 1);
 }
 
-TEST_CASE("messages are pumped until none waits, or up to a WM_CLOSE") {
+TEST_CASE("message pump: until none waits, or up to a WM_CLOSE") {
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
   std::string calls;

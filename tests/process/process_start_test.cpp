@@ -23,7 +23,7 @@ static bool IsOurs(const char* note, HANDLE token) {
   return number == 1 || number == 2;
 }
 
-TEST_CASE("a program runs on the interactive desktop, is waited for and handed over as asked") {
+TEST_CASE("RunAsUser, LaunchInUserSession: desktop, wait and handle as asked") {
   const ScratchFolder folder;
   const std::wstring program = folder / L"a child.exe";
   CopyFileW(ProgramPath(L"test_child.exe").c_str(), program.c_str(), TRUE);
@@ -89,7 +89,7 @@ TEST_CASE("a program runs on the interactive desktop, is waited for and handed o
   }
 }
 
-TEST_CASE("letter case matters where a process is started, not where one asks") {
+TEST_CASE("desktop names: letter case matters for a start, not for a question") {
   const std::tuple<const wchar_t*, const wchar_t*, DWORD, BOOL, int> rows[] = {
       {L"WinSta0", L"Default", 520, TRUE, 0},
       {L"WINSTA0", L"DEFAULT", 520, TRUE, 1},
@@ -117,7 +117,7 @@ TEST_CASE("letter case matters where a process is started, not where one asks") 
   }
 }
 
-TEST_CASE("the road to a process depends on Windows, session, token and desktop") {
+TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
   // Every call leaves something in the places for handles, and fails or not.
   HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   auto* const tell = +[]() -> DWORD { return 5; };

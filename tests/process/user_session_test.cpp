@@ -7,7 +7,7 @@
 #include "lib/sysinfo/computer_name.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("the shutdown privilege is enabled when the last error says so") {
+TEST_CASE("EnableShutdownPrivilege: the last error decides") {
   for (const DWORD error : {0UL, 1300UL}) {
     REPLACE(AdjustTokenPrivileges, [=](auto...) {
       SetLastError(error);
@@ -17,7 +17,7 @@ TEST_CASE("the shutdown privilege is enabled when the last error says so") {
   }
 }
 
-TEST_CASE("a Windows without the functions has no console session and no tokens") {
+TEST_CASE("user session: none on a Windows without the functions") {
   const ReplacedExport console("WTSGetActiveConsoleSessionId", nullptr);
   const ReplacedExport query("WTSQueryUserToken", nullptr);
   HANDLE token = INVALID_HANDLE_VALUE;
@@ -25,7 +25,7 @@ TEST_CASE("a Windows without the functions has no console session and no tokens"
   CHECK(!token);
 }
 
-TEST_CASE("a remote client has another name than this computer") {
+TEST_CASE("GetRemoteClientName: another name than this computer's") {
   static const wchar_t* clientName = nullptr;
   static int textsOut = 0;
   const ReplacedExport query(

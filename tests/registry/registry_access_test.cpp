@@ -8,7 +8,7 @@
 // Each case runs with a stand-in for it: what is deleted by mistake is not the user's.
 HKEY const kRoot = HKEY_CURRENT_USER;
 
-TEST_CASE("write access is probed where a write would be real") {
+TEST_CASE("RegistryCanWrite: follows what a write would do") {
   // The major version, elevation, whether the write succeeds; the answer, whether one was tried.
   const DWORD rows[][5] = {
       {5, 0, 1, 0, 1}, {5, 0, 0, 1, 1}, {6, 1, 1, 0, 1}, {6, 1, 0, 1, 1}, {6, 0, 1, 1, 0}};
@@ -30,7 +30,7 @@ TEST_CASE("write access is probed where a write would be real") {
   }
 }
 
-TEST_CASE("a key goes with everything below it, with and without RegDeleteKeyExW") {
+TEST_CASE("RegistryDeleteKeyTree: everything below, with and without RegDeleteKeyExW") {
   const StandInKey user(kRoot);
   const auto remove = [](const wchar_t* name) {
     return RegistryDeleteKeyTree(kRoot, L"key", name);
@@ -54,7 +54,7 @@ TEST_CASE("a key goes with everything below it, with and without RegDeleteKeyExW
   }
 }
 
-TEST_CASE("a tree of any depth is deleted without a stack for it") {
+TEST_CASE("RegistryDeleteKeyTree: any depth without a deep stack") {
   const StandInKey user(kRoot);
   const std::wstring path = L"key\\tree\\" + std::wstring(254, L'n');
   OwnedRegistryKey deepest;

@@ -10,7 +10,7 @@ static std::wstring Expanded(const wchar_t* text) {
   return buffer;
 }
 
-TEST_CASE("a text value is read whole or not at all") {
+TEST_CASE("RegistryReadString: whole or not at all") {
   const ScratchKey key;
   const auto readBack = [&](const wchar_t* defaultText) {
     return RegistryReadString(HKEY_CURRENT_USER, key.c_str(), L"value", defaultText);
@@ -37,7 +37,7 @@ TEST_CASE("a text value is read whole or not at all") {
   }
 }
 
-TEST_CASE("a caller's buffer is filled, ended and never left") {
+TEST_CASE("RegistryReadStringBuffer: fills, terminates and never leaves the buffer") {
   const ScratchKey key;
   wchar_t old[] = L"old";
   CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", old, 4) == 0);
@@ -58,7 +58,7 @@ TEST_CASE("a caller's buffer is filled, ended and never left") {
   CHECK_BOTH(read(1, REG_SZ, L"\0"s) == L"", read(0, REG_SZ, L"a\0"s) == L"");
 }
 
-TEST_CASE("a text is stored with its terminator") {
+TEST_CASE("RegistryWriteString: stores the terminator") {
   const StandInKey user(HKEY_CURRENT_USER);
   for (const auto& [write, flag] : {std::pair(&RegistryWriteString, RRF_RT_REG_SZ),
                                     {&RegistryWriteExpandString, RRF_RT_REG_EXPAND_SZ}}) {

@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("the values of a key are listed by name and text") {
+TEST_CASE("ReadRegistryKeyValues: lists names and texts") {
   using namespace std::string_literals;
   const std::wstring all(16383, L'x');
   const std::wstring hidden = L"<not listed>";

@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("a full value path is split into root, key path and value name") {
+TEST_CASE("ParseRegistryValuePath: root, key path and value name") {
   // A path without both parts is refused; without two separators it leaves the texts alone.
   const std::tuple<const wchar_t*, bool, HKEY, WString, WString> rows[] = {
       {L"HKEY_CURRENT_USER\\Software\\App\\x", true, HKEY_CURRENT_USER, L"Software\\App", L"x"},

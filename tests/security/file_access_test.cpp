@@ -36,7 +36,7 @@ static std::string Printed() {
   return text;
 }
 
-TEST_CASE("an account's explicit entries give way to the new one, once and again") {
+TEST_CASE("AddFileAccessRights: replaces the account's explicit entries, repeatedly") {
   for (auto [list, result] :
        {std::pair<std::wstring, std::wstring>{L"none", L"D:(A;;FA;;;BA)"},
         {L"D:(A;;FR;;;BA)(D;;FW;;;BG)(A;ID;FR;;;BA)", L"D:(D;;FW;;;BG)(A;;FA;;;BA)(A;ID;FR;;;BA)"},
@@ -50,7 +50,7 @@ TEST_CASE("an account's explicit entries give way to the new one, once and again
   }
 }
 
-TEST_CASE("each failing call is named and leaves the file alone") {
+TEST_CASE("AddFileAccessRights: names each failing call, leaves the file unchanged") {
   constexpr FailingCall kFailing[] = {
       SETS_LAST_ERROR(GetFileSecurityW), SETS_LAST_ERROR(HeapAlloc),
       SETS_LAST_ERROR(GetSecurityDescriptorDacl), SETS_LAST_ERROR(GetAclInformation),

@@ -9,7 +9,7 @@
 
 static TestAce localService;
 
-TEST_CASE("an explicit entry is granted once, and only where there is a list") {
+TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: one explicit entry, where there is a list") {
   const WindowObjects scope;
   // Ends where the entry goes: Wine's AddAce appends, whatever the index.
   const std::wstring before = L"D:(D;;CC;;;LS)(D;;CC;;;WD)";
@@ -38,7 +38,7 @@ TEST_CASE("an explicit entry is granted once, and only where there is a list") {
   CHECK(ReadDacl(scope.desktop) == L"none");
 }
 
-TEST_CASE("a list of more than 1,008 bytes is built on the heap, and only what was read is freed") {
+TEST_CASE("AllowTokenFullAccessToObject: lists of more than 1,008 bytes use the heap") {
   const WindowObjects scope;
   int allocated = 0, freed = 0;
   COUNT_CALLS(HeapAlloc, allocated);
@@ -54,7 +54,7 @@ TEST_CASE("a list of more than 1,008 bytes is built on the heap, and only what w
   }
 }
 
-TEST_CASE("deny entries for the SID go, all but one at index 0") {
+TEST_CASE("DeleteDenyACEofObject: removes all but one at index 0") {
   const WindowObjects scope;
   const wchar_t* const cases[][2] = {
       {L"D:(A;;CC;;;WD)(D;;CC;;;LS)(D;;DC;;;LS)(D;;CC;;;NS)(D;ID;CC;;;LS)(A;;CC;;;LS)",
@@ -70,7 +70,7 @@ TEST_CASE("deny entries for the SID go, all but one at index 0") {
   CHECK(DeleteDenyACEofObject(&localService.sid, scope.desktop, SE_WINDOW_OBJECT) == FALSE);
 }
 
-TEST_CASE("a token's user gets the rights that the type's name asks for") {
+TEST_CASE("AllowTokenFullAccessToObject: rights by the name of the type") {
   const WindowObjects scope;
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), L"D:");
@@ -95,7 +95,7 @@ TEST_CASE("a token's user gets the rights that the type's name asks for") {
   CHECK(ReadDacl(event.get()) == others);
 }
 
-TEST_CASE("a privilege set holds the names that the system knows") {
+TEST_CASE("CreateTokenPriv: the names that the system has") {
   const LPCWSTR names[] = {L"SeNoSuch", L"SeDebugPrivilege", L"", L"SeTcbPrivilege", nullptr};
   DWORD count = 0;
   const OwnedLocalMemory<TOKEN_PRIVILEGES> set(CreateTokenPriv(&count, names, FALSE));

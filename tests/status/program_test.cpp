@@ -59,7 +59,7 @@ struct Machine : ProgramFolder {
   static inline OwnedFile locked;
 };
 
-// What a line of life.txt that begins with "* " does to the machine.
+// What a line of lifecycle.txt that begins with "* " does to the machine.
 static const std::map<std::string, std::function<void()>> kChanges = {
     {"* Tessalin.inf is published as oem8.inf, incomplete.inf as oem9.inf; oem7.inf is a folder",
      [] {
@@ -106,9 +106,10 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
   }
 }
 
-TEST_CASE("sorrel_status.exe reports what life.txt says, in both forms, and loads no library") {
+TEST_CASE(
+    "sorrel_status.exe reports what lifecycle.txt says, in both forms, and loads no library") {
   const Machine machine;
-  std::istringstream life(ReadBytes(ProgramPath(L"expected\\life.txt")));
+  std::istringstream life(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
   std::string seen;
   for (std::string line; std::getline(life, line);) {
     line.erase(std::min(line.find('\r'), line.size()));
@@ -135,7 +136,7 @@ TEST_CASE("sorrel_status.exe reports what life.txt says, in both forms, and load
           line + "\r\n" + Named(text.output) + "= " + std::to_string(text.exitCode) + "\r\n\r\n";
     }
   }
-  CheckAgainstFile(seen, L"life.txt");
+  CheckAgainstFile(seen, L"lifecycle.txt");
 }
 
 TEST_CASE("a wrong command line ends with 2 and the usage on standard error") {

@@ -5,7 +5,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("texts are compared by their lower-case units") {
+TEST_CASE("CompareNoCase: compares lower-case units") {
   // Below U+0100 only A to Z are folded; above, whatever the system maps to one unit.
   CHECK(CompareNoCase(L"Foo\u0100B", L"fOO\u0101") == L'b');
   CHECK(CompareNoCase(L"a", L"ab") == -L'b');
@@ -21,7 +21,7 @@ TEST_CASE("texts are compared by their lower-case units") {
   }
 }
 
-TEST_CASE("the locale of characters says how texts are compared, no other") {
+TEST_CASE("CompareNoCase: depends on LC_CTYPE, on no other category") {
   REQUIRE(std::setlocale(LC_NUMERIC, "") != nullptr);
   CHECK(CompareNoCase(L"\u0416", L"\u0436") == 0);
   REQUIRE(std::setlocale(LC_CTYPE, "") != nullptr);

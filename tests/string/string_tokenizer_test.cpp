@@ -16,7 +16,7 @@ static std::wstring Split(const std::wstring& text, const wchar_t* delimiter, bo
   return items;
 }
 
-TEST_CASE("a text is split at the whole delimiter, in time that grows with its length") {
+TEST_CASE("StringTokenizer: splits at the whole delimiter, in linear time") {
   CHECK(Split(L";a;;b;", L";", true) == L"a|b|");
   CHECK(Split(L";a;;b;", L";", false) == L"|a||b|");
   CHECK_BOTH(Split(L"", L";", true) == L"", Split(L"", L";", false) == L"");

@@ -3,7 +3,7 @@
 #include "lib/string/hex_text.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("a part of a text ends where the text does; bytes are two digits each") {
+TEST_CASE("SubstringClamped, BytesToHex: within the text, two digits a byte") {
   CHECK(SubstringClamped(L"kite", 1, 2) == L"it");
   CHECK(SubstringClamped(L"kite", 3, 9) == L"e");
   CHECK(SubstringClamped(L"kite", 4, 1) == L"");
@@ -12,7 +12,7 @@ TEST_CASE("a part of a text ends where the text does; bytes are two digits each"
   CHECK(BytesToHex(nullptr, 3) == L"");
 }
 
-TEST_CASE("replacing takes arguments that lie in the text, and none that is too long") {
+TEST_CASE("ReplaceAll: arguments inside the text, a result that is too long") {
   WString text = L"a-b-ab";
   CHECK(ReplaceAll(text, text.c_str() + 4, text.c_str() + 2) == 1);
   CHECK(text == L"a-b-b-ab");

@@ -26,7 +26,7 @@ static BOOL WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
 
 static WString x(std::size_t count) { return {count, L'x'}; }
 
-TEST_CASE("directories end in one separator and fit their buffers") {
+TEST_CASE("system directories: one separator at the end, within the buffer") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return TellDirectory(to...); });
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},
@@ -46,7 +46,7 @@ TEST_CASE("directories end in one separator and fit their buffers") {
   CHECK(GetSystemWow64DirectoryPath().empty());
 }
 
-TEST_CASE("names have the format asked for; plain ones stand in for account and computer") {
+TEST_CASE("user and computer names: the format asked for, else the plain one") {
   // Wine takes long to load it for each name.
   const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
   const auto tell = [](auto, wchar_t* name, DWORD* size) {

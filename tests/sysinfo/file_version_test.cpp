@@ -9,9 +9,9 @@
 #include "lib/sysinfo/common_controls_version.h"
 #include "lib/sysinfo/file_version_text.h"
 #include "lib/sysinfo/internet_explorer_version.h"
-#include "tests/sysinfo/played_cases.h"
+#include "tests/sysinfo/simulated_cases.h"
 
-TEST_CASE("the versions of sound and hostile files are those of file_versions.txt") {
+TEST_CASE("file versions: sound and hostile files as in file_versions.txt") {
   int freed = 0;
   COUNT_CALLS(GlobalUnlock, freed);
   COUNT_CALLS(GlobalFree, freed);
@@ -59,7 +59,7 @@ TEST_CASE("the versions of sound and hostile files are those of file_versions.tx
   });
 }
 
-TEST_CASE("the browser's file is looked for in the system directory, its name kept") {
+TEST_CASE("IsIEVersionAtLeast: looks in the system directory, restores the name") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
@@ -79,7 +79,7 @@ TEST_CASE("the browser's file is looked for in the system directory, its name ke
   CHECK(WString(GetIEVersionName(nullptr, {6, 0, 0, 0})) == L"Internet Explorer 5.5");
 }
 
-TEST_CASE("the common controls tell their version, or are 4.0 when they cannot") {
+TEST_CASE("GetComCtlVersion: the library's version, or 4.0") {
   static HRESULT result;
   const auto tell = +[](DLLVERSIONINFO* version) -> HRESULT {
     *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};

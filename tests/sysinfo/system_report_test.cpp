@@ -4,14 +4,14 @@
 
 #include "lib/registry/registry_string.h"
 #include "lib/sysinfo/color_depth.h"
-#include "tests/sysinfo/played_cases.h"
+#include "tests/sysinfo/simulated_cases.h"
 
 // Returns the length.
 static UINT Write(wchar_t* to, const std::wstring& text) {
   return static_cast<UINT>(lstrlenW(lstrcpyW(to, text.c_str())));
 }
 
-TEST_CASE("each entry of the report asks what its name says") {
+TEST_CASE("CollectSystemReport: each entry asks what its name says") {
   const ReplacedExport computer(
       "GetComputerNameExW", +[](int format, wchar_t* name, DWORD* size) -> BOOL {
         *size = 10;

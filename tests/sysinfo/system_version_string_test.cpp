@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "tests/sysinfo/played_cases.h"
+#include "tests/sysinfo/simulated_cases.h"
 
 // What that Windows was asked, in order, after its version.
 static std::string asked;
@@ -22,7 +22,7 @@ static BOOL WINAPI TellProduct(DWORD major, DWORD, DWORD pack, DWORD packMinor, 
   return TRUE;
 }
 
-TEST_CASE("each Windows is asked and described as windows_names.txt says") {
+TEST_CASE("GetSystemVersionString: each Windows as in windows_names.txt") {
   OSVERSIONINFOEXW version;
   REPLACE(GetVersionExW, [&](auto, OSVERSIONINFOW* record) {
     const DWORD size = record->dwOSVersionInfoSize;
@@ -78,7 +78,7 @@ TEST_CASE("each Windows is asked and described as windows_names.txt says") {
   });
 }
 
-TEST_CASE("the numbers need memory for one text; without an answer they are zeros") {
+TEST_CASE("GetSystemVersionNumbers: memory for one text, zeros without an answer") {
   {
     const auto windows = PretendWindows(2, 10, 0);
     int left = 1;

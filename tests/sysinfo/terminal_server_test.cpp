@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("a product suite is found in its list") {
+TEST_CASE("IsProductSuiteInstalled: finds a suite in the list") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   // The last two have no terminator; the last one no last byte either.
   const std::tuple<DWORD, const wchar_t*, DWORD, bool> lists[] = {

@@ -54,7 +54,7 @@ struct Rehearsal : ProgramFolder {
   }
 };
 
-TEST_CASE("sorrel.exe writes, returns, calls and leaves what transcript.txt says") {
+TEST_CASE("sorrel.exe: lines, exit codes, calls and state are those of transcript.txt") {
   const Rehearsal machine;
   // An editor of whatever system may have ended its lines.
   std::string bytes = ReadBytes(ProgramPath(L"expected\\transcript.txt"));
@@ -89,7 +89,7 @@ TEST_CASE("sorrel.exe writes, returns, calls and leaves what transcript.txt says
   CheckAgainstFile(seen, L"transcript.txt");
 }
 
-TEST_CASE("a process that ends too early loses no line, of whatever length") {
+TEST_CASE("install: a run that crashes has written every line before, of any length") {
   const Rehearsal machine;
   const std::wstring path(32'000, L'p');
   const std::wstring text(6'000, L'l');
@@ -104,7 +104,7 @@ TEST_CASE("a process that ends too early loses no line, of whatever length") {
   CHECK_BOTH(run.exitCode == ERROR_PROCESS_ABORTED, run.errors.empty());
 }
 
-TEST_CASE("register adds to what the registry holds, or replaces what is no list") {
+TEST_CASE("register: adds to the stored list, replaces what is no list") {
   const Rehearsal machine;
   struct Row {
     DWORD type;

@@ -3,7 +3,7 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("a code's text is the system's, whole, or empty when it cannot be had") {
+TEST_CASE("FormatSystemMessage: whole, or empty when the call fails") {
   DWORD answer = 0;
   REPLACE(FormatMessageW, [&](auto, auto, auto, auto, auto, LPWSTR buffer, auto, auto) {
     // What a failing call leaves behind, too.
@@ -15,7 +15,7 @@ TEST_CASE("a code's text is the system's, whole, or empty when it cannot be had"
   CHECK(FormatSystemMessage(0xC1) == L"half a text");
 }
 
-TEST_CASE("nothing leaves the log callback") {
+TEST_CASE("DifxLogCallback: no exception leaves it") {
   bool writes = false;
   REPLACE(WriteFile, [&](auto...) {
     writes = true;

@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("a name is added unless it occurs in the list, and removed whatever its case") {
+TEST_CASE("ListWithApplication, ListWithoutApplication: a name that occurs, in another case") {
   struct Row {
     WString list, name, result;
   };

@@ -3,7 +3,7 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("libraries come from the program's folder and the system's alone") {
+TEST_CASE("NarrowLibrarySearch: the program's folder and the system's alone") {
   static DWORD directories;
   static BOOL isSupported;
   const auto set = +[](DWORD given) { return directories = given, isSupported; };
@@ -26,7 +26,7 @@ TEST_CASE("libraries come from the program's folder and the system's alone") {
   }
 }
 
-TEST_CASE("the driver installation interface is loaded by its path, beside the program first") {
+TEST_CASE("BindDriverInterface: by its path, the program's folder first") {
   const ScratchFolder folder;
   std::wstring asked;
   bool isPathKnown = true;

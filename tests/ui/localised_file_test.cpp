@@ -3,7 +3,7 @@
 #include "lib/ui/locale_table.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("each locale of the table is Windows' own, both ways") {
+TEST_CASE("locale table: as Windows has it, both ways") {
   int count = 0;
   for (LCID id = 0; id < 0x10000; ++id) {
     const wchar_t* const name = FindLocaleName(id);
@@ -24,7 +24,7 @@ TEST_CASE("each locale of the table is Windows' own, both ways") {
   CHECK_BOTH(FindLocaleId(L"de-C") == 0, FindLocaleId(nullptr) == 0);
 }
 
-TEST_CASE("the exact file is found, or the nearest that is there") {
+TEST_CASE("FindLocalisedFile: the exact file, or the nearest") {
   const ScratchFolder scratch;
   const std::wstring folder = scratch / L"";
   const auto find = [&](LANGID language, LocalisedFileForm form) {

@@ -6,7 +6,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("a module tells the languages of its first string table; kinship chooses one") {
+TEST_CASE("ChooseResourceLanguage: exact, same language, English, first") {
   using Languages = std::vector<LANGID>;
   const auto languagesOf = [](const wchar_t* library) {
     return GetStringResourceLanguages(LoadLibraryW(ProgramPath(library).c_str()));
@@ -21,13 +21,13 @@ TEST_CASE("a module tells the languages of its first string table; kinship choos
   CHECK(ChooseResourceLanguage({0x040C, 0x0410}, 0x0411) == 0x040C);
 }
 
-TEST_CASE("a locale has a name, unless Windows has no names") {
+TEST_CASE("LocaleNameFromLcid: none where Windows has no names") {
   CHECK_BOTH(LocaleNameFromLcid(0x0007) == L"de", LocaleNameFromLcid(0x12345) == L"");
   const ReplacedExport missing("LCIDToLocaleName", nullptr);
   CHECK(LocaleNameFromLcid(0x0007) == L"");
 }
 
-TEST_CASE("all occurrences in a buffer of eight characters are replaced") {
+TEST_CASE("ReplaceAllInBuffer: all occurrences within eight characters") {
   // A text, what is replaced in it by what, and the result; null where nothing may change.
   const std::array<const wchar_t*, 4> rows[] = {
       {L"a.b.c", L".", L"--", L"a--b--c"}, {L"aaa", L"aa", L"a", L"aa"},
@@ -45,7 +45,7 @@ TEST_CASE("all occurrences in a buffer of eight characters are replaced") {
   }
 }
 
-TEST_CASE("a window's labels and buttons are rewritten, its other controls are not") {
+TEST_CASE("RewriteWindowTexts: labels and buttons only") {
   const DesktopScope scope;
   const auto make = [](const std::wstring& kind, const std::wstring& text, HWND parent) {
     return CreateWindowExW(0, kind.c_str(), text.c_str(), parent == nullptr ? 0 : WS_CHILD, 0, 0, 9,
@@ -84,7 +84,7 @@ TEST_CASE("a window's labels and buttons are rewritten, its other controls are n
   TextSubstitutions().clear();
 }
 
-TEST_CASE("an enumeration lets memory that runs out be known when it is over, not before") {
+TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw after the enumeration only") {
   // The runtime takes memory for the first exception.
   CHECK_THROWS(throw 1);
   bool hasMemory = true, isThrown = false;
@@ -117,7 +117,7 @@ TEST_CASE("an enumeration lets memory that runs out be known when it is over, no
   CHECK_FALSE(isThrown);
 }
 
-TEST_CASE("a console gets characters, a file bytes, and to write a part of them is to fail") {
+TEST_CASE("WriteUtf8: characters to a console, bytes to a file; a short write fails") {
   std::wstring seen;
   DWORD lost = 0;
   BOOL answer = TRUE;
@@ -152,7 +152,7 @@ TEST_CASE("a console gets characters, a file bytes, and to write a part of them 
   }
 }
 
-TEST_CASE("a long text reaches a console in pieces, each of whole characters") {
+TEST_CASE("WriteUtf8: a long text reaches a console in pieces of whole characters") {
   std::wstring seen;
   REPLACE(GetConsoleMode, [](auto...) -> BOOL { return TRUE; });
   REPLACE(WriteConsoleW,

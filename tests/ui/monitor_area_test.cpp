@@ -3,7 +3,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("the nearest monitor's area is given where it can be told, else the primary one's") {
+TEST_CASE("monitor area: the nearest monitor's, else the primary one's") {
   const DesktopScope scope;
   const ReplacedExport find(
       "MonitorFromPoint", +[](POINT point, DWORD flags) {

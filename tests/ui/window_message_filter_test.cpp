@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("a message filter is changed from Windows 7 on where the function is there") {
+TEST_CASE("window message filter: from Windows 7 on") {
   using Call = std::tuple<HWND, UINT, DWORD, CHANGEFILTERSTRUCT*>;
   static Call seen;
   static BOOL answer;

@@ -3,7 +3,7 @@
 #include "tests/support/testing.h"
 
 // One case: what one step leaves in the process is what the next one starts from.
-TEST_CASE("the interface is tried again after each failure and loaded once") {
+TEST_CASE("SspiInitialize: tries again after each failure, loads once") {
   int loads = 0;
   bool isMissing = true;
   REPLACE(LoadLibraryW, [&](auto original, LPCWSTR name) {

@@ -1,4 +1,4 @@
-#include "tests/sweep/operations.h"
+#include "tests/fault_injection/operations.h"
 
 #include <windows.h>
 
@@ -57,7 +57,7 @@ std::wstring Answer(Run run) {
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
 TOKEN_ELEVATION_TYPE elevation;
-// What differs from machine to machine, but for the full names that the sweep gives to all.
+// What differs from machine to machine, but for the full names that fault injection gives to all.
 WString IsThere(const WString& text) {
   if (text.empty()) {
     return L"nothing";
@@ -78,7 +78,7 @@ WString AllowEvent() {
 }
 
 WString AllowDesktop() {
-  HDESK const desktop = CreateDesktopW(L"kelvo sweep", nullptr, nullptr, 0, GENERIC_ALL, nullptr);
+  HDESK const desktop = CreateDesktopW(L"kelvo faults", nullptr, nullptr, 0, GENERIC_ALL, nullptr);
   const BOOL answer =
       AllowTokenFullAccessToObject(GetCurrentProcessToken(), desktop, SE_WINDOW_OBJECT, L"Desktop");
   CloseDesktop(desktop);
@@ -102,7 +102,7 @@ WString ReadList() {
 
 WString WriteAndDelete() {
   RegistryAccessFlags = KEY_WOW64_64KEY;
-  constexpr const wchar_t* kKey = L"Software\\kelvo sweep\\key";
+  constexpr const wchar_t* kKey = L"Software\\kelvo faults\\key";
   const std::string bytes = "1";
   std::string read;
   WString answers = Text(RegistryWriteBinary(HKEY_CURRENT_USER, kKey, L"n", bytes));
@@ -110,7 +110,7 @@ WString WriteAndDelete() {
   answers += L" " + Text(read == bytes);
   answers += L" " + Text(RegistryValueExists(HKEY_CURRENT_USER, kKey, L"n"));
   answers += L" " + Text(RegistryDeleteValue(HKEY_CURRENT_USER, kKey, L"n"));
-  answers += L" " + Text(RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"Software", L"kelvo sweep"));
+  answers += L" " + Text(RegistryDeleteKeyTree(HKEY_CURRENT_USER, L"Software", L"kelvo faults"));
   return answers;
 }
 
@@ -137,5 +137,5 @@ WString WriteAndDelete() {
 }  // namespace
 
 extern "C" __declspec(dllexport) const Operation operations[] = {
-#include "tests/sweep/operations.def"
+#include "tests/fault_injection/operations.def"
     {nullptr, nullptr, nullptr}};

@@ -2,8 +2,9 @@
 
 #include <string>
 
-// What the sweep runs. The library sweep_operations.dll exports the table "operations", whose last
-// row has no name; loaded anew for each run, it has forgotten the run before.
+// What fault injection runs. The library fault_injection_operations.dll exports the table
+// "operations", whose last row has no name; loaded anew for each run, it has forgotten the run
+// before.
 struct Operation {
   const char* name;
   // The applications that are recorded before it runs.

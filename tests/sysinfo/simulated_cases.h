@@ -6,7 +6,7 @@
 
 namespace kelvo::test {
 
-// What is given in the case that is played: the machine or file, and what it does otherwise.
+// What is given in the simulated case: the machine or file, and what it does otherwise.
 inline std::string given;
 inline bool Has(const std::string& word) { return given.find(word) != std::string::npos; }
 

@@ -12,16 +12,16 @@
 
 #include "lib/platform/guarded_call.h"
 #include "lib/platform/module.h"
+#include "tests/fault_injection/interception.h"
+#include "tests/fault_injection/operations.h"
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
-#include "tests/sweep/interception.h"
-#include "tests/sweep/operations.h"
 
 using enum Handles;
 using Lines = std::vector<std::string>;
 
 static const auto kWatched = std::to_array<Watched>({
-#include "tests/sweep/watched.def"
+#include "tests/fault_injection/watched.def"
 });
 
 // What an operation looks up is intercepted as well as what it imports.
@@ -114,13 +114,13 @@ struct Machine : ProgramFolder {
 
   static void Prepare(const Operation& operation) {
     Clear();
-    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo sweep");
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\kelvo faults");
     SetFileAttributesW(L"shared file", FILE_ATTRIBUTE_NORMAL);
     std::filesystem::remove("shared file");
     std::ofstream("shared file");
     StoreUnits(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ,
                operation.list + std::wstring(1, L'\0'));
-    StoreUnits(HKEY_CURRENT_USER, L"Software\\kelvo sweep values", L"number", REG_DWORD,
+    StoreUnits(HKEY_CURRENT_USER, L"Software\\kelvo faults values", L"number", REG_DWORD,
                std::wstring(L"\1\0", 2));
     StoreUnits(HKEY_LOCAL_MACHINE, L"System\\CurrentControlSet\\Control\\ProductOptions",
                L"ProductSuite", REG_MULTI_SZ, std::wstring(L"kelvo suite\0", 13));
@@ -134,7 +134,7 @@ struct Machine : ProgramFolder {
   // was written, the answer, what changed in the list and the stores, what is open, and the
   // journal. Nothing when the table has no more.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
-    const OwnedModule library(LoadLibraryW(ProgramPath(L"sweep_operations.dll").c_str()));
+    const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
     const auto* const operation =
         reinterpret_cast<const Operation*>(GetProcAddress(library.get(), "operations")) + index;
     if (operation->name == nullptr) {
@@ -183,7 +183,7 @@ struct Machine : ProgramFolder {
   }
 
   const std::wstring published = kInfFolder + L"oem8.inf";
-  OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo sweep")};
+  OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo faults")};
   std::string name;
   std::map<std::string, int> calls;
   // The lines, what was answered, the list and the stores.
@@ -238,7 +238,7 @@ static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   CHECK(changes.substr(changes.find('\n')) == "\n");
 }
 
-TEST_CASE("a failing call has the consequences that rules or sweep.txt name, and no others") {
+TEST_CASE("failing calls: each has the outcome of a rule or of fault_injection.txt") {
   Machine machine;
   std::string seen;
   std::set<std::string> shown;
@@ -297,11 +297,11 @@ TEST_CASE("a failing call has the consequences that rules or sweep.txt name, and
     }
     seen += "\r\n";
   }
-  CheckAgainstFile(seen, L"sweep.txt");
+  CheckAgainstFile(seen, L"fault_injection.txt");
   CheckAgainstFile(Joined("", shown, "\r\n"), L"calls.txt");
 }
 
-TEST_CASE("a command that is ended at any call leaves what its next run completes") {
+TEST_CASE("install, uninstall: ended at any call, the next run completes them") {
   Machine machine;
   for (const int index : {0, 2}) {
     machine.Run(index, {});
@@ -323,8 +323,8 @@ TEST_CASE("a command that is ended at any call leaves what its next run complete
 }
 
 #ifdef KELVO_KNOWS_ALL_IMPORTS
-TEST_CASE("every imported function is made to fail, or spared.txt says why it is not") {
-  const OwnedModule library(LoadLibraryW(ProgramPath(L"sweep_operations.dll").c_str()));
+TEST_CASE("every imported function is made to fail, or spared.txt says why not") {
+  const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
   std::string known = ReadBytes(ProgramPath(L"expected\\spared.txt"));
   for (const Watched& watched : kWatched) {
     known += watched.name + std::string(" ");
