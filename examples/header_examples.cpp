@@ -18,6 +18,7 @@
 #include "lib/trace/trace_sink.h"
 #include "lib/ui/localised_file.h"
 
+// NOLINTBEGIN(misc-use-internal-linkage): unused where it is internal
 namespace kelvo::examples {
 
 BOOL RunsAsUser() {
@@ -90,7 +91,8 @@ std::size_t CountsBlanks(const WString& text) {
   for (const wchar_t unit : text) {
     blanks += unit == L' ' ? 1 : 0;
   }
-  return text.size() > 0 && text[0] == *text.data() ? blanks : 0;
+  return text.size() > blanks && text[0] == *text.data() ? blanks : 0;
 }
 
 }  // namespace kelvo::examples
+// NOLINTEND(misc-use-internal-linkage)

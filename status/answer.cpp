@@ -87,8 +87,8 @@ Item QuerySystem() {
   }
   const WString numbers = GetSystemVersionNumbers();
   const std::wstring_view inParentheses = numbers;
-  const std::size_t first = inParentheses.find_first_not_of(L"(");
-  const std::size_t last = inParentheses.find_last_not_of(L")");
+  const std::size_t first = inParentheses.find_first_not_of(L'(');
+  const std::size_t last = inParentheses.find_last_not_of(L')');
   Item item{"system", State::kInfo, name, {}};
   item.details.push_back({"version", WString(inParentheses.substr(first, last + 1 - first)), {}});
   bool isAdministrator = false;

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cwchar>
 #include <optional>
 #include <string_view>
@@ -88,8 +89,8 @@ bool IsRemoteSuffix(const WString& suffix) {
 
 // The address in an instance id, such as the 12 digits in "...&0&001122334455_C00000000"; nothing
 // when it has none.
-std::optional<unsigned long long> AddressOf(const DeviceFunctions& functions, HDEVINFO devices,
-                                            SP_DEVINFO_DATA& device) {
+std::optional<std::uint64_t> AddressOf(const DeviceFunctions& functions, HDEVINFO devices,
+                                       SP_DEVINFO_DATA& device) {
   constexpr std::ptrdiff_t kDigits = 12;
   std::array<wchar_t, MAX_DEVICE_ID_LEN> id{};
   functions.getInstanceId(devices, &device, id.data(), MAX_DEVICE_ID_LEN, nullptr);
@@ -98,7 +99,7 @@ std::optional<unsigned long long> AddressOf(const DeviceFunctions& functions, HD
     return std::nullopt;
   }
   wchar_t* end = nullptr;
-  const unsigned long long address = std::wcstoull(separator + 1, &end, 16);
+  const std::uint64_t address = std::wcstoull(separator + 1, &end, 16);
   return end - (separator + 1) == kDigits ? std::optional(address) : std::nullopt;
 }
 
