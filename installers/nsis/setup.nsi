@@ -4,7 +4,7 @@
 
 ; CVE-2025-43715: a user of the computer could put another program into the folder from which an older NSIS' setup runs.
 !ifndef OLD_NSIS_ACCEPTED
-  !if ${NSIS_PACKEDVERSION} < 0x030B0000
+  !if ${NSIS_PACKEDVERSION} < 0x03011000
     !warning "NSIS ${NSIS_VERSION} lets a user of the computer gain the setup's rights (CVE-2025-43715): use 3.11 or later."
   !endif
 !endif
@@ -28,18 +28,28 @@ UninstPage instfiles
 !insertmacro RunSorrel ""
 !insertmacro RunSorrel "un."
 
-; There is no page that asks for the folder. /D= may name another one: it must be one that only administrators write to, since
-; what is in it runs with their rights.
-Function .onInit
+; There is no page that asks for the folder. /D= of a setup and _?= of its removal may name another one: it must be one that
+; only administrators write to, since what is in it runs with their rights. Nor may cmd.exe see a variable in it.
+!macro CheckFolder
   StrCpy $0 "$INSTDIR"
   System::Call 'kernel32::GetFullPathNameW(w r0, i ${NSIS_MAX_STRLEN}, w .r1, p 0)'
+  System::Call 'shlwapi::StrChrW(w r1, i 0x25) p .r4'
   StrLen $2 "$PROGRAMFILES64\"
   StrCpy $3 "$1" $2
   ${If} $3 != "$PROGRAMFILES64\"
+  ${OrIf} $4 P<> 0
     SetErrorLevel 1603
     Quit
   ${EndIf}
   StrCpy $INSTDIR "$1"
+!macroend
+
+Function .onInit
+  !insertmacro CheckFolder
+FunctionEnd
+
+Function un.onInit
+  !insertmacro CheckFolder
 FunctionEnd
 
 !macro RemoveProduct

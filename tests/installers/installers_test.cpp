@@ -144,10 +144,13 @@ TEST_CASE("run_sorrel.cmd") {
            L"run_sorrel.cmd", L"install " + inf + inf + quoted(L"trusted_i.cer") + L"brindle"),
        .uninstall = command(L"run_sorrel.cmd", L"uninstall none brindle"),
        .takesBack = false});
-  std::filesystem::remove(folder / L"sorrel.exe");
   SetEnvironmentVariableW(L"errorlevel", L"0");
-  CHECK(RunChild(command(L"run_sorrel.cmd", L"register")).exitCode == 1603);
+  CHECK(RunChild(command(L"run_sorrel.cmd", L"wrong words")).exitCode == 1603);
   SetEnvironmentVariableW(L"errorlevel", nullptr);
+  // As on a full disk: a program of Wine's that ends with 0 and writes nothing.
+  std::filesystem::rename(folder / L"sorrel.exe", folder / L"away.exe");
+  std::filesystem::copy_file(L"C:\\windows\\system32\\where.exe", folder / L"sorrel.exe");
+  CHECK(RunChild(command(L"run_sorrel.cmd", L"register")).exitCode == 1603);
 }
 
 TEST_CASE("the NSIS setup") {
@@ -155,15 +158,20 @@ TEST_CASE("the NSIS setup") {
   const auto setup = [&](const wchar_t* kind, const std::wstring& to) {
     return L"\"" + ProgramPath(kind) + L"\\brindle_setup.exe\" /S /D=" + to;
   };
+  const std::wstring uninstall = L"\"" + std::wstring(folder / "uninstall.exe") + L"\" /S _?=";
   CheckEachCase({.folder = folder,
                  .install = setup(L"installers\\good", folder),
                  .installBadCertificate = setup(L"installers\\bad", folder),
-                 .uninstall = L"\"" + std::wstring(folder / "uninstall.exe") + L"\" /S _?=" +
-                              std::wstring(folder)});
+                 .uninstall = uninstall + std::wstring(folder)});
+  // Elsewhere a user could replace what a setup or a removal runs: nothing of it may begin.
+  const CleanMachine machine;
+  std::filesystem::remove(kLog);
   for (const wchar_t* const elsewhere :
-       {L"C:\\Brindle", L"C:\\Program Files\\..\\Brindle", L"C:\\Program Files (x86)\\Brindle"}) {
-    CHECK(RunChild(setup(L"installers\\good", elsewhere)).exitCode == 1603);
-    CHECK_FALSE(std::filesystem::exists(elsewhere));
+       {L"C:\\Brindle", L"C:\\Program Files\\..\\Brindle", L"C:\\Program Files (x86)\\Brindle",
+        L"C:\\Program Files\\%x%"}) {
+    CHECK(RunChild(setup(L"installers\\good", elsewhere)).exitCode == kFailure);
+    CHECK(RunChild(uninstall + elsewhere).exitCode == kFailure);
+    CHECK_FALSE(std::filesystem::exists(kLog));
   }
 }
 
