@@ -8,7 +8,10 @@ install(FILES $<TARGET_FILE_DIR:sorrel>/sorrel.pdb $<TARGET_FILE_DIR:sorrel>/sor
 
 # The tree is the repository's, so that the pages' links hold.
 install(FILES README.md CHANGELOG.md SECURITY.md DESTINATION share/doc/sorrel COMPONENT documentation OPTIONAL)
-install(DIRECTORY docs installers DESTINATION share/doc/sorrel COMPONENT documentation)
+install(DIRECTORY docs installers DESTINATION share/doc/sorrel COMPONENT documentation
+  PATTERN library.md EXCLUDE PATTERN development.md EXCLUDE
+  PATTERN *.sh PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+install(SCRIPT cmake/link_pages.cmake COMPONENT documentation)
 
 install(TARGETS kelvo_simulator_bthprops kelvo_simulator_difxapi LIBRARY DESTINATION lib/sorrel/simulator
   COMPONENT simulator)
@@ -30,6 +33,8 @@ install(FILES docs/library.md CHANGELOG.md DESTINATION share/doc/kelvo COMPONENT
 # What scripts/docs has made, if it was run.
 install(DIRECTORY build/docs/html/ DESTINATION share/doc/kelvo/reference COMPONENT sdk OPTIONAL)
 install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONENT sdk)
+install(FILES cmake/toolchain_mingw.cmake DESTINATION lib/cmake/kelvo COMPONENT sdk)
+install(SCRIPT cmake/link_pages.cmake COMPONENT sdk)
 
 # Four archives, which unpack into one folder. What is in them is signed before and accounted for afterwards.
 set(CPACK_GENERATOR ZIP)

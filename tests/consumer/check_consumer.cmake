@@ -1,8 +1,8 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# Where `prefix` is set the library must be the package installed there, else it is built from its sources.
+# Where `prefix` is set the library must be the package that `source` is part of, else it is built from its sources.
 
 if(prefix)
-  set(library -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
+  set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
     -D all_headers=${all_headers})
 else()
   # In batches, as a consumer may build; it takes a quarter of the time.
