@@ -1,29 +1,54 @@
 @echo off
-rem run_sorrel.cmd WORD...   runs sorrel.exe, which stands beside this file, with these words; keeps what it wrote in
-rem a log and shows it. Ends with 0, with 3010 when the computer must be restarted, with 1603 when a step failed.
+rem run_sorrel.cmd WORD...   runs sorrel.exe of this folder with these words, shows what it wrote and adds it to the
+rem product's log. Ends with 0, with 3010 when the computer must be restarted, with 1603 when a step failed.
 setlocal EnableExtensions DisableDelayedExpansion
 rem A variable of that name would hide what programs end with.
 set "errorlevel="
-rem The log is this product's alone: name it after yours.
-set "log=%SystemRoot%\Logs\sorrel_brindle.log"
+if not exist "%~dp0product.cmd" exit /b 1603
+call "%~dp0product.cmd"
+set "log=%SystemRoot%\Logs\sorrel_%application%.log"
+set "run=%log%.run"
 set "failed="
 set "restart="
 
-rem An old log must not be taken for this run's.
-if exist "%log%" del /f /q "%log%"
-if exist "%log%" exit /b 1603
+rem The log has the last runs, and so has the one before it.
+if exist "%log%" for %%F in ("%log%") do if %%~zF gtr 65536 move /y "%log%" "%log%.old" >nul
+>>"%log%" echo === %product%, %date% %time%: sorrel.exe %*
 
-"%~dp0sorrel.exe" %* >"%log%"
-if not "%errorlevel%"=="0" set "failed=1"
-if not exist "%log%" exit /b 1603
-type "%log%"
+rem What another run wrote must not be taken for this one's.
+if exist "%run%" del /f /q "%run%"
+if exist "%run%" exit /b 1603
+"%~dp0sorrel.exe" %* >"%run%"
+set "code=%errorlevel%"
+if not exist "%run%" exit /b 1603
 
 rem Whatever runs writes at least one line.
-for %%F in ("%log%") do if "%%~zF"=="0" set "failed=1"
-rem Variables of for are put in after a line is taken apart, so no text of the log can act as a command.
-for /f "usebackq tokens=1* delims=:" %%A in ("%log%") do if "%%A"=="ERR" if not "%%B"==" no Bluetooth available, bthprops.cpl missing" set "failed=1"
-for /f "usebackq delims=" %%L in ("%log%") do if "%%L"=="Reboot required" set "restart=1"
+for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
+rem A radio that is away or off is the only failure that the maker can spare: by these codes, with which "register" then ends.
+set "spared=none"
+if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
+rem Variables of for are put in after a line is taken apart, so no text of the tool's can act as a command.
+for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000490 1168" set "code=0"
+for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000014 20" set "code=0"
+for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A"=="ERR" if not "%%B %%C %%D"=="%spared% 00000490" if not "%%B %%C %%D"=="%spared% 00000014" if not "%%B %%C %%D %%E"=="no Bluetooth available, bthprops.cpl missing" set "failed=1"
+if not "%code%"=="0" set "failed=1"
+for /f "usebackq delims=" %%L in ("%run%") do if "%%L"=="Reboot required" set "restart=1"
 
-if defined failed exit /b 1603
-if defined restart exit /b 3010
-exit /b 0
+rem The tool writes no line about the name, and does not record one that is part of another's.
+set "name="
+if "%~1"=="install" set "name=%~5"
+if "%~1"=="register" set "name=%~2"
+if not defined name goto end
+if not exist "%~dp0sorrel_status.exe" goto end
+"%~dp0sorrel_status.exe" --application "%name%" >>"%run%"
+if "%errorlevel%"=="1" set "failed=1"
+
+:end
+set "code=0"
+if defined restart set "code=3010"
+if defined failed set "code=1603"
+>>"%run%" echo === ends with %code%
+type "%run%"
+type "%run%" >>"%log%"
+del /f /q "%run%"
+exit /b %code%

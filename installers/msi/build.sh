@@ -1,28 +1,77 @@
 #!/usr/bin/env bash
-# build.sh FOLDER OUTPUT.msi   makes the package of brindle.wxs. FOLDER holds sorrel.exe, sorrel_status.exe,
-# run_sorrel.cmd, Tessalin.inf and what belongs to it, trusted.cer and trusted_i.cer.
+# build.sh FOLDER OUTPUT.msi [NAME=VALUE...]   makes the package of brindle.wxs, with these values in place of those below.
+# FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver package and the certificates.
 set -euo pipefail
+# In the POSIX locale, and where it does not look at the locale, wixl ends at the first letter that is not ASCII.
+export LC_ALL=C.UTF-8 CHARSET=UTF-8
+
+# Brindle's alone: two products with the same ones remove each other.
+guids=(6e1c1df6-6f3d-4f0e-9a5b-8b6d1f8a3c21 2f0a1a54-0c3b-4d57-9a53-6f1a3e7f1b11)
+
+# Change these.
+declare -A setting=(
+  # The product, which is also the name of its folder below Program Files.
+  [PRODUCT]='Brindle'
+  [VERSION]='1.0.0'
+  [MAKER]='The sorrel authors'
+  # Made by uuidgen, once for all versions.
+  [UPGRADE_CODE]=${guids[0]}
+  [COMPONENT]=${guids[1]}
+  # Its name on the list of applications: the same for all versions, and no part of another product's. ASCII.
+  [APPLICATION]='brindle'
+  # The driver package and the certificates of its signer and of the authority that issued that one.
+  [INF]='Tessalin.inf'
+  [PUBLISHER]='trusted.cer'
+  [INTERMEDIATE]='trusted_i.cer'
+  # What a computer whose radio is away or switched off does to the installation: "fails" or "spared".
+  [RADIO_OFF]='fails'
+)
+
+refuse() { echo "$1" >&2; exit 2; }
+for word in "${@:3}"; do
+  name=${word%%=*}
+  [[ $word == *=?* && -v setting[$name] ]] || refuse "$word is not NAME=VALUE with one of these names: ${!setting[*]}"
+  setting[$name]=${word#*=}
+done
+settings=()
+for name in "${!setting[@]}"; do
+  value=${setting[$name]}
+  [[ $value != *[\"\'\$%\;\&\<\>\|^\!/\\[{}]* && $value != *]* ]] || refuse "$name=$value: such a character cannot be in it."
+  iconv -f UTF-8 -t CP1252 <<<"$value" >/dev/null 2>&1 || refuse "$name=$value: wixl writes no letters outside of code page 1252."
+  [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" $value "* ]] || refuse "$name: a product has its own, see uuidgen."
+  settings+=(-D "$name=$value")
+done
+
 here=$(realpath "$(dirname "$0")")
 output=$(realpath -m "$2")
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+cp "$here/service.js" "$scratch"
+# What run_sorrel.cmd reads.
+printf 'set "%s=%s"\r\n' product "${setting[PRODUCT]}" application "${setting[APPLICATION]}" \
+  radio_off "${setting[RADIO_OFF]}" >"$scratch/product.cmd"
 rm -f "$output"
-(cd "$1" && wixl -a x64 -D Scripts="$(realpath --relative-to=. "$here")" -o "$output" "$here/brindle.wxs")
+(cd "$1" && wixl -a x64 "${settings[@]}" -D Scripts="$(realpath --relative-to=. "$scratch")" -o "$output" "$here/brindle.wxs")
 
-# wixl 0.101 cannot write these actions.
+# wixl 0.101 removes the old version before the transaction begins, so that it would not come back when the new one fails.
+msibuild "$output" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
+
+# Nor can it write these actions.
 add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
   msibuild "$output" -q "INSERT INTO CustomAction (Action, Type, Source, Target) VALUES ('$1', $2, '$3', '$4')"
   msibuild "$output" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
 }
 
 # service.js, deferred, as the system. 3077: JScript in the package; with 64: errors ignored, so that a radio that is away does
-# not keep the product on the computer.
+# not keep the product on the computer. Within an upgrade the name stays on the list, for the old version may come back.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
-add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL"' 3400
+add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 
-# A product that fails takes its application off the list again. The tool comes out of the package itself, since the
+# A first installation that fails takes its application off the list again. The tool comes out of the package itself, since the
 # installed one may be gone by then. 3394: a program in the package, deferred, on rollback, as the system, errors ignored. Only
 # an administrator starts a first installation.
-add_action UndoPrepareService 3394 sorrel 'uninstall none brindle' 'NOT Installed' 4002
+add_action UndoPrepareService 3394 sorrel "uninstall none \"${setting[APPLICATION]}\"" \
+  'NOT Installed AND NOT WIX_UPGRADE_DETECTED' 4002
 
-# A deferred action cannot ask for a restart, so one that runs when all is done looks into the log. 101: JScript, errors
-# ignored; mode 6: restart at the end.
-add_action AskForRestart 101 '' 'log = new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(Session.Property("WindowsFolder") + "Logs\\sorrel_brindle.log"); while (!log.AtEndOfStream) if (log.ReadLine() == "Reboot required") Session.Mode(6) = true;' 'NOT REMOVE="ALL"' 6601
+# service.js, when all is done, errors ignored.
+add_action AskForRestart 69 service AskForRestart 'NOT REMOVE="ALL"' 6601

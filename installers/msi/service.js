@@ -14,3 +14,13 @@ function ReleaseService() {
   run();
   return 1;
 }
+
+// A deferred action cannot ask for a restart, so this one looks at the end of the log when all is done.
+function AskForRestart() {
+  var path = Session.Property("WindowsFolder") + "Logs\\" + Session.Property("Log");
+  var log = new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(path);
+  var line = "";
+  while (!log.AtEndOfStream) line = log.ReadLine();
+  if (line == "=== ends with 3010") Session.Mode(6) = true;  // a restart at the end
+  return 1;
+}

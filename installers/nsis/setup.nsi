@@ -1,6 +1,34 @@
-; A setup of an application "Brindle" that relies on the hands-free service:
+; A setup of a product that relies on the hands-free service. build.sh makes it, or
 ;   makensis -DFILES=FOLDER -DOUTPUT=FILE setup.nsi
-; FOLDER holds sorrel.exe, sorrel_status.exe, Tessalin.inf and what belongs to it, trusted.cer and trusted_i.cer.
+; FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver package and the certificates.
+
+; Change these, here or as arguments (-DPRODUCT=...).
+!macro Setting NAME VALUE
+  !ifndef ${NAME}
+    !define ${NAME} "${VALUE}"
+  !endif
+!macroend
+; The product, which is also the name of its folder below Program Files.
+!insertmacro Setting PRODUCT "Brindle"
+!insertmacro Setting VERSION "1.0.0"
+!insertmacro Setting MAKER "The sorrel authors"
+; Its name on the list of applications: the same for all versions, and no part of another product's. ASCII.
+!insertmacro Setting APPLICATION "brindle"
+; The driver package and the certificates of its signer and of the authority that issued that one.
+!insertmacro Setting INF "Tessalin.inf"
+!insertmacro Setting PUBLISHER "trusted.cer"
+!insertmacro Setting INTERMEDIATE "trusted_i.cer"
+; What a computer whose radio is away or switched off does to the installation: "fails" or "spared".
+!insertmacro Setting RADIO_OFF "fails"
+; What else belongs to the driver package goes here, too.
+!macro EachFile DO
+  !insertmacro ${DO} "sorrel.exe"
+  !insertmacro ${DO} "sorrel_status.exe"
+  !insertmacro ${DO} "run_sorrel.cmd"
+  !insertmacro ${DO} "${INF}"
+  !insertmacro ${DO} "${PUBLISHER}"
+  !insertmacro ${DO} "${INTERMEDIATE}"
+!macroend
 
 ; CVE-2025-43715: a user of the computer could put another program into the folder from which an older NSIS' setup runs.
 !ifndef OLD_NSIS_ACCEPTED
@@ -10,27 +38,42 @@
 !endif
 
 Unicode true
-Target amd64-unicode
-; Only administrators can write there. The product's own.
-!define SORREL_LOG "$WINDIR\Logs\sorrel_brindle.log"
-!include sorrel.nsh
+!ifdef X86
+  Target x86-unicode
+  !define SYSTEM "$WINDIR\Sysnative"
+!else
+  !if ! /FileExists "${NSISDIR}/Stubs/zlib-amd64-unicode"
+    !error "This NSIS makes no 64-bit setups: give -DX86 for one of 32 bits."
+  !endif
+  Target amd64-unicode
+  !define SYSTEM "$SYSDIR"
+!endif
+!include LogicLib.nsh
 
-!define PRODUCT "Software\Microsoft\Windows\CurrentVersion\Uninstall\Brindle"
+!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${PRODUCT}"
+!define LOG "$WINDIR\Logs\sorrel_${APPLICATION}.log"
 
-Name "Brindle"
+Name "${PRODUCT}"
 OutFile "${OUTPUT}"
 RequestExecutionLevel admin
-InstallDir "$PROGRAMFILES64\Brindle"
+InstallDir "$PROGRAMFILES64\${PRODUCT}"
 Page instfiles
 UninstPage uninstConfirm
 UninstPage instfiles
 
-!insertmacro RunSorrel ""
-!insertmacro RunSorrel "un."
+; What run_sorrel.cmd reads.
+!tempfile PRODUCT_CMD
+!macro ProductLine NAME VALUE
+  !appendfile "${PRODUCT_CMD}" 'set "${NAME}=${VALUE}"$\r$\n'
+!macroend
+!insertmacro ProductLine product "${PRODUCT}"
+!insertmacro ProductLine application "${APPLICATION}"
+!insertmacro ProductLine radio_off "${RADIO_OFF}"
 
 ; There is no page that asks for the folder. /D= of a setup and _?= of its removal may name another one: it must be one that
 ; only administrators write to, since what is in it runs with their rights. Nor may cmd.exe see a variable in it.
-!macro CheckFolder
+!macro Begin
+  SetRegView 64
   StrCpy $0 "$INSTDIR"
   System::Call 'kernel32::GetFullPathNameW(w r0, i ${NSIS_MAX_STRLEN}, w .r1, p 0)'
   System::Call 'shlwapi::StrChrW(w r1, i 0x25) p .r4'
@@ -45,55 +88,89 @@ UninstPage instfiles
 !macroend
 
 Function .onInit
-  !insertmacro CheckFolder
+  !insertmacro Begin
 FunctionEnd
 
 Function un.onInit
-  !insertmacro CheckFolder
+  !insertmacro Begin
 FunctionEnd
 
+; Runs the tool; what run_sorrel.cmd ends with is then in $0. It reads the tool's lines from a file, since
+; nsExec::ExecToStack keeps 1,023 characters.
+!macro RunSorrel WORDS
+  nsExec::Exec '"${SYSTEM}\cmd.exe" /d /s /c ""$INSTDIR\run_sorrel.cmd" ${WORDS}"'
+  Pop $0
+!macroend
+
+!macro Put NAME
+  File "${FILES}/${NAME}"
+!macroend
+!macro Remove NAME
+  Delete "$INSTDIR\${NAME}"
+!macroend
 !macro RemoveProduct
-  Delete "$INSTDIR\sorrel.exe"
-  Delete "$INSTDIR\sorrel_status.exe"
-  Delete "$INSTDIR\Tessalin.inf"
-  Delete "$INSTDIR\trusted.cer"
-  Delete "$INSTDIR\trusted_i.cer"
-  Delete "$INSTDIR\uninstall.exe"
+  !insertmacro EachFile Remove
+  !insertmacro Remove "product.cmd"
+  !insertmacro Remove "uninstall*.exe"
   RMDir "$INSTDIR"
-  DeleteRegKey HKLM "${PRODUCT}"
+  DeleteRegKey HKLM "${UNINSTALL_KEY}"
 !macroend
 
 Section
+  ; Empty at a first installation. Such a one takes no name that a removal has left to the next start of Windows.
+  ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
+  StrCpy $8 "$9"
+  ${If} $9 == ""
+    StrCpy $8 "uninstall.exe"
+    ${While} ${FileExists} "$INSTDIR\$8"
+      IntOp $7 $7 + 1
+      StrCpy $8 "uninstall$7.exe"
+    ${EndWhile}
+  ${EndIf}
+  ClearErrors
+  SetOverwrite try
   SetOutPath "$INSTDIR"
-  File "${FILES}/sorrel.exe"
-  File "${FILES}/sorrel_status.exe"
-  File "${FILES}/Tessalin.inf"
-  File "${FILES}/trusted.cer"
-  File "${FILES}/trusted_i.cer"
-  WriteUninstaller "$INSTDIR\uninstall.exe"
-  WriteRegStr HKLM "${PRODUCT}" DisplayName "Brindle"
-  WriteRegStr HKLM "${PRODUCT}" DisplayVersion "1.0.0"
-  WriteRegStr HKLM "${PRODUCT}" UninstallString '"$INSTDIR\uninstall.exe"'
-  WriteRegStr HKLM "${PRODUCT}" QuietUninstallString '"$INSTDIR\uninstall.exe" /S'
+  !insertmacro EachFile Put
+  File "/oname=product.cmd" "${PRODUCT_CMD}"
+  !delfile "${PRODUCT_CMD}"
+  WriteUninstaller "$INSTDIR\$8"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayName "${PRODUCT}"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" Publisher "${MAKER}"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\$8"'
+  WriteRegStr HKLM "${UNINSTALL_KEY}" Uninstaller "$8"
+  ; Without quotation marks and at the end, as NSIS takes it: the removal then stays until it is done.
+  WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\$8" /S _?=$INSTDIR'
 
-  Push 'install "$INSTDIR\Tessalin.inf" "$INSTDIR\trusted.cer" "$INSTDIR\trusted_i.cer" brindle'
-  Call RunSorrel
-  Pop $0
+  StrCpy $0 1603
+  ${IfNot} ${Errors}
+    !insertmacro RunSorrel 'install "$INSTDIR\${INF}" "$INSTDIR\${PUBLISHER}" "$INSTDIR\${INTERMEDIATE}" "${APPLICATION}"'
+  ${EndIf}
+  ${If} $0 <> 0
+  ${AndIf} $0 <> 3010
+    ; A product that was there stays, with all that a repair needs.
+    ${If} $9 == ""
+      !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
+      SetOutPath "$TEMP"
+      !insertmacro RemoveProduct
+    ${EndIf}
+    SetErrorLevel 1603
+    MessageBox MB_ICONSTOP "The hands-free service could not be prepared.$\r$\nThe log has the reason:$\r$\n${LOG}" /SD IDOK
+    Abort "The hands-free service could not be prepared."
+  ${EndIf}
+  WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
   SetErrorLevel $0
   ${If} $0 = 3010
     SetRebootFlag true
-  ${ElseIf} $0 = 1603
-    ; Straight, so that the log stays that of the failure.
-    nsExec::Exec '"$INSTDIR\sorrel.exe" uninstall "$INSTDIR\Tessalin.inf" brindle'
-    SetOutPath "$TEMP"
-    !insertmacro RemoveProduct
-    Abort "The hands-free service could not be prepared: ${SORREL_LOG} tells why."
+    MessageBox MB_ICONINFORMATION "Restart the computer before you use ${PRODUCT}." /SD IDOK
   ${EndIf}
 SectionEnd
 
 ; Removal goes on whatever the tool says: a radio that is away must not keep the product on the computer.
 Section Uninstall
-  Push 'uninstall "$INSTDIR\Tessalin.inf" brindle'
-  Call un.RunSorrel
+  !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
+  ReadRegStr $8 HKLM "${UNINSTALL_KEY}" Uninstaller
   !insertmacro RemoveProduct
+  ; With _?= the removal runs from this folder: what is left of it goes at the next start of Windows.
+  Delete /REBOOTOK "$INSTDIR\$8"
+  RMDir /REBOOTOK "$INSTDIR"
 SectionEnd

@@ -1,61 +1,47 @@
+#include <sstream>
+
+#include "lib/string/utf8.h"
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// The log of the last run, in a prefix that is thrown away.
-static const wchar_t* const kLog = L"C:\\windows\\logs\\sorrel_brindle.log";
+// In a prefix that is thrown away.
+static const std::wstring kLogs = L"C:\\windows\\logs\\";
+static const std::wstring kStandIns = kLogs + L"stand_ins";
+static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
-// How a setup is run. `folder` is where the product goes.
-struct Installer {
-  std::filesystem::path folder;
-  std::wstring install, installBadCertificate, uninstall;
-  bool takesBack = true;
-  // Its lines are read by run_sorrel.cmd.
-  bool readsItself = true;
-};
+// Copies of this program play Windows' pnputil and certutil, which Wine lacks: each writes down its
+// words, and takes away what the test has put in place when they name it.
+static const bool isStandIn = [] {
+  wchar_t self[MAX_PATH];
+  GetModuleFileNameW(nullptr, self, MAX_PATH);
+  const std::wstring program = std::filesystem::path(self).stem();
+  const std::wstring line = GetCommandLineW();
+  const std::wstring words = line.substr(line.find(L"\" ") + 2);
+  if (program != L"pnputil" && program != L"certutil") {
+    return false;
+  }
+  RequireThrowAwayPrefix();
+  std::ofstream(std::filesystem::path(kStandIns), std::ios::app | std::ios::binary)
+      << ToUtf8(L"  " + program + L" " + words.substr(0, words.rfind(L' ')) + L"\n");
+  const std::wstring thumbprint = words.substr(words.rfind(L' ') + 1);
+  for (const std::wstring store : {L"TrustedPublisher", L"CA"}) {
+    const std::wstring all =
+        L"Software\\Microsoft\\SystemCertificates\\" + store + L"\\Certificates";
+    HKEY certificate = nullptr;
+    if (words == L"-delstore " + store + L" " + thumbprint &&
+        RegOpenKeyW(HKEY_LOCAL_MACHINE, (all + L"\\" + thumbprint).c_str(), &certificate) ==
+            ERROR_SUCCESS) {
+      RegDeleteTreeW(HKEY_LOCAL_MACHINE, all.c_str());
+    }
+  }
+  const bool isOld = GetEnvironmentVariableW(L"old_pnputil", nullptr, 0) != 0;
+  if (words == (isOld ? L"-d oem97.inf" : L"/delete-driver oem97.inf /uninstall")) {
+    std::filesystem::remove(kPublishedInf);
+  }
+  ExitProcess(0);
+}();
 
-// What the simulator is told, and what a setup makes of it.
-struct Case {
-  const char* name;
-  DWORD code;
-  const wchar_t* driver = L"0";
-  const wchar_t* reboot = L"0";
-  std::wstring log = L"1,0,one";
-  const wchar_t* crash = L"0";
-  bool bluetooth = true;
-  bool badCertificate = false;
-};
-
-constexpr std::size_t kCasesOfInstaller = 5;
-constexpr DWORD kFailure = 1603;
-
-static std::wstring Events(int count) {
-  return count == 0 ? L""
-                    : L"1,0,ERR: Reboot required by none of these many words|" + Events(count - 1);
-}
-
-static std::vector<Case> Cases() {
-  const std::wstring longLine = L"1,0," + std::wstring(1002, L'x') + L"ERR: amid a line|";
-  return {
-      // What is to be seen of the installer itself, kCasesOfInstaller.
-      {"driver installed", 0},
-      {"publisher not trusted", kFailure, L"0xE0000242"},
-      {"restart", 3010, L"0", L"1"},
-      {"failure and restart", kFailure, L"5", L"1"},
-      {"no certificate", kFailure, L"0", L"0", L"1,0,one", L"0", true, true},
-      // What is to be seen of the reading of the lines.
-      {"preinstalled", 0, L"0xE000020B"},
-      {"preinstalled, the other code", 0, L"0xE0000301"},
-      {"no update needed", 0, L"0x103"},
-      {"driver fails", kFailure, L"5"},
-      {"long log, success", 0, L"0", L"0", Events(30) + longLine},
-      {"long log, failure", kFailure, L"0xE0000242", L"0", Events(30)},
-      {"long log, restart", 3010, L"0", L"1", Events(30)},
-      {"the tool ends abnormally", kFailure, L"0", L"0", L"1,0,last", L"1"},
-      {"no Bluetooth library", 0, L"0", L"0", L"1,0,one", L"0", false},
-  };
-}
-
-static DWORD RegisteredProducts() {
+static DWORD EntriesInApps() {
   HKEY key = nullptr;
   RegCreateKeyW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
                 &key);
@@ -66,126 +52,132 @@ static DWORD RegisteredProducts() {
   return count;
 }
 
-static void Prepare(const Installer& installer, const Case& row) {
-  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_RESULT", row.driver);
-  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_REBOOT", row.reboot);
-  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_LOG", row.log.c_str());
-  SetEnvironmentVariableW(L"SORREL_SIMULATOR_DRIVER_CRASH", row.crash);
+// The list, the certificates that are trusted (publisher, intermediate), how many files each
+// product has, and the entries in "Apps".
+static std::string State() {
+  std::wstring state = Applications() + L" | " +
+                       (SubjectsInStore(L"TrustedPublisher").empty() ? L"" : L"P") +
+                       (SubjectsInStore(L"CA").empty() ? L"" : L"I") + L" |";
+  for (const wchar_t* const product : {L"Brindle", L"\u017Dlu\u0165 & Co", L"M\u00F6we Kit"}) {
+    const auto files =
+        std::filesystem::directory_iterator(std::filesystem::path(L"C:\\Program Files") / product);
+    // Without the simulator's two.
+    if (const auto count = std::distance(begin(files), end(files)) - 2; count != 0) {
+      state += std::wstring(L" ") + product + L" " + std::to_wstring(count);
+    }
+  }
+  return "  " + ToUtf8(state + L" | " + std::to_wstring(EntriesInApps())) + "\n";
+}
+
+static void Reset() {
   RegSetKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ, L"kite", 10);
   RemoveTestCertificates();
-  std::filesystem::remove(kLog);
-  std::filesystem::create_directories(installer.folder);
-  for (const auto& [file, isThere] :
-       {std::pair(L"difxapi.dll", true), {L"bthprops.cpl", row.bluetooth}}) {
-    std::filesystem::remove(installer.folder / file);
-    if (isThere) {
-      std::filesystem::copy_file(ProgramPath(L"simulator") + L"\\" + file, installer.folder / file);
-    }
+  std::filesystem::remove(kPublishedInf);
+}
+
+static std::wstring Expand(const std::wstring& text) {
+  wchar_t expanded[8192];
+  ExpandEnvironmentStringsW(text.c_str(), expanded, 8192);
+  return expanded;
+}
+
+// Runs a line of lives.txt: NAME=VALUE for the simulator, or in lower case for a variable as it is,
+// then a command line. Returns the exit code.
+static DWORD Run(std::wstring line) {
+  std::vector<std::wstring> names;
+  for (std::size_t end = 0; (end = line.find(L'=')) < line.find_first_of(L" \"");) {
+    const std::size_t blank = line.find(L' ');
+    names.push_back((IsCharLowerW(line[0]) ? L"" : L"SORREL_SIMULATOR_") + line.substr(0, end));
+    SetEnvironmentVariableW(names.back().c_str(),
+                            Expand(line.substr(end + 1, blank - end - 1)).c_str());
+    line.erase(0, blank + 1);
+  }
+  const DWORD code = RunChild(Expand(line)).exitCode;
+  for (const std::wstring& name : names) {
+    SetEnvironmentVariableW(name.c_str(), nullptr);
+  }
+  return code;
+}
+
+// The rule for detection in the words of the page for administrators.
+static std::wstring Rule() {
+  const std::string page = ReadBytes(ProgramPath(L"installers\\good\\files\\administrators.md"));
+  const std::size_t start = page.find("\n\"%ProgramW6432%\\Brindle\\sorrel_status.exe\"") + 1;
+  REQUIRE(start != 0);
+  const std::string rule = page.substr(start, page.find('\n', start) - start);
+  return Expand({rule.begin(), rule.end()});
+}
+
+// Folders, programs and variables that the lives use.
+static void PutInPlace(const ScratchFolder& scratch) {
+  std::filesystem::remove_all(kLogs);
+  std::filesystem::create_directories(kLogs);
+  const std::filesystem::path products = L"C:\\Program Files";
+  for (const std::filesystem::path& folder :
+       {products / L"Brindle", products / L"\u017Dlu\u0165 & Co", products / L"M\u00F6we Kit",
+        scratch / L"A & \u017D", scratch / L"newer"}) {
+    std::filesystem::remove_all(folder);
+    std::filesystem::copy(ProgramPath(L"simulator"), folder);
+  }
+  const std::wstring installers = ProgramPath(L"installers\\");
+  std::filesystem::copy(installers + L"good\\files", scratch / L"A & \u017D");
+  std::filesystem::copy(installers + L"bad\\files", scratch / L"newer");
+  for (const wchar_t* const program : {L"pnputil.exe", L"certutil.exe"}) {
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", program, REG_SZ, L"native",
+                    14);
+    const std::filesystem::path standIn = std::filesystem::path(L"C:\\windows\\system32") / program;
+    std::filesystem::remove(standIn);
+    std::filesystem::copy_file(ProgramPath(L"installers_tests.exe"), standIn);
+  }
+  const std::wstring from = scratch / L"A & \u017D";
+  std::wstring events;
+  for (int i = 0; i < 30; ++i) {
+    events += L"1,0,ERR: Reboot required by none of these many words|";
+  }
+  for (const auto& [name, value] :
+       {std::pair(L"RULE", Rule()),
+        {L"GOOD", installers + L"good"},
+        {L"BAD", installers + L"bad"},
+        {L"OTHER", installers + L"f\u00FCr andere"},
+        {L"FROM", from},
+        {L"FILES", L"\"" + from + L"\\Tessalin.inf\" \"" + from + L"\\trusted.cer\" \"" + from +
+                       L"\\trusted_i.cer\""},
+        {L"FOLDER", L"C:\\Program Files\\\u017Dlu\u0165 & Co"},
+        {L"NEWER", scratch / L"newer"},
+        {L"EVENTS", events + L"1,0," + std::wstring(1002, L'x') + L"ERR: amid a line"}}) {
+    SetEnvironmentVariableW(name, value.c_str());
   }
 }
 
-// What the companion ends with: 0 present, 1 absent.
-static DWORD Status(const std::wstring& words) {
-  return RunChild(L"\"" + ProgramPath(L"sorrel_status.exe") + L"\" " + words).exitCode;
-}
-
-static void CheckEachCase(const Installer& installer) {
+TEST_CASE("lives of products") {
   const CleanMachine machine;
-  const std::wstring good = L"\"" + ProgramPath(L"installers\\good\\files\\");
-  std::vector<Case> cases = Cases();
-  if (!installer.readsItself) {
-    cases.resize(kCasesOfInstaller);
-  }
-  for (const Case& row : cases) {
-    INFO(row.name);
-    Prepare(installer, row);
-    const DWORD products = RegisteredProducts();
-    CHECK(RunChild(row.badCertificate ? installer.installBadCertificate : installer.install)
-              .exitCode == row.code);
-    const bool failed = row.code == kFailure;
-    CHECK(Status(L"--publisher " + good + L"trusted.cer\" --intermediate " + good +
-                 L"trusted_i.cer\"") == (row.badCertificate ? 1 : 0));
-    const std::string log = ReadBytes(kLog);
-    CHECK(log.find("INFO: 1 - ") != std::string::npos);
-    CHECK((log.find("ERR: no Bluetooth") == std::string::npos) == row.bluetooth);
-    if (!failed) {
-      CHECK(Status(L"--application brindle") == 0);
-      CHECK(Applications() == L"kite;brindle");
-      CHECK(RunChild(installer.uninstall).exitCode == 0);
-    } else if (!installer.takesBack) {
-      RunChild(installer.uninstall);
-    }
-    CHECK(Status(L"--application brindle") == 1);
-    CHECK(Applications() == L"kite");
-    CHECK(RegisteredProducts() == products);
-    CHECK(std::filesystem::exists(installer.folder / "sorrel.exe") == !installer.takesBack);
-  }
-}
-
-TEST_CASE("run_sorrel.cmd") {
   const ScratchFolder scratch;
-  const std::filesystem::path folder = scratch / L"\u017Dlu\u0165 & Co";
-  std::filesystem::create_directories(folder);
-  for (const auto& file :
-       std::filesystem::directory_iterator(ProgramPath(L"installers\\good\\files"))) {
-    std::filesystem::copy_file(file.path(), folder / file.path().filename());
-  }
-  const auto command = [&](const wchar_t* file, const std::wstring& words) {
-    return L"cmd /s /c \"\"" + std::wstring(folder / file) + L"\" " + words + L"\"";
-  };
-  const auto quoted = [&](const wchar_t* file) {
-    return L"\"" + std::wstring(folder / file) + L"\" ";
-  };
-  const std::wstring inf = quoted(L"Tessalin.inf");
-  CheckEachCase(
-      {.folder = folder,
-       .install = command(L"deploy.cmd", L""),
-       .installBadCertificate = command(
-           L"run_sorrel.cmd", L"install " + inf + inf + quoted(L"trusted_i.cer") + L"brindle"),
-       .uninstall = command(L"run_sorrel.cmd", L"uninstall none brindle"),
-       .takesBack = false});
-  SetEnvironmentVariableW(L"errorlevel", L"0");
-  CHECK(RunChild(command(L"run_sorrel.cmd", L"wrong words")).exitCode == 1603);
-  SetEnvironmentVariableW(L"errorlevel", nullptr);
-  // As on a full disk: a program of Wine's that ends with 0 and writes nothing.
-  std::filesystem::rename(folder / L"sorrel.exe", folder / L"away.exe");
-  std::filesystem::copy_file(L"C:\\windows\\system32\\where.exe", folder / L"sorrel.exe");
-  CHECK(RunChild(command(L"run_sorrel.cmd", L"register")).exitCode == 1603);
-}
-
-TEST_CASE("the NSIS setup") {
-  const std::filesystem::path folder = L"C:\\Program Files\\\u017Dlu\u0165 & Co";
-  const auto setup = [&](const wchar_t* kind, const std::wstring& to) {
-    return L"\"" + ProgramPath(kind) + L"\\brindle_setup.exe\" /S /D=" + to;
-  };
-  const std::wstring uninstall = L"\"" + std::wstring(folder / "uninstall.exe") + L"\" /S _?=";
-  CheckEachCase({.folder = folder,
-                 .install = setup(L"installers\\good", folder),
-                 .installBadCertificate = setup(L"installers\\bad", folder),
-                 .uninstall = uninstall + std::wstring(folder)});
-  // Elsewhere a user could replace what a setup or a removal runs: nothing of it may begin.
-  const CleanMachine machine;
-  std::filesystem::remove(kLog);
-  for (const wchar_t* const elsewhere :
-       {L"C:\\Brindle", L"C:\\Program Files\\..\\Brindle", L"C:\\Program Files (x86)\\Brindle",
-        L"C:\\Program Files\\%x%"}) {
-    CHECK(RunChild(setup(L"installers\\good", elsewhere)).exitCode == kFailure);
-    CHECK(RunChild(uninstall + elsewhere).exitCode == kFailure);
-    CHECK_FALSE(std::filesystem::exists(kLog));
-  }
-}
-
-TEST_CASE("the MSI package") {
   // No product of an earlier build may hold on to the files.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
-  const auto package = [&](const wchar_t* way, const wchar_t* kind) {
-    // No words can name another folder: the files are looked for in this one.
-    return L"msiexec /qn " + std::wstring(way) + L" \"" + ProgramPath(kind) +
-           L"\\brindle.msi\" InstallFolder=C:\\elsewhere INSTALLFOLDER=C:\\elsewhere";
-  };
-  CheckEachCase({.folder = L"C:\\Program Files\\Brindle",
-                 .install = package(L"/i", L"installers\\good"),
-                 .installBadCertificate = package(L"/i", L"installers\\bad"),
-                 .uninstall = package(L"/x", L"installers\\good"),
-                 .readsItself = false});
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
+  PutInPlace(scratch);
+  std::istringstream lines(ReadBytes(ProgramPath(L"expected\\lives.txt")));
+  std::string seen;
+  std::string before;
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t prompt = line.find("> ");
+    if (line.starts_with("  ")) {
+      continue;
+    }
+    if (prompt == std::string::npos) {
+      Reset();
+      before = State();
+      seen += line + "\n";
+      continue;
+    }
+    const std::string command = line.substr(prompt + 2);
+    const DWORD code = Run(std::filesystem::path(std::u8string(command.begin(), command.end())));
+    seen += std::to_string(code) + " > " + command + "\n" + ReadBytes(kStandIns);
+    std::filesystem::remove(kStandIns);
+    if (const std::string state = State(); state != before) {
+      seen += state;
+      before = state;
+    }
+  }
+  CheckAgainstFile(seen, L"lives.txt");
 }

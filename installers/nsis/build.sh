@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# build.sh FOLDER OUTPUT.exe [NAME=VALUE...] [-OPTION...]   makes the setup of setup.nsi, with these values in place of those
+# that it has under "Change these", and these options of makensis. FOLDER holds sorrel.exe, sorrel_status.exe,
+# run_sorrel.cmd, the driver package and the certificates.
+set -euo pipefail
+# In the POSIX locale makensis ends at the first letter that is not ASCII.
+export LC_ALL=C.UTF-8
+files=$(realpath "$1")
+output=$(realpath -m "$2")
+options=()
+for word in "${@:3}"; do
+  case $word in
+    -*) options+=("$word") ;;
+    *[\"\'\$%\;\&\<\>\|^\!/\\]*) echo "$word: such a character cannot be in it." >&2; exit 2 ;;
+    *=?*) options+=("-D$word") ;;
+    *) echo "$word is not NAME=VALUE." >&2; exit 2 ;;
+  esac
+done
+makensis -V2 "${options[@]}" -DFILES="$files" -DOUTPUT="$output" "$(dirname "$0")/setup.nsi"

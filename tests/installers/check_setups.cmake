@@ -1,0 +1,56 @@
+# What the samples refuse, warn of, and write into their packages:
+# cmake -D source_folder=... -D setups=... -P check_setups.cmake
+
+cmake_minimum_required(VERSION 3.25)
+set(nsis ${source_folder}/installers/nsis/build.sh ${setups}/good/files ${setups}/made.exe)
+set(msi ${source_folder}/installers/msi/build.sh ${setups}/good/files ${setups}/made.msi)
+
+# expect(CODE TEXT COMMAND...)   what a command ends with, and what it writes
+function(expect code text)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE seen OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(NOT seen EQUAL code OR NOT output MATCHES "${text}")
+    message(SEND_ERROR "${ARGN} ended with ${seen}, not ${code}, and wrote, instead of ${text}: ${output}")
+  endif()
+endfunction()
+
+# An NSIS that is too old, and one that makes 32-bit setups alone.
+execute_process(COMMAND makensis -VERSION OUTPUT_VARIABLE version)
+set(warning "^$")
+if(version MATCHES "^v([0-9.]+)" AND CMAKE_MATCH_1 VERSION_LESS 3.11)
+  set(warning "CVE-2025-43715")
+endif()
+expect(0 ${warning} ${nsis})
+file(GLOB stubs /usr/share/nsis/Stubs/zlib-x86-* /usr/share/nsis/Stubs/uninst)
+file(COPY ${stubs} DESTINATION ${setups}/nsis/Stubs)
+expect(1 "give -DX86" ${CMAKE_COMMAND} -E env NSISDIR=${setups}/nsis ${nsis} -DOLD_NSIS_ACCEPTED)
+expect(0 "^$" ${nsis} -DOLD_NSIS_ACCEPTED -WX -DX86)
+file(STRINGS ${setups}/made.exe manifest REGEX "requireAdministrator")
+if(NOT manifest)
+  message(SEND_ERROR "The setup does not ask for an administrator's rights")
+endif()
+
+# What would end as another package than the one that was meant.
+expect(2 "code page 1252" ${msi} MAKER=Žluť)
+expect(2 "see uuidgen" ${msi} PRODUCT=Kite)
+expect(2 "these names" ${msi} PRODUKT=Kite)
+foreach(build nsis msi)
+  expect(2 "such a character" ${${build}} APPLICATION=a%b)
+endforeach()
+
+# The package's actions: those that change the computer run as the system (2048 is in their types), and the old version comes
+# back when an upgrade fails.
+foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\t" "InstallInitialize\t\t1500\n"
+    "RemoveExistingProducts\t\t1501\n" "ReleaseService\tREMOVE=\"ALL\" AND NOT UPGRADINGPRODUCTCODE\t3400\n"
+    "UndoPrepareService\tNOT Installed AND NOT WIX_UPGRADE_DETECTED\t4002\n")
+  expect(0 "\n${row}" sh -c "(msiinfo export $0 CustomAction && msiinfo export $0 InstallExecuteSequence) | tr -d '\\r'"
+    ${setups}/good/setup.msi)
+endforeach()
+
+# A user could have his own commands run by a cmd.exe that is started without /d.
+file(GLOB_RECURSE samples ${source_folder}/installers/*)
+foreach(sample ${samples})
+  file(STRINGS ${sample} started REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]")
+  if(started)
+    message(SEND_ERROR "${sample} starts cmd.exe without /d: ${started}")
+  endif()
+endforeach()
