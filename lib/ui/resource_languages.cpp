@@ -1,16 +1,17 @@
 #include "lib/ui/resource_languages.h"
 
 #include <algorithm>
-#include <exception>
+#include <new>
 
 namespace kelvo {
 
 namespace {
 
-// No exception may leave a function that Windows calls: it waits here until the enumeration ends.
+// No exception may leave a function that Windows calls: memory that ran out is noted until the
+// enumeration ends.
 struct Enumeration {
   std::vector<LANGID> languages;
-  std::exception_ptr failure;
+  bool isOutOfMemory = false;
 };
 
 BOOL CALLBACK AppendLanguage(HMODULE /*module*/, LPCWSTR /*type*/, LPCWSTR /*name*/, WORD language,
@@ -21,7 +22,7 @@ BOOL CALLBACK AppendLanguage(HMODULE /*module*/, LPCWSTR /*type*/, LPCWSTR /*nam
     enumeration.languages.push_back(language);
     return TRUE;
   } catch (...) {
-    enumeration.failure = std::current_exception();
+    enumeration.isOutOfMemory = true;
     return FALSE;
   }
 }
@@ -40,8 +41,8 @@ std::vector<LANGID> GetStringResourceLanguages(HMODULE module) {
     EnumResourceNamesW(module, RT_STRING, AppendLanguagesOfFirst,
                        reinterpret_cast<LONG_PTR>(&enumeration));
   }
-  if (enumeration.failure) {
-    std::rethrow_exception(enumeration.failure);
+  if (enumeration.isOutOfMemory) {
+    throw std::bad_alloc();
   }
   return std::move(enumeration.languages);
 }

@@ -2,7 +2,7 @@
 
 #include <array>
 #include <cwchar>
-#include <exception>
+#include <new>
 
 #include "lib/ui/text_substitution.h"
 
@@ -26,15 +26,16 @@ bool IsLabelOrButton(HWND window) {
          std::wcsstr(className.data(), L"button") != nullptr;
 }
 
-// No exception may leave a function that Windows calls: the last one waits until all are visited.
-BOOL CALLBACK RewriteChild(HWND child, LPARAM failure) {
+// No exception may leave a function that Windows calls: memory that ran out is noted until all are
+// visited.
+BOOL CALLBACK RewriteChild(HWND child, LPARAM isOutOfMemory) {
   try {
     if (IsLabelOrButton(child)) {
       RewriteWindowText(child);
     }
   } catch (...) {
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the enumeration passes a pointer on as a number
-    *reinterpret_cast<std::exception_ptr*>(failure) = std::current_exception();
+    *reinterpret_cast<bool*>(isOutOfMemory) = true;
   }
   return TRUE;
 }
@@ -43,10 +44,11 @@ BOOL CALLBACK RewriteChild(HWND child, LPARAM failure) {
 
 BOOL RewriteWindowTexts(HWND window) {
   RewriteWindowText(window);
-  std::exception_ptr failure;
-  const BOOL result = EnumChildWindows(window, RewriteChild, reinterpret_cast<LPARAM>(&failure));
-  if (failure) {
-    std::rethrow_exception(failure);
+  bool isOutOfMemory = false;
+  const BOOL result =
+      EnumChildWindows(window, RewriteChild, reinterpret_cast<LPARAM>(&isOutOfMemory));
+  if (isOutOfMemory) {
+    throw std::bad_alloc();
   }
   return result;
 }
