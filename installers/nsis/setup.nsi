@@ -171,6 +171,8 @@ Section Uninstall
   ReadRegStr $8 HKLM "${UNINSTALL_KEY}" Uninstaller
   !insertmacro RemoveProduct
   ; With _?= the removal runs from this folder: what is left of it goes at the next start of Windows.
-  Delete /REBOOTOK "$INSTDIR\$8"
-  RMDir /REBOOTOK "$INSTDIR"
+  ${If} ${FileExists} "$INSTDIR\$8"
+    Delete /REBOOTOK "$INSTDIR\$8"
+    RMDir /REBOOTOK "$INSTDIR"
+  ${EndIf}
 SectionEnd
