@@ -18,10 +18,10 @@ struct ModuleTraits {
 
 // A library that this process has loaded, freed with FreeLibrary; null when there is none. A module
 // that is only looked up (GetModuleHandleW) is a plain HMODULE.
-//   const OwnedModule library = LoadSystemLibrary(L"secur32.dll");  //
-//   lib/platform/system_library.h auto* const getName = KELVO_FIND_FUNCTION(library.get(),
-//   GetUserNameExW); const bool isKnown = getName != nullptr && getName(NameDisplay, name, &size)
-//   != FALSE;
+//   // With lib/platform/system_library.h:
+//   const OwnedModule library = LoadSystemLibrary(L"secur32.dll");
+//   auto* const getName = KELVO_FIND_FUNCTION(library.get(), GetUserNameExW);
+//   const bool isKnown = getName != nullptr && getName(NameDisplay, name, &size) != FALSE;
 using OwnedModule = Owned<internal::ModuleTraits>;
 
 // Returns the function that `module` exports as `name` (GetProcAddress), or null when the module is
