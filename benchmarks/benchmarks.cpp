@@ -12,8 +12,11 @@
 #include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <ranges>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "lib/platform/owned.h"
@@ -69,12 +72,17 @@ std::wstring Repeated(const std::wstring& text, int times) {
   return all;
 }
 
-std::size_t Walk(WString list, bool collapse) {
+std::size_t Walk(kelvo::StringTokenizer& items) {
   std::size_t units = 0;
-  for (kelvo::StringTokenizer items(std::move(list), L";", collapse); items.HasMoreTokens();) {
+  while (items.HasMoreTokens()) {
     units += items.NextToken().length();
   }
   return units;
+}
+
+std::size_t WalkItems(const wchar_t* item, int items) {
+  kelvo::StringTokenizer tokenizer(WString(Repeated(item, items)), L";", true);
+  return Walk(tokenizer);
 }
 
 std::size_t BareLoop(const std::wstring& list, bool collapse) {
@@ -95,19 +103,26 @@ std::size_t BoostSplit(const std::wstring& list, boost::algorithm::token_compres
   return items.size();
 }
 
-// A tokenizer keeps its text, and takes over one that its caller has no more use for.
-std::function<std::size_t()> WalkOneOfMany(const std::wstring& list, bool collapse) {
-  return [collapse, texts = std::vector<WString>(kRuns, WString(list))]() mutable {
-    const std::size_t units = Walk(std::move(texts.back()), collapse);
-    texts.pop_back();
-    return units;
+// Work that uses up its input gets one for each run. None is freed while the clock runs: what fresh
+// memory costs would hide the work.
+template <typename Input, typename Work>
+std::function<std::size_t()> OnItsOwn(const Input& input, Work work) {
+  return [work, inputs = std::make_shared<std::vector<Input>>(kRuns, input), run = 0U]() mutable {
+    return work(inputs->at(run++));
   };
+}
+
+std::function<std::size_t()> WalkItsOwn(const std::wstring& list, bool collapse) {
+  using Input = std::pair<WString, std::optional<kelvo::StringTokenizer>>;
+  return OnItsOwn(Input(WString(list), std::nullopt), [collapse](Input& own) {
+    return Walk(own.second.emplace(std::move(own.first), L";", collapse));
+  });
 }
 
 void MeasureSplitting(const std::wstring& list) {
   Measure(
       "split 100,000 items, collapsed (goal: the bare loop at 0.67 or more, both of boost above 1)",
-      {{"StringTokenizer", WalkOneOfMany(list, true)},
+      {{"StringTokenizer", WalkItsOwn(list, true)},
        {"find and substr in a bare loop", [&] { return BareLoop(list, true); }},
        {"views::split into std::wstring",
         [&] {
@@ -131,7 +146,7 @@ void MeasureSplitting(const std::wstring& list) {
         }},
        {"boost::split", [&] { return BoostSplit(list, boost::token_compress_on); }}});
   Measure("the same, not collapsed",
-          {{"StringTokenizer", WalkOneOfMany(list, false)},
+          {{"StringTokenizer", WalkItsOwn(list, false)},
            {"find and substr in a bare loop", [&] { return BareLoop(list, false); }},
            {"boost::split", [&] { return BoostSplit(list, boost::token_compress_off); }}});
 }
@@ -176,26 +191,24 @@ void MeasureShortNames() {
 }
 
 void MeasureReplacing(const std::wstring& text) {
+  std::wstring buffer = text;
+  buffer.resize(text.length() * 2);
   Measure("replace 50,000 hits (goal: both of boost above 1)",
           {{"ReplaceAll",
-            [&] {
-              WString copy(text);
-              return kelvo::ReplaceAll(copy, L"kite", L"heron");
-            }},
+            OnItsOwn(WString(text),
+                     [](WString& own) { return kelvo::ReplaceAll(own, L"kite", L"heron"); })},
+           {"ReplaceAllInBuffer", OnItsOwn(buffer,
+                                           [](std::wstring& own) {
+                                             return std::size_t{kelvo::ReplaceAllInBuffer(
+                                                                    own.data(), own.length(),
+                                                                    L"kite", L"heron") != FALSE};
+                                           })},
            {"boost::replace_all_copy",
             [&] { return boost::replace_all_copy(text, L"kite", L"heron").length(); }},
-           {"boost::replace_all",
-            [&] {
-              std::wstring copy = text;
-              boost::replace_all(copy, L"kite", L"heron");
-              return copy.length();
-            }},
-           {"ReplaceAllInBuffer", [&] {
-              std::wstring buffer = text;
-              buffer.resize(text.length() * 2);
-              return static_cast<std::size_t>(
-                  kelvo::ReplaceAllInBuffer(buffer.data(), buffer.length(), L"kite", L"heron"));
-            }}});
+           {"boost::replace_all", OnItsOwn(text, [](std::wstring& own) {
+              boost::replace_all(own, L"kite", L"heron");
+              return own.length();
+            })}});
 }
 
 // Linear work costs twice as much for twice the input.
@@ -205,9 +218,9 @@ void MeasureGrowth() {
                     {"200,000", [&] { return work(200'000); }}});
   };
   growth("StringTokenizer, twice the items (goal: at most 2.3)",
-         [](int items) { return Walk(WString(Repeated(L"brindle;", items)), true); });
+         [](int items) { return WalkItems(L"brindle;", items); });
   growth("StringTokenizer, a run of delimiters twice as long (2.3)",
-         [](int items) { return Walk(WString(Repeated(L";;;;;;;;", items)), true); });
+         [](int items) { return WalkItems(L";;;;;;;;", items); });
   growth("CompareNoCase, twice the length (2.3)", [](int items) {
     return static_cast<std::size_t>(kelvo::CompareNoCase(
         Repeated(L"Brindle\u0416", items).c_str(), Repeated(L"bRINDLE\u0436", items).c_str()));
