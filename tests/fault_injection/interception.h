@@ -100,14 +100,22 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   return fails ? (Result)failure : result;
 }
 
-#define WATCH(function, failure, handles, ...)                                                \
-  Watched {                                                                                   \
-    #function, reinterpret_cast<void*>(static_cast<decltype(&::function)>([](auto... given) { \
-      return Intercept<decltype(&::function)>(#function, failure, handles,                    \
-                                              std::string_view{__VA_ARGS__}, given...);       \
-    })),                                                                                      \
-        (handles) == kCloses                                                                  \
-  }
+// Rows for functions that fail in the same way: WATCH(failure, handles, closers, function, ...).
+#define WATCH(...) KELVO_64(KELVO_WATCH(__VA_ARGS__))
+#define KELVO_WATCH(failure, handles, closers, function, ...)                                    \
+  Watched{                                                                                       \
+      #function, reinterpret_cast<void*>(static_cast<decltype(&::function)>([](auto... given) {  \
+        return Intercept<decltype(&::function)>(#function, failure, handles, closers, given...); \
+      })),                                                                                       \
+      (handles) == kCloses} __VA_OPT__(, KELVO_WATCH_NEXT KELVO_NONE(failure, handles, closers,  \
+                                                                     __VA_ARGS__))
+// A macro is not expanded within itself: each pass over the rest takes one function off.
+#define KELVO_WATCH_NEXT() KELVO_WATCH
+#define KELVO_NONE ()
+#define KELVO_64(...) KELVO_16(KELVO_16(KELVO_16(KELVO_16(__VA_ARGS__))))
+#define KELVO_16(...) KELVO_4(KELVO_4(KELVO_4(KELVO_4(__VA_ARGS__))))
+#define KELVO_4(...) KELVO_1(KELVO_1(KELVO_1(KELVO_1(__VA_ARGS__))))
+#define KELVO_1(...) __VA_ARGS__
 
 // Directs a module's imports to the table.
 template <typename Table>

@@ -14,7 +14,12 @@ namespace kelvo::test {
 
 // A folder of this test's own, deleted with everything in it along with this object.
 struct ScratchFolder {
-  ScratchFolder() { std::filesystem::create_directories(path); }
+  // Under the next number that no other test, or one that crashed, has taken.
+  ScratchFolder() {
+    do {
+      path = std::filesystem::temp_directory_path() / (L"kelvo test " + std::to_wstring(++made));
+    } while (!std::filesystem::create_directory(path));
+  }
   ScratchFolder(const ScratchFolder&) = delete;
   ~ScratchFolder() {
     std::error_code ignored;
@@ -30,9 +35,7 @@ struct ScratchFolder {
   }
 
   static inline int made = 0;
-  std::filesystem::path path =
-      std::filesystem::temp_directory_path() /
-      (L"kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " + std::to_wstring(++made));
+  std::filesystem::path path;
 };
 
 // The file's bytes; empty when it cannot be read.
