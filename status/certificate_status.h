@@ -10,11 +10,12 @@ namespace kelvo {
 // Both look into a system store of the local machine, opened read-only (CertOpenStore).
 
 // Reads the certificate in `file` and returns an item of this kind, present when the store holds
-// the same certificate (CryptQueryObject, CertFindCertificateInStore with CERT_FIND_EXISTING). It
-// is shown by its SHA-1 hash and said to have expired after its last moment.
+// the same certificate (CryptQueryObject, CertFindCertificateInStore with CERT_FIND_EXISTING). Its
+// details are subject, issuer, thumbprint (the SHA-1 hash), the end of its validity, and whether it
+// has expired.
 //
 // The file holds one certificate in binary, Base64 or hexadecimal form; of several in Base64, as in
-// a PEM file with a chain, the first is looked at. For a collection (PKCS #7, a serialized store)
+// a PEM file with a chain, only the first is read. For a collection (PKCS #7, a serialized store)
 // the item is unknown with CRYPT_E_NO_MATCH.
 Item QueryCertificate(const char* kind, const WString& file, const wchar_t* storeName);
 

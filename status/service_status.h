@@ -17,8 +17,8 @@ enum class DeviceSearch { kNone, kBluetoothBus };
 //   - Certain: the bus makes such nodes for services of remote devices too, and theirs have the
 //     remote device's address. Not seen on a radio: the ids of the service's own node. Incoming
 //     serial ports, other local services, have "_LOCALMFG&0000" and an address of zero.
-//   - The nodes go with the radio, and may come a moment after the registration: "absent" is no
-//     proof while the radio is off or pulled.
+//   - The nodes disappear with the radio, and may appear a moment after the registration: "absent" is no
+//     proof while the radio is off or unplugged.
 Item QueryService(DeviceSearch search);
 
 }  // namespace kelvo
