@@ -1,6 +1,6 @@
-// Measures the library's strings beside their peers, and the start and the size of sorrel.exe. Each
-// line is the median of interleaved runs: in milliseconds, and as a ratio to the first line of its
-// group, which is ours.
+// Compares the library's strings with their peers, and measures the start and the size of
+// sorrel.exe. Each line is the median of interleaved runs: in milliseconds, and as a ratio to the
+// first line of its group, which is ours.
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-# Run by CPack when the archives are made: looks into them for what must not leave the house, and writes SHA256SUMS and a
+# Run by CPack when the archives are made: checks that they hold nothing private, and writes SHA256SUMS and a
 # bill of materials (SPDX 2.3, from bill_of_materials.json.in) for them.
 
 cmake_minimum_required(VERSION 3.25)

@@ -33,7 +33,7 @@ namespace {
 constexpr int kSuccess = 0;
 constexpr int kFailure = 1;
 
-int Tell(const WString& text, int exitCode) {
+int Print(const WString& text, int exitCode) {
   const DWORD device = exitCode == kSuccess ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE;
   return kelvo::WriteUtf8(device, kelvo::ToVisibleUtf8(text) + "\n") ? exitCode : kFailure;
 }
@@ -43,26 +43,26 @@ int Read(const wchar_t* path, const wchar_t* /*unused*/) {
   WString key;
   WString name;
   if (!kelvo::ParseRegistryValuePath(path, root, key, name)) {
-    return Tell(L"Not the path of a registry value", kFailure);
+    return Print(L"Not the path of a registry value", kFailure);
   }
   if (!kelvo::RegistryValueExists(root, key.c_str(), name.c_str())) {
-    return Tell(L"There is no such value", kFailure);
+    return Print(L"There is no such value", kFailure);
   }
-  return Tell(kelvo::RegistryReadString(root, key.c_str(), name.c_str(), L"(not a string)"),
-              kSuccess);
+  return Print(kelvo::RegistryReadString(root, key.c_str(), name.c_str(), L"(not a string)"),
+               kSuccess);
 }
 
 int Grant(const wchar_t* file, const wchar_t* sid) {
   constexpr DWORD kRights = FILE_GENERIC_READ | FILE_WRITE_DATA | FILE_APPEND_DATA;
   return kelvo::AddFileAccessRights(file, sid, kRights) != FALSE
-             ? Tell(L"Granted", kSuccess)
-             : Tell(L"The access list could not be changed", kFailure);
+             ? Print(L"Granted", kSuccess)
+             : Print(L"The access list could not be changed", kFailure);
 }
 
 int Start(const wchar_t* program, const wchar_t* arguments) {
   kelvo::OwnedKernelObject process;
   if (!kelvo::LaunchInUserSession(program, arguments, true, process.Receive())) {
-    return Tell(L"The program could not be started", kFailure);
+    return Print(L"The program could not be started", kFailure);
   }
   DWORD exitCode = kFailure;
   GetExitCodeProcess(process.get(), &exitCode);
@@ -73,14 +73,14 @@ int StartAndWaitUntilReady(const wchar_t* program, const wchar_t* mutex) {
   constexpr DWORD kTimeoutMs = 10'000;
   switch (kelvo::StartProcessAndWaitForMutex(program, nullptr, false, mutex, kTimeoutMs)) {
     case kelvo::kMutexAppeared:
-      return Tell(L"Ready", kSuccess);
+      return Print(L"Ready", kSuccess);
     case kelvo::kNotStarted:
-      return Tell(L"The program could not be started", kFailure);
+      return Print(L"The program could not be started", kFailure);
     case kelvo::kClosedWhileWaiting:
     case kelvo::kTimedOut:
       break;
   }
-  return Tell(L"The program is not ready after ten seconds", kFailure);
+  return Print(L"The program is not ready after ten seconds", kFailure);
 }
 
 struct Command {
@@ -95,10 +95,10 @@ constexpr Command kCommands[] = {
 
 extern "C" int wmain(int count, wchar_t** words) {
   if (count < 3) {
-    return Tell(L"setup_helper read|grant|start|ready ...", kFailure);
+    return Print(L"setup_helper read|grant|start|ready ...", kFailure);
   }
   const auto* const command = std::ranges::find_if(
       kCommands, [&](const Command& known) { return std::wcscmp(known.name, words[1]) == 0; });
   return command != std::end(kCommands) ? command->run(words[2], count > 3 ? words[3] : L"")
-                                        : Tell(L"There is no such command", kFailure);
+                                        : Print(L"There is no such command", kFailure);
 }

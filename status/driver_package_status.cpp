@@ -167,7 +167,7 @@ Item QueryDriverPackage(const WString& infPath) {
   }
   WString provider;
   WString driverVersion;
-  // From the given file: Windows may write a compiled form of an INF beside its published copy.
+  // From the given file: Windows may write a compiled form of an INF next to its published copy.
   error = ReadVersion(infPath, provider, driverVersion);
   Item item{kKind,
             State::kPresent,

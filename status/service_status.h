@@ -13,11 +13,12 @@ enum class DeviceSearch { kNone, kBluetoothBus };
 //   - A device counts when it is present, one of its hardware ids begins with "BTHENUM\" and the
 //     service's class identifier in braces, and it is not certainly that of a paired remote device:
 //     its instance id ends in an address that is zero or, where it has no address, no hardware id
-//     goes on with "_VID" or with "_LOCALMFG&" and a number that is not 0000.
+//     continues with "_VID" or with "_LOCALMFG&" and a number that is not 0000.
 //   - Certain: the bus makes such nodes for services of remote devices too, and theirs have the
 //     remote device's address. Not seen on a radio: the ids of the service's own node. Incoming
 //     serial ports, other local services, have "_LOCALMFG&0000" and an address of zero.
-//   - The nodes disappear with the radio, and may appear a moment after the registration: "absent" is no
+//   - The nodes disappear with the radio, and may appear a moment after the registration: "absent"
+//   is no
 //     proof while the radio is off or unplugged.
 Item QueryService(DeviceSearch search);
 

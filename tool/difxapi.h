@@ -26,7 +26,7 @@ struct INSTALLERINFO_W {
 
 inline constexpr DWORD DRIVER_PACKAGE_SILENT = 0x00000002;
 
-// Makes `callback` receive the interface's log events; null ends that.
+// Sets the callback for log events; null removes it.
 void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);
 
 // Installs the driver package of a fully qualified INF path. Stores in `needReboot` whether the

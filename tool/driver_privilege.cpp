@@ -9,7 +9,7 @@ bool EnableLoadDriverPrivilege() {
   // The adjustment also succeeds when the token lacks the privilege: only the last error shows it.
   const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {
-    // One wording for all three calls; the code tells them apart.
+    // One wording for all three calls; only the code differs.
     Report(L"ERR: OpenProcessToken failed, err = %08lX\n", error);
   }
   return error == ERROR_SUCCESS;

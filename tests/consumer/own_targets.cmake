@@ -1,4 +1,4 @@
-# What a consumer may have of its own: tests, a target of a common name, and a program that links all of the library, so
+# What a consumer's project may have, too: tests, a target of a common name, and a program that links all of the library, so
 # that no library of Windows that it needs is forgotten.
 enable_testing()
 add_custom_target(benchmarks)

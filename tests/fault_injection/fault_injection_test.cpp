@@ -130,7 +130,7 @@ struct Machine : ProgramFolder {
   // fails, and the run begins with what the last one left.
   enum class How { kFails, kEnds, kGoesOn };
 
-  // Runs an operation in a library where nothing has run yet, and tells all that came of it: what
+  // Runs an operation in a library where nothing has run yet, and returns all that came of it: what
   // was written, the answer, what changed in the list and the stores, what is open, and the
   // journal. Nothing when the table has no more.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {

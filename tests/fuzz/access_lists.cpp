@@ -41,7 +41,7 @@ static void Break(std::string& list, Input& input) {
   if (input.Number(7) == 1) {
     list.resize(std::max(input.Number(list.size()), sizeof(ACL)) / 4 * 4);
   }
-  // A list that claimed more bytes than it has could not be told from one that has them.
+  // Nothing could distinguish a list that claims more bytes than it has from one that has them.
   WORD claimed = 0;
   std::memcpy(&claimed, &list[2], sizeof(claimed));
   claimed = std::min(claimed, static_cast<WORD>(list.size()));
@@ -61,7 +61,7 @@ static const Target kAccessLists("access lists", [](Input& input) {
   const DWORD found = FindACEInACL(acl, ace);
   Expect(found == kNoAceIndex || found < acl->AceCount, "an entry is found within the list");
   const DWORD place = GetACEInsertionIndex(acl, ace);
-  Expect(place == kNoAceIndex || place <= acl->AceCount, "an entry goes within the list");
+  Expect(place == kNoAceIndex || place <= acl->AceCount, "an entry is inserted within the list");
   const DWORD needed = CalculateACLSize(acl, nullptr, 0, &ace, 1);
   const DWORD size = std::clamp<DWORD>(needed, 64, 0xFFFC) / 4 * 4;
   const GuardedMemory copy(size, input.Chance());

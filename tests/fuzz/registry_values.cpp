@@ -11,7 +11,7 @@ namespace kelvo::fuzz {
 constexpr const wchar_t* kKey = L"Software\\kelvo fuzz";
 constexpr const wchar_t* kName = L"value";
 
-// What the readers take for the text: up to the first NUL, half a unit as one of its own.
+// What the readers take for the text: up to the first NUL, with half a unit counted as one.
 static std::wstring TextIn(const std::string& data) {
   std::wstring text((data.size() + 1) / 2, L'\0');
   std::memcpy(text.data(), data.data(), data.size());

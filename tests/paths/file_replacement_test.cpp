@@ -9,10 +9,10 @@ TEST_CASE("ScheduleFileReplace: the system's list, or WININIT.INI on Windows 9x"
   const ScratchFolder folder;
   const std::wstring source = folder.Write("new long file.txt", "new");
   const std::wstring target = folder / std::wstring(150, L't');
-  const auto tell = [&](wchar_t* buffer) {
+  const auto give = [&](wchar_t* buffer) {
     return static_cast<UINT>(lstrlenW(lstrcpyW(buffer, folder.path.c_str())));
   };
-  REPLACE(GetTempPathW, [&](auto, auto, auto buffer) -> DWORD { return tell(buffer); });
+  REPLACE(GetTempPathW, [&](auto, auto, auto buffer) -> DWORD { return give(buffer); });
   std::vector<std::wstring> moved;
   BOOL isMoved = FALSE;
   REPLACE(MoveFileExW, [&](auto, LPCWSTR from, LPCWSTR to, DWORD flags) {
@@ -34,7 +34,7 @@ TEST_CASE("ScheduleFileReplace: the system's list, or WININIT.INI on Windows 9x"
   }
 
   REPLACE(GetVersionExW, [](auto...) { return FALSE; });
-  REPLACE(GetWindowsDirectoryW, [&](auto, auto buffer, auto) { return tell(buffer); });
+  REPLACE(GetWindowsDirectoryW, [&](auto, auto buffer, auto) { return give(buffer); });
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), source.c_str(), false));
   CHECK(ScheduleFileReplace(nullptr, source.c_str(), target.c_str(), false));
   wchar_t shortName[MAX_PATH];

@@ -145,13 +145,13 @@ TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
     return fail(given...);
   });
   // RunAsUser leaves its token open.
-  using Road = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
+  using Path = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
   for (const auto& [minor, ownSession, tells, duplicates, desktop, happens] :
-       {Road{1, 5, true, true, nullptr, "close1start2close2"},
-        Road{1, 3, true, false, nullptr, "start1close1"},
-        Road{1, 5, false, true, L"kelvo other", "caller"},
-        Road{0, 3, true, true, L"kelvo other", "caller"}, Road{0, 0, true, true, nullptr, "caller"},
-        Road{0, 0, true, true, L"kelvo other", "start2"}}) {
+       {Path{1, 5, true, true, nullptr, "close1start2close2"},
+        Path{1, 3, true, false, nullptr, "start1close1"},
+        Path{1, 5, false, true, L"kelvo other", "caller"},
+        Path{0, 3, true, true, L"kelvo other", "caller"}, Path{0, 0, true, true, nullptr, "caller"},
+        Path{0, 0, true, true, L"kelvo other", "start2"}}) {
     const DesktopScope scope(nullptr, desktop);
     const ReplacedExport console("WTSGetActiveConsoleSessionId", tells ? tell : nullptr);
     const auto windows = PretendWindows(2, 5, minor);

@@ -4,7 +4,7 @@
 #include "tests/support/desktop_scope.h"
 
 // Its first thread notes its desktop and ends at once. The second one waits for the event that the
-// first argument names, writes the command line and the desktop into a file beside itself, reports
+// first argument names, writes the command line and the desktop into a file next to itself, reports
 // that by the event "..._done" and ends the program with 7.
 static std::wstring desktop;
 

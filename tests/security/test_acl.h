@@ -9,7 +9,7 @@
 
 namespace kelvo::test {
 
-// An entry as it lies in a list, with the SID S-1-5-19, which is "LS" in SDDL.
+// An entry as it is stored in a list, with the SID S-1-5-19, which is "LS" in SDDL.
 struct TestAce {
   ACCESS_ALLOWED_ACE* get() { return reinterpret_cast<ACCESS_ALLOWED_ACE*>(this); }
 

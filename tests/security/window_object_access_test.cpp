@@ -11,7 +11,7 @@ static TestAce localService;
 
 TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: one explicit entry, where there is a list") {
   const WindowObjects scope;
-  // Ends where the entry goes: Wine's AddAce appends, whatever the index.
+  // Ends where the entry is inserted: Wine's AddAce appends, whatever the index.
   const std::wstring before = L"D:(D;;CC;;;LS)(D;;CC;;;WD)";
   WriteDacl(scope.station, before);
   WriteDacl(scope.desktop, before);

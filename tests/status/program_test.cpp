@@ -18,7 +18,7 @@ static std::wstring FromUtf8(const std::string& text) {
 }
 
 // On a clean machine a folder, the current one, with certificates, INF files, sorrel_status.exe
-// beside the simulator's libraries, and a copy of it beside a driver library that has a version.
+// with the simulator's libraries, and a copy of it with a driver library that has a version.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},

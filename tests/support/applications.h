@@ -53,7 +53,7 @@ struct CleanMachine {
 };
 
 // On such a machine a folder with sorrel.exe, the simulator's libraries and certificates, the
-// current one while this lives, and further copies: the path in the folder of this test program,
+// current one until this is destroyed, and further copies: the path in the folder of this program,
 // then in the new folder.
 struct ProgramFolder : CleanMachine, ScratchFolder {
   ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {

@@ -6,8 +6,8 @@
 
 namespace kelvo::test {
 
-// Puts this process on the window station and this thread on the desktop of the given names, both
-// made when they are not there, as long as it lives. Null leaves the process where it is.
+// Puts this process on the window station and this thread on the desktop of the given names, until
+// it is destroyed. Makes those that do not exist. Null leaves the process where it is.
 struct DesktopScope {
   DesktopScope(const wchar_t* stationName, const wchar_t* desktopName) {
     constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;

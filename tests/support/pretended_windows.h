@@ -6,7 +6,7 @@
 
 namespace kelvo::test {
 
-// While what it returns lives, GetVersionExW reports this Windows, build 1381:
+// GetVersionExW reports this Windows, build 1381, until what this returns is destroyed:
 //   const auto vista = PretendWindows(VER_PLATFORM_WIN32_NT, 6, 0);
 inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
                            const wchar_t* servicePack = L"") {

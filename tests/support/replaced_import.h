@@ -63,8 +63,8 @@ inline void* SwapImport(const std::string& function, void* target,
                              : throw std::runtime_error("this module does not import " + function);
 }
 
-// While it lives, `replacement` is called in place of an imported function, with the original
-// function and then that function's own arguments.
+// Until it is destroyed, `replacement` is called in place of an imported function, with the
+// original function and then the arguments of the call.
 template <typename Function, typename Replacement>
 struct ReplacedImport;
 
@@ -107,8 +107,8 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
     return original(parameters...);                          \
   })
 
-// While it lives, GetProcAddress returns `function` for the export `name` of any module; null
-// means a Windows that does not have it.
+// Until it is destroyed, GetProcAddress returns `function` for the export `name` of any module;
+// null means a Windows that does not have it.
 struct ReplacedExport {
   ReplacedExport(const char* exported, void* function) : name(exported) {
     replaced[name] = reinterpret_cast<FARPROC>(function);

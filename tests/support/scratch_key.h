@@ -33,7 +33,7 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
   REQUIRE(RegSetKeyValueW(root, subkey, name, type, units.data(), size) == ERROR_SUCCESS);
 }
 
-// As long as it lives, this process finds `key`, empty at first, in place of one of Windows'
+// Until it is destroyed, this process finds `key`, empty at first, in place of one of Windows'
 // predefined keys. Tests write and delete through `key`, never through the predefined one.
 struct StandInKey {
   explicit StandInKey(HKEY replaced) : predefined(replaced) {

@@ -4,22 +4,22 @@
 #include "lib/sysinfo/user_name.h"
 #include "tests/support/testing.h"
 
-static std::wstring told;
+static std::wstring given;
 
-static UINT WINAPI TellDirectory(wchar_t* buffer, UINT size) {
-  buffer[told.copy(buffer, size - 1)] = L'\0';
-  return static_cast<UINT>(told.length()) + (told.length() < size ? 0 : 1);
+static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
+  buffer[given.copy(buffer, size - 1)] = L'\0';
+  return static_cast<UINT>(given.length()) + (given.length() < size ? 0 : 1);
 }
 
 // The first character says which format was asked for. The host's own name is a short one.
-static BOOL WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
-  const std::size_t length = format == ComputerNameDnsHostname ? 1 : told.length();
+static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
+  const std::size_t length = format == ComputerNameDnsHostname ? 1 : given.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));
   SetLastError(ERROR_MORE_DATA);
-  if (told.empty() || told.length() >= room) {
+  if (given.empty() || given.length() >= room) {
     return FALSE;
   }
-  TellDirectory(buffer, room);
+  GiveDirectory(buffer, room);
   *buffer = static_cast<wchar_t>(L'0' + format);
   return TRUE;
 }
@@ -27,7 +27,7 @@ static BOOL WINAPI TellName(int format, wchar_t* buffer, ULONG* size) {
 static WString x(std::size_t count) { return {count, L'x'}; }
 
 TEST_CASE("system directories: one separator at the end, within the buffer") {
-  REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return TellDirectory(to...); });
+  REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return GiveDirectory(to...); });
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},
                              {L"", L"", L""},
@@ -36,8 +36,8 @@ TEST_CASE("system directories: one separator at the end, within the buffer") {
                              {x(1023), L"", x(1023) + L"\\"},
                              {x(1024), L"", L""}};
   for (const auto& [directory, systemPath, wow64Path] : rows) {
-    told = directory.c_str();
-    const ReplacedExport wow64("GetSystemWow64DirectoryW", &TellDirectory);
+    given = directory.c_str();
+    const ReplacedExport wow64("GetSystemWow64DirectoryW", &GiveDirectory);
     CHECK(GetSystemWow64DirectoryPath() == wow64Path);
     CHECK(GetSystemDirectoryPath() == systemPath);
     CHECK(GetNativeSystemDirectoryPath() == systemPath);
@@ -49,17 +49,17 @@ TEST_CASE("system directories: one separator at the end, within the buffer") {
 TEST_CASE("user and computer names: the format asked for, else the plain one") {
   // Wine takes long to load it for each name.
   const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
-  const auto tell = [](auto, wchar_t* name, DWORD* size) {
-    return TellDirectory(name, *size) < *size ? TRUE : FALSE;
+  const auto give = [](auto, wchar_t* name, DWORD* size) {
+    return GiveDirectory(name, *size) < *size ? TRUE : FALSE;
   };
-  REPLACE(GetUserNameW, tell);
-  REPLACE(GetComputerNameW, tell);
+  REPLACE(GetUserNameW, give);
+  REPLACE(GetComputerNameW, give);
   for (const std::size_t length : {1U, 15U, 16U, 100U, 101U, 255U, 256U, 257U, 1000U}) {
-    told.assign(length, L'x');
+    given.assign(length, L'x');
     CHECK(GetAccountName() == x(length > 256 ? 0 : length));
     {
-      const ReplacedExport user("GetUserNameExW", &TellName);
-      const ReplacedExport computer("GetComputerNameExW", &TellName);
+      const ReplacedExport user("GetUserNameExW", &GiveName);
+      const ReplacedExport computer("GetComputerNameExW", &GiveName);
       CHECK(GetUserNameInFormat(NameSamCompatible) == L"2" + x(length - 1));
       CHECK(GetUserNameInFormat(NameUnknown).empty());
       CHECK(GetUserNameFQ() == L"8" + x(length - 1));

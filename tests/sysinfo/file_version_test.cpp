@@ -15,7 +15,7 @@ TEST_CASE("file versions: sound and hostile files as in file_versions.txt") {
   int freed = 0;
   COUNT_CALLS(GlobalUnlock, freed);
   COUNT_CALLS(GlobalFree, freed);
-  // What lies in memory before and, as "!!", after the resource.
+  // Fills the memory in front of the resource and, with "!!", behind it.
   REPLACE(GlobalLock, [](auto original, auto memory) {
     return std::memset(original(memory), 0x11, GlobalSize(memory));
   });
@@ -81,14 +81,14 @@ TEST_CASE("IsIEVersionAtLeast: looks in the system directory, restores the name"
 
 TEST_CASE("GetComCtlVersion: the library's version, or 4.0") {
   static HRESULT result;
-  const auto tell = +[](DLLVERSIONINFO* version) -> HRESULT {
+  const auto report = +[](DLLVERSIONINFO* version) -> HRESULT {
     *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};
     return result;
   };
   const OwnedModule kept(LoadLibraryW(L"comctl32.dll"));
   DWORD major = 77, minor = 77;
   {
-    const ReplacedExport version("DllGetVersion", tell);
+    const ReplacedExport version("DllGetVersion", report);
     result = E_ABORT;
     CHECK_BOTH(GetComCtlVersion(&major, &minor) == E_FAIL, GetComCtlVersionPacked() == 0);
     CHECK_BOTH(major == 77, minor == 77);

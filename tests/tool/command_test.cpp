@@ -7,7 +7,7 @@
 
 // On a machine with no dependent application recorded and both certificate stores empty, a folder,
 // the current one, with certificates and these programs:
-//   sorrel.exe, with the simulator's libraries beside it
+//   sorrel.exe, with the simulator's libraries
 //   alone\sorrel.exe, with none
 //   swapped\sorrel.exe, with each library under the other's name, hence without its functions
 //   without_security.exe and without_crypt32.exe, for which Wine has no such library
@@ -25,14 +25,14 @@ struct Rehearsal : ProgramFolder {
       RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), library.c_str(), REG_SZ, L"", 2);
     }
     Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
-    // From no bytes at all Wine 8 makes whatever lies on its stack.
+    // Of a file of 0 bytes Wine 8 would import whatever is on its stack.
     Write("empty.cer", "\n");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
 
-  // Runs a command line; words NAME=value before the program set a variable for this run. Tells all
-  // that came of it: what it wrote, its exit code, the list of applications and the certificates in
-  // each store, then the journal.
+  // Runs a command line; words NAME=value before the program set a variable for this run. Returns
+  // all that came of it: what it wrote, its exit code, the list of applications and the
+  // certificates in each store, then the journal.
   static std::string Run(std::wstring line) {
     std::filesystem::remove("journal");
     std::vector<std::wstring> variables;
