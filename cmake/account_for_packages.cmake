@@ -15,7 +15,7 @@ macro(append array kind)
   list(APPEND ${array} "${object}")
 endmacro()
 
-# Where this was built, as debug information would name it; a private key. Names of tests and of keys.
+# Neither the folder that it was built in, as debug information names it, nor a private key. No names of tests or keys.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")

@@ -10,7 +10,7 @@ set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_AR llvm-ar-19)
 set(CMAKE_RANLIB llvm-ranlib-19)
 
-# As if x86intrin.h were included already. The processor's vector functions are half of what mingw's windows.h brings: each
+# Pretends that x86intrin.h is included already. The processor's vector functions are half of what mingw's windows.h brings: each
 # source would be compiled, and looked through by clang-tidy, twice as long. A project that calls them leaves this out.
 set(CMAKE_C_FLAGS_INIT -D__X86INTRIN_H)
 set(CMAKE_CXX_FLAGS_INIT -D__X86INTRIN_H)
@@ -24,7 +24,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 
-# Not in the package of the library, which has this file, too.
+# Missing in the library's package, which has this file, too.
 if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/../scripts/wine)
   set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../scripts/wine;${CMAKE_BINARY_DIR}/wine")
 endif()

@@ -1,4 +1,4 @@
-// The examples in the library's headers, each in a function: here they compile. Nothing calls them.
+// Compiles the examples of the library's headers, each in a function. Nothing calls them.
 
 #define SECURITY_WIN32
 #include <windows.h>
@@ -18,36 +18,36 @@
 #include "lib/trace/trace_sink.h"
 #include "lib/ui/localised_file.h"
 
-// NOLINTBEGIN(misc-use-internal-linkage): unused where it is internal
+// NOLINTBEGIN(misc-use-internal-linkage): internal ones would count as unused
 namespace kelvo::examples {
 
-BOOL RunsAsUser() {
+BOOL RunAsUserExample() {
   wchar_t command[] = L"\"C:\\Program Files\\App\\app.exe\" /start";
   OwnedKernelObject process;
   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());
   return isStarted;
 }
 
-BOOL LaunchesInUserSession(DWORD& exitCode) {
+BOOL LaunchInUserSessionExample(DWORD& exitCode) {
   OwnedKernelObject process;
   LaunchInUserSession(L"C:\\App\\app.exe", L"/start", true, process.Receive());
   const BOOL hasEnded = GetExitCodeProcess(process.get(), &exitCode);
   return hasEnded;
 }
 
-StartResult StartsAndWaits() {
+StartResult StartAndWaitExample() {
   const StartResult result =
       StartProcessAndWaitForMutex(L"C:\\App\\app.exe", L"/start", false, L"App is ready", 10'000);
   return result;
 }
 
-BOOL AllowsUsersToRead() {
+BOOL AddFileAccessRightsExample() {
   const BOOL isAllowed =
       AddFileAccessRights(L"C:\\App\\log.txt", L"S-1-5-32-545", FILE_GENERIC_READ);
   return isAllowed;
 }
 
-void LogsSystemReport(WString& log) {
+void SystemReportExample(WString& log) {
   NameTextList report;
   CollectSystemReport(report);
   for (const auto& [name, text] : report) {
@@ -55,38 +55,38 @@ void LogsSystemReport(WString& log) {
   }
 }
 
-void UsesEachItem(const WString& list, void (*use)(const WString& item)) {
+void TokenizerExample(const WString& list, void (*use)(const WString& item)) {
   for (StringTokenizer items(list, L";", true); items.HasMoreTokens();) {
     use(items.NextToken());
   }
 }
 
-WString ReadsFolder() {
+WString RegistryReadStringExample() {
   const WString folder =
       RegistryReadString(HKEY_CURRENT_USER, L"Software\\App", L"Folder", L"C:\\App");
   return folder;
 }
 
-WString FindsTexts() {
+WString LocalisedFileExample() {
   const WString path = GetLocalisedFilePath(L"C:\\App", L"texts.dll", GetUserDefaultUILanguage(),
                                             LocalisedFileForm::kFolder);
   return path;
 }
 
-bool ReadsFullName(wchar_t* name, DWORD size) {
+bool FindFunctionExample(wchar_t* name, DWORD size) {
   const OwnedModule library = LoadSystemLibrary(L"secur32.dll");
   auto* const getName = KELVO_FIND_FUNCTION(library.get(), GetUserNameExW);
   const bool isKnown = getName != nullptr && getName(NameDisplay, name, &size) != FALSE;
   return isKnown;
 }
 
-void TracesToDebugger() {
+void TraceSinkExample() {
   SetTraceSink(
       [](const wchar_t* tag, const wchar_t* message) { DebugTrace(L"%s: %s", tag, message); });
 }
 
 // What WString has in common with std::wstring.
-std::size_t CountsBlanks(const WString& text) {
+std::size_t WStringExample(const WString& text) {
   std::size_t blanks = 0;
   for (const wchar_t unit : text) {
     blanks += unit == L' ' ? 1 : 0;

@@ -7,8 +7,8 @@
 #include "lib/string/format_text.h"
 #include "simulator/rehearsal.h"
 
-using namespace kelvo::simulator;  // NOLINT(google-build-using-namespace): this file is nothing
-                                   // else
+// NOLINTNEXTLINE(google-build-using-namespace): the whole file is part of the simulator
+using namespace kelvo::simulator;
 
 // NOLINTNEXTLINE(misc-use-internal-linkage): Windows calls it
 BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD reason, void* processEnds) {

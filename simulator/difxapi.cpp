@@ -8,16 +8,16 @@
 #include "lib/string/string_tokenizer.h"
 #include "simulator/rehearsal.h"
 
-using namespace kelvo::simulator;  // NOLINT(google-build-using-namespace): this file is nothing
-                                   // else
+// NOLINTNEXTLINE(google-build-using-namespace): the whole file is part of the simulator
+using namespace kelvo::simulator;
 
 namespace {
 
 DIFXAPILOGCALLBACK_W logCallback = nullptr;
 void* logContext = nullptr;
 
-// Calls back for each event in SORREL_SIMULATOR_DRIVER_LOG: "level,code,text", with "|" between
-// events. An event without a second comma has a null text.
+// Passes each event in SORREL_SIMULATOR_DRIVER_LOG to the callback: "level,code,text", with "|"
+// between events. An event without a second comma has a null text.
 void SendLogEvents() {
   const kelvo::WString events = TextFromEnvironment(L"SORREL_SIMULATOR_DRIVER_LOG");
   for (kelvo::StringTokenizer tokens(events, L"|", true); tokens.HasMoreTokens();) {

@@ -46,7 +46,7 @@ struct StoreKind {
 constexpr StoreKind kPublisher = {"publisher", kTrustedPublisherStore};
 constexpr StoreKind kIntermediate = {"intermediate", kIntermediateCaStore};
 
-// Where the driver installation interface is; it is not loaded.
+// Says where difxapi.dll is, without loading it.
 Item QueryInterface() {
   constexpr const char* kKind = "interface";
   constexpr const wchar_t* kLibrary = L"difxapi.dll";
@@ -59,7 +59,8 @@ Item QueryInterface() {
   return {kKind, State::kPresent, path, {TextDetail("version", L"version", version.data())}};
 }
 
-// Like IsAdmin, whatever the group's attributes are, but with as much room as the groups take.
+// Like IsAdmin, ignores the group's attributes; unlike IsAdmin, has no limit on the size of the
+// groups.
 DWORD QueryAdministrator(bool& isAdministrator) {
   OwnedKernelObject token;
   DWORD size = 0;
@@ -82,7 +83,7 @@ DWORD QueryAdministrator(bool& isAdministrator) {
 Item QuerySystem() {
   WString name = GetSystemVersionString();
   if (name.find(L"(") == 0) {
-    // From Windows 10 on it has no name, only the numbers.
+    // From Windows 10 on the string has no name, only the numbers.
     name = L"Windows " + name;
   }
   const WString numbers = GetSystemVersionNumbers();
@@ -115,7 +116,7 @@ std::vector<Item> AnswerInGeneral() {
   std::vector<Item> items = QueryApplications({});
   items.push_back(QueryStore(kPublisher.kind, kPublisher.storeName));
   items.push_back(QueryStore(kIntermediate.kind, kIntermediate.storeName));
-  // Without its device: the list of devices takes setupapi.dll, which makes a plain call slower.
+  // Skips the device: listing devices loads setupapi.dll, which slows a run without options.
   items.push_back(QueryService(DeviceSearch::kNone));
   items.push_back(QueryInterface());
   items.push_back(QuerySystem());
@@ -185,7 +186,7 @@ int AnswerCommandLine(int count, const wchar_t* const* words) {
   try {
     return Run(count, words);
   } catch (const std::exception&) {
-    // Not WriteUtf8, which takes memory.
+    // Not WriteUtf8, which allocates.
     constexpr std::string_view kText = "sorrel_status: not enough memory\r\n";
     DWORD written = 0;
     WriteFile(GetStdHandle(STD_ERROR_HANDLE), kText.data(), static_cast<DWORD>(kText.length()),

@@ -7,9 +7,9 @@
 
 namespace kelvo {
 
-// Both look into a system store of the local machine, opened read-only (CertOpenStore).
+// Both functions open a system store of the local machine read-only (CertOpenStore).
 
-// Reads the certificate in `file` and returns an item of this kind, present when the store holds
+// Reads the certificate in `file` and returns an item of `kind`, present when the store holds
 // the same certificate (CryptQueryObject, CertFindCertificateInStore with CERT_FIND_EXISTING). Its
 // details are subject, issuer, thumbprint (the SHA-1 hash), the end of its validity, and whether it
 // has expired.

@@ -1,6 +1,6 @@
 #include "status/command_line.h"
 
-// Its regular expressions would take more room than all the rest.
+// The parser's regular expressions would be larger than the rest of the program.
 #define CXXOPTS_NO_REGEX
 #include <cxxopts.hpp>
 
@@ -13,21 +13,21 @@ namespace {
 constexpr const char* kNotes = R"(
 Without options: everything that needs no file. That is the list of
 applications, the number of certificates in each store, bthprops.cpl,
-difxapi.dll and Windows itself. It looks at no driver package, at no device
-and for no certificate of the service.
+difxapi.dll and Windows itself. No driver package, device or certificate of
+the service is checked.
 
 With --service: devices that Windows made for paired remote devices do not
-count. Windows removes the service's own while the radio is off or unplugged,
-and may add it a moment after the registration: "absent" is then no proof.
+count. Windows removes the service's device while the radio is off or unplugged,
+and may add it a moment after the registration: "absent" then proves nothing.
 None of this has been seen on a real radio yet.
 
 Exit code: 0 everything asked for is present, 1 something is absent, 2 wrong
-command line, 3 something could not be looked at (whatever else is absent) or
-not all of the report could be written. A program that is started without a
+command line, 3 something could not be checked (even if something is absent)
+or not all of the report could be written. A program that is started without a
 standard output answers by its exit code alone.
 )";
 
-// The parser takes bytes. Each unit outside ASCII becomes three bytes outside ASCII, unpaired
+// The parser takes bytes. Each unit outside ASCII becomes three bytes, as in CESU-8, unpaired
 // surrogates too, so that every word comes back as it was.
 std::string ToBytes(std::wstring_view word) {
   std::string bytes;
@@ -63,11 +63,11 @@ cxxopts::Options MakeParser() {
       "                    [--application NAME]... [--service] [--json]");
   const auto word = [] { return cxxopts::value<std::string>(); };
   parser.add_options()  //
-      ("publisher", "its certificate is in the store TrustedPublisher", word(), "FILE")(
-          "intermediate", "its certificate is in the store CA", word(), "FILE")(
-          "inf", "its driver package is in the driver store", word(), "FILE")(
-          "application", "the application is on the list", word(), "NAME")(
-          "service", "the Bluetooth stack has a device for the service")(
+      ("publisher", "check that its certificate is in TrustedPublisher", word(), "FILE")(
+          "intermediate", "check that its certificate is in CA", word(), "FILE")(
+          "inf", "check that its driver package is in the driver store", word(), "FILE")(
+          "application", "check that the application is on the list", word(), "NAME")(
+          "service", "check that Bluetooth has a device for the service")(
           "json", "write one JSON object in ASCII")("help", "show this text")(
           "version", "show the program's version");
   return parser;
@@ -84,7 +84,7 @@ bool TakeOption(const std::string& option, const WString& value, Questions& ques
   } else if (option == "application") {
     questions.applications.push_back(value);
   } else {
-    // What the parser gives to a switch without one.
+    // The parser's value for a switch that was given none.
     return value == L"true";
   }
   return true;

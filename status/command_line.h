@@ -7,7 +7,7 @@
 
 namespace kelvo {
 
-// What the command line asks for. Names and paths are its words, unchanged.
+// What the command line asks for. Names and paths are its arguments, unchanged.
 struct Questions {
   std::vector<WString> applications;
   std::vector<WString> publishers;      // certificate files

@@ -17,11 +17,11 @@ namespace kelvo {
 
 namespace {
 
-// Far above any INF file.
+// Far larger than any INF file.
 constexpr LONGLONG kMostBytes = LONGLONG{4} * 1024 * 1024;
 
-// Opens a file and asks for its size. Should the path lead to another process's pipe, that process
-// cannot act as the caller.
+// Opens a file and gets its size. If the path is another process's pipe, that process cannot
+// impersonate the caller.
 DWORD OpenFile(const WString& path, DWORD access, OwnedFile& file, LARGE_INTEGER& size) {
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   file.reset(CreateFileW(path.c_str(), access, kShare, nullptr, OPEN_EXISTING,
@@ -56,7 +56,7 @@ bool HasVersionSection(std::string bytes) {
   return bytes.find("[version]") != std::string::npos;
 }
 
-// The content of a file of another size is nothing to us: it may be unreadable.
+// A file of another size cannot match, so it need not be readable.
 DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) {
   OwnedFile file;
   LARGE_INTEGER size{};
@@ -128,7 +128,7 @@ DWORD ReadEntry(const SetupFunctions& functions, HINF inf, const wchar_t* key, W
   return ERROR_SUCCESS;
 }
 
-// Returns why an entry is missing.
+// Returns why an entry is missing, or ERROR_SUCCESS.
 DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVersion) {
   const SetupFunctions functions;
   if (!functions) {
@@ -167,7 +167,7 @@ Item QueryDriverPackage(const WString& infPath) {
   }
   WString provider;
   WString driverVersion;
-  // From the given file: Windows may write a compiled form of an INF next to its published copy.
+  // Reads the given file: opening the published copy could make Windows write a .pnf next to it.
   error = ReadVersion(infPath, provider, driverVersion);
   Item item{kKind,
             State::kPresent,

@@ -15,7 +15,7 @@ enum class State {
   kInfo,     // a fact, which is neither good nor bad
   kPresent,  // it is there
   kAbsent,   // it is not there
-  kUnknown,  // it could not be looked at
+  kUnknown,  // it could not be checked
 };
 
 // Returns the stable name of a state, as both forms of the report write it.
@@ -29,7 +29,7 @@ struct Detail {
   WString phrase;
 };
 
-// One line of the answer. `kind` is a stable name, in lower case and with "_" for blanks; `name` is
+// One line of the report. `kind` is a stable name, in lower case and with "_" for blanks; `name` is
 // what was asked for or found, and may be empty.
 struct Item {
   const char* kind;
@@ -41,15 +41,15 @@ struct Item {
 // Returns the state of the worst item, or kInfo for no items.
 State WorstState(const std::vector<Item>& items);
 
-// Returns the detail `key` with a string that a person sees after `label`, unless it is empty.
+// Returns the detail `key` with the phrase "label text", or without a phrase when `text` is empty.
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
-// Adds a Windows error code as two details: eight hexadecimal digits under `key` and "_code", the
-// system's message without its full stop and line break under `key` and "_text". A person reads
-// both after `label`.
+// Adds a Windows error code as two details: eight hexadecimal digits under `key` + "_code", the
+// system's message without its full stop and line break under `key` + "_text". The phrase has both
+// after `label`.
 void AddError(Item& item, const std::string& key, const WString& label, DWORD error);
 
-// Returns an item for something that could not be looked at, with the keys "error_code" and
+// Returns an item for something that could not be checked, with the keys "error_code" and
 // "error_text".
 Item UnknownItem(const char* kind, const WString& name, DWORD error);
 

@@ -15,7 +15,7 @@ using Json = nlohmann::ordered_json;
 constexpr int kSchema = 2;
 constexpr int kIndent = 2;
 
-// As wide as the longest state and the longest kind, and two spaces.
+// The longest state and the longest kind, plus two spaces.
 constexpr std::size_t kStateWidth = 9;
 constexpr std::size_t kKindWidth = 16;
 

@@ -7,8 +7,8 @@
 
 namespace kelvo {
 
-// Returns the items for a person, in UTF-8: one line for each, with its state, kind, name and
-// details in columns. Characters that would act on a terminal are made visible.
+// Returns the items as text for a person, in UTF-8: one line for each, with its state, kind, name
+// and details in columns. Characters that would act on a terminal are made visible.
 std::string TextReport(const std::vector<Item>& items);
 
 // Returns the items for a script, as one JSON object in ASCII, which every shell reads whatever its

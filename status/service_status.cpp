@@ -54,7 +54,7 @@ std::vector<wchar_t> ReadHardwareIds(const DeviceFunctions& functions, HDEVINFO 
                                      SP_DEVINFO_DATA& device) {
   DWORD size = 0;
   functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr, nullptr, 0, &size);
-  // The list's end is there even when the driver forgot it.
+  // Two more units end the list even if the driver did not.
   std::vector<wchar_t> ids((size / sizeof(wchar_t)) + 2);
   if (functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr,
                             reinterpret_cast<BYTE*>(ids.data()), size, nullptr) == FALSE) {
@@ -136,7 +136,7 @@ DWORD QueryServiceDevice(bool& isThere) {
   HDEVINFO const devices =
       functions.getDevices(nullptr, L"BTHENUM", nullptr, DIGCF_ALLCLASSES | DIGCF_PRESENT);
   if (devices == INVALID_HANDLE_VALUE) {
-    // What Windows says where no Bluetooth bus has ever been enumerated.
+    // ERROR_INVALID_DATA: no Bluetooth bus was ever enumerated.
     const DWORD error = GetLastError();
     return error == ERROR_INVALID_DATA ? ERROR_SUCCESS : error;
   }
@@ -147,7 +147,8 @@ DWORD QueryServiceDevice(bool& isThere) {
 
 void AddLibrary(Item& item) {
   constexpr const char* kKey = "bluetooth_library";
-  // As data, so that nothing in it runs; by its path, since Wine's search for data is not narrowed.
+  // As data, so that none of its code runs; by full path, since Wine's search for data files
+  // ignores SetDefaultDllDirectories.
   const WString path = LibraryPath(L"bthprops.cpl");
   const OwnedModule library(LoadLibraryExW(
       path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));

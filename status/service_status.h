@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// Where a device is looked for, and whether that is done.
+// Whether to search for a device, and where.
 enum class DeviceSearch { kNone, kBluetoothBus };
 
 // Returns the item for the service: whether Windows has "bthprops.cpl", which is opened as data, so

@@ -16,7 +16,7 @@ std::string ToConsoleBytes(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.length() + 1);
   for (const wchar_t unit : text) {
-    // Also after a CR, which system texts bring along.
+    // Even after a CR, which system messages include.
     if (unit == L'\n') {
       bytes += '\r';
     }

@@ -18,8 +18,7 @@ struct DriverInterface {
 
 // Loads "difxapi.dll" from its LibraryPath and looks its functions up. Returns 0, or the code that
 // says why the library or a function is missing; nothing may be called then. The library is loaded
-// by its full path: it is one of Windows' known libraries, and by its bare name Windows would load
-// its own copy.
+// by its full path: it is a KnownDLL, and by its bare name Windows would load its own copy.
 DWORD BindDriverInterface(DriverInterface& driver);
 
 // The interface's log callback: reports the event as one "INFO: " line. A null description counts

@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-// As in IMAGE_LOAD_CONFIG_DIRECTORY64, which older mingw-w64 headers declare without these flags.
+// The layout of IMAGE_LOAD_CONFIG_DIRECTORY64, which older mingw-w64 headers declare without these flags.
 struct LoadConfiguration {
   DWORD size;
   BYTE before[74];

@@ -1,15 +1,15 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# Where `prefix` is set the library must be the package that `source` is part of, else it is built from its sources.
+# With `prefix` the library must be the package that `source` is part of, otherwise it is built from its sources.
 
 if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
     -D all_headers=${all_headers})
 else()
-  # In batches, as a consumer may build; it takes a quarter of the time.
+  # Builds in batches, as a consumer may, which takes a quarter of the time.
   set(library -D CMAKE_DISABLE_FIND_PACKAGE_kelvo=ON -D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=30)
 endif()
 
-# Not from a cache: what a consumer would configure is what is tested.
+# Deletes the cache, to test what a consumer would configure.
 file(REMOVE_RECURSE ${build}/CMakeCache.txt ${build}/CMakeFiles)
 set(flags "-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601")
 if(toolchain)

@@ -1,5 +1,5 @@
-# What a consumer's project may have, too: tests, a target of a common name, and a program that links all of the library, so
-# that no library of Windows that it needs is forgotten.
+# A consumer may also have tests, a target with a common name, and a program that links the whole library, which shows
+# whether an import library of Windows is missing.
 enable_testing()
 add_custom_target(benchmarks)
 add_executable(whole_library main.cpp ${all_headers})

@@ -35,12 +35,12 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   return reinterpret_cast<FARPROC>(row->instead);
 }
 
-// Calls `instead` in place of a function, also where the function is made to fail.
+// Calls `instead` in place of a watched function, which can still be made to fail.
 #define STAND_IN(function, instead)   \
   interception.originals[#function] = \
       reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
 
-// For what differs from machine to machine, and what no machine of the tests has.
+// Replaces what differs between machines or is missing on all test machines.
 static Lines written;
 static void StandInForMachine() {
   STAND_IN(GetProcAddress, FindIntercepted);
@@ -51,7 +51,7 @@ static void StandInForMachine() {
     written.emplace_back(static_cast<const char*>(bytes), *done = size);
     return TRUE;
   });
-  // As if this were that program.
+  // Pretends that this program is sorrel.exe.
   STAND_IN(GetModuleFileNameW, [](HMODULE, LPWSTR path, DWORD size) {
     return static_cast<DWORD>(
         std::filesystem::absolute("sorrel.exe").wstring().copy(path, size - 1));
@@ -69,7 +69,7 @@ static void StandInForMachine() {
     lstrcpyW(*name, L"client");
     return TRUE;
   });
-  // A process that has ended: Wine now and then fails to start one.
+  // Pretends to start a process that has ended: Wine sometimes fails to start a real one.
   static constexpr auto kStart = [](auto... given) -> BOOL {
     *std::get<sizeof...(given) - 1>(std::tuple(given...)) = {
         CreateEventW(nullptr, TRUE, TRUE, nullptr), CreateEventW(nullptr, TRUE, TRUE, nullptr), 1,
@@ -99,8 +99,9 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
   return text;
 }
 
-// What an operation finds: a list of applications, no certificate in either store, a value of each
-// kind that it reads; the simulator's Bluetooth library loaded, so that it is found by its name.
+// The state that an operation starts from: a list of applications, no certificate in either store,
+// a value of each kind that it reads; the simulator's Bluetooth library is loaded, and so found by
+// name.
 struct Machine : ProgramFolder {
   Machine() : ProgramFolder({{L"versioned_english.dll", L"versioned_english.dll"}}) {
     LoadLibraryW((path / "bthprops.cpl").c_str());
@@ -126,13 +127,13 @@ struct Machine : ProgramFolder {
                L"ProductSuite", REG_MULTI_SZ, std::wstring(L"kelvo suite\0", 13));
   }
 
-  // kFails: the chosen call fails. kEnds: it ends the run, like an ended process. kGoesOn: no call
-  // fails, and the run begins with what the last one left.
+  // kFails: the chosen call fails. kEnds: the run ends there, as if the process were killed.
+  // kGoesOn: no call fails, and the run begins with what the last one left.
   enum class How { kFails, kEnds, kGoesOn };
 
-  // Runs an operation in a library where nothing has run yet, and returns all that came of it: what
-  // was written, the answer, what changed in the list and the stores, what is open, and the
-  // journal. Nothing when the table has no more.
+  // Runs an operation in a library where nothing has run yet, and returns the outcome: the lines
+  // written, the answer, what changed in the list and the stores, what is open, and the journal.
+  // Empty past the end of the table.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
     const auto* const operation =
@@ -162,7 +163,7 @@ struct Machine : ProgramFolder {
         },
         reinterpret_cast<void*>(operation->run), 0, nullptr));
     WaitForSingleObject(thread.get(), INFINITE);
-    // Before the library is unloaded, which calls some more.
+    // Copied now: unloading the library makes more calls.
     calls = interception.calls;
     std::string text = Joined("", written, "");
     text = (name.starts_with("sorrel_status") ? Named(text) : text) + "= " + Ascii(answer) + "\n";
@@ -174,7 +175,7 @@ struct Machine : ProgramFolder {
       text += subjects.empty() ? "" : Ascii(store + (L": " + subjects)) + "\n";
     }
     reached = LinesOf(text);
-    // By name: handles come in any order.
+    // Sorted by name: handles come in any order.
     std::multiset<std::string> open;
     for (const auto& [handle, functions] : interception.open) {
       open.insert("open " + functions.first);
@@ -196,13 +197,13 @@ static void Append(std::string& text, const std::string& more) {
   text += (column + std::min(more.find('\r'), more.size()) > 120 ? "\r\n " : "") + more;
 }
 
-// A report line that one of these cannot look for, format or write is left out.
+// When one of these fails, its report line is left out.
 const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
 const Lines kNoMemory = {"sorrel_status: not enough memory", "= 3"};
 const std::string kNoChange = " no change\r\n";
 
 // The numbers of the lines that are not in `after`, and the new lines, each with the number of the
-// line that it comes behind.
+// line that it follows.
 static std::string Changes(const Lines& before, const Lines& after) {
   std::string without;
   std::string added;
@@ -225,9 +226,9 @@ static std::string Changes(const Lines& before, const Lines& after) {
   return before == after ? kNoChange : without + "\r\n" + added;
 }
 
-// Without memory, an operation ends with an exception after a beginning of its lines, with the old
-// list or the new one, and leaves nothing else behind. A library call that lets no exception out
-// answers as if another call had failed.
+// Out of memory, an operation ends with an exception after its first lines, with the old list or
+// the new one, and leaves nothing else behind. A library call that lets no exception out returns
+// what it returns when another call fails.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -238,7 +239,7 @@ static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   CHECK(changes.substr(changes.find('\n')) == "\n");
 }
 
-TEST_CASE("failing calls: each has the outcome of a rule or of fault_injection.txt") {
+TEST_CASE("failing calls: each has the outcome that a rule or fault_injection.txt gives") {
   Machine machine;
   std::string seen;
   std::set<std::string> shown;
@@ -248,9 +249,9 @@ TEST_CASE("failing calls: each has the outcome of a rule or of fault_injection.t
     const int lineCount = static_cast<int>(written.size());
     const auto calls = machine.calls;
     const bool isReport = machine.name.starts_with("sorrel_status");
-    // What came of failing calls, and these.
+    // Each outcome, with the failing calls that caused it.
     std::vector<std::pair<Lines, std::string>> outcomes;
-    // Without a line that the driver logs: that callback lets no exception out.
+    // Outcomes that lack one line of the driver's log: the callback lets no exception out.
     std::set<Lines> withoutLogged;
     for (const auto& [function, made] : calls) {
       for (int nth = 1; nth <= made; ++nth) {
@@ -263,7 +264,7 @@ TEST_CASE("failing calls: each has the outcome of a rule or of fault_injection.t
           // Guarded calls of the library let no exception out.
           CHECK((outcome == kNoMemory || outcome.size() == undisturbed.size()));
         } else if (isReport && function.starts_with("_v")) {
-          // Each of the many texts could be missing.
+          // Any one of many texts may be missing.
           CHECK(outcome.size() == undisturbed.size());
         } else if (!isReport && kReporting.find(function) != std::string::npos &&
                    nth <= lineCount) {
@@ -301,18 +302,18 @@ TEST_CASE("failing calls: each has the outcome of a rule or of fault_injection.t
   CheckAgainstFile(Joined("", shown, "\r\n"), L"calls.txt");
 }
 
-TEST_CASE("install, uninstall: ended at any call, the next run completes them") {
+TEST_CASE("install, uninstall: the next run completes one that was ended at any call") {
   Machine machine;
-  for (const int index : {0, 2}) {
+  for (const int index : {0, 2}) {  // install, uninstall
     machine.Run(index, {});
     const auto [calls, expected] = std::pair(machine.calls, machine.reached);
     for (const auto& [function, made] : calls) {
-      // Ended where memory is asked for, a run keeps the C runtime's locks.
+      // Not at malloc: a run that ended there would never release the C runtime's locks.
       for (int nth = 1; nth <= made && function != "malloc"; ++nth) {
         INFO(function, "-", nth);
         const Lines ended = machine.Run(index, {function, nth}, Machine::How::kEnds);
         REQUIRE(std::ranges::count(ended, "= ended") == 1);
-        // The service is there only for an application that is recorded.
+        // The service is set only after the application is recorded.
         const bool isServiceSet = ended.back().starts_with("BluetoothSetLocalServiceInfo ");
         CHECK((!isServiceSet || std::ranges::count(ended, "list: kite;brindle") == 1));
         machine.Run(index, {}, Machine::How::kGoesOn);

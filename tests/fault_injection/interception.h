@@ -54,8 +54,8 @@ inline std::vector<const void*> HandlesAt(PROCESS_INFORMATION* started) {
   return {started->hProcess, started->hThread};
 }
 
-// `failure` is what the function returns to say that it failed; 0 besides a last error. `closers`
-// names the functions that close what it opens.
+// `failure` is what the function returns to say that it failed; 0 when it sets the last error.
+// `closers` names the functions that close what it opens.
 template <typename Function, typename... Given>
 auto Intercept(const char* name, long long failure, Handles handles, std::string_view closers,
                Given... given) {

@@ -1,5 +1,5 @@
-// Access lists of every broken shape: whatever sizes they claim, nothing beyond their memory is
-// read or written.
+// Broken ACLs of every kind: nothing beyond their memory is read or written, whatever sizes they
+// claim.
 
 #include <algorithm>
 

@@ -43,8 +43,8 @@ class Input {
   std::mt19937_64 engine_;
 };
 
-// Memory of `size` bytes, at most 0x10000, that ends where a page without access begins, or, when
-// `atStart` is true, begins where one ends. One byte too far is a fault.
+// Memory of `size` bytes, at most 0x10000, that ends where a guard page begins, or, when
+// `atStart` is true, begins where one ends. One byte too far is an access violation.
 class GuardedMemory {
  public:
   GuardedMemory(std::size_t size, bool atStart)

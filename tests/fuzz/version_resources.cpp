@@ -11,7 +11,7 @@
 
 namespace kelvo::fuzz {
 
-// The resource is in the one block of this size, in front of or after a page without access.
+// The resource is in the one block of this size, in front of or behind a guard page.
 static std::size_t resourceSize = 0;
 static std::unique_ptr<GuardedMemory> resource;
 

@@ -42,7 +42,7 @@ if(NOT checksums MATCHES "^[0-9A-F]+$" OR checksums STREQUAL "00000000")
   message(SEND_ERROR "${program} has not its checksum in the header: ${checksums}")
 endif()
 
-# Where it was built is nobody's business, and would make it another program elsewhere.
+# The folder that it was built in is private, and would make it another program elsewhere.
 cmake_path(REPLACE_EXTENSION program LAST_ONLY pdb OUTPUT_VARIABLE pdb)
 foreach(file ${program} ${pdb})
   file(STRINGS ${file} found LIMIT_COUNT 1 REGEX "${source_folder}")

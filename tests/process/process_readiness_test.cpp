@@ -44,7 +44,7 @@ TEST_CASE("StartProcessAndWaitForMutex: ends with the mutex, a WM_CLOSE, the tim
   CHECK_BOTH(wait(false, 303) == 0, lookups == 1);
 }
 
-TEST_CASE("message pump: until none waits, or up to a WM_CLOSE") {
+TEST_CASE("PumpWaitingMessages: until none waits, or up to a WM_CLOSE") {
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
   std::string calls;

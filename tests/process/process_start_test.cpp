@@ -89,7 +89,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: desktop, wait and handle as asked") {
   }
 }
 
-TEST_CASE("desktop names: letter case matters for a start, not for a question") {
+TEST_CASE("IsOnInteractiveDesktop: ignores letter case, which RunAsUser does not") {
   const std::tuple<const wchar_t*, const wchar_t*, DWORD, BOOL, int> rows[] = {
       {L"WinSta0", L"Default", 520, TRUE, 0},
       {L"WINSTA0", L"DEFAULT", 520, TRUE, 1},
@@ -120,7 +120,7 @@ TEST_CASE("desktop names: letter case matters for a start, not for a question") 
 TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
   // Every call leaves something in the places for handles, and fails or not.
   HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
-  auto* const tell = +[]() -> DWORD { return 5; };
+  auto* const session = +[]() -> DWORD { return 5; };
   const ReplacedExport query(
       "WTSQueryUserToken", +[](ULONG session, HANDLE* token) -> BOOL {
         *token = reinterpret_cast<HANDLE>(0x7701ULL);
@@ -136,7 +136,7 @@ TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
   REPLACE(CreateProcessAsUserW, [=](auto, auto token, auto... given) {
     return !IsOurs("start", token) || fail(given...);
   });
-  // Where this runs on another window station, nothing is granted on the interactive one.
+  // On another window station nothing is granted on the interactive one.
   REPLACE(OpenWindowStationW, [](auto...) { return nullptr; });
   REPLACE(CreateProcessW, [=](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");
@@ -146,14 +146,14 @@ TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
   });
   // RunAsUser leaves its token open.
   using Path = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
-  for (const auto& [minor, ownSession, tells, duplicates, desktop, happens] :
+  for (const auto& [minor, ownSession, hasSession, duplicates, desktop, happens] :
        {Path{1, 5, true, true, nullptr, "close1start2close2"},
         Path{1, 3, true, false, nullptr, "start1close1"},
         Path{1, 5, false, true, L"kelvo other", "caller"},
         Path{0, 3, true, true, L"kelvo other", "caller"}, Path{0, 0, true, true, nullptr, "caller"},
         Path{0, 0, true, true, L"kelvo other", "start2"}}) {
     const DesktopScope scope(nullptr, desktop);
-    const ReplacedExport console("WTSGetActiveConsoleSessionId", tells ? tell : nullptr);
+    const ReplacedExport console("WTSGetActiveConsoleSessionId", hasSession ? session : nullptr);
     const auto windows = PretendWindows(2, 5, minor);
     REPLACE(ProcessIdToSessionId, [=](auto, auto, DWORD* id) {
       *id = ownSession;

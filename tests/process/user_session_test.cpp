@@ -17,7 +17,8 @@ TEST_CASE("EnableShutdownPrivilege: the last error decides") {
   }
 }
 
-TEST_CASE("user session: none on a Windows without the functions") {
+TEST_CASE(
+    "GetActiveConsoleSessionId, QueryUserTokenOfSession: none where Windows lacks the functions") {
   const ReplacedExport console("WTSGetActiveConsoleSessionId", nullptr);
   const ReplacedExport query("WTSQueryUserToken", nullptr);
   HANDLE token = INVALID_HANDLE_VALUE;

@@ -5,7 +5,7 @@
 #include "lib/registry/registry_number.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("numbers, bytes, RegistryDeleteValue: read as written, the key stays") {
+TEST_CASE("RegistryReadDword, RegistryReadBinary, RegistryDeleteValue: as written, the key stays") {
   HKEY const root = HKEY_CURRENT_USER;
   const StandInKey user(root);
   const wchar_t* const key = L"key";

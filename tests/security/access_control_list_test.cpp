@@ -20,7 +20,7 @@ static void DeleteDenyAces(const TestAcl& list, PSID sid) {
   DeleteDenyACEofObject(sid, nullptr, SE_WINDOW_OBJECT);
 }
 
-TEST_CASE("access lists: the last equal entry, whole copies, whole sizes") {
+TEST_CASE("FindACEInACL, CopyACL, CalculateACLSize: the last equal entry, whole copies and sizes") {
   TestAce wanted{.flags = 2, .mask = 7};
   TestAce other{.flags = 2, .mask = 7, .sid = {SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {18}}};
   const TestAcl list({wanted, wanted, {.type = 1, .flags = 2, .mask = 7}, {.mask = 7}, other});
@@ -37,7 +37,7 @@ TEST_CASE("access lists: the last equal entry, whole copies, whole sizes") {
   CHECK(denying.acl->AceCount == 3);
 }
 
-TEST_CASE("canonical order: a new entry comes before the first of its rank") {
+TEST_CASE("GetACEInsertionIndex: a new entry comes before the first of its rank") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
   const std::tuple<BYTE, BYTE, DWORD> cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
                                                  {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
@@ -48,7 +48,8 @@ TEST_CASE("canonical order: a new entry comes before the first of its rank") {
   }
 }
 
-TEST_CASE("access lists: wrong sizes lead to no read past the end") {
+TEST_CASE(
+    "FindACEInACL, DeleteDenyACEofObject, CopyACL: wrong sizes lead to no read past the end") {
   // A read past the end is swallowed by the guards: that it does not happen shows in the messages.
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });

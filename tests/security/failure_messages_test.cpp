@@ -40,8 +40,8 @@ static std::wstring operation, traced;
 // As a rule the operation then fails and names a call that failed, but not one that threw; a last
 // message comes from its clean-up, except where it fails at once. failure_messages.txt has each
 // outcome of each operation with the first call of each function that leads to it.
-TEST_CASE("failing calls: each has its message, then the operation's") {
-  // In place of the interactive station, which everybody shares.
+TEST_CASE("failing calls: each traces its own message, then the operation's") {
+  // Replaces the interactive station, which everybody shares.
   const DesktopScope standIn(L"kelvo stand-in", L"Default");
   REPLACE(OpenWindowStationW,
           [](auto original, auto, auto... rest) { return original(L"kelvo stand-in", rest...); });

@@ -9,8 +9,8 @@
 
 static BOOL isWritten = FALSE;
 
-// Runs an action on a file whose access list, as text, is `list`. Not a real file: Wine keeps only
-// the mode bits of a list.
+// Runs an action on a file whose ACL is `list`, in SDDL. The file is simulated: Wine keeps only the
+// mode bits of an ACL.
 static void WithFile(std::wstring& list, const std::function<void()>& action) {
   REPLACE(GetFileSecurityW, [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
     const OwnedLocalMemory<void> made = FromSddl(list, size);

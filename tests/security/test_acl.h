@@ -76,8 +76,8 @@ inline OwnedKernelObject OwnToken() {
   return token;
 }
 
-// A station and a desktop whose access lists are real ones on every Wine: Wine 10 sees none of a
-// window object, but that of the same handle as a kernel object.
+// A station and a desktop whose ACLs can be read on every Wine: Wine 10 finds none for a window
+// object, but finds that of the same handle as a kernel object.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 

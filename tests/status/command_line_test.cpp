@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("a command line is taken word by word, or said to be wrong") {
+TEST_CASE("ParseCommandLine: every argument as given, or what is wrong") {
   using Kind = CommandLine::Kind;
   struct Row {
     std::vector<const wchar_t*> words;

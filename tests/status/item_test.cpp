@@ -13,7 +13,7 @@
 #include "tests/support/testing.h"
 #include "tool/dependent_applications.h"
 
-TEST_CASE("what the registry holds in place of the list decides what is reported") {
+TEST_CASE("QueryApplications: reports what the registry has in place of the list") {
   struct Row {
     DWORD type;
     std::wstring stored;
@@ -47,7 +47,7 @@ TEST_CASE("what the registry holds in place of the list decides what is reported
   }
 }
 
-TEST_CASE("a published INF is named oem, a number, .inf") {
+TEST_CASE("IsPublishedName: oem, a number, .inf") {
   CHECK_BOTH(IsPublishedName(L"oem0.inf"), IsPublishedName(L"OEM123.INF"));
   for (const wchar_t* const name : {L"oem.inf", L"oem1.info", L"oem1", L"oem", L"", L"oe1.inf",
                                     L"oem1x.inf", L"xem1.inf", L"oem1.inf.inf"}) {
@@ -55,7 +55,7 @@ TEST_CASE("a published INF is named oem, a number, .inf") {
   }
 }
 
-TEST_CASE("a device counts for the service unless it is certainly a remote device's") {
+TEST_CASE("QueryService: counts a device unless it is certainly a remote device's") {
   const std::wstring id = L"BTHENUM\\{3abb9028-beae-4bf1-acd7-5cd7d5e4e0ca}";
   struct Row {
     std::wstring ids, instanceId;
@@ -99,7 +99,7 @@ TEST_CASE("a device counts for the service unless it is certainly a remote devic
       +[](HDEVINFO, PSP_DEVINFO_DATA, DWORD property, PDWORD, PBYTE out, DWORD size,
           PDWORD needed) -> BOOL {
         CHECK(property == SPDRP_HARDWAREID);
-        // Without the terminators, which drivers may forget.
+        // Drivers may forget the terminators.
         const auto bytes = static_cast<DWORD>(row.ids.length() * sizeof(wchar_t));
         if (out == nullptr) {
           return *needed = bytes, FALSE;
@@ -149,7 +149,7 @@ static int Run(const wchar_t* option, const wchar_t* value, const Surroundings& 
   return code;
 }
 
-TEST_CASE("the exit code is the answer's unless a standard output that is there refuses it") {
+TEST_CASE("AnswerCommandLine: exit code 3 when a standard output that exists cannot be written") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   CHECK(Run(L"--application", L"a", {nullptr, FALSE}) == 1);
   CHECK(Run(L"--application", L"a", {INVALID_HANDLE_VALUE, FALSE}) == 1);
@@ -157,12 +157,12 @@ TEST_CASE("the exit code is the answer's unless a standard output that is there 
   CHECK(Run(L"--help", nullptr, {GetCurrentThread(), FALSE}) == 3);
 }
 
-TEST_CASE("without memory the exit code is 3, and standard error says why") {
+TEST_CASE("AnswerCommandLine: out of memory the exit code is 3, and standard error says why") {
   CHECK(Run(L"--version", nullptr, {GetCurrentThread(), TRUE, false}) == 3);
   CHECK(std::string(written) == "sorrel_status: not enough memory\r\n");
 }
 
-TEST_CASE("the system has a name from Windows 10 on, and an administrator any number of groups") {
+TEST_CASE("AnswerCommandLine: a system name from Windows 10 on, any number of groups") {
   constexpr DWORD kCount = 200;
   struct {
     TOKEN_GROUPS first;

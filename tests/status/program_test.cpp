@@ -139,7 +139,7 @@ TEST_CASE(
   CheckAgainstFile(seen, L"lifecycle.txt");
 }
 
-TEST_CASE("a wrong command line ends with 2 and the usage on standard error") {
+TEST_CASE("sorrel_status.exe: a wrong command line ends with 2 and the usage on standard error") {
   const Machine machine;
   const ChildResult run = ProgramFolder::Run(L"sorrel_status.exe --json --nothing");
   CHECK_BOTH(run.exitCode == 2, run.output == "");
@@ -150,7 +150,7 @@ TEST_CASE("a wrong command line ends with 2 and the usage on standard error") {
   CHECK(run.errors == "Option 'nothing' does not exist\r\n\r\n" + help.output);
 }
 
-TEST_CASE("a certificate expires after its last moment") {
+TEST_CASE("sorrel_status.exe: a certificate expires after its last moment") {
   const Machine machine;
   constexpr DWORD kLast = 0xA9CF5280;
   REPLACE(CryptQueryObject, [](auto original, auto... given) {

@@ -26,7 +26,9 @@ static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
 
 static WString x(std::size_t count) { return {count, L'x'}; }
 
-TEST_CASE("system directories: one separator at the end, within the buffer") {
+TEST_CASE(
+    "GetSystemDirectoryPath, GetSystemWow64DirectoryPath: one separator at the end, within the "
+    "buffer") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return GiveDirectory(to...); });
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},
@@ -46,7 +48,9 @@ TEST_CASE("system directories: one separator at the end, within the buffer") {
   CHECK(GetSystemWow64DirectoryPath().empty());
 }
 
-TEST_CASE("user and computer names: the format asked for, else the plain one") {
+TEST_CASE(
+    "GetUserNameInFormat, GetUserNameFQ, GetComputerNameFQ: the format asked for, else the plain "
+    "one") {
   // Wine takes long to load it for each name.
   const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
   const auto give = [](auto, wchar_t* name, DWORD* size) {

@@ -11,7 +11,8 @@
 #include "lib/sysinfo/internet_explorer_version.h"
 #include "tests/sysinfo/simulated_cases.h"
 
-TEST_CASE("file versions: sound and hostile files as in file_versions.txt") {
+TEST_CASE(
+    "CompareFileVersion, GetFileVersionString: valid and hostile files as in file_versions.txt") {
   int freed = 0;
   COUNT_CALLS(GlobalUnlock, freed);
   COUNT_CALLS(GlobalFree, freed);

@@ -160,7 +160,7 @@ TEST_CASE("WriteUtf8: a long text reaches a console in pieces of whole character
             seen.append(static_cast<const wchar_t*>(text), length);
             CHECK_FALSE(IS_HIGH_SURROGATE(seen.back()));
             *done = length;
-            // In characters; what a console took at once before Windows 10.
+            // What a console took at once before Windows 10, in characters.
             return length < 0x8000;
           });
   std::wstring expected = L"a";

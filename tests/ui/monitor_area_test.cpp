@@ -3,7 +3,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("monitor area: the nearest monitor's, else the primary one's") {
+TEST_CASE("GetMonitorArea, GetMonitorWorkArea: the nearest monitor's, else the primary one's") {
   const DesktopScope scope;
   const ReplacedExport find(
       "MonitorFromPoint", +[](POINT point, DWORD flags) {
