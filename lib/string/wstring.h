@@ -26,8 +26,7 @@ class WString {
   static constexpr std::size_t npos = std::wstring::npos;
 
   WString() = default;
-  // Copies a NUL-terminated string (null counts as empty) or a view, or repeats `unit` `count`
-  // times. NOLINTNEXTLINE(google-explicit-constructor): literals are strings
+  // Copies a NUL-terminated string (null counts as empty), a view, or `unit`, `count` times.
   WString(const wchar_t* text) { AssignCString(text); }
   explicit WString(std::wstring_view text) : text_(text) {}
   WString(std::size_t count, wchar_t unit) { resize(count, unit); }
