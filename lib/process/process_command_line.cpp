@@ -12,7 +12,7 @@ namespace kelvo {
 
 namespace {
 
-// The part of the PEB that is read. The parameters are read at 0x18 on purpose, although a 64-bit
+// The part of the PEB that is read. Reading the parameters at 0x18 is deliberate, although a 64-bit
 // PEB usually has them at 0x20.
 struct EnvironmentBlock {
   std::byte before[0x18];

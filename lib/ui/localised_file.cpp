@@ -53,8 +53,8 @@ LANGID NumberOf(const WString& name) {
 }
 
 // Returns 0 when the name is not a language's. Windows 10 returns a neutral language for
-// well-formed names without an LCID of their own, such as "en-DE" and "old": their part before the
-// "-" then gives the primary language, or none.
+// well-formed names that have no LCID, such as "en-DE" and "old": their part before the "-" then
+// gives the primary language, or none.
 LANGID LanguageOf(const WString& name) {
   const LANGID language = NumberOf(name);
   return language == 0 || !IsNeutral(language)

@@ -27,7 +27,7 @@ WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LAN
 // that does, in this order: same primary language, English (United States), another English, any
 // language. Of several, returns the first by name. Empty when there is none. GetLocaleInfoEx
 // (looked up at run time) gives the language of a file; without it, only the exact file is found. A
-// name such as "en-DE", which has no LCID of its own on Windows, counts as its part before the "-".
+// name such as "en-DE", for which Windows has no LCID, counts as its part before the "-".
 // LANG_NEUTRAL, LOCALE_USER_DEFAULT and LOCALE_SYSTEM_DEFAULT are resolved to the languages that
 // they mean.
 WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID language,
