@@ -19,7 +19,7 @@ enum StartResult : std::int32_t {
 // is ready. The mutex may exist already. The program keeps running whatever the result, and no
 // handle stays open. Null strings count as empty.
 //   - On Windows 2000 and later, and on a terminal server, the mutex is looked up in the global
-//     namespace ("Global\"), and so in all sessions.
+//     namespace ("Global\..."), and so in all sessions.
 //   - A mutex that does not grant MUTEX_ALL_ACCESS counts as missing. So does one whose name is too
 //     long for Windows (260 characters).
 //   - Anyone can create the mutex first: that it exists does not prove that the program runs.
