@@ -24,11 +24,10 @@ struct CertificateTraits {
 
 }  // namespace internal
 
-// A certificate store that this process opened, closed with CertCloseStore; null when there is
-// none.
+// An open certificate store: closed with CertCloseStore, null when there is none.
 using OwnedCertificateStore = Owned<internal::CertificateStoreTraits>;
 
-// A certificate context, freed with CertFreeCertificateContext; null when there is none. It may
+// A certificate context: freed with CertFreeCertificateContext, null when there is none. It may
 // outlive the store that it came from.
 using OwnedCertificate = Owned<internal::CertificateTraits>;
 

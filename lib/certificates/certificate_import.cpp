@@ -11,15 +11,14 @@ namespace kelvo {
 
 namespace {
 
-// The content types that Windows knew when this set was fixed; newer headers add to
-// CERT_QUERY_CONTENT_FLAG_ALL.
+// A fixed set, since newer headers add to CERT_QUERY_CONTENT_FLAG_ALL.
 constexpr DWORD kContentTypes = 0x3FFE;
 
-// crypt32.dll is bound at run time, so that a program that imports no certificate starts without
-// it, and a missing function becomes an error code.
+// Bound at run time, so that a program that imports no certificate starts without crypt32.dll, and
+// a missing function becomes an error code.
 struct Crypt32 {
-  // False, with the last error set, when the library or a function of it is missing. The library
-  // stays loaded, since a store may stay open.
+  // Returns false and sets the last error when the library or one of its functions is missing. The
+  // library stays loaded, since a store may stay open.
   bool Bind() {
     const HMODULE library = LoadSystemLibrary(L"crypt32.dll").release();
     openStore = KELVO_FIND_FUNCTION(library, CertOpenStore);
@@ -60,7 +59,7 @@ DWORD AddFromFile(const Crypt32& crypt32, const wchar_t* file, BoundStore& syste
                           0, &encodingType, &contentType, &formatType, &store, nullptr,
                           &context) == FALSE) {
     const DWORD error = GetLastError();
-    // Kept open on this path: one handle for each file that cannot be read is accepted.
+    // Left open on this path: one handle for each unreadable file is accepted.
     static_cast<void>(systemStore.release());  // NOLINT(bugprone-unused-return-value): as above
     return error;
   }
@@ -80,7 +79,7 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   if (!wsspi::IsSspiInitialized()) {
     wsspi::SspiInitialize();
   }
-  // All functions are looked up before the first call: a missing one leaves nothing half done.
+  // All functions are looked up before the first call: if one is missing, nothing has changed.
   Crypt32 crypt32;
   if (!crypt32.Bind()) {
     return GetLastError();

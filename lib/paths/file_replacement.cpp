@@ -13,17 +13,17 @@ namespace kelvo {
 
 namespace {
 
-// The path of a copy in the temporary folder, empty when none could be made.
+// Returns the path of a copy in the temporary folder, or an empty string when it cannot be made.
 WString CopyToTemporaryFile(const wchar_t* source) {
   std::array<wchar_t, MAX_PATH> folder{};
-  // Made first: when memory runs out, there is no copy yet.
+  // Allocated first, so that running out of memory leaves no copy behind.
   WString copy(MAX_PATH, L'\0');
   if (GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()) == 0 ||
       GetTempFileNameW(folder.data(), L"wqr", 0, copy.data()) == 0) {
     return {};
   }
   if (CopyFileW(source, copy.data(), FALSE) == FALSE) {
-    // The name is taken by an empty file, which must not replace anything.
+    // GetTempFileNameW has created an empty file, which must not replace anything.
     DeleteFileW(copy.data());
     return {};
   }
@@ -57,7 +57,7 @@ bool Schedule(const wchar_t* source, const wchar_t* target) {
 
 bool ScheduleFileReplace(const void* /*unused*/, const wchar_t* source, const wchar_t* target,
                          bool copyFirst) {
-  // Windows takes a missing target as an order to delete the source.
+  // Without a target, Windows would delete the source.
   if (source == nullptr || target == nullptr) {
     return true;
   }
@@ -66,7 +66,7 @@ bool ScheduleFileReplace(const void* /*unused*/, const wchar_t* source, const wc
     return true;
   }
   if (!Schedule(from.c_str(), target) && copyFirst) {
-    // Nobody else has its name.
+    // The caller cannot delete it: it never learns the name.
     DeleteFileW(from.c_str());
   }
   return true;

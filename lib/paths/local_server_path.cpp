@@ -31,7 +31,7 @@ DWORD FindClassKey(const wchar_t* progId, WString& classKey) {
   return ERROR_SUCCESS;
 }
 
-// Not OpenRegistryKey: each attempt names its view, which RegistryAccessFlags must not add to.
+// Not OpenRegistryKey, which would add RegistryAccessFlags: each attempt specifies its own view.
 LSTATUS OpenServerKey(const WString& classKey, OwnedRegistryKey& key) {
   LSTATUS status = ERROR_SUCCESS;
   for (const wchar_t* const server : {L"\\LocalServer32", L"\\LocalServer"}) {
@@ -53,7 +53,7 @@ LSTATUS ReadServer(const WString& classKey, WString& server) {
     return status;
   }
   constexpr DWORD kCapacity = 522;
-  // One unit more than the registry is told of ends a string stored without a terminator.
+  // One character more than the size passed to the registry: it ends a string stored without a NUL.
   std::array<wchar_t, (kCapacity / sizeof(wchar_t)) + 1> text{};
   DWORD size = kCapacity;
   status = RegQueryValueExW(key.get(), nullptr, nullptr, nullptr,

@@ -6,15 +6,15 @@
 
 namespace kelvo {
 
-// Finds the executable of the COM local server that is registered for `progId`, stores its path and
-// returns 0. The path is the default value of the class's key "LocalServer32", or of "LocalServer",
-// below "CLSID" in HKEY_CLASSES_ROOT (the 64-bit registry view before the 32-bit one), as it is
-// stored, up to its first "/"; spaces before that are kept. On failure `path` is unchanged, and one
-// of these is returned:
+// Stores the path of the executable registered as the COM local server of `progId` and returns 0.
+// Reads the default value of the key "LocalServer32", or else of "LocalServer", below the class's
+// key in HKEY_CLASSES_ROOT\CLSID. For each key, the 64-bit registry view comes before the 32-bit
+// one. The path is the stored string up to its first "/", with any spaces before that. On failure,
+// leaves `path` unchanged and returns one of these:
 //   0x80110411  the ProgID has no class (CLSIDFromProgID), or is null
 //   0x80040011  the class identifier cannot be written as a string (StringFromCLSID)
-//   3           no file has that path (FileExists), as with a path in quotation marks
-//   another     the Windows error code of opening the last of the four keys or of reading the
+//   3           no file has that path (FileExists), as when it is in quotation marks
+//   other       the Windows error code of opening the last of the four keys or of reading the
 //               value: ERROR_MORE_DATA when it is longer than 522 bytes
 DWORD GetLocalServerPath(const wchar_t* progId, WString& path);
 

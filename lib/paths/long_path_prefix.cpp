@@ -12,33 +12,34 @@ namespace {
 constexpr std::wstring_view kPrefix = L"\\\\?\\";
 constexpr std::wstring_view kUncPrefix = L"\\\\?\\UNC\\";
 
-// What Windows takes, without the NUL.
+// Windows' limit, without the NUL.
 constexpr std::size_t kMaxPrefixedLength = 32'767;
 
 std::wstring_view ViewOf(const wchar_t* path) { return path != nullptr ? path : L""; }
 
 bool IsSeparator(wchar_t unit) { return unit == L'\\' || unit == L'/'; }
 
-// "C:\" and what follows.
+// Returns true for "C:\" or "C:/" and anything after it.
 bool BeginsWithDrive(std::wstring_view path) {
   const auto letter = path.empty() ? L'\0' : path[0] | 0x20;
   return path.length() >= 3 && letter >= L'a' && letter <= L'z' && path[1] == L':' &&
          IsSeparator(path[2]);
 }
 
-// After "\\", what Windows takes for a server: "\\.\" and "\\?\" begin the paths of devices.
+// Returns true when the part of a path after "\\" begins with a server name. "\\.\" and "\\?\"
+// begin device paths.
 bool BeginsWithName(std::wstring_view path) {
   const std::wstring_view name = path.substr(0, path.find_first_of(L"\\/"));
   return !name.empty() && name != L"." && name != L"?";
 }
 
-// "\\server" and what follows.
+// Returns true for "\\server" and anything after it.
 bool BeginsWithServer(std::wstring_view path) {
   return path.length() >= 3 && IsSeparator(path[0]) && IsSeparator(path[1]) &&
          BeginsWithName(path.substr(2));
 }
 
-// Empty when the path cannot be resolved.
+// Returns an empty string when the path cannot be resolved.
 WString FullPath(const wchar_t* path) {
   const DWORD size = GetFullPathNameW(path, 0, nullptr, nullptr);
   WString full(size, L'\0');
@@ -72,7 +73,7 @@ WString RemoveLongPathPrefix(const wchar_t* path) {
       BeginsWithName(given.substr(kUncPrefix.length()))) {
     return WString(L"\\\\").append(given.substr(kUncPrefix.length()));
   }
-  // After the prefix "/" is not a separator.
+  // After the prefix, "/" is no separator.
   const bool hasDrive = HasLongPathPrefix(path) &&
                         BeginsWithDrive(given.substr(kPrefix.length())) &&
                         given[kPrefix.length() + 2] == L'\\';

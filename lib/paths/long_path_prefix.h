@@ -5,7 +5,7 @@
 namespace kelvo {
 
 // Paths that begin with "\\?\" may be longer than MAX_PATH, up to 32,767 characters. After that
-// prefix Windows resolves neither "/" nor "." and "..". A null path counts as empty.
+// prefix, Windows resolves neither "/" nor "." and "..". A null path counts as empty.
 
 // Resolves `path` with GetFullPathNameW and adds the prefix: "C:\x" becomes "\\?\C:\x",
 // "\\server\share\x" and "//server/share/x" become "\\?\UNC\server\share\x". Returns `path`
@@ -14,8 +14,8 @@ namespace kelvo {
 WString AddLongPathPrefix(const wchar_t* path);
 
 // Removes the prefix: "\\?\C:\x" becomes "C:\x", and "\\?\UNC\server\share", with "UNC" in any
-// letter case, becomes "\\server\share". Returns every other path unchanged, including those of
-// volumes ("\\?\Volume{...}") and devices ("\\?\UNC\.\pipe\x" would become one).
+// letter case, becomes "\\server\share". Returns every other path unchanged, including volume paths
+// ("\\?\Volume{...}") and "\\?\UNC\.\pipe\x", which would otherwise become a device path.
 WString RemoveLongPathPrefix(const wchar_t* path);
 
 // Returns true when `path` begins with "\\?\".

@@ -13,7 +13,7 @@ std::array<wchar_t, 255> moduleDirectory{};
 }  // namespace
 
 const wchar_t* GetModuleDirectory(const HMODULE* module) {
-  // Read whole: only the directory has to fit the buffer.
+  // The full path, since only its directory has to fit in the buffer.
   WString path = ReadModulePath(module == nullptr ? nullptr : *module);
   const std::size_t lastBackslash = path.rfind(L"\\");
   if (lastBackslash != WString::npos) {

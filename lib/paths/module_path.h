@@ -6,8 +6,8 @@
 
 namespace kelvo {
 
-// Returns the path of a module (GetModuleFileNameW), of up to 32,767 characters; of the program for
-// null. Empty when the process has no such module.
+// Returns a module's path (GetModuleFileNameW), of up to 32,767 characters. Null means the program
+// itself. Empty when the process has no such module.
 WString ReadModulePath(HMODULE module);
 
 }  // namespace kelvo

@@ -6,15 +6,15 @@
 
 namespace kelvo {
 
-// Writes the path of a shell folder, known by its registry value name such as "Personal" or
-// "AppData", with a trailing backslash to `out` (260 characters) and returns true. Looks below
-// "Software\Microsoft\Windows\CurrentVersion\Explorer" in "User Shell Folders" of the user, then of
-// the machine, then in "Shell Folders" of both. The first string that is not empty is taken as it
-// is stored, without expanding environment variables; one that does not fit `out` with its
-// backslash counts as empty.
+// Writes the path of a shell folder, with a trailing backslash, to `out` (260 characters) and
+// returns true. `valueName` is the folder's value name in the registry, such as "Personal" or
+// "AppData". Looks in "User Shell Folders" of the user and then of the machine, then in "Shell
+// Folders" of both, all below "Software\Microsoft\Windows\CurrentVersion\Explorer". Takes the first
+// string that is not empty, as stored: environment variables are not expanded. A string that does
+// not fit in `out` with its backslash counts as empty.
 //
-// When none of the four has one, `out` receives GetModuleDirectory(module)
-// (lib/paths/module_directory.h), and the function returns whether that is not empty.
+// When there is no such string, writes GetModuleDirectory(module) (lib/paths/module_directory.h) to
+// `out` and returns whether that is not empty.
 bool GetShellFolderPath(const HMODULE* module, std::span<wchar_t, MAX_PATH> out,
                         const wchar_t* valueName);
 

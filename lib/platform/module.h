@@ -16,8 +16,8 @@ struct ModuleTraits {
 
 }  // namespace internal
 
-// A library that this process has loaded, freed with FreeLibrary; null when there is none. A module
-// that is only looked up (GetModuleHandleW) is a plain HMODULE.
+// A library that this process has loaded: freed with FreeLibrary, null when there is none. For a
+// module that is only looked up (GetModuleHandleW), use a plain HMODULE.
 //   // With lib/platform/system_library.h:
 //   const OwnedModule library = LoadSystemLibrary(L"secur32.dll");
 //   auto* const getName = KELVO_FIND_FUNCTION(library.get(), GetUserNameExW);
@@ -25,8 +25,8 @@ struct ModuleTraits {
 using OwnedModule = Owned<internal::ModuleTraits>;
 
 // Returns the function that `module` exports as `name` (GetProcAddress), or null when the module is
-// null or has no such export; GetLastError then says why. For a null module that is what the call
-// that should have loaded it left there.
+// null or has no such export; GetLastError then says why. For a null module, that is the error of
+// the call that should have loaded it.
 template <typename Function>
 Function* FindFunction(HMODULE module, const char* name) {
   return module == nullptr
@@ -36,7 +36,7 @@ Function* FindFunction(HMODULE module, const char* name) {
 
 }  // namespace kelvo
 
-// FindFunction for a function that a header declares: its name is given once, for the export and
-// for the type.
+// FindFunction for a function that a header declares: its one name gives both the export and the
+// type.
 #define KELVO_FIND_FUNCTION(module, function) \
   ::kelvo::FindFunction<decltype(::function)>((module), #function)

@@ -7,7 +7,7 @@
 
 namespace kelvo {
 
-// Owns one handle and closes it when it is destroyed. `Kind` describes a kind of handle:
+// Owns one handle and closes it in its destructor. `Kind` describes a kind of handle:
 //   using Handle = ...;             the Windows type
 //   static Handle None();           the value that means "no handle" of this kind
 //   static void Close(Handle);      closes a handle; never called with None()
@@ -18,11 +18,11 @@ class Owned {
   using Handle = typename Kind::Handle;
 
   Owned() = default;
-  // Takes over a handle; moving passes it on.
+  // Takes ownership of a handle. An owner can be moved, not copied.
   explicit Owned(Handle handle) : handle_(handle) {}
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;
-  // Takes the other's handle, which then owns none.
+  // Takes ownership of the handle of `other`, which then has none.
   Owned(Owned&& other) noexcept : handle_(other.release()) {}
   Owned& operator=(Owned&& other) noexcept {
     reset(other.release());
@@ -32,18 +32,18 @@ class Owned {
   // Closes the handle.
   ~Owned() { reset(); }
 
-  // Whether there is a handle, and the handle.
+  // Return whether there is a handle, and the handle.
   explicit operator bool() const { return handle_ != Kind::None(); }
   [[nodiscard]] Handle get() const { return handle_; }
 
-  // Returns the place where a Windows function stores a new handle, after closing the old one.
+  // Closes the handle and returns the address at which a Windows function stores a new one.
   [[nodiscard]] Handle* Receive() {
     reset();
     return &handle_;
   }
 
-  // After the call that Receive() was for: keeps what it stored when it succeeded. What a failing
-  // call may have stored is nobody's, and is not closed. Returns whether the call succeeded.
+  // Takes the result of the call that Receive() was passed to: keeps what a successful call stored,
+  // and drops what a failed one may have stored, without closing it. Returns `succeeded`.
   bool KeepIf(bool succeeded) {
     if (!succeeded) {
       release();
@@ -51,10 +51,10 @@ class Owned {
     return succeeded;
   }
 
-  // Returns the handle and no longer owns it.
+  // Returns the handle and gives up its ownership.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 
-  // Closes the handle and takes over another one, or none.
+  // Closes the handle and takes ownership of another one, or of none.
   void reset(Handle handle = Kind::None()) {
     const Handle old = std::exchange(handle_, handle);
     if (old != Kind::None()) {
@@ -102,22 +102,22 @@ struct FileSearchTraits {
 
 }  // namespace internal
 
-// Processes, threads, tokens, mutexes: closed with CloseHandle, null when there is none.
+// A process, thread, token or mutex: closed with CloseHandle, null when there is none.
 using OwnedKernelObject = Owned<internal::KernelObjectTraits>;
 
-// What CreateFileW opens: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
+// A handle from CreateFileW: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
 using OwnedFile = Owned<internal::FileTraits>;
 
-// A search of FindFirstFileW: closed with FindClose, INVALID_HANDLE_VALUE when there is none.
+// A search from FindFirstFileW: closed with FindClose, INVALID_HANDLE_VALUE when there is none.
 using OwnedFileSearch = Owned<internal::FileSearchTraits>;
 
-// Memory from LocalAlloc or from a Windows function whose caller frees it with LocalFree; null when
-// there is none.
+// Memory from LocalAlloc or from a Windows function whose caller frees it: freed with LocalFree,
+// null when there is none.
 template <typename Content>
 using OwnedLocalMemory = Owned<internal::LocalMemoryTraits<Content>>;
 
-// Memory that HeapAlloc allocated from the process's heap (GetProcessHeap); null when there is
-// none.
+// Memory from HeapAlloc in the process heap (GetProcessHeap): freed with HeapFree, null when there
+// is none.
 template <typename Content>
 using OwnedProcessHeapMemory = Owned<internal::ProcessHeapMemoryTraits<Content>>;
 

@@ -30,7 +30,7 @@ bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names) {
 }
 
 BOOL IsOnInteractiveDesktop() {
-  // Closed in the reverse of this order.
+  // Closed in reverse order.
   internal::OwnedDesktop desktop;
   internal::OwnedWindowStation station;
   DesktopNames names;

@@ -12,8 +12,8 @@ namespace kelvo {
 
 namespace {
 
-// The part of a process environment block that is read. The parameters are read at 0x18 on purpose,
-// although a 64-bit block of the usual layout has them at 0x20.
+// The part of the PEB that is read. Reading the parameters at 0x18 is deliberate, although a 64-bit
+// PEB usually has them at 0x20.
 struct EnvironmentBlock {
   std::byte before[0x18];
   const void* parameters;
@@ -33,7 +33,7 @@ static_assert(sizeof(ProcessParameters) == 240);
 static_assert(sizeof(PROCESS_BASIC_INFORMATION) == 48 &&
               offsetof(PROCESS_BASIC_INFORMATION, PebBaseAddress) == 8);
 
-// Kept process-wide, and yet looked up on every call.
+// Process-wide, but looked up again on every call.
 decltype(&::NtQueryInformationProcess) queryProcess = nullptr;
 
 // Returns the number of bytes read, 0 on failure.

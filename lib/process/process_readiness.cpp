@@ -24,12 +24,12 @@ internal::StartedProcess StartProgram(const wchar_t* exePath, const wchar_t* arg
 
 StartResult WaitForMutex(const WString& name, bool pumpMessages, DWORD timeoutMs) {
   const DWORD start = GetTickCount();
-  // The unsigned difference stays right when the tick counter wraps.
+  // The unsigned difference stays correct when the tick count wraps.
   while (GetTickCount() - start < timeoutMs) {
     if (OwnedKernelObject(OpenMutexW(MUTEX_ALL_ACCESS, FALSE, name.c_str()))) {
       return kMutexAppeared;
     }
-    // Polls without a pause while messages are pumped, so that none has to wait.
+    // While pumping, polls without a pause, so that no message has to wait.
     if (!pumpMessages) {
       Sleep(kPollPauseMs);
     } else if (PumpWaitingMessages() == WM_CLOSE) {

@@ -31,7 +31,7 @@ std::int32_t GetRemoteClientName(wchar_t* buffer, int capacity) {
       answer = 0;
     }
   });
-  // In a call of its own, so that the name is freed whatever happened above.
+  // A separate guarded call, so that the name is freed whatever happened above.
   GuardedCall([&] {
     if (name != nullptr) {
       freeMemory(name);

@@ -15,7 +15,7 @@ namespace kelvo {
 
 namespace {
 
-// What a call holds from its steps to its clean-up.
+// What one call keeps for its clean-up.
 struct Launch {
   bool isOnInteractiveStation = false;
   internal::OwnedWindowStation keptStation;
@@ -31,7 +31,7 @@ bool KeepPlace(HWINSTA station, HDESK desktop, Launch& launch) {
   if (!ReadDesktopNames(station, desktop, names)) {
     return false;
   }
-  // Here letter case counts, unlike in IsOnInteractiveDesktop.
+  // Case-sensitive, unlike IsOnInteractiveDesktop.
   launch.isOnInteractiveStation = lstrcmpW(names.station.data(), kInteractiveStation) == 0;
   const bool isOnInteractiveDesktop =
       launch.isOnInteractiveStation && lstrcmpW(names.desktop.data(), kInteractiveDesktop) == 0;
@@ -116,7 +116,7 @@ BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process) {
   if (!internal::Check(static_cast<bool>(ownToken), L"RunAsUser OpenProcessToken On Self Failed")) {
     return FALSE;
   }
-  // Stays open, by design.
+  // Left open by design.
   const HANDLE token = internal::DuplicateAsPrimary(std::move(ownToken)).release();
   Launch launch;
   return internal::GuardedOperation(

@@ -19,7 +19,7 @@ bool RunsInConsoleSession() {
   return session == GetActiveConsoleSessionId();
 }
 
-// A token to start a process with, for the user of the console session; null when there is none.
+// Returns a primary token of the user of the console session, null when there is none.
 OwnedKernelObject TokenOfConsoleUser() {
   OwnedKernelObject token;
   return token.KeepIf(QueryUserTokenOfSession(GetActiveConsoleSessionId(), token.Receive()))

@@ -4,19 +4,21 @@
 
 namespace kelvo {
 
-// Starts a program for the user who sits at the machine's own screen, also from a service in
-// another session, and returns true when the process was created. The command line is the path in
-// double quotes, a space and the arguments as they are; null strings count as empty.
-//
-// On Windows XP and later the program runs in that user's session and account
-// (CreateProcessAsUserW). When nobody is logged on there, or Windows refuses the user's token
-// (QueryUserTokenOfSession in lib/process/user_session.h says what that needs), the program starts
-// in the caller's own session and account instead (CreateProcessW). On Windows 2000 it always runs
-// in the caller's account: through RunAsUser (lib/process/run_as_user.h) when the caller is in the
-// console session but not on the interactive desktop, otherwise in the caller's session. The
-// program inherits environment and current directory, but no handles. A service must not let it run
-// as itself: ask QueryUserTokenOfSession first. Its environment reaches the user's program: put no
-// secret there. Give a full path.
+// Starts a program for the user of the console session, the one on the physical screen, also from a
+// service in another session. Returns true when the process was created. The command line is the
+// path in double quotes, a space and the unchanged arguments; null strings count as empty. Give a
+// full path.
+//   - On Windows XP and later, the program runs in that user's session and account
+//     (CreateProcessAsUserW). When nobody is logged on there, or Windows refuses the user's token
+//     (for what that needs, see QueryUserTokenOfSession in lib/process/user_session.h), it runs in
+//     the caller's session and account instead (CreateProcessW).
+//   - On Windows 2000, it always runs in the caller's account: through RunAsUser
+//     (lib/process/run_as_user.h) when the caller is in the console session but not on the
+//     interactive desktop, otherwise in the caller's session.
+//   - The program inherits the environment and the current directory, but no handles. The
+//     environment reaches the user's program: put no secret there.
+//   - A service must not let the program run in the service's account: call QueryUserTokenOfSession
+//     first.
 //
 // With `wait`, returns only after the program has ended. When `processHandle` is not null, it
 // receives the process's handle, which the caller closes; it is unchanged on failure:

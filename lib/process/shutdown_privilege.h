@@ -2,8 +2,8 @@
 
 namespace kelvo {
 
-// Allows this process to shut the machine down: enables "SeShutdownPrivilege" in its token, for the
-// rest of its life. Returns false when that fails, also when the token does not hold the privilege.
+// Enables "SeShutdownPrivilege" in this process's token, so that it may shut down the computer,
+// until the process exits. Returns false when that fails or the token does not hold the privilege.
 bool EnableShutdownPrivilege();
 
 }  // namespace kelvo

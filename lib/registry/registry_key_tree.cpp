@@ -16,7 +16,7 @@ constexpr REGSAM kDeleteSubkeys =
 constexpr REGSAM kDeleteValues = kDeleteSubkeys | KEY_QUERY_VALUE;
 constexpr DWORD kNameLength = 255;
 
-// The loops always ask for index 0: the entry that was there has been deleted.
+// The loops always ask for index 0, since the previous entry there has been deleted.
 
 // Empty when there is no subkey or the key does not open.
 WString FirstSubkey(HKEY root, const WString& path) {
@@ -66,7 +66,7 @@ LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_
     return ERROR_ACCESS_DENIED;
   }
   // The path of the key being emptied and, for each key from keyName down to it, the length of its
-  // parent's path. Not a recursion: others decide how deep a tree is.
+  // parent's path. A loop, not a recursion, since others decide how deep the tree is.
   WString path = WString(parentPath) + L"\\" + keyName;
   std::vector<std::size_t> parentLengths{WString(parentPath).length()};
   while (!parentLengths.empty()) {

@@ -4,25 +4,22 @@
 
 namespace kelvo {
 
-// As everywhere in this folder: `root` is an open or a predefined key, `subkey` a path below it,
-// and a null or empty `valueName` means the default value. Strings are NUL-terminated. Keys are
-// opened with RegistryAccessFlags (lib/registry/registry_key.h) and closed before the function
-// returns.
+// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
 
-// Returns the number that a REG_DWORD value stores (RegQueryValueExW), or `defaultNumber` when the
-// key does not open or the value is missing, has another type or has more than 4 bytes. The missing
-// high bytes of shorter data count as 0.
+// Returns the number in a REG_DWORD value (RegQueryValueExW), or `defaultNumber` when the key does
+// not open or the value is missing, has another type or has more than 4 bytes. In shorter data, the
+// missing high bytes count as 0.
 DWORD RegistryReadDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                         DWORD defaultNumber);
 
-// Returns true when RegistryReadDword, with a default of 1 for true and 0 for false, returns a
-// number other than 0.
+// Returns true for a REG_DWORD value other than 0, false for 0, and `defaultAnswer` when
+// RegistryReadDword would return its default.
 bool RegistryReadBoolean(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                          bool defaultAnswer);
 
-// Writes a REG_DWORD value of 4 bytes (RegSetValueExW) and creates the key, with all missing keys
-// on its path. Returns 0, the error code of the write, or -1 when the key cannot be created or
-// opened for KEY_WRITE.
+// Writes a REG_DWORD value of 4 bytes (RegSetValueExW), creating the key and all missing keys on
+// its path. Returns 0, the error code of the write, or -1 when the key cannot be created or opened
+// for KEY_WRITE.
 LSTATUS RegistryWriteDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            DWORD number);
 

@@ -18,8 +18,8 @@ constexpr DWORD kReadLength = kMaxRegistryStringSize / sizeof(wchar_t);
 
 enum class Expansion { kNone, kWhereTypeSays };
 
-// Reads a string value into `buffer`, which must be all zero; the registry is told of `capacity`
-// characters. Returns false, with an empty `buffer`, when the value cannot be used.
+// Reads a string value into `buffer`, which must be zeroed; `capacity`, in characters, is the size
+// passed to the registry. Returns false, with an empty `buffer`, when the value cannot be used.
 bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expansion expansion,
               std::span<wchar_t> buffer, DWORD capacity) {
   OwnedRegistryKey key;
@@ -35,11 +35,10 @@ bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expans
     buffer.front() = L'\0';
     return false;
   }
-  // Another party may have stored no terminator.
+  // The string may have been stored without a terminator.
   buffer.back() = L'\0';
   if (type == REG_EXPAND_SZ && expansion == Expansion::kWhereTypeSays) {
-    // One more than the function is told of: a string cut at the end of the buffer has no NUL of
-    // its own.
+    // One more than the size passed to the function: a string cut at that size has no NUL.
     std::array<wchar_t, MAX_PATH + 1> expanded{};
     if (ExpandEnvironmentStringsW(buffer.data(), expanded.data(), MAX_PATH) != 0) {
       lstrcpynW(buffer.data(), expanded.data(), static_cast<int>(capacity));
@@ -74,8 +73,7 @@ LSTATUS WriteText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, DW
 
 WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            const wchar_t* defaultText) {
-  // One more than the registry is told of, so that 2,048 bytes without a terminator are followed by
-  // one.
+  // One more than the size passed to the registry, to end 2,048 bytes that have no terminator.
   std::array<wchar_t, kReadLength + 1> buffer{};
   const bool found =
       ReadText(root, subkey, valueName, Expansion::kWhereTypeSays, buffer, kReadLength);

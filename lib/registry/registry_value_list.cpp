@@ -11,17 +11,17 @@ namespace {
 
 constexpr DWORD kBufferLength = 16383;
 
-// Reads a key's values one after the other into the same two buffers.
+// Reads a key's values one by one into the same two buffers.
 class ValueReader {
  public:
   explicit ValueReader(HKEY key) : key_(key) {}
 
-  // False when the value cannot be enumerated.
+  // Returns false when the value cannot be enumerated.
   bool Read(DWORD index) {
     nameLength_ = kBufferLength;
     size_ = kBufferLength * sizeof(wchar_t);
     name_.front() = L'\0';
-    // The rest keeps what the previous value left: a number's string may run on into it.
+    // The rest keeps the previous value's data: a number's string may continue into it.
     data_.front() = L'\0';
     return RegEnumValueW(key_, index, name_.data(), &nameLength_, nullptr, &type_,
                          reinterpret_cast<BYTE*>(data_.data()), &size_) == ERROR_SUCCESS;
@@ -48,7 +48,7 @@ class ValueReader {
     return WString(std::wstring_view(name_.data(), nameLength_));
   }
 
-  // Only what the value itself stores, which may lack a terminator or end in half a unit.
+  // Returns only this value's data, which may lack a terminator or end in half a character.
   [[nodiscard]] WString StoredText() const {
     WString text(std::wstring_view(data_.data(), (size_ + 1) / sizeof(wchar_t)));
     if (size_ % sizeof(wchar_t) != 0) {
@@ -65,7 +65,7 @@ class ValueReader {
   }
 
   HKEY key_;
-  // One more than the registry is told of, so that a string that fills the buffer ends in a NUL.
+  // One more than the size passed to the registry, so that a string of full length ends in a NUL.
   std::vector<wchar_t> name_ = std::vector<wchar_t>(kBufferLength + 1);
   std::vector<wchar_t> data_ = std::vector<wchar_t>(kBufferLength + 1);
   DWORD nameLength_ = 0;

@@ -36,7 +36,7 @@ bool ParseRegistryValuePath(const WString& fullPath, HKEY& root, WString& keyPat
     return false;
   }
   root = found->key;
-  // A copy: `fullPath` may be one of the strings that are assigned.
+  // A copy, since `fullPath` may be one of the strings assigned below.
   const WString path = fullPath.substr(found->prefix.length());
   const std::size_t backslash = path.rfind(L"\\");
   if (backslash == WString::npos) {

@@ -8,10 +8,9 @@ namespace kelvo {
 
 // Splits a full path such as HKEY_CURRENT_USER\Software\App\Setting into its root key, the path
 // below it and the value's name, which follows the last backslash. The root is HKEY_CLASSES_ROOT,
-// HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE or HKEY_USERS, in capitals and in full. Returns true when
-// neither the key path nor the value name is empty. Otherwise returns false: with nothing assigned
-// when the path has none of these roots, with only `root` assigned when no backslash follows below
-// it.
+// HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE or HKEY_USERS, in capitals and unabbreviated. Returns true
+// when neither the key path nor the value name is empty. Otherwise returns false; assigns nothing
+// when the path has none of these roots, and only `root` when no other backslash follows.
 bool ParseRegistryValuePath(const WString& fullPath, HKEY& root, WString& keyPath,
                             WString& valueName);
 

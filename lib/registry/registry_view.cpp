@@ -12,7 +12,7 @@ bool EnableRegistryReflection(HKEY key, bool enable) {
 }
 
 REGSAM GetRegistryViewAccess(int view) {
-  // Only a 64-bit Windows has two views, and the library is built for no other.
+  // Only 64-bit Windows has two views, and the library is built for no other.
   switch (view) {
     case 1:
       return KEY_WOW64_32KEY;

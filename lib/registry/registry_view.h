@@ -9,8 +9,8 @@ namespace kelvo {
 // the function and it succeeds.
 bool EnableRegistryReflection(HKEY key, bool enable);
 
-// Returns the bit to OR into a key's access mask for a view of the registry: KEY_WOW64_32KEY for
-// view 1, KEY_WOW64_64KEY for view 2, and 0, the process's own view, for every other number.
+// Returns the access flag for a registry view: KEY_WOW64_32KEY for view 1, KEY_WOW64_64KEY for view
+// 2, and 0, the process's default view, for every other number.
 REGSAM GetRegistryViewAccess(int view);
 
 }  // namespace kelvo

@@ -4,10 +4,12 @@
 
 namespace kelvo {
 
-// Returns 0 when values can be written to the key `subkey` below `root`, an open or a predefined
-// key, and 1 when they cannot. Finds out by writing the REG_DWORD value "RegCheck" and deleting it
-// again; a key that did not exist is created and stays. On NT 6.0 and later a process that is not
-// elevated gets 1 without an attempt, because its write might be redirected.
+// See lib/registry/registry_key.h for `root`, `subkey` and RegistryAccessFlags.
+
+// Returns 0 when values can be written to a key, and 1 when they cannot. Tests this by writing the
+// REG_DWORD value "RegCheck" and deleting it again; a missing key is created and stays. On NT 6.0
+// and later, returns 1 without trying for a process that is not elevated, because registry
+// virtualization might redirect its write.
 int RegistryCanWrite(HKEY root, const wchar_t* subkey);
 
 }  // namespace kelvo

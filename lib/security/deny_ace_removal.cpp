@@ -15,8 +15,8 @@ bool IsDeny(const void* ace) {
   return type == ACCESS_DENIED_ACE_TYPE || type == ACCESS_DENIED_OBJECT_ACE_TYPE;
 }
 
-// Stops before index 0, whose entry is never examined. A list without entries starts at an index
-// that GetAce refuses.
+// Stops before index 0, whose ACE is never examined. An empty DACL starts at an index that GetAce
+// refuses.
 bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
   for (DWORD index = aceCount - 1; index > 0; --index) {
     const void* const ace = internal::AceAt(dacl, index);
@@ -27,7 +27,7 @@ bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
       continue;
     }
     const PSID denied = internal::SidOfAce(ace);
-    // An entry that is too short for its SID counts as one that cannot be read.
+    // An ACE that is too short for its SID counts as unreadable.
     if (!internal::Check(denied != nullptr, L"DeleteDenyACEofObject GetAce Failed")) {
       return false;
     }
@@ -57,7 +57,8 @@ bool DeleteDenyAcesOfObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type,
   if (!DeleteDenyAces(sid, dacl, size.AceCount)) {
     return false;
   }
-  // Also when nothing was deleted. The message names GetAce, although the write failed.
+  // Written even when nothing was deleted. The message names GetAce, although it is the write that
+  // failed.
   return internal::Check(SetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr,
                                          dacl, nullptr) == ERROR_SUCCESS,
                          L"DeleteDenyACEofObject SetSecurityInfo GetAce Failed");

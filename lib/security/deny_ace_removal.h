@@ -6,16 +6,19 @@
 
 namespace kelvo {
 
-// Removes the deny entries (ACCESS_DENIED_ACE_TYPE) for one SID from an object's DACL, except one
-// at index 0, and writes the DACL back (SetSecurityInfo), even when it held none. The handle needs
-// READ_CONTROL and WRITE_DAC. An object without a DACL is left as it is. For a group's SID the
-// denial ends for all of its members, until the object is deleted: a station with its session.
+// Removes the deny ACEs (ACCESS_DENIED_ACE_TYPE) for one SID from an object's DACL, except one at
+// index 0, and writes the DACL back (SetSecurityInfo), even when there were none. The handle needs
+// READ_CONTROL and WRITE_DAC. An object without a DACL is left unchanged. For a group's SID, the
+// denial ends for all of its members, until the object is deleted: for a window station, when its
+// session ends.
 //
-// Object entries stay, since their SID is looked for right after the mask, where they hold other
-// data; so do callback entries. Returns TRUE when the DACL was written back or there is none; an
-// entry that DeleteAce refuses to delete stays, without a trace. Returns FALSE, and traces why,
-// when the DACL cannot be read or written, when it has no entries, and when a deny entry, object
-// entries included, is too short for its SID; the object then keeps its DACL.
+// Object ACEs stay, because the SID is expected right after the mask, where they have other data.
+// Callback ACEs stay too, and, without a trace, an ACE that DeleteAce refuses to delete. Returns
+// TRUE when the DACL was written back or there is none. Returns FALSE, traces why and leaves the
+// DACL unchanged in these cases:
+//   - The DACL cannot be read or written.
+//   - It has no ACEs.
+//   - A deny ACE, object ACEs included, is too short for its SID.
 BOOL DeleteDenyACEofObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type);
 
 }  // namespace kelvo

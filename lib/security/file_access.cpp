@@ -13,7 +13,7 @@ namespace kelvo {
 
 namespace {
 
-// Returns `succeeded`. When a step failed, prints `messageFormat` with the last error first.
+// Returns `succeeded`; if it is false, first prints `messageFormat` with the last error.
 bool Check(bool succeeded, const wchar_t* messageFormat) {
   if (!succeeded) {
     std::wprintf(messageFormat, static_cast<int>(GetLastError()));
@@ -36,7 +36,7 @@ struct Descriptor {
 bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
   DWORD size = 0;
   if (GetFileSecurityW(path, DACL_SECURITY_INFORMATION, nullptr, 0, &size) != FALSE) {
-    return false;  // a file without anything to read is refused without a word
+    return false;  // a file without a descriptor is refused silently
   }
   read.size = size;
   return Check(GetLastError() == ERROR_INSUFFICIENT_BUFFER,
@@ -47,7 +47,7 @@ bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
                L"GetFileSecurity() failed. Error %d\n");
 }
 
-// GetAclInformation of a DACL that, with all its entries, lies inside the descriptor.
+// Calls GetAclInformation for a DACL that, with all its ACEs, is inside the descriptor.
 bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFORMATION& size) {
   const auto offset = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(dacl) -
                                                static_cast<const BYTE*>(descriptor.memory.get()));
@@ -59,7 +59,7 @@ bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFOR
   return internal::QueryAclSize(dacl, size);
 }
 
-// The descriptor's DACL, null when it has none, and its size.
+// Finds the descriptor's DACL, null when it has none, and its size.
 bool FindDacl(const Descriptor& descriptor, ACL*& dacl, ACL_SIZE_INFORMATION& size) {
   BOOL isPresent = FALSE;
   BOOL isDefaulted = FALSE;
@@ -92,8 +92,8 @@ bool IsOfAccount(const void* ace, PSID account) {
   return sid != nullptr && EqualSid(sid, account) != FALSE;
 }
 
-// Fills an empty list: with the explicit entries of other accounts, the new entry, and everything
-// from the first inherited entry on, whoever it is for. `oldDacl` may be null when `count` is 0.
+// Fills an empty DACL with the explicit ACEs of other accounts, the new ACE, and everything from
+// the first inherited ACE on, whoever it is for. `oldDacl` may be null when `count` is 0.
 bool FillDacl(const ACL* oldDacl, DWORD count, PSID account, DWORD accessMask, ACL* newDacl) {
   void* ace = nullptr;
   DWORD index = 0;

@@ -74,7 +74,7 @@ bool MakeAbsolute(Buffers& buffers) {
   const bool areAllocated = buffers.descriptor != nullptr && buffers.dacl != nullptr &&
                             buffers.sacl != nullptr && buffers.owner != nullptr &&
                             buffers.group != nullptr;
-  // The message speaks of a SID, but memory has run out.
+  // The message mentions a SID, but memory has run out.
   if (!internal::Check(areAllocated, L"ModifySecurity Invalid SID Found")) {
     return false;
   }
@@ -107,7 +107,7 @@ bool GrantToCurrentUser(HANDLE object, DWORD mask, Buffers& buffers) {
       L"ModifySecurity SetKernelObjectSecurity Failed");
 }
 
-// The wrong way round, and kept so: only buffers that are not there are freed, so none is.
+// Inverted, and kept so: only null buffers are freed, so none is.
 void Release(const Buffers& buffers) {
   for (void* const buffer : {buffers.oldDescriptor, buffers.descriptor, buffers.dacl, buffers.sacl,
                              buffers.owner, buffers.group}) {

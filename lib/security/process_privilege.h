@@ -4,26 +4,26 @@
 
 namespace kelvo {
 
-// Privileges in the token of this process, for the rest of its life: OpenProcessToken,
-// LookupPrivilegeValueW on this system, AdjustTokenPrivileges. `name` is Windows' name of the
-// privilege, such as "SeShutdownPrivilege".
+// Both functions change a privilege in this process's token until the process exits
+// (OpenProcessToken, LookupPrivilegeValueW on this system, AdjustTokenPrivileges). `name` is
+// Windows' name of the privilege, such as "SeShutdownPrivilege".
 
-// Enables or disables a privilege. Returns what AdjustTokenPrivileges returns, which is TRUE also
-// for a privilege that the token does not hold; FALSE when an earlier step fails or an exception
-// ends one.
+// Enables or disables a privilege. Returns the result of AdjustTokenPrivileges, which is TRUE even
+// for a privilege that the token does not hold. Returns FALSE when an earlier step fails or an
+// exception ends one.
 BOOL EnablePrivilege(const wchar_t* name, BOOL enable);
 
-// How enabling a privilege went.
+// What EnablePrivilegeWithOutcome returns.
 struct PrivilegeOutcome {
-  // What AdjustTokenPrivileges returned; FALSE when it was not reached. TRUE does not mean that the
+  // The result of AdjustTokenPrivileges; FALSE when it was not called. TRUE does not mean that the
   // token holds the privilege.
   BOOL adjusted = FALSE;
-  // The last error after the call that failed or, when none did, after the adjustment:
+  // The last error of the call that failed or, when none did, of AdjustTokenPrivileges:
   // ERROR_NOT_ALL_ASSIGNED when the token does not hold the privilege.
   DWORD error = ERROR_SUCCESS;
 };
 
-// Enables a privilege and reports how that went, for callers that must know whether it is held.
+// Enables a privilege and returns the outcome, for callers that must find out whether it is held.
 PrivilegeOutcome EnablePrivilegeWithOutcome(const wchar_t* name);
 
 }  // namespace kelvo

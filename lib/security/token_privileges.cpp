@@ -11,7 +11,7 @@ namespace kelvo {
 
 namespace {
 
-// The first three are listed twice, and so are in the set twice.
+// The first three are listed twice, so the set contains them twice.
 constexpr const wchar_t* kBuiltInPrivileges[] = {
     L"SeCreateTokenPrivilege",
     L"SeAssignPrimaryTokenPrivilege",
@@ -63,7 +63,7 @@ DWORD CountNames(const wchar_t* const* names) {
   return count;
 }
 
-// Fills the entries from the first on and returns how many names this system knows.
+// Fills `entries` from the first on and returns how many of the names this system supports.
 DWORD LookUpPrivileges(const wchar_t* const* names, DWORD count, LUID_AND_ATTRIBUTES* entries) {
   DWORD known = 0;
   for (DWORD index = 0; index < count; ++index) {

@@ -15,7 +15,7 @@ namespace kelvo {
 
 namespace {
 
-// What differs between the two kinds of window objects.
+// The differences between the two kinds of window objects.
 struct WindowObjectKind {
   ACCESS_MASK mask;
   const wchar_t* readFailed;
@@ -50,7 +50,7 @@ constexpr WindowObjectKind kDesktop = {
     .writeFailed = L"AllowAccessToDesktop SetSecurityInfo Failed",
     .cleanUp = L"AllowAccessToDesktop exception caught in __finally"};
 
-// A list up to this size is built on the stack: 1,024 bytes less a marker of 16.
+// A DACL up to this size is built on the stack: 1,024 bytes less a marker of 16.
 constexpr std::size_t kStackSize = 1024 - 16;
 
 bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,
@@ -61,7 +61,7 @@ bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE*
   if (!internal::Check(CopyACL(built, dacl) != FALSE, kind.copyFailed)) {
     return false;
   }
-  // An entry for which no index is found goes to the end: kNoAceIndex is MAXDWORD.
+  // An ACE for which no index is found is appended: kNoAceIndex is MAXDWORD.
   return internal::Check(AddAce(built, ACL_REVISION, GetACEInsertionIndex(built, ace), ace,
                                 ace->Header.AceSize) != FALSE,
                          kind.addFailed);
@@ -69,10 +69,10 @@ bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE*
 
 bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
                  ACCESS_ALLOWED_ACE* ace) {
-  // ACL itself is aligned to 2 bytes, the entries in it to 4.
+  // An ACL is aligned to 2 bytes, the ACEs in it to 4.
   alignas(DWORD) std::array<std::byte, kStackSize> stack{};
   const DWORD size = CalculateACLSize(dacl, nullptr, 0, &ace, 1);
-  // Not freed when it comes from the heap, as the entry is not.
+  // Not freed when it comes from the heap, like the ACE.
   void* const scratch =
       size <= stack.size() ? stack.data() : HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, size);
   if (!internal::Check(scratch != nullptr, kind.allocationFailed)) {
@@ -101,7 +101,7 @@ bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
   if (dacl == nullptr) {
     return true;
   }
-  // Without an entry there is nothing to look for.
+  // Without an ACE, there is nothing to look for.
   return ace != nullptr &&
          (FindACEInACL(dacl, ace) != kNoAceIndex || ReplaceDacl(kind, object, dacl, ace));
 }

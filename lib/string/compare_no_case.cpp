@@ -12,18 +12,18 @@ namespace kelvo {
 
 namespace {
 
-// Every unit with its lower case.
+// Maps every unit to its lower case.
 using Table = std::array<wchar_t, 0x10000>;
 
-// A call into Windows costs far more than mapping one unit, so all are mapped at once. The only
-// surrogates that form a pair here, U+DBFF and U+DC00, stand for a character without letter case.
+// A call to Windows costs far more than mapping one unit, so all are mapped at once. The only
+// surrogates that form a pair here, U+DBFF and U+DC00, encode a character without case.
 Table MakeTable() {
   Table units;
   const auto fill = [&] { std::iota(units.begin(), units.end(), L'\0'); };
   fill();
   constexpr int kCount = static_cast<int>(units.size());
-  // The invariant locale, so that the user's settings do not change which strings are equal. In
-  // place, as this flag allows.
+  // The invariant locale, so that the user's settings do not change which strings are equal. This
+  // flag allows the output to overwrite the input.
   if (LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, units.data(), kCount, units.data(), kCount) !=
       kCount) {
     fill();
@@ -41,7 +41,7 @@ wchar_t FoldInDefaultLocale(wchar_t unit) {
 
 wchar_t FoldInLocale(wchar_t unit) { return static_cast<wchar_t>(std::towlower(unit)); }
 
-// Returns true for one letter from A to Z in both cases.
+// Returns true for the two cases of one letter from A to Z.
 bool AreCasesOfLetter(unsigned a, unsigned b) {
   constexpr unsigned kCaseBit = 0x20;
   return (a ^ b) == kCaseBit && (a | kCaseBit) - L'a' < 26;

@@ -4,13 +4,13 @@
 
 namespace kelvo {
 
-// Compares two NUL-terminated strings, neither of them null, without regard to letter case. Returns
-// 0 when they are equal after each UTF-16 unit is folded to lower case, otherwise the first folded
-// unit of `a` that differs minus that of `b`: negative when `a` sorts first.
+// Compares two NUL-terminated strings, neither of them null, ignoring case. Folds each UTF-16 code
+// unit to lower case. Returns 0 when the results are equal, otherwise the difference between the
+// first folded units that differ, that of `a` minus that of `b`: negative when `a` sorts first.
 //
-// Folding follows the C runtime's locale for character classes (setlocale), read once per call. In
-// the default locale "C", A to Z become a to z, other units below U+0100 stay as they are, and
-// LCMapStringW with LCMAP_LOWERCASE folds the rest. In any other locale towlower folds. U+FFFF
+// Folding depends on the C runtime's LC_CTYPE locale (setlocale), read once per call. In the
+// default locale "C", A to Z become a to z, other units below U+0100 stay as they are, and
+// LCMapStringW with LCMAP_LOWERCASE folds the rest. In any other locale, towlower folds. U+FFFF
 // always stays as it is.
 std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b);
 

@@ -22,7 +22,7 @@ WString FormatTextV(const wchar_t* format, std::va_list arguments) {
   }
   const auto units = static_cast<std::size_t>(length);
   WString text(units, L'\0');
-  // Not the standard vswprintf: mingw's has another meaning of %s and stops at a unit above U+00FF.
+  // Not the standard vswprintf: mingw's gives %s another meaning and stops at a unit above U+00FF.
   if (_vsnwprintf(text.data(), units, format, arguments) != length) {
     text.clear();
   }

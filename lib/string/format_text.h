@@ -6,10 +6,10 @@
 
 namespace kelvo {
 
-// Formats the arguments as the wide printf functions of Windows' own C runtime do (_vsnwprintf), to
-// any length. "%s" inserts a wide string, whichever printf functions the compiler brings; "%d"
-// inserts a 32-bit number, "%08lX" a code. `format` must not be null. Returns an empty string when
-// the runtime rejects it.
+// Formats the arguments like the wide printf functions of Windows' own C runtime (_vsnwprintf), to
+// any length. "%s" inserts a wide string, whatever the compiler's own printf functions do; "%d"
+// inserts a 32-bit number, "%08lX" an error code. `format` must not be null. Returns an empty
+// string when the runtime rejects it.
 WString FormatText(const wchar_t* format, ...);
 WString FormatTextV(const wchar_t* format, std::va_list arguments);
 

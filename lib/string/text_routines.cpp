@@ -20,7 +20,7 @@ std::size_t CountOccurrences(std::wstring_view text, std::wstring_view search) {
   return count;
 }
 
-// The string that the result is written to.
+// Returns a string of the length of the result.
 WString RoomFor(const WString& text, std::size_t count, std::size_t removed, std::size_t added) {
   const std::size_t kept = text.length() - (count * removed);
   if (added > (text.max_size() - kept) / count) {

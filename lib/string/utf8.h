@@ -5,8 +5,8 @@
 
 namespace kelvo {
 
-// Returns `text` in UTF-8, with U+FFFD for an unpaired surrogate (WideCharToMultiByte). Throws
-// std::length_error when an int might not hold the number of bytes.
+// Converts `text` to UTF-8 (WideCharToMultiByte); an unpaired surrogate becomes U+FFFD. Throws
+// std::length_error when the number of bytes might not fit in an int.
 std::string ToUtf8(std::wstring_view text);
 
 }  // namespace kelvo

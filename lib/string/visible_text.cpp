@@ -44,7 +44,7 @@ std::string ToVisibleUtf8(std::wstring_view text) {
 
 std::size_t CountCharacters(std::string_view utf8) {
   return static_cast<std::size_t>(std::count_if(utf8.begin(), utf8.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;  // no continuation byte
+    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;  // not a continuation byte
   }));
 }
 

@@ -5,10 +5,10 @@
 
 namespace kelvo {
 
-// Returns `text` in UTF-8 for a terminal or a log. Whatever would act on a terminal, and what UTF-8
-// cannot express, is written as its number, such as <U+001B>: control characters, line and
-// paragraph separators, marks that change the direction of writing, the byte order mark, and
-// unpaired surrogates. Throws std::length_error for a string too long for ToUtf8.
+// Converts `text` to UTF-8 for a terminal or a log. Whatever would act on a terminal, and what
+// UTF-8 cannot express, becomes its code, such as <U+001B>: control characters, line and paragraph
+// separators, bidirectional formatting characters, the byte order mark, and unpaired surrogates.
+// Throws std::length_error for a string too long for ToUtf8.
 std::string ToVisibleUtf8(std::wstring_view text);
 
 // Returns the number of characters (code points) in valid UTF-8. On a terminal that is the number

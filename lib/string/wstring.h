@@ -7,17 +7,18 @@
 
 namespace kelvo {
 
-// A string of UTF-16 units, always followed by a NUL: std::wstring, but a null pointer counts as an
-// empty string, and the messages of its exceptions do not depend on the standard library. It has
-// what the library itself needs: take std::wstring_view for everything else. With libstdc++, up to
-// seven units are stored in the object itself. Positions and counts are in units. Operations are
-// those of the standard:
-//   - a start position past the end throws std::out_of_range "invalid string position";
-//   - growth beyond max_size() throws std::length_error "string too long"; constructing one from a
-//     longer view throws with the standard library's own message;
-//   - a count that reaches past the end is cut at the end;
-//   - std::bad_alloc is thrown when memory runs out, as by every operation of the library that
-//     makes a string, unless its header says what it answers then.
+// A string of UTF-16 code units, always followed by a NUL. It is like std::wstring, except that a
+// null pointer counts as an empty string and that its exceptions' messages do not depend on the
+// standard library. It has only what the library itself needs: use std::wstring_view for everything
+// else. With libstdc++, up to seven units are stored in the object itself. Positions and counts are
+// in units. Operations are those of the standard:
+//   - A start position past the end throws std::out_of_range "invalid string position".
+//   - Growth beyond max_size() throws std::length_error "string too long". Constructing one from a
+//     longer view throws with the standard library's own message.
+//   - A count that reaches past the end is cut at the end.
+//   - When memory runs out, std::bad_alloc is thrown, as by every operation of the library that
+//     makes a string, unless its header says what it returns then.
+//
 // When an operation throws, the string is unchanged.
 class WString {
  public:
@@ -25,8 +26,7 @@ class WString {
   static constexpr std::size_t npos = std::wstring::npos;
 
   WString() = default;
-  // Copies a NUL-terminated string, null as an empty one, or a view, or takes `count` times `unit`.
-  // NOLINTNEXTLINE(google-explicit-constructor): literals are strings
+  // Copies a NUL-terminated string (null counts as empty), a view, or `unit`, `count` times.
   WString(const wchar_t* text) { AssignCString(text); }
   explicit WString(std::wstring_view text) : text_(text) {}
   WString(std::size_t count, wchar_t unit) { resize(count, unit); }
@@ -37,14 +37,14 @@ class WString {
   // Copies `count` units of `text` from `start` on. `text` may be this string.
   WString& assign(const WString& text, std::size_t start, std::size_t count = npos);
 
-  // Adds `text` at the end.
+  // Appends `text`.
   WString& append(std::wstring_view text);
   WString& operator+=(const WString& text) { return append(text); }
 
   // Removes `count` units from `start` on.
   WString& erase(std::size_t start, std::size_t count = npos);
 
-  // Shortens the string to `count` units, or fills it up to `count` with `unit`.
+  // Shortens the string to `count` units, or extends it to `count` with `unit`.
   void resize(std::size_t count, wchar_t unit = L'\0');
 
   // Makes the string empty.
@@ -70,15 +70,15 @@ class WString {
   // Returns the unit at a position; the NUL at the position length().
   [[nodiscard]] wchar_t operator[](std::size_t position) const { return text_[position]; }
 
-  // Return the number of units, without the NUL; the largest one there may be; whether it is 0.
+  // Return the number of units, without the NUL; the largest possible number; whether it is 0.
   [[nodiscard]] std::size_t size() const { return text_.size(); }
   [[nodiscard]] std::size_t length() const { return text_.length(); }
   [[nodiscard]] std::size_t max_size() const { return text_.max_size(); }
   [[nodiscard]] bool empty() const { return text_.empty(); }
 
-  // Returns the units with a NUL after them.
+  // Returns the units, followed by a NUL.
   [[nodiscard]] const wchar_t* c_str() const { return text_.c_str(); }
-  // Points to length() units that may be written and the NUL after them, which may not.
+  // Points to length() writable units, followed by a NUL that must not be changed.
   [[nodiscard]] wchar_t* data() { return text_.data(); }
   [[nodiscard]] const wchar_t* data() const { return text_.data(); }
 
@@ -86,7 +86,7 @@ class WString {
   // NOLINTNEXTLINE(google-explicit-constructor): a view of the whole string loses nothing
   operator std::wstring_view() const { return text_; }
 
-  // Compare unit by unit, and join.
+  // Compare unit by unit; concatenate.
   friend bool operator==(const WString&, const WString&) = default;
   friend auto operator<=>(const WString&, const WString&) = default;
   friend WString operator+(WString left, const WString& right) {

@@ -21,7 +21,7 @@ struct AllocatedSid {
 };
 using OwnedSid = Owned<AllocatedSid>;
 
-// The token that the calling thread acts under.
+// Returns the calling thread's impersonation token or, when it has none, the process's token.
 OwnedKernelObject OpenEffectiveToken() {
   OwnedKernelObject token;
   if (!token.KeepIf(OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive()) !=

@@ -14,7 +14,7 @@ double CountDeviceColors(HDC device) {
   return std::pow(2.0, GetDeviceCaps(device, PLANES) * GetDeviceCaps(device, BITSPIXEL));
 }
 
-// 0 when the desktop has no device context to ask.
+// Returns 0 when the desktop has no device context.
 double CountColors(HDC device) {
   if (device != nullptr) {
     return CountDeviceColors(device);

@@ -4,9 +4,9 @@
 
 namespace kelvo {
 
-// How many bits a pixel of a device has: its planes times its bits per plane (GetDeviceCaps with
-// PLANES and BITSPIXEL). Both operations ask the desktop window's device when `device` is null,
-// release it again, and return false when there is none.
+// The color depth of a device in bits per pixel: its planes times its bits per plane (GetDeviceCaps
+// with PLANES and BITSPIXEL). For a null `device`, both functions use the desktop window's device
+// context and release it; they return false when there is none.
 
 // Returns true for 32 bits per pixel or more; 24 do not count.
 bool IsFullResolution(HDC device = nullptr);

@@ -20,7 +20,7 @@ int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int
   if (order < 0) {
     return -1;
   }
-  // The results 1 and 0 have never freed the resource.
+  // By contract, the results 1 and 0 do not free the resource.
   version.memory.release();
   return order > 0 ? 1 : 0;
 }

@@ -14,7 +14,7 @@ namespace kelvo {
 
 namespace {
 
-// The resource as Windows lays it out; empty when it cannot be read.
+// Returns the resource as Windows lays it out, empty when it cannot be read.
 std::vector<BYTE> ReadVersionResource(const wchar_t* path) {
   DWORD ignored = 0;
   std::vector<BYTE> resource(GetFileVersionInfoSizeW(path, &ignored));
@@ -25,7 +25,7 @@ std::vector<BYTE> ReadVersionResource(const wchar_t* path) {
   return resource;
 }
 
-// The path of the first translation's text; empty when there is no translation.
+// Returns the path of the first translation's string, empty when there is no translation.
 WString FileVersionPath(std::span<const BYTE> resource) {
   const std::span<const BYTE> value =
       internal::FindVersionValue(resource, L"\\VarFileInfo\\Translation", sizeof(BYTE));

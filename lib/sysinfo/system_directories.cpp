@@ -44,7 +44,7 @@ WString GetSystemWow64DirectoryPath() {
   return EndsInSeparator(buffer.data(), length) ? path : path + L"\\";
 }
 
-// File-system redirection does not apply to a 64-bit process, so there is none to switch off.
+// File system redirection does not apply to a 64-bit process, so there is none to disable.
 WString GetNativeSystemDirectoryPath() { return {GetSystemDirectoryPath()}; }
 
 }  // namespace kelvo

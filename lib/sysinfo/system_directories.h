@@ -8,18 +8,18 @@ namespace kelvo {
 // where Windows returns none) and is empty on failure. The names end in Path because windows.h
 // defines GetSystemDirectory and GetSystemWow64Directory as macros.
 
-// Returns the system directory (GetSystemDirectoryW), of at most 510 characters and the separator;
-// empty when it is longer. The string is in a process-wide buffer. Every call overwrites it, and so
-// do the operations of this library that look into the system directory.
+// Returns the system directory (GetSystemDirectoryW), at most 510 characters and the separator;
+// empty when it is longer. The string is in a process-wide buffer, which is overwritten by every
+// call and by the functions of this library that use the system directory.
 const wchar_t* GetSystemDirectoryPath();
 
-// Returns the directory of the 32-bit libraries on a 64-bit Windows (GetSystemWow64DirectoryW,
-// looked up at run time), of at most 1,023 characters and the separator. Empty when Windows does
-// not have the function.
+// Returns the directory of the 32-bit libraries on 64-bit Windows (GetSystemWow64DirectoryW, looked
+// up at run time), at most 1,023 characters and the separator. Empty when Windows lacks the
+// function.
 WString GetSystemWow64DirectoryPath();
 
-// Returns the system directory that 64-bit programs see, which in a 64-bit process is the path of
-// GetSystemDirectoryPath; overwrites its buffer.
+// Returns the system directory that 64-bit programs see. In a 64-bit process, that is
+// GetSystemDirectoryPath, whose buffer this overwrites.
 WString GetNativeSystemDirectoryPath();
 
 }  // namespace kelvo

@@ -21,11 +21,11 @@ namespace {
 constexpr const wchar_t* kHotfix =
     L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009";
 
-// Which of its two records GetVersionExW filled: the extended one of 284 bytes, or the short one of
-// 276, which leaves suites and product type zero.
+// The structure that GetVersionExW filled: OSVERSIONINFOEXW (284 bytes), or OSVERSIONINFOW (276
+// bytes), which leaves suites and product type zero.
 enum class VersionRecord { kExtended, kShort, kNone };
 
-// `version` must be all zero.
+// `version` must be zeroed.
 VersionRecord QueryVersionRecord(OSVERSIONINFOEXW& version) {
   auto* const record = reinterpret_cast<OSVERSIONINFOW*>(&version);
   version.dwOSVersionInfoSize = sizeof(OSVERSIONINFOEXW);
@@ -44,7 +44,7 @@ WORD QueryArchitecture() {
   return system.wProcessorArchitecture;
 }
 
-// Only the low half of the build number: Windows 9x keeps the version in the other.
+// Only the low half of the build number: Windows 9x has the version in the high half.
 WORD Build(const OSVERSIONINFOEXW& version) { return LOWORD(version.dwBuildNumber); }
 
 WString FormatNumbers(const OSVERSIONINFOEXW& version) {
@@ -73,7 +73,7 @@ void Append9xName(const OSVERSIONINFOEXW& version, WString& text) {
   }
 }
 
-// Adds what the extended record would have told; false when the line ends here.
+// Appends what OSVERSIONINFOEXW would have contained. Returns false when the line ends here.
 bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
   constexpr const wchar_t* kProductOptions = L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions";
   if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductOptions, 0, KEY_QUERY_VALUE, key.Receive()) !=
@@ -82,7 +82,7 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
     return false;
   }
   constexpr DWORD kLength = 100;
-  // One more than the registry is told of, for a value stored without a terminator.
+  // One more than the size passed to the registry, for a value stored without a terminator.
   std::array<wchar_t, kLength + 1> type{};
   DWORD size = kLength * sizeof(wchar_t);
   if (RegQueryValueExW(key.get(), L"ProductType", nullptr, nullptr,
@@ -110,7 +110,7 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
 }
 
 void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
-  // With a NUL of its own. An array, since a structured exception below skips destructors.
+  // One more, for a NUL. An array, since a structured exception below skips destructors.
   std::array<wchar_t, std::extent_v<decltype(version.szCSDVersion)> + 1> servicePack{};
   std::ranges::copy(version.szCSDVersion, servicePack.begin());
   if (version.dwMajorVersion == 4 && CompareNoCase(servicePack.data(), L"Service Pack 6") == 0) {
@@ -118,7 +118,7 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
                                          key.Receive()) == ERROR_SUCCESS;
     text += FormatText(L"%s (Build %d)", hasHotfix ? L"Service Pack 6a" : servicePack.data(),
                        Build(version));
-    // Inside the guard, like every other call.
+    // Closed inside the guard, like every other call.
     key.reset();
   } else if (servicePack.front() == L'\0') {
     text += FormatNumbers(version);
@@ -128,7 +128,7 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
   }
 }
 
-// Builds the line in the empty `text`. `key` owns the key that is open when an exception ends it.
+// Builds the line in the empty `text`. When an exception ends it, `key` owns the key that is open.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);
@@ -175,7 +175,7 @@ WString GetSystemVersionNumbers() {
       numbers = FormatNumbers(version);
     }
   });
-  // Short enough for the string itself, and the other is moved out: neither takes memory.
+  // This string fits in the object itself, and the other is moved out: neither allocates memory.
   if (numbers.empty()) {
     numbers = L"0.0.0.0";
   }

@@ -4,17 +4,17 @@
 
 namespace kelvo {
 
-// Returns true when the running Windows has the Terminal Services suite. From NT 5.0 on,
-// VerifyVersionInfoA decides with VerSetConditionMask (both looked up at run time; false when one
-// is missing), on NT 4.0 the product suite "Terminal Server". Always false on Windows 9x. Calls
-// GetVersion each time.
+// Returns true when the running Windows has the Terminal Services suite. On NT 5.0 and later,
+// VerifyVersionInfoA decides, with VerSetConditionMask (both looked up at run time; false when one
+// is missing). On NT 4.0, the product suite "Terminal Server" decides. Always false on Windows 9x.
+// Calls GetVersion each time.
 bool IsWinNTTerminalServer();
 
 // Returns true when the value "ProductSuite" (REG_MULTI_SZ) of HKEY_LOCAL_MACHINE
-// "System\CurrentControlSet\Control\ProductOptions" lists `suiteName`, compared with lstrcmpW, so
-// case counts. The list ends at its first empty string, or with the data when no terminator is
-// stored; an odd last byte counts as a character of its own. False for a null or empty name, a
-// value of another type and one that cannot be read. Opens the key for KEY_READ |
+// "System\CurrentControlSet\Control\ProductOptions" lists `suiteName`, compared case-sensitively
+// with lstrcmpW. The list ends at its first empty string, or with the data when no terminator is
+// stored. An odd last byte becomes one more character. Returns false for a null or empty name, for
+// a value of another type and for one that cannot be read. Opens the key for KEY_READ |
 // RegistryAccessFlags.
 bool IsProductSuiteInstalled(const wchar_t* suiteName);
 

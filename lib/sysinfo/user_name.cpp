@@ -8,7 +8,7 @@ namespace kelvo {
 
 namespace {
 
-// Empty when the name has more than `maxLength` characters.
+// Returns an empty string when the name has more than `maxLength` characters.
 WString AccountName(DWORD maxLength) {
   DWORD size = maxLength + 1;
   WString buffer(size, L'\0');

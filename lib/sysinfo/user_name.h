@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-// security.h wants to be told who includes it.
+// security.h requires one of its SECURITY_ macros.
 #ifndef SECURITY_WIN32
 #define SECURITY_WIN32
 #endif
@@ -18,14 +18,14 @@ namespace kelvo {
 WString GetAccountName();
 
 // Returns the user's name in a format such as NameSamCompatible ("DOMAIN\name"), of any length
-// (GetUserNameExW). Empty for NameUnknown and on failure, as for every format but NameSamCompatible
-// when the account is not a domain's. Loads "secur32.dll" for the call, by this name alone, so that
-// the process's search order decides which file that is; without it the result is empty.
+// (GetUserNameExW). Empty for NameUnknown and on failure, as for a local account in every format
+// but NameSamCompatible. Loads "secur32.dll" by name for the call, so the process's search order
+// decides which file that is; without it, the result is empty.
 WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
 // Returns the user principal name, such as "name@domain" (GetUserNameInFormat with
-// NameUserPrincipal). Where there is none, as outside a domain, returns the account's name when it
-// has at most 100 characters, otherwise an empty string.
+// NameUserPrincipal). When there is none, as outside a domain, returns the account name, or an
+// empty string if that has more than 100 characters.
 WString GetUserNameFQ();
 
 }  // namespace kelvo

@@ -2,12 +2,12 @@
 
 namespace kelvo {
 
-// Which Windows is running. IsWin95 is true for Windows 95 only, every other function for its
-// release and later ones: IsWin98 on Windows 9x, the rest on NT. None tells a workstation from a
-// server, so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
+// Which Windows is running. IsWin95 is true only on Windows 95. Every other function is true on its
+// release and later ones: IsWin98 on Windows 9x, the rest on NT. None distinguishes a workstation
+// from a server, so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
 //
-// Each call asks GetVersionExW, and returns false when that fails. From Windows 8.1 on it reports
-// 6.2 to a program whose manifest does not name 8.1 or later.
+// Each call queries GetVersionExW and returns false when that fails. On Windows 8.1 and later, that
+// reports 6.2 to a program whose manifest does not name 8.1 or later.
 
 // Windows 9x with minor version 0.
 bool IsWin95();
@@ -22,7 +22,7 @@ bool IsWinVista();
 bool IsWin7();
 bool IsWin8();
 
-// True on the 64-bit Windows XP too, which has the version of Server 2003.
+// Also true on 64-bit Windows XP, which has the version of Server 2003.
 bool IsWinServer2003();
 
 // The same as IsWinVista and IsWin8.

@@ -6,8 +6,8 @@
 
 namespace kelvo {
 
-// Writes the current time in UTC and what FormatText makes of `format` and its arguments, of any
-// length and without a line end, to the debugger (OutputDebugStringW).
+// Writes the current UTC time and a message formatted as by FormatText, of any length and without a
+// line break, to the debugger (OutputDebugStringW).
 void DebugTrace(const wchar_t* format, ...);
 
 // Returns the line that DebugTrace writes at `time`: "day.month.year

@@ -6,12 +6,14 @@
 
 namespace kelvo {
 
-// Returns the name of a locale, also of a neutral one ("de-CH", "de"), with LCIDToLocaleName,
-// looked up at run time. Empty for an unknown locale and on a Windows without that function.
+// Returns the locale name for an LCID, such as "de-CH", or "de" for a neutral locale
+// (LCIDToLocaleName, looked up at run time). Empty for an unknown locale and when Windows lacks
+// that function.
 WString LocaleNameFromLcid(LCID locale);
 
-// Returns what GetLocaleInfoW knows about a locale; `type` is the kind of information, such as
-// LOCALE_SNAME for its name. Empty when it knows nothing, and when memory runs out.
+// Returns information about a locale as a string (GetLocaleInfoW). `type` is the kind of
+// information, such as LOCALE_SNAME for the locale's name. Empty when Windows has none, and when
+// memory runs out.
 WString GetLocaleInfoString(LCID locale, LCTYPE type);
 
 }  // namespace kelvo

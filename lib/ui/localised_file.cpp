@@ -10,7 +10,7 @@ namespace kelvo {
 
 namespace {
 
-// What stands before and after a language's name in a path.
+// The parts of a path before and after the locale name.
 struct PathPattern {
   WString folder;
   WString before;
@@ -39,7 +39,7 @@ bool IsFile(const WString& path) {
 
 bool IsNeutral(LANGID language) { return PRIMARYLANGID(language) == LANG_NEUTRAL; }
 
-// 0 when this Windows knows no language of that name.
+// Returns 0 when Windows has no language of that name.
 LANGID NumberOf(const WString& name) {
   auto* const getInfo = KELVO_FIND_FUNCTION(GetModuleHandleW(L"kernel32.dll"), GetLocaleInfoEx);
   DWORD number = 0;
@@ -52,8 +52,9 @@ LANGID NumberOf(const WString& name) {
   return PRIMARYLANGID(language) != LANG_INVARIANT ? language : LANGID{0};
 }
 
-// 0 when the name is not a language's. Windows 10 gives well-formed names without a number of their
-// own, such as "en-DE" and "old", a neutral one: of these the primary language is known, or none.
+// Returns 0 when the name is not a language's. Windows 10 returns a neutral language for
+// well-formed names that have no LCID, such as "en-DE" and "old": their part before the "-" then
+// gives the primary language, or none.
 LANGID LanguageOf(const WString& name) {
   const LANGID language = NumberOf(name);
   return language == 0 || !IsNeutral(language)
@@ -61,12 +62,12 @@ LANGID LanguageOf(const WString& name) {
              : PRIMARYLANGID(NumberOf(name.substr(0, name.find(L"-"))));
 }
 
-// "The user's language" and its like, as the language that they stand for.
+// Resolves LANG_NEUTRAL, LOCALE_USER_DEFAULT and the like to the languages that they mean.
 LANGID Resolved(LANGID language) {
   return IsNeutral(language) ? LanguageOf(GetLocaleInfoString(language, LOCALE_SNAME)) : language;
 }
 
-// How near a language is to the wanted one, nearest first.
+// Returns how far a language is from the wanted one, 0 for the nearest.
 int Distance(LANGID language, LANGID wanted) {
   if (PRIMARYLANGID(language) == PRIMARYLANGID(wanted)) {
     return 0;
@@ -83,8 +84,8 @@ bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
                               static_cast<int>(b.length()), TRUE) == CSTR_EQUAL;
 }
 
-// The language's name within the name of a file or folder that was found; empty when that has
-// another form. A search matches short names as well.
+// Returns the locale name within the name of a file or folder that was found. Empty when that does
+// not fit the pattern, since a search also matches short names.
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
     return found;

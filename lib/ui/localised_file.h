@@ -6,15 +6,15 @@
 
 namespace kelvo {
 
-// Files that exist once for each language. NAME is a language's name, such as "de-DE".
+// How a localised file's path contains its language. NAME is a locale name, such as "de-DE".
 enum class LocalisedFileForm {
   kFolder,  // FOLDER\resources\NAME\file.ext
-  kSuffix,  // FOLDER\file_NAME.ext; the extension is what follows from the last dot on
+  kSuffix,  // FOLDER\file_NAME.ext; the extension begins at the last dot
 };
 
-// Null pointers count as empty strings; `folder` may end in a backslash or not.
+// Null strings count as empty. `folder` may or may not end in a backslash.
 
-// Returns the path of a file for one language, whether it exists or not. The language's name is
+// Returns the path of a file for one language, whether or not the file exists. The locale name is
 // that of GetLocaleInfoW (LOCALE_SNAME). Empty for a language without a name and for an empty file
 // name.
 //   // C:\App\resources\de-DE\texts.dll on a German Windows
@@ -24,12 +24,12 @@ WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LAN
                              LocalisedFileForm form);
 
 // Returns the path of the file for `language`. When that file does not exist, returns the first
-// that does: in the same primary language, in English (United States), in another English, in any
-// language; among equals, the first by name. Empty when there is none. GetLocaleInfoEx, looked up
-// at run time, says which language a file is for; without it only the exact file is found. A name
-// such as "en-DE", which has no number of its own on Windows, counts as its part before the "-".
-// LANG_NEUTRAL, LOCALE_USER_DEFAULT and LOCALE_SYSTEM_DEFAULT are the languages that they stand
-// for.
+// that does, in this order: same primary language, English (United States), another English, any
+// language. Of several, returns the first by name. Empty when there is none. GetLocaleInfoEx
+// (looked up at run time) gives the language of a file; without it, only the exact file is found. A
+// name such as "en-DE", for which Windows has no LCID, counts as its part before the "-".
+// LANG_NEUTRAL, LOCALE_USER_DEFAULT and LOCALE_SYSTEM_DEFAULT are resolved to the languages that
+// they mean.
 WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                           LocalisedFileForm form);
 

@@ -7,8 +7,7 @@ namespace kelvo {
 
 namespace {
 
-// No exception may leave a function that Windows calls: memory that ran out is noted until the
-// enumeration ends.
+// No exception may leave a callback: running out of memory is reported after the enumeration.
 struct Enumeration {
   std::vector<LANGID> languages;
   bool isOutOfMemory = false;
@@ -27,7 +26,7 @@ BOOL CALLBACK AppendLanguage(HMODULE /*module*/, LPCWSTR /*type*/, LPCWSTR /*nam
   }
 }
 
-// Ends the enumeration with the first name, which is valid only in here.
+// Stops after the first name, which is valid only inside the callback.
 BOOL CALLBACK AppendLanguagesOfFirst(HMODULE module, LPCWSTR type, LPWSTR name, LONG_PTR context) {
   EnumResourceLanguagesW(module, type, name, AppendLanguage, context);
   return FALSE;

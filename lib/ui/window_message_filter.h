@@ -4,10 +4,10 @@
 
 namespace kelvo {
 
-// Allows `window` to receive `message` from less privileged processes, or takes that back, as
-// `action` says. Returns the result of ChangeWindowMessageFilterEx (looked up at run time) for the
-// same arguments; `filterStatus` may be null. Returns false, and changes nothing, before Windows 7
-// and where the function is missing.
+// Changes the UIPI message filter of `window`: allows it to receive `message` from less privileged
+// processes, or takes that back, as `action` says. Returns the result of
+// ChangeWindowMessageFilterEx (looked up at run time) for the same arguments; `filterStatus` may be
+// null. Returns false and changes nothing before Windows 7 and when the function is missing.
 bool AllowWindowMessage(HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT* filterStatus);
 
 }  // namespace kelvo

@@ -26,8 +26,7 @@ bool IsLabelOrButton(HWND window) {
          std::wcsstr(className.data(), L"button") != nullptr;
 }
 
-// No exception may leave a function that Windows calls: memory that ran out is noted until all are
-// visited.
+// No exception may leave a callback: running out of memory is reported after the enumeration.
 BOOL CALLBACK RewriteChild(HWND child, LPARAM isOutOfMemory) {
   try {
     if (IsLabelOrButton(child)) {

@@ -7,7 +7,7 @@
 
 namespace wsspi {
 
-// What failed; an index of kSspiErrorTexts.
+// What failed; an index into kSspiErrorTexts.
 enum SspiErrorCode : std::int32_t {
   ErrorSuccess = 0,
   ErrorNotInitialized = 1,
@@ -25,7 +25,7 @@ enum SspiErrorCode : std::int32_t {
   ErrorUnknown = 13,
 };
 
-// The name and the meaning of each SspiErrorCode, which is its index.
+// The name and the meaning of each SspiErrorCode, with the code as index.
 inline constexpr std::array<const wchar_t*, 14> kSspiErrorTexts = {
     L"ErrorSuccess: no errors",
     L"ErrorNotInitialized: SspiInitialize() was not called",
@@ -43,20 +43,20 @@ inline constexpr std::array<const wchar_t*, 14> kSspiErrorTexts = {
     L"ErrorUnknown: unknown error",
 };
 
-// Thrown when the security support interface fails: allocated with new and thrown as a pointer,
-// which belongs to whoever catches it.
+// Thrown when the security support interface fails: allocated with new and thrown as a pointer;
+// whoever catches it deletes it.
 struct SspiException {
-  // A null `atFile` counts as empty. A code above 16 is stored as 16, which is more than
-  // kSspiErrorTexts has: check a code before you use it as an index.
+  // A null `atFile` counts as empty. A code above 16 is stored as 16, which is past the end of
+  // kSspiErrorTexts: check a code before you use it as an index.
   SspiException(const wchar_t* atFile, std::uint32_t atLine, std::int32_t errorCode,
                 std::uint32_t errorDetail);
 
   // Where it was thrown.
   kelvo::WString file;
   std::uint32_t line;
-  // An index of kSspiErrorTexts, or 16.
+  // An index into kSspiErrorTexts, or 16.
   std::int32_t code;
-  // 0, unless the failing call has a code of its own.
+  // The failing call's own error code, or 0.
   std::uint32_t detail;
 };
 

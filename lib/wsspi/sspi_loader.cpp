@@ -12,8 +12,7 @@ namespace wsspi {
 
 namespace {
 
-// Where a failure is said to have happened: fixed, so that an edit of this file does not renumber
-// them.
+// The reported place of a failure: fixed, so that editing this file does not change the numbers.
 constexpr const wchar_t* kFile = L"wsspi";
 constexpr std::uint32_t kLineNoLibrary = 47;
 constexpr std::uint32_t kLineNoEntryPoint = 59;

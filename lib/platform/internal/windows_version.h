@@ -4,9 +4,9 @@
 
 namespace kelvo::internal {
 
-// Returns the version that GetVersionExW reports in its 276-byte record, asked anew on each call;
-// every field is 0 when the call fails. Without a manifest that names newer releases, Windows 8.1
-// and later report 6.2.
+// Returns what GetVersionExW reports in the 276-byte OSVERSIONINFOW, queried on every call. All
+// fields are 0 when that fails. Windows 8.1 and later report 6.2 to a program whose manifest does
+// not name them.
 OSVERSIONINFOW QueryWindowsVersion();
 
 // Returns true for NT major.minor and later.

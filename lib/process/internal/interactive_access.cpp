@@ -11,7 +11,7 @@ namespace {
 
 constexpr ACCESS_MASK kReadAndWriteDacl = READ_CONTROL | WRITE_DAC;
 
-// Null when it cannot be opened or set.
+// Returns null when the station cannot be opened or assigned to the process.
 HWINSTA SetInteractiveStation() {
   OwnedWindowStation station(OpenWindowStationW(kInteractiveStation, FALSE, kReadAndWriteDacl));
   if (!Check(station.get() != nullptr, L"RunAsUser Open WinStat With WRITE_DAC Failed")) {
@@ -21,7 +21,7 @@ HWINSTA SetInteractiveStation() {
              L"RunAsUser SetProcessWindowStation to hwinstaNew Failed")) {
     return nullptr;
   }
-  // Stays open, as the desktop does below.
+  // Left open by design, like the desktop below.
   return station.release();
 }
 
@@ -33,7 +33,7 @@ bool MoveToInteractiveStation(HANDLE token) {
     return false;
   }
   SetLastError(ERROR_SUCCESS);
-  // Only its access list is wanted: the thread is not switched to it.
+  // Opened only for its DACL: the thread does not switch to it.
   const HDESK desktop = OpenDesktopW(kInteractiveDesktop, 0, FALSE, kReadAndWriteDacl);
   if (!Check(desktop != nullptr, L"RunAsUser Open Desktop With WRITE_DAC Failed")) {
     return false;

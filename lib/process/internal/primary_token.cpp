@@ -10,7 +10,7 @@ namespace kelvo::internal {
 
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token) {
   OwnedKernelObject duplicate;
-  // The impersonation level means nothing for a primary token.
+  // A primary token ignores the impersonation level.
   GuardedCall([&] {
     duplicate.KeepIf(DuplicateTokenEx(token.get(), MAXIMUM_ALLOWED, nullptr, SecurityDelegation,
                                       TokenPrimary, duplicate.Receive()) != FALSE);

@@ -8,7 +8,7 @@ namespace kelvo::internal {
 // The handles of a process that CreateProcessW or CreateProcessAsUserW created; null before that.
 struct StartedProcess {
   StartedProcess() = default;
-  // `isCreated` is the call's result: what it left in the record when it failed is not a process.
+  // `isCreated` is the call's result: when the call failed, `started` holds no process.
   StartedProcess(BOOL isCreated, const PROCESS_INFORMATION& started)
       : process(isCreated != FALSE ? started.hProcess : nullptr),
         thread(isCreated != FALSE ? started.hThread : nullptr) {}
@@ -17,7 +17,7 @@ struct StartedProcess {
   OwnedKernelObject thread;
 };
 
-// Returns the path in double quotes, a space and the arguments as they are; null counts as empty.
+// Returns the path in double quotes, a space and the unchanged arguments; null counts as empty.
 inline WString QuotedCommandLine(const wchar_t* exePath, const wchar_t* arguments) {
   return WString(L"\"") + exePath + L"\" " + arguments;
 }

@@ -6,8 +6,8 @@
 
 namespace kelvo::internal {
 
-// Window stations and desktops, including those that GetProcessWindowStation and GetThreadDesktop
-// return: Windows refuses to close a handle that the process or a thread is using.
+// Window stations and desktops, including those from GetProcessWindowStation and GetThreadDesktop:
+// Windows refuses to close a handle that the process or a thread is using.
 struct WindowStationTraits {
   using Handle = HWINSTA;
   static Handle None() { return nullptr; }

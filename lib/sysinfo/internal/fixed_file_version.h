@@ -9,7 +9,7 @@
 
 namespace kelvo::internal {
 
-// Moveable memory of GlobalAlloc, locked as long as it is owned.
+// Moveable memory from GlobalAlloc, locked as long as it is owned.
 struct LockedGlobalMemory {
   using Handle = HGLOBAL;
   static Handle None() { return nullptr; }
@@ -26,11 +26,12 @@ using FileVersionNumbers = std::array<int, 4>;
 struct FixedFileVersion {
   // Holds the file's whole version resource.
   OwnedLockedGlobalMemory memory;
-  // From its fixed block; nothing when the file has none or it cannot be read.
+  // From its VS_FIXEDFILEINFO block; nothing when the file has none or it cannot be read.
   std::optional<FileVersionNumbers> numbers;
 };
 
-// Reads the version resource of a file (GetFileVersionInfoW) and the numbers of its fixed block.
+// Reads the version resource of a file (GetFileVersionInfoW) and the numbers in its
+// VS_FIXEDFILEINFO block.
 FixedFileVersion ReadFixedFileVersion(const wchar_t* path);
 
 }  // namespace kelvo::internal

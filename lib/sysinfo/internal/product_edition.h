@@ -4,8 +4,8 @@
 
 namespace kelvo::internal {
 
-// Returns the name of the Windows edition that a product type of GetProductInfo stands for; an
-// empty string for a type that has none here.
+// Returns the edition name for a product type of GetProductInfo, or an empty string for a type
+// without a name here.
 const wchar_t* ProductEditionText(DWORD productType);
 
 }  // namespace kelvo::internal

@@ -11,7 +11,7 @@ std::span<const BYTE> FindVersionValue(std::span<const BYTE> resource, const wch
   if (VerQueryValueW(resource.data(), path, &found, &length) == FALSE) {
     return {};
   }
-  // As numbers: a place before the resource becomes an offset far past its end.
+  // Subtracts integers: an address before the resource becomes an offset far past its end.
   const std::size_t offset =
       reinterpret_cast<ULONG_PTR>(found) - reinterpret_cast<ULONG_PTR>(resource.data());
   if (offset >= resource.size()) {
