@@ -1,11 +1,18 @@
 # Makes the comments of a header Doxygen's: one in front of a declaration belongs to it, and to the declarations that follow
-# without a blank line; one in front of a blank line belongs to the header.
+# without a blank line; one in front of a blank line belongs to the header. Lines indented by three blanks are an example or a
+# table, those that begin with "-" a list.
 
-function print_block(mark,   i) {
+function print_block(mark,   i, line, literal) {
   for (i = 1; i <= count; ++i) {
     line = block[i]
-    gsub(/[\\@<>#]/, "\\\\&", line)
-    sub(/\/\//, mark, line)
+    if (line !~ /\/\/   /) {
+      literal = 0
+    } else if (line ~ /\/\/   [^ -]/ && !literal) {
+      literal = 1
+      print mark
+    }
+    if (!literal) gsub(/[\\@<>#"]/, "\\\\&", line)
+    sub(/\/\//, literal ? mark "    " : mark, line)
     print line
   }
 }
