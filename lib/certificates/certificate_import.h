@@ -23,9 +23,10 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName);
 inline constexpr const wchar_t* kTrustedPublisherStore = L"TrustedPublisher";
 inline constexpr const wchar_t* kIntermediateCaStore = L"CA";
 
-// ImportCertToSystemStore for "TrustedPublisher": Windows installs driver packages from these
-// publishers without a prompt. For every user of the computer, it also trusts what else they sign,
-// such as scripts, macros and ClickOnce applications. Use a certificate that signs only drivers.
+// ImportCertToSystemStore for "TrustedPublisher": Windows does not prompt before it installs a
+// driver package that one of these publishers signed. It also trusts what else they sign, such as
+// scripts, macros and ClickOnce applications, for every user of the computer. Use a certificate
+// that signs only drivers.
 DWORD ImportCertToTrustedPublishers(const wchar_t* file);
 
 // ImportCertToSystemStore for "CA": the intermediate certification authorities.

@@ -7,8 +7,8 @@
 namespace kelvo {
 
 // Stores the path of the executable registered as the COM local server of `progId` and returns 0.
-// Reads the default value of the key "LocalServer32", or else of "LocalServer", below the class's
-// key in HKEY_CLASSES_ROOT\CLSID. For each key, the 64-bit registry view comes before the 32-bit
+// Reads the default value of the first key that opens: "LocalServer32", then "LocalServer", below
+// the class's key in HKEY_CLASSES_ROOT\CLSID, each in the 64-bit registry view before the 32-bit
 // one. The path is the stored string up to its first "/", with any spaces before that. On failure,
 // leaves `path` unchanged and returns one of these:
 //   0x80110411  the ProgID has no class (CLSIDFromProgID), or is null

@@ -36,7 +36,7 @@ Function* FindFunction(HMODULE module, const char* name) {
 
 }  // namespace kelvo
 
-// FindFunction for a function that a header declares: its one name gives both the export and the
-// type.
+// FindFunction for a function that a header declares: `function` is both the name of the export and
+// the source of the type.
 #define KELVO_FIND_FUNCTION(module, function) \
   ::kelvo::FindFunction<decltype(::function)>((module), #function)

@@ -42,8 +42,8 @@ class Owned {
     return &handle_;
   }
 
-  // Takes the result of the call that Receive() was passed to: keeps what a successful call stored,
-  // and drops what a failed one may have stored, without closing it. Returns `succeeded`.
+  // Pass whether the call that got Receive()'s address succeeded. Keeps what a successful call
+  // stored; drops, without closing it, what a failed one may have stored. Returns `succeeded`.
   bool KeepIf(bool succeeded) {
     if (!succeeded) {
       release();

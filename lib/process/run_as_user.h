@@ -14,8 +14,8 @@ namespace kelvo {
 //   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());
 //
 //   - A process that is not on "WinSta0" (case-sensitive) is moved there for the duration of the
-//     call, and the token's user permanently gets full access to the station and its desktop
-//     (AllowTokenFullAccessToObject).
+//     call, and the token's user gets full access to the station and its desktop until the session
+//     ends (AllowTokenFullAccessToObject).
 //   - Windows must support SeTakeOwnershipPrivilege. The caller needs
 //     SeAssignPrimaryTokenPrivilege, unless the token may be assigned without it.
 //   - The new process and its thread get a null DACL, so everyone has full access: called as

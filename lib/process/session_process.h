@@ -4,10 +4,10 @@
 
 namespace kelvo {
 
-// Starts a program for the user of the console session, the one on the physical screen, also from a
-// service in another session. Returns true when the process was created. The command line is the
-// path in double quotes, a space and the unchanged arguments; null strings count as empty. Give a
-// full path.
+// Starts a program for the user of the console session (the session on the physical screen). The
+// caller may be a service in another session. Returns true when the process was created. The
+// command line is the path in double quotes, a space and the unchanged arguments; null strings
+// count as empty. Give a full path.
 //   - On Windows XP and later, the program runs in that user's session and account
 //     (CreateProcessAsUserW). When nobody is logged on there, or Windows refuses the user's token
 //     (for what that needs, see QueryUserTokenOfSession in lib/process/user_session.h), it runs in

@@ -10,8 +10,8 @@ namespace kelvo {
 //   - `root` is an open or a predefined key. `subkey` is a path below it, with backslashes between
 //     its keys. `valueName` is a value's name; null or an empty string means the key's default
 //     value. All strings are NUL-terminated.
-//   - Keys are opened with RegistryAccessFlags and closed before the function returns, except by
-//     OpenRegistryKey and CreateRegistryKey, which leave theirs open.
+//   - Keys are opened with RegistryAccessFlags. Only OpenRegistryKey and CreateRegistryKey leave a
+//     key open; every other function closes its keys before it returns.
 //   - A status is 0 for success, otherwise the Windows error code of the failed call, or -1 where
 //     the operation says so.
 

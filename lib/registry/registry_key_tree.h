@@ -6,10 +6,15 @@ namespace kelvo {
 
 // See lib/registry/registry_key.h for `root` and RegistryAccessFlags.
 
-// A tree may be as deep as the registry accepts paths (32,767 characters). A deeper tree is not
-// deleted, nor is one with a subkey whose name has 255 characters: the error code of deleting a key
-// that still has subkeys is returned. Keys are deleted with RegDeleteKeyExW or, where Windows lacks
-// it, with RegDeleteKeyW, which ignores the registry view.
+// Deletes the key parentPath\keyName below `root` with everything below it, from the deepest key
+// up. Returns 0 or the error code of the first deletion that failed, or of opening the key's
+// parent; what was deleted before that stays deleted. Returns ERROR_ACCESS_DENIED and changes
+// nothing when either string is null or empty.
+//
+// A tree may be as deep as the registry accepts paths (32,767 characters). A deeper tree, or one
+// with a subkey whose name has 255 characters, is not deleted completely: the error code of
+// deleting a key that still has subkeys is returned. Keys are deleted with RegDeleteKeyExW or,
+// where Windows lacks it, with RegDeleteKeyW, which ignores the registry view.
 LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_t* keyName);
 
 }  // namespace kelvo

@@ -20,8 +20,8 @@ inline constexpr DWORD kMaxRegistryStringSize = 2048;
 // character.
 //
 // A REG_EXPAND_SZ value is expanded with ExpandEnvironmentStringsW into 260 characters (MAX_PATH),
-// including the NUL. Of a longer result, returns what Windows wrote into them; when the expansion
-// fails, returns the stored string.
+// including the NUL. When the result is longer, returns what Windows wrote into these characters;
+// when the expansion fails, returns the stored string.
 //   const WString folder =
 //       RegistryReadString(HKEY_CURRENT_USER, L"Software\\App", L"Folder", L"C:\\App");
 WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,

@@ -16,8 +16,8 @@ LSTATUS WriteRegistryValue(HKEY root, const wchar_t* subkey, const wchar_t* valu
                            const void* data, DWORD size);
 
 // Deletes the value (RegDeleteValueW, with the key opened for KEY_SET_VALUE). Returns 0 when it was
-// deleted, otherwise -1, even when the value or the key does not exist. The key remains, even when
-// it is then empty.
+// deleted and -1 otherwise, which includes a value or key that does not exist. The key remains,
+// even when it is then empty.
 LSTATUS RegistryDeleteValue(HKEY root, const wchar_t* subkey, const wchar_t* valueName);
 
 }  // namespace kelvo

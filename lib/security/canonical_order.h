@@ -7,7 +7,8 @@
 namespace kelvo {
 
 // Returns an ACE's rank in canonical order: explicit deny 0, explicit object deny 1, explicit allow
-// 2, explicit object allow 3; the same four inherited 4 to 7. Returns nothing for other types.
+// 2, explicit object allow 3. When inherited, the same four have ranks 4 to 7. Returns nothing for
+// other types.
 std::optional<DWORD> CanonicalRank(const ACE_HEADER& ace);
 
 // Returns the index at which to insert `ace` into an ACL in canonical order: before the first ACE

@@ -10,9 +10,10 @@ namespace kelvo {
 // for the user and for each of the token's groups (DeleteDenyACEofObject). Then grants the user the
 // rights of a desktop (AllowAccessToDesktop) when `typeName` contains "desk" in any letter case,
 // otherwise those of a window station (AllowAccessToWinSta). Both include WRITE_DAC and
-// WRITE_OWNER. The removals affect every member of those groups, and all changes last until the
-// session ends. A null `typeName` counts as empty. The token needs TOKEN_QUERY, the handle
-// READ_CONTROL and WRITE_DAC.
+// WRITE_OWNER. Removing a group's deny ACEs affects every member of that group; the rights are
+// granted to the user only. The changes last until the object is deleted: for a window station and
+// its desktops, at the latest when the session ends. A null `typeName` counts as empty. The token
+// needs TOKEN_QUERY, the handle READ_CONTROL and WRITE_DAC.
 //
 // Returns FALSE, and traces why, when a step fails. Earlier steps are not undone: an object type
 // other than SE_WINDOW_OBJECT is refused only after the deny ACEs are removed. Returns FALSE

@@ -5,8 +5,8 @@
 namespace kelvo {
 
 // Compares two NUL-terminated strings, neither of them null, ignoring case. Folds each UTF-16 code
-// unit to lower case. Returns 0 when the results are equal, otherwise the difference between the
-// first folded units that differ, that of `a` minus that of `b`: negative when `a` sorts first.
+// unit to lower case. Returns 0 when the results are equal. Otherwise returns the first folded
+// unit of `a` that differs minus that of `b`: negative when `a` sorts first.
 //
 // Folding depends on the C runtime's LC_CTYPE locale (setlocale), read once per call. In the
 // default locale "C", A to Z become a to z, other units below U+0100 stay as they are, and

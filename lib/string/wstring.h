@@ -26,7 +26,8 @@ class WString {
   static constexpr std::size_t npos = std::wstring::npos;
 
   WString() = default;
-  // Copies a NUL-terminated string (null counts as empty), a view, or `unit`, `count` times.
+  // Copies a NUL-terminated string (null counts as empty), a view, or `count` times `unit`.
+  // NOLINTNEXTLINE(google-explicit-constructor): literals are strings
   WString(const wchar_t* text) { AssignCString(text); }
   explicit WString(std::wstring_view text) : text_(text) {}
   WString(std::size_t count, wchar_t unit) { resize(count, unit); }

@@ -19,7 +19,7 @@ const wchar_t* GetSystemDirectoryPath();
 WString GetSystemWow64DirectoryPath();
 
 // Returns the system directory that 64-bit programs see. In a 64-bit process, that is
-// GetSystemDirectoryPath, whose buffer this overwrites.
+// the path of GetSystemDirectoryPath. Overwrites that function's buffer.
 WString GetNativeSystemDirectoryPath();
 
 }  // namespace kelvo

@@ -5,9 +5,9 @@
 namespace kelvo {
 
 // Returns true when the running Windows has the Terminal Services suite. On NT 5.0 and later,
-// VerifyVersionInfoA decides, with VerSetConditionMask (both looked up at run time; false when one
-// is missing). On NT 4.0, the product suite "Terminal Server" decides. Always false on Windows 9x.
-// Calls GetVersion each time.
+// asks VerifyVersionInfoA with a mask from VerSetConditionMask (both looked up at run time; false
+// when one is missing). On NT 4.0, the product suite "Terminal Server" decides. Always false on
+// Windows 9x. Calls GetVersion each time.
 bool IsWinNTTerminalServer();
 
 // Returns true when the value "ProductSuite" (REG_MULTI_SZ) of HKEY_LOCAL_MACHINE

@@ -46,15 +46,15 @@ inline constexpr std::array<const wchar_t*, 14> kSspiErrorTexts = {
 // Thrown when the security support interface fails: allocated with new and thrown as a pointer;
 // whoever catches it deletes it.
 struct SspiException {
-  // A null `atFile` counts as empty. A code above 16 is stored as 16, which is past the end of
-  // kSspiErrorTexts: check a code before you use it as an index.
+  // A null `atFile` counts as empty. A code above 16 is stored as 16, any other as given: check a
+  // code before you use it as an index into kSspiErrorTexts.
   SspiException(const wchar_t* atFile, std::uint32_t atLine, std::int32_t errorCode,
                 std::uint32_t errorDetail);
 
   // Where it was thrown.
   kelvo::WString file;
   std::uint32_t line;
-  // An index into kSspiErrorTexts, or 16.
+  // The code as given, or 16 when it was higher. An index into kSspiErrorTexts only from 0 to 13.
   std::int32_t code;
   // The failing call's own error code, or 0.
   std::uint32_t detail;

@@ -12,8 +12,8 @@ bool Check(bool succeeded, const wchar_t* message);
 
 // Runs `steps`, which returns whether the operation succeeded, and then `cleanUp`, on every path. A
 // C++ or structured exception that leaves `steps` counts as failure; one that leaves `cleanUp` only
-// ends it. After a failure, traces `cleanUpMessage` last. Keep owners of what `steps` allocates
-// outside it, and reset them in `cleanUp`.
+// ends it. After a failure, traces `cleanUpMessage` last. What `steps` allocates must
+// belong to owners declared outside `steps`; reset them in `cleanUp`.
 template <typename Steps, typename CleanUp>
 BOOL GuardedOperation(const wchar_t* cleanUpMessage, const Steps& steps, const CleanUp& cleanUp) {
   const bool succeeded = GuardedAnswer(false, steps);
