@@ -1,15 +1,15 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# With `prefix` the library must be the package that `source` is part of, otherwise it is built from its sources.
+# If `prefix` is set, the library must be the package that contains `source`. Otherwise it is built from its sources.
 
 if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
     -D all_headers=${all_headers})
 else()
-  # Builds in batches, as a consumer may, which takes a quarter of the time.
+  # Uses a unity build, as a consumer may: it takes a quarter of the time.
   set(library -D CMAKE_DISABLE_FIND_PACKAGE_kelvo=ON -D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=30)
 endif()
 
-# Deletes the cache, to test what a consumer would configure.
+# Deletes the cache, so that each run configures from scratch like a new consumer.
 file(REMOVE_RECURSE ${build}/CMakeCache.txt ${build}/CMakeFiles)
 set(flags "-Wall -Wextra -Wpedantic -Werror -DWINVER=0x0601 -D_WIN32_WINNT=0x0601")
 if(toolchain)
@@ -25,7 +25,7 @@ execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE log COMMAND ${CMAKE_C
 
 execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE tests COMMAND ${CMAKE_CTEST_COMMAND} --test-dir ${build} -N)
 if(NOT tests MATCHES "Total Tests: 0")
-  message(SEND_ERROR "the consumer's own list of tests is not empty:\n${tests}")
+  message(SEND_ERROR "the library adds tests to the consumer's project:\n${tests}")
 endif()
 
 foreach(program consumer whole_library)

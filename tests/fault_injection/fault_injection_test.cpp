@@ -24,7 +24,7 @@ static const auto kWatched = std::to_array<Watched>({
 #include "tests/fault_injection/watched.def"
 });
 
-// What an operation looks up is intercepted as well as what it imports.
+// Replaces GetProcAddress, so that the functions it returns are intercepted like imports.
 static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   const FARPROC found = GetProcAddress(module, name);
   const auto row = std::ranges::find(kWatched, std::string(name), &Watched::name);
@@ -35,16 +35,16 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   return reinterpret_cast<FARPROC>(row->instead);
 }
 
-// Calls `instead` in place of a watched function, which can still be made to fail.
-#define STAND_IN(function, instead)   \
+// Replaces the original of a watched function by `instead`. Its calls can still be made to fail.
+#define SIMULATE(function, instead)   \
   interception.originals[#function] = \
       reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
 
-// Replaces what differs between machines or is missing on all test machines.
+// Simulates functions whose results differ between machines or that fail on all test machines.
 static Lines written;
-static void StandInForMachine() {
-  STAND_IN(GetProcAddress, FindIntercepted);
-  STAND_IN(WriteFile, [](HANDLE file, auto bytes, DWORD size, DWORD* done, auto overlapped) {
+static void SimulateMachine() {
+  SIMULATE(GetProcAddress, FindIntercepted);
+  SIMULATE(WriteFile, [](HANDLE file, auto bytes, DWORD size, DWORD* done, auto overlapped) {
     if (file != GetStdHandle(STD_OUTPUT_HANDLE) && file != GetStdHandle(STD_ERROR_HANDLE)) {
       return WriteFile(file, bytes, size, done, overlapped);
     }
@@ -52,19 +52,19 @@ static void StandInForMachine() {
     return TRUE;
   });
   // Pretends that this program is sorrel.exe.
-  STAND_IN(GetModuleFileNameW, [](HMODULE, LPWSTR path, DWORD size) {
+  SIMULATE(GetModuleFileNameW, [](HMODULE, LPWSTR path, DWORD size) {
     return static_cast<DWORD>(
         std::filesystem::absolute("sorrel.exe").wstring().copy(path, size - 1));
   });
-  STAND_IN(GetComputerNameExW, [](auto, LPWSTR name, auto...) -> BOOL {
+  SIMULATE(GetComputerNameExW, [](auto, LPWSTR name, auto...) -> BOOL {
     lstrcpyW(name, L"full name");
     return TRUE;
   });
-  STAND_IN(GetUserNameExW, [](auto, LPWSTR name, auto...) -> BOOLEAN {
+  SIMULATE(GetUserNameExW, [](auto, LPWSTR name, auto...) -> BOOLEAN {
     lstrcpyW(name, L"full name");
     return TRUE;
   });
-  STAND_IN(WTSQuerySessionInformationW, [](auto, auto, auto, LPWSTR* name, auto) -> BOOL {
+  SIMULATE(WTSQuerySessionInformationW, [](auto, auto, auto, LPWSTR* name, auto) -> BOOL {
     *name = static_cast<LPWSTR>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, 99));
     lstrcpyW(*name, L"client");
     return TRUE;
@@ -76,11 +76,11 @@ static void StandInForMachine() {
         1};
     return TRUE;
   };
-  STAND_IN(CreateProcessW, kStart);
-  STAND_IN(CreateProcessAsUserW, kStart);
+  SIMULATE(CreateProcessW, kStart);
+  SIMULATE(CreateProcessAsUserW, kStart);
 }
 
-// The lines that are not empty.
+// Returns the lines that are not empty.
 static Lines LinesOf(const std::string& text) {
   Lines lines;
   std::istringstream stream(text);
@@ -99,9 +99,9 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
   return text;
 }
 
-// The state that an operation starts from: a list of applications, no certificate in either store,
-// a value of each kind that it reads; the simulator's Bluetooth library is loaded, and so found by
-// name.
+// Prepares the state that an operation starts from: a list of applications, no certificate in
+// either store, and a registry value of each kind that it reads. Loads the simulator's Bluetooth
+// library, so that the operation finds it by name.
 struct Machine : ProgramFolder {
   Machine() : ProgramFolder({{L"versioned_english.dll", L"versioned_english.dll"}}) {
     LoadLibraryW((path / "bthprops.cpl").c_str());
@@ -128,12 +128,12 @@ struct Machine : ProgramFolder {
   }
 
   // kFails: the chosen call fails. kEnds: the run ends there, as if the process were killed.
-  // kGoesOn: no call fails, and the run begins with what the last one left.
-  enum class How { kFails, kEnds, kGoesOn };
+  // kContinues: no call fails, and the run starts from the state that the previous run left.
+  enum class How { kFails, kEnds, kContinues };
 
-  // Runs an operation in a library where nothing has run yet, and returns the outcome: the lines
-  // written, the answer, what changed in the list and the stores, what is open, and the journal.
-  // Empty past the end of the table.
+  // Loads the library anew, runs an operation and returns its outcome: the lines written, the
+  // answer, the list if it changed, the stores, open handles and memory, and the journal. Returns
+  // nothing past the end of the table.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
     const auto* const operation =
@@ -142,7 +142,7 @@ struct Machine : ProgramFolder {
       return {};
     }
     name = operation->name;
-    if (how != How::kGoesOn) {
+    if (how != How::kContinues) {
       Prepare(*operation);
     }
     std::filesystem::remove("journal");
@@ -151,7 +151,7 @@ struct Machine : ProgramFolder {
     interception = {{}, {}, {}, chosen, how == How::kEnds, {}};
     written.clear();
     WatchImports(library.get(), kWatched);
-    StandInForMachine();
+    SimulateMachine();
     static std::wstring answer;
     answer = L"ended";
     const OwnedKernelObject thread(CreateThread(
@@ -163,7 +163,7 @@ struct Machine : ProgramFolder {
         },
         reinterpret_cast<void*>(operation->run), 0, nullptr));
     WaitForSingleObject(thread.get(), INFINITE);
-    // Copied now: unloading the library makes more calls.
+    // Copies the counts now, because unloading the library makes more calls.
     calls = interception.calls;
     std::string text = Joined("", written, "");
     text = (name.starts_with("sorrel_status") ? Named(text) : text) + "= " + Ascii(answer) + "\n";
@@ -175,7 +175,7 @@ struct Machine : ProgramFolder {
       text += subjects.empty() ? "" : Ascii(store + (L": " + subjects)) + "\n";
     }
     reached = LinesOf(text);
-    // Sorted by name: handles come in any order.
+    // Sorts by name, because the order of handles varies.
     std::multiset<std::string> open;
     for (const auto& [handle, functions] : interception.open) {
       open.insert("open " + functions.first);
@@ -187,23 +187,23 @@ struct Machine : ProgramFolder {
   OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo faults")};
   std::string name;
   std::map<std::string, int> calls;
-  // The lines, what was answered, the list and the stores.
+  // The outcome without open handles and the journal.
   Lines reached;
 };
 
-// Continues on the next line where a line would be longer than 120 columns.
+// Appends to the last line, or to a new line if the last would be longer than 120 columns.
 static void Append(std::string& text, const std::string& more) {
   const std::size_t column = text.size() - (text.rfind('\n') + 1);
   text += (column + std::min(more.find('\r'), more.size()) > 120 ? "\r\n " : "") + more;
 }
 
-// When one of these fails, its report line is left out.
+// If a call to one of these functions fails, the line that it helps to write is missing.
 const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
 const Lines kNoMemory = {"sorrel_status: not enough memory", "= 3"};
 const std::string kNoChange = " no change\r\n";
 
-// The numbers of the lines that are not in `after`, and the new lines, each with the number of the
-// line that it follows.
+// Returns the numbers of the lines that `after` lacks, then its new lines, each with the number of
+// the line that it follows.
 static std::string Changes(const Lines& before, const Lines& after) {
   std::string without;
   std::string added;
@@ -226,9 +226,9 @@ static std::string Changes(const Lines& before, const Lines& after) {
   return before == after ? kNoChange : without + "\r\n" + added;
 }
 
-// Out of memory, an operation ends with an exception after its first lines, with the old list or
-// the new one, and leaves nothing else behind. A library call that lets no exception out returns
-// what it returns when another call fails.
+// Without memory, an operation writes its first lines and throws. It leaves the old list or the new
+// one and nothing else. If a library function lets no exception escape, it returns the same as when
+// another call fails.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -239,7 +239,7 @@ static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   CHECK(changes.substr(changes.find('\n')) == "\n");
 }
 
-TEST_CASE("failing calls: each has the outcome that a rule or fault_injection.txt gives") {
+TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.txt") {
   Machine machine;
   std::string seen;
   std::set<std::string> shown;
@@ -251,7 +251,7 @@ TEST_CASE("failing calls: each has the outcome that a rule or fault_injection.tx
     const bool isReport = machine.name.starts_with("sorrel_status");
     // Each outcome, with the failing calls that caused it.
     std::vector<std::pair<Lines, std::string>> outcomes;
-    // Outcomes that lack one line of the driver's log: the callback lets no exception out.
+    // Outcomes that lack a line of the driver's log, because the callback lets no exception escape.
     std::set<Lines> withoutLogged;
     for (const auto& [function, made] : calls) {
       for (int nth = 1; nth <= made; ++nth) {
@@ -261,7 +261,7 @@ TEST_CASE("failing calls: each has the outcome that a rule or fault_injection.tx
         if (std::ranges::find(kWatched, function, &Watched::name)->closes) {
           CHECK(Changes(undisturbed, outcome) == kNoChange);
         } else if (isReport && function == "malloc") {
-          // Guarded calls of the library let no exception out.
+          // The library's guarded calls let no exception escape.
           CHECK((outcome == kNoMemory || outcome.size() == undisturbed.size()));
         } else if (isReport && function.starts_with("_v")) {
           // Any one of many texts may be missing.
@@ -302,13 +302,13 @@ TEST_CASE("failing calls: each has the outcome that a rule or fault_injection.tx
   CheckAgainstFile(Joined("", shown, "\r\n"), L"calls.txt");
 }
 
-TEST_CASE("install, uninstall: the next run completes one that was ended at any call") {
+TEST_CASE("install, uninstall: the next run completes a run that ended at any call") {
   Machine machine;
   for (const int index : {0, 2}) {  // install, uninstall
     machine.Run(index, {});
     const auto [calls, expected] = std::pair(machine.calls, machine.reached);
     for (const auto& [function, made] : calls) {
-      // Not at malloc: a run that ended there would never release the C runtime's locks.
+      // Skips malloc: a run that ended there would never release the C runtime's locks.
       for (int nth = 1; nth <= made && function != "malloc"; ++nth) {
         INFO(function, "-", nth);
         const Lines ended = machine.Run(index, {function, nth}, Machine::How::kEnds);
@@ -316,15 +316,15 @@ TEST_CASE("install, uninstall: the next run completes one that was ended at any 
         // The service is set only after the application is recorded.
         const bool isServiceSet = ended.back().starts_with("BluetoothSetLocalServiceInfo ");
         CHECK((!isServiceSet || std::ranges::count(ended, "list: kite;brindle") == 1));
-        machine.Run(index, {}, Machine::How::kGoesOn);
+        machine.Run(index, {}, Machine::How::kContinues);
         CHECK(Changes(expected, machine.reached) == kNoChange);
       }
     }
   }
 }
 
-#ifdef KELVO_KNOWS_ALL_IMPORTS
-TEST_CASE("every imported function is made to fail, or spared.txt says why not") {
+#ifdef KELVO_CHECKS_ALL_IMPORTS
+TEST_CASE("imported functions: each is made to fail, or spared.txt says why not") {
   const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
   std::string known = ReadBytes(ProgramPath(L"expected\\spared.txt"));
   for (const Watched& watched : kWatched) {

@@ -15,33 +15,33 @@
 
 namespace kelvo::test {
 
-// What a function does with handles. Of one that is kLeftOut the arguments are not shown: they vary
-// from machine to machine, or their effect shows them.
+// How a function uses handles. The arguments of a kLeftOut function are not shown, because they
+// vary from machine to machine or their effect shows them.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
-// A row of the table: a function of Windows, and what is called in its place.
+// A row of the table: a Windows function and its replacement.
 struct Watched {
   const char* name;
   void* instead;
   bool closes;
 };
 
-// Comes between a module and Windows: counts the calls of each function in a table, makes one call
-// fail, and keeps a book of what is open.
+// Intercepts a module's calls to Windows: counts the calls of each function in a table, makes one
+// call fail, and records open handles and memory.
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
-  // The distinct calls with their arguments, where these say anything.
+  // The distinct calls with their arguments, unless the arguments show nothing.
   std::set<std::string> shown;
-  // The function whose call of this number, counted from 1, fails, or ends the thread before it.
+  // The call that fails: its function and number, from 1. If `ends`, the thread ends before it.
   std::pair<std::string, int> chosen;
   bool ends = false;
-  // What is open, with the function that opened it and those that close it.
+  // Open handles and memory, each with the function that opened it and those that close it.
   std::map<const void*, std::pair<std::string, std::string_view>> open;
 };
 inline Interception interception;
 
-// The handles that an argument points to.
+// Returns the handles that an argument points to.
 template <typename Argument>
 std::vector<const void*> HandlesAt(Argument) {
   return {};
@@ -54,8 +54,8 @@ inline std::vector<const void*> HandlesAt(PROCESS_INFORMATION* started) {
   return {started->hProcess, started->hThread};
 }
 
-// `failure` is what the function returns to say that it failed; 0 when it sets the last error.
-// `closers` names the functions that close what it opens.
+// `failure` is the function's result when it fails, or kFailure if the function returns an error
+// code. `closers` names the functions that close the handles that it opens.
 template <typename Function, typename... Given>
 auto Intercept(const char* name, long long failure, Handles handles, std::string_view closers,
                Given... given) {
@@ -63,7 +63,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  // The C runtime's own calls are not Windows'.
+  // Does not show calls to the C runtime, whose names begin with a small letter or "_".
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
   const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {
@@ -77,7 +77,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
     return (Result)failure;
   }
   if (closes) {
-    // What another function should have closed stays in the book.
+    // Keeps a handle that another function should have closed.
     std::erase_if(open, [&](const auto& row) {
       return row.second.second.find(name) != std::string_view::npos &&
              ((row.first == (const void*)(ULONG_PTR)given) || ...);
@@ -94,13 +94,13 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
     open.erase(nullptr);
   }
   if (closes) {
-    // Hides what an earlier call said, unless that was read first.
+    // Overwrites the last error: code that needs it must read it before it closes a handle.
     SetLastError(fails ? kFailure : ERROR_SUCCESS);
   }
   return fails ? (Result)failure : result;
 }
 
-// Rows for functions that fail in the same way: WATCH(failure, handles, closers, function, ...).
+// Makes rows for functions that fail alike: WATCH(failure, handles, closers, function, ...).
 #define WATCH(...) KELVO_64(KELVO_WATCH(__VA_ARGS__))
 #define KELVO_WATCH(failure, handles, closers, function, ...)                                    \
   Watched{                                                                                       \
@@ -109,7 +109,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
       })),                                                                                       \
       (handles) == kCloses} __VA_OPT__(, KELVO_WATCH_NEXT KELVO_NONE(failure, handles, closers,  \
                                                                      __VA_ARGS__))
-// A macro is not expanded within itself: each pass over the rest takes one function off.
+// No macro expands within itself, so KELVO_64 scans the list repeatedly; each scan takes one name.
 #define KELVO_WATCH_NEXT() KELVO_WATCH
 #define KELVO_NONE ()
 #define KELVO_64(...) KELVO_16(KELVO_16(KELVO_16(KELVO_16(__VA_ARGS__))))
@@ -117,14 +117,14 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
 #define KELVO_4(...) KELVO_1(KELVO_1(KELVO_1(KELVO_1(__VA_ARGS__))))
 #define KELVO_1(...) __VA_ARGS__
 
-// Directs a module's imports to the table.
+// Redirects a module's imports to the functions in the table.
 template <typename Table>
 void WatchImports(HMODULE module, const Table& table) {
   for (const Watched& watched : table) {
     try {
       interception.originals[watched.name] = SwapImport(watched.name, watched.instead, module);
     } catch (const std::runtime_error&) {
-      // It is looked up at run time, or not used.
+      // The module gets it from GetProcAddress or does not use it.
     }
   }
 }

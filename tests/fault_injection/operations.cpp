@@ -44,7 +44,7 @@ using namespace kelvo;
 
 namespace {
 
-// The exit code, or what is returned; an exception that leaves a command ends the program with 3.
+// Returns the result of `run`, or "an exception" if it throws (a program then ends with 3).
 template <typename Run>
 std::wstring Answer(Run run) {
   try {
@@ -57,7 +57,7 @@ std::wstring Answer(Run run) {
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
 TOKEN_ELEVATION_TYPE elevation;
-// What differs from machine to machine, but for the full names that fault injection gives to all.
+// Hides texts that differ from machine to machine, except the simulated full name.
 WString IsThere(const WString& text) {
   if (text.empty()) {
     return L"nothing";
@@ -114,20 +114,20 @@ WString WriteAndDelete() {
   return answers;
 }
 
-#define COMMAND(list, ...)                                                             \
-  Operation {                                                                          \
-    #__VA_ARGS__, list, [] {                                                           \
-      const std::array words = {L"sorrel.exe", __VA_ARGS__};                           \
-      return Answer([&] { return Text(RunCommandLine(words.size(), words.data())); }); \
-    }                                                                                  \
+#define COMMAND(list, ...)                                                                     \
+  Operation {                                                                                  \
+    #__VA_ARGS__, list, [] {                                                                   \
+      const std::array arguments = {L"sorrel.exe", __VA_ARGS__};                               \
+      return Answer([&] { return Text(RunCommandLine(arguments.size(), arguments.data())); }); \
+    }                                                                                          \
   }
-// A report on what the machine has, written at once.
-#define REPORT(...)                                                                       \
-  Operation {                                                                             \
-    "sorrel_status " #__VA_ARGS__, L"kite", [] {                                          \
-      const std::array words = {L"sorrel_status.exe", __VA_ARGS__};                       \
-      return Answer([&] { return Text(AnswerCommandLine(words.size(), words.data())); }); \
-    }                                                                                     \
+// Runs a command line of sorrel_status.exe, which writes its report in one call.
+#define REPORT(...)                                                                               \
+  Operation {                                                                                     \
+    "sorrel_status " #__VA_ARGS__, L"kite", [] {                                                  \
+      const std::array arguments = {L"sorrel_status.exe", __VA_ARGS__};                           \
+      return Answer([&] { return Text(AnswerCommandLine(arguments.size(), arguments.data())); }); \
+    }                                                                                             \
   }
 #define CALL(...)                                                            \
   Operation {                                                                \

@@ -1,5 +1,5 @@
-// Broken ACLs of every kind: nothing beyond their memory is read or written, whatever sizes they
-// claim.
+// Tries malformed ACLs of every kind. No code may read or write beyond their memory, even if their
+// sizes are wrong.
 
 #include <algorithm>
 
@@ -9,7 +9,7 @@
 
 namespace kelvo::fuzz {
 
-// An entry of some type with a SID of some length.
+// Makes an ACE of a random type with a SID of a random length.
 static std::string AnyAce(Input& input) {
   const std::size_t authorities = input.Number(3);
   std::string ace(16 + 4 * authorities, '\0');
@@ -33,15 +33,15 @@ static std::string AnyList(Input& input) {
   return list;
 }
 
-// Changes some bytes, and now and then the length.
-static void Break(std::string& list, Input& input) {
+// Changes some bytes and sometimes the length.
+static void Corrupt(std::string& list, Input& input) {
   for (std::size_t left = input.Number(6); left > 0; --left) {
     list[input.Number(list.size() - 1)] = static_cast<char>(input.Number(0xFF));
   }
   if (input.Number(7) == 1) {
     list.resize(std::max(input.Number(list.size()), sizeof(ACL)) / 4 * 4);
   }
-  // Nothing could distinguish a list that claims more bytes than it has from one that has them.
+  // Limits the claimed size to the real size: no code could detect that a list claims more.
   WORD claimed = 0;
   std::memcpy(&claimed, &list[2], sizeof(claimed));
   claimed = std::min(claimed, static_cast<WORD>(list.size()));
@@ -50,27 +50,27 @@ static void Break(std::string& list, Input& input) {
 
 static const Target kAccessLists("access lists", [](Input& input) {
   std::string list = AnyList(input);
-  const bool isSound = input.Chance();
-  if (!isSound) {
-    Break(list, input);
+  const bool isValid = input.Chance();
+  if (!isValid) {
+    Corrupt(list, input);
   }
   const GuardedMemory memory(list, input.Chance());
   const ACL* const acl = memory.As<ACL>();
   const GuardedMemory aceMemory(AnyAce(input), input.Chance());
   auto* const ace = aceMemory.As<ACCESS_ALLOWED_ACE>();
   const DWORD found = FindACEInACL(acl, ace);
-  Expect(found == kNoAceIndex || found < acl->AceCount, "an entry is found within the list");
+  Expect(found == kNoAceIndex || found < acl->AceCount, "the found index is within the list");
   const DWORD place = GetACEInsertionIndex(acl, ace);
-  Expect(place == kNoAceIndex || place <= acl->AceCount, "an entry is inserted within the list");
+  Expect(place == kNoAceIndex || place <= acl->AceCount, "the insertion index is within the list");
   const DWORD needed = CalculateACLSize(acl, nullptr, 0, &ace, 1);
   const DWORD size = std::clamp<DWORD>(needed, 64, 0xFFFC) / 4 * 4;
   const GuardedMemory copy(size, input.Chance());
   InitializeAcl(copy.As<ACL>(), size, ACL_REVISION);
   const BOOL copied = CopyACL(copy.As<ACL>(), acl);
-  if (isSound) {
-    Expect(copied != FALSE, "a sound list is copied into the size that it needs");
+  if (isValid) {
+    Expect(copied != FALSE, "a valid list is copied into the size that it needs");
     Expect(std::memcmp(copy.As<ACL>() + 1, acl + 1, list.size() - sizeof(ACL)) == 0,
-           "the entries are the same");
+           "the copy has the same entries");
   }
 });
 

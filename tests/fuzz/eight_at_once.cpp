@@ -1,4 +1,4 @@
-// Tools that run at the same time: the last writer wins, but the list stays well-formed.
+// Runs eight processes at the same time: the last writer wins, but the list stays well-formed.
 
 #include <process.h>
 
@@ -12,7 +12,7 @@ namespace kelvo::fuzz {
 
 static std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   std::intptr_t process = -1;
-  // Under load Wine now and then fails to start a program.
+  // Under load Wine sometimes fails to start a program.
   for (DWORD tries = 0; process == -1; ++tries) {
     Expect(tries < 10, "the program starts");
     Sleep(100 * tries);
@@ -21,7 +21,7 @@ static std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   return process;
 }
 
-// Waits for tools, after which the list must have no stray separator and no name twice. Returns it.
+// Waits for processes. The list must then have no stray separator and no name twice. Returns it.
 static std::wstring ListAfter(const std::vector<std::intptr_t>& processes) {
   for (const std::intptr_t process : processes) {
     int code = -1;
@@ -30,10 +30,10 @@ static std::wstring ListAfter(const std::vector<std::intptr_t>& processes) {
   }
   const WString list = ReadApplicationList();
   Expect(list.empty() || (L";" + list + L";").find(L";;") == WString::npos,
-         "no stray separator is in the list");
+         "the list has no stray separator");
   std::vector<WString> names = ApplicationsInList(list);
   std::ranges::sort(names);
-  Expect(std::ranges::adjacent_find(names) == names.end(), "no name is in the list twice");
+  Expect(std::ranges::adjacent_find(names) == names.end(), "the list has no name twice");
   return std::wstring(list);
 }
 

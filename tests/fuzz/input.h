@@ -10,15 +10,15 @@
 
 namespace kelvo::fuzz {
 
-// Ends the program, and prints how to repeat the input, when `holds` is false.
+// If `holds` is false, prints how to repeat the input and ends the program.
 void Expect(bool holds, const char* what);
 
-// Random choices that a seed repeats.
+// Makes random choices, which are the same for the same seed.
 class Input {
  public:
   explicit Input(std::uint64_t seed) : engine_(seed) {}
 
-  // From 0 to `most`, the bounds more often than the rest.
+  // Returns a number from 0 to `most`, the bounds more often than others.
   std::size_t Number(std::size_t most) {
     const std::uint64_t drawn = engine_();
     if (drawn % 8 == 0) {
@@ -29,7 +29,7 @@ class Input {
 
   bool Chance() { return Number(1) == 1; }
 
-  // Up to `most` units, each one of `alphabet`, or any at all when that is empty.
+  // Returns up to `most` units of `alphabet`, or any units if that is empty.
   std::wstring Text(std::size_t most, const std::wstring& alphabet = L"") {
     std::wstring text(Number(most), L'\0');
     for (wchar_t& unit : text) {
@@ -43,8 +43,8 @@ class Input {
   std::mt19937_64 engine_;
 };
 
-// Memory of `size` bytes, at most 0x10000, that ends where a guard page begins, or, when
-// `atStart` is true, begins where one ends. One byte too far is an access violation.
+// Memory of at most 0x10000 bytes with a guard page behind it or, if `atStart` is true, in front of
+// it. An access one byte too far is an access violation.
 class GuardedMemory {
  public:
   GuardedMemory(std::size_t size, bool atStart)
@@ -70,9 +70,9 @@ class GuardedMemory {
  private:
   static constexpr std::size_t kPage = 0x1000;
   static constexpr std::size_t kRoom = 0x10000;
-  // Fills what surrounds the memory in its block: no zero that might end a string.
+  // Fills the rest of the block. A zero there might end a string.
   static constexpr int kFiller = 0xA5;
-  // Used again, since reserving one takes longer than most inputs do.
+  // Reuses blocks: reserving a block takes longer than most inputs do.
   static inline std::vector<BYTE*> freeBlocks;
 
   static BYTE* TakeBlock() {
@@ -92,13 +92,13 @@ class GuardedMemory {
   BYTE* data_;
 };
 
-// A NUL-terminated string in such memory.
+// A NUL-terminated string in guarded memory.
 struct GuardedText : GuardedMemory {
   GuardedText(const std::wstring& text, bool atStart) : GuardedMemory(text + L'\0', atStart) {}
   operator const wchar_t*() const { return As<wchar_t>(); }
 };
 
-// Something that random input is tried on. Each file defines its own.
+// An operation to try random input on. Each file defines its targets.
 struct Target {
   Target(const char* itsName, void (*itsRun)(Input&)) : name(itsName), run(itsRun) {
     all.push_back(this);

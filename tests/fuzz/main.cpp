@@ -1,7 +1,6 @@
-// fuzz                         names the targets
-// fuzz TARGET NUMBER SECONDS   tries the input of this number on a target, and for that long those
-//                              that follow
-// What it finds is on standard error: the programs that it starts write to standard output.
+// fuzz                         lists the targets
+// fuzz TARGET NUMBER SECONDS   tries inputs on a target for SECONDS, starting with input NUMBER
+// It reports on standard error, because the programs that it starts write to standard output.
 
 #include <windows.h>
 
@@ -29,7 +28,7 @@ void Expect(bool holds, const char* what) {
 using namespace kelvo;
 using namespace kelvo::fuzz;
 
-// Guarded calls would swallow a fault: this sees it before they do.
+// Detects faults before guarded calls swallow them.
 static LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
   const DWORD code = exception->ExceptionRecord->ExceptionCode;
   Expect(code != EXCEPTION_ACCESS_VIOLATION && code != EXCEPTION_ILLEGAL_INSTRUCTION &&
@@ -38,15 +37,15 @@ static LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
   return EXCEPTION_CONTINUE_SEARCH;
 }
 
-int main(int count, char** words) {
+int main(int count, char** arguments) {
   AddVectoredExceptionHandler(1, OnException);
   for (const Target* const target : Target::all) {
     if (count != 4) {
       std::cout << target->name << "\n";
-    } else if (target->name == std::string(words[1])) {
+    } else if (target->name == std::string(arguments[1])) {
       currentTarget = target;
-      const std::uint64_t first = std::stoull(words[2]);
-      const ULONGLONG end = GetTickCount64() + std::stoull(words[3]) * 1000;
+      const std::uint64_t first = std::stoull(arguments[2]);
+      const ULONGLONG end = GetTickCount64() + std::stoull(arguments[3]) * 1000;
       for (currentInput = first; currentInput == first || GetTickCount64() < end; ++currentInput) {
         Input input(currentInput);
         Expect(GuardedCall([&] { target->run(input); }), "no exception leaves the operation");

@@ -1,4 +1,4 @@
-// Registry values of any type, size and length, read by each reader.
+// Reads registry values of any type, size and length with each reader.
 
 #include "lib/registry/registry_binary.h"
 #include "lib/registry/registry_number.h"
@@ -11,7 +11,7 @@ namespace kelvo::fuzz {
 constexpr const wchar_t* kKey = L"Software\\kelvo fuzz";
 constexpr const wchar_t* kName = L"value";
 
-// What the readers take for the text: up to the first NUL, with half a unit counted as one.
+// Returns the text that the readers should see: up to the first NUL, an odd last byte as a unit.
 static std::wstring TextIn(const std::string& data) {
   std::wstring text((data.size() + 1) / 2, L'\0');
   std::memcpy(text.data(), data.data(), data.size());
@@ -23,7 +23,7 @@ static std::string AnyData(Input& input) {
   return {reinterpret_cast<const char*>(text.c_str()), (text.length() * 2) + input.Number(2)};
 }
 
-// Leaves nothing in the account that it runs in.
+// Leaves no key in the user's registry.
 struct Key {
   ~Key() { RegDeleteTreeW(HKEY_CURRENT_USER, kKey); }
 };
@@ -34,7 +34,7 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   static const Key removedAtTheEnd;
   const DWORD type = kTypes[input.Number(7)];
   const std::string data = AnyData(input);
-  // Windows would store a NUL that it found after the data.
+  // Appends "##", because Windows would store a NUL that it finds after the data.
   RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, type, (data + "##").data(),
                   static_cast<DWORD>(data.size()));
 
@@ -43,13 +43,13 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   const bool isExpanded = type == REG_EXPAND_SZ && text.find(L'%') != std::wstring::npos;
   const WString read = RegistryReadString(HKEY_CURRENT_USER, kKey, kName, L"default");
   const bool fits = isText && data.size() <= 2048;
-  // Not checked where the value is expanded or might not fit the buffer of an expansion.
+  // Skips values that are expanded or that might not fit the buffer of an expansion.
   if (!isExpanded && (type != REG_EXPAND_SZ || text.length() < 259)) {
-    Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is what is stored");
+    Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is the stored text");
   }
-  // Often what the value just fills.
+  // Often chooses a buffer that the value just fills.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
-  // Of a value of one byte Wine reads what is in front of the buffer.
+  // For a value of one byte Wine reads in front of the buffer, so no guard page may be there.
   const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());
   const std::size_t stays =
       RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);
@@ -63,10 +63,10 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   std::string bytes = "untouched";
   RegistryReadBinary(HKEY_CURRENT_USER, kKey, kName, bytes);
   Expect(bytes == (type == REG_BINARY && !data.empty() ? data : "untouched"),
-         "the bytes are what is stored");
+         "the bytes are the stored bytes");
   RegistryReadDword(HKEY_CURRENT_USER, kKey, kName, 7);
   const NameTextList list = ReadRegistryKeyValues(HKEY_CURRENT_USER, kKey);
-  Expect(list.size() == (isText || type == REG_DWORD ? 1 : 0), "texts and numbers are listed");
+  Expect(list.size() == (isText || type == REG_DWORD ? 1 : 0), "only texts and numbers are listed");
 });
 
 }  // namespace kelvo::fuzz

@@ -1,4 +1,4 @@
-// Strings and lists, each compared with a plain reference.
+// Compares functions for strings and lists with simple reference implementations.
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@
 
 namespace kelvo::fuzz {
 
-// The items between delimiters, from left to right; what follows the last one only when it is not
+// Returns the items between delimiters, from left to right. Leaves out the last item if it is
 // empty.
 static std::vector<WString> Split(const std::wstring& text, const std::wstring& delimiter) {
   std::vector<WString> items;
@@ -30,7 +30,7 @@ static std::vector<WString> Split(const std::wstring& text, const std::wstring& 
 static const Target kTokenizer("tokenizer", [](Input& input) {
   const std::wstring text = input.Text(40, L";;ab");
   const bool collapse = input.Chance();
-  // One unit where runs collapse: of overlapping delimiters another reading is possible.
+  // If runs collapse, the delimiter is one unit: longer delimiters can overlap in several ways.
   const std::wstring delimiter = collapse ? L";" : std::wstring(L";;;a").substr(input.Number(3));
   std::vector<WString> expected = Split(text, delimiter);
   if (collapse) {
@@ -42,7 +42,7 @@ static const Target kTokenizer("tokenizer", [](Input& input) {
   while (items.HasMoreTokens()) {
     seen.push_back(items.NextToken());
   }
-  Expect(seen == expected, "the items are those of a plain split");
+  Expect(seen == expected, "the items are those of the reference split");
 });
 
 static const Target kFormat("format", [](Input& input) {
@@ -56,7 +56,7 @@ static const Target kFormat("format", [](Input& input) {
          "visible text has no control characters");
   for (const std::string& utf8 : {visible, ToUtf8(text)}) {
     Expect(MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, utf8.c_str(), -1, nullptr, 0) > 0,
-           "it is valid UTF-8");
+           "the result is valid UTF-8");
   }
 });
 
@@ -80,9 +80,9 @@ static const Target kSubstitution("substitution", [](Input& input) {
   const BOOL replaced =
       ReplaceAllInBuffer(buffer.As<wchar_t>(), capacity, GuardedText(search, input.Chance()),
                          GuardedText(replacement, input.Chance()));
-  Expect((replaced != FALSE) == (occurs && fits), "it returns whether something was replaced");
+  Expect((replaced != FALSE) == (occurs && fits), "the result says whether text was replaced");
   Expect(std::wstring(buffer.As<wchar_t>(), wcsnlen(buffer.As<wchar_t>(), capacity)) == expected,
-         "the buffer has what a plain replacement gives");
+         "the buffer has the text of the reference replacement");
 });
 
 static const Target kApplications("applications", [](Input& input) {

@@ -1,4 +1,4 @@
-// Version resources whose values claim any place and any length.
+// Tries version resources whose values claim random positions and lengths.
 
 #include <cstdlib>
 #include <memory>
@@ -11,7 +11,7 @@
 
 namespace kelvo::fuzz {
 
-// The resource is in the one block of this size, in front of or behind a guard page.
+// The resource is the only block of this size, directly in front of or behind a guard page.
 static std::size_t resourceSize = 0;
 static std::unique_ptr<GuardedMemory> resource;
 

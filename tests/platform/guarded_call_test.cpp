@@ -3,7 +3,7 @@
 #include "lib/platform/module.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("GuardedCall: whether the action came to an end") {
+TEST_CASE("GuardedCall: returns whether the action completed") {
   bool reached = false;
   CHECK_BOTH(GuardedCall([&] { reached = true; }), reached);
   CHECK_FALSE(GuardedCall([] { throw 1; }));
@@ -11,7 +11,7 @@ TEST_CASE("GuardedCall: whether the action came to an end") {
   CHECK_FALSE(GuardedCall([] { RaiseException(STATUS_INTEGER_DIVIDE_BY_ZERO, 0, 0, nullptr); }));
 }
 
-TEST_CASE("Owned::Receive, FindFunction: an empty place, a null module") {
+TEST_CASE("Owned::Receive, FindFunction: empty the object, accept a null module") {
   OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   CHECK(*event.Receive() == nullptr);
   SetLastError(ERROR_BAD_EXE_FORMAT);

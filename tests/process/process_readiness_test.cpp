@@ -3,7 +3,7 @@
 #include "lib/process/waiting_messages.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("StartProcessAndWaitForMutex: ends with the mutex, a WM_CLOSE, the time-out") {
+TEST_CASE("StartProcessAndWaitForMutex: ends at the mutex, a WM_CLOSE or the time-out") {
   const auto windows2000 = PretendWindows(2, 5, 0);
   DWORD now = 0;
   REPLACE(GetTickCount, [&](auto) { return now; });
@@ -13,8 +13,8 @@ TEST_CASE("StartProcessAndWaitForMutex: ends with the mutex, a WM_CLOSE, the tim
     std::get<9>(std::tuple(given...))->hProcess = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     return isStarted;
   });
-  // Each lookup takes a millisecond. The program makes the mutex, or has this one closed, before a
-  // lookup of that number.
+  // Each lookup takes a millisecond. Before lookup `mutexAt` the program makes the mutex, and
+  // before lookup `closeAt` this thread gets a WM_CLOSE.
   int lookups = 0, mutexAt = 0, closeAt = 0;
   REPLACE(OpenMutexW, [&](auto, auto, auto, LPCWSTR name) {
     CHECK(name == std::wstring(L"Global\\name"));
@@ -26,7 +26,7 @@ TEST_CASE("StartProcessAndWaitForMutex: ends with the mutex, a WM_CLOSE, the tim
     return lookups == mutexAt ? CreateMutexW(nullptr, FALSE, nullptr) : nullptr;
   });
   const auto wait = [&](bool pumps, DWORD timeoutMs) {
-    // The clock wraps soon.
+    // Makes the clock wrap soon.
     now = MAXDWORD - 150;
     lookups = 0;
     return StartProcessAndWaitForMutex(L"program", nullptr, pumps, L"name", timeoutMs);
@@ -44,7 +44,7 @@ TEST_CASE("StartProcessAndWaitForMutex: ends with the mutex, a WM_CLOSE, the tim
   CHECK_BOTH(wait(false, 303) == 0, lookups == 1);
 }
 
-TEST_CASE("PumpWaitingMessages: until none waits, or up to a WM_CLOSE") {
+TEST_CASE("PumpWaitingMessages: dispatches all waiting messages, or those up to a WM_CLOSE") {
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
   std::string calls;

@@ -7,7 +7,7 @@
 
 static std::string calls;
 
-// Notes each call and lets it through. The error that it leaves belongs to nobody.
+// Notes each call and lets it through. Then sets a last error that the code must not depend on.
 #define NOTE(function, note)                           \
   REPLACE(function, [](auto original, auto... given) { \
     calls += note;                                     \
@@ -16,14 +16,14 @@ static std::string calls;
     return result;                                     \
   })
 
-// Notes what is done with a token: 1 comes from the session, 2 is its duplicate.
-static bool IsOurs(const char* note, HANDLE token) {
+// Notes the use of token 1 (the session's) or 2 (its duplicate); returns false for other tokens.
+static bool NoteIfOurs(const char* note, HANDLE token) {
   const auto number = reinterpret_cast<std::uintptr_t>(token) - 0x7700;
   calls += number == 1 || number == 2 ? note + std::to_string(number) : "";
   return number == 1 || number == 2;
 }
 
-TEST_CASE("RunAsUser, LaunchInUserSession: desktop, wait and handle as asked") {
+TEST_CASE("RunAsUser, LaunchInUserSession: use the desktop, wait, return the handle as asked") {
   const ScratchFolder folder;
   const std::wstring program = folder / L"a child.exe";
   CopyFileW(ProgramPath(L"test_child.exe").c_str(), program.c_str(), TRUE);
@@ -32,8 +32,8 @@ TEST_CASE("RunAsUser, LaunchInUserSession: desktop, wait and handle as asked") {
   const OwnedKernelObject done(CreateEventW(nullptr, FALSE, FALSE, (name + L"_done").c_str()));
   const std::wstring arguments = name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
   const std::wstring command = L"\"" + program + L"\" " + arguments;
-  // Where a call is made from, and what RunAsUser does there, but for waiting; nothing where it is
-  // LaunchInUserSession that is called. No child may inherit the handles that stay open.
+  // The caller's station and desktop, and RunAsUser's calls before and after its wait. The first
+  // row calls LaunchInUserSession. The 0 in front of an access mask: no child inherits the handle.
   const std::tuple<const wchar_t*, const wchar_t*, std::string, std::string> places[] = {
       {nullptr, nullptr, "", ""},
       {nullptr, nullptr, "create free ", ""},
@@ -42,7 +42,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: desktop, wait and handle as asked") {
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  // Everybody shares the interactive one: another is granted access to.
+  // Opens another station, because RunAsUser changes the DACL and all programs share WinSta0.
   REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);
@@ -56,7 +56,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: desktop, wait and handle as asked") {
   NOTE(CloseDesktop, "close ");
   NOTE(CloseWindowStation, "close ");
   for (const auto& [station, desktop, callsBefore, callsAfter] : places) {
-    // Waiting comes last: a program that still ends would keep the folder from being removed.
+    // Waits come last: a child that is still running would keep the folder from being removed.
     for (const auto& [waits, takesHandle] :
          {std::pair{false, true}, {false, false}, {true, true}, {true, false}}) {
       INFO(callsBefore, "waits: ", waits, ", takes the handle: ", takesHandle);
@@ -89,7 +89,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: desktop, wait and handle as asked") {
   }
 }
 
-TEST_CASE("IsOnInteractiveDesktop: ignores letter case, which RunAsUser does not") {
+TEST_CASE("IsOnInteractiveDesktop: ignores letter case, unlike RunAsUser") {
   const std::tuple<const wchar_t*, const wchar_t*, DWORD, BOOL, int> rows[] = {
       {L"WinSta0", L"Default", 520, TRUE, 0},
       {L"WINSTA0", L"DEFAULT", 520, TRUE, 1},
@@ -117,8 +117,8 @@ TEST_CASE("IsOnInteractiveDesktop: ignores letter case, which RunAsUser does not
   }
 }
 
-TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
-  // Every call leaves something in the places for handles, and fails or not.
+TEST_CASE("LaunchInUserSession: chooses the call by Windows version, session, token and desktop") {
+  // Each simulated call writes its output handle, even if it fails.
   HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   auto* const session = +[]() -> DWORD { return 5; };
   const ReplacedExport query(
@@ -127,16 +127,16 @@ TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
         return session == 5;
       });
   REPLACE(CloseHandle, [](auto original, HANDLE handle) {
-    return IsOurs("close", handle) ? TRUE : original(handle);
+    return NoteIfOurs("close", handle) ? TRUE : original(handle);
   });
   const auto fail = [=](const auto&... given) -> BOOL {
     std::get<sizeof...(given) - 1>(std::tie(given...))->hProcess = ended;
     return FALSE;
   };
   REPLACE(CreateProcessAsUserW, [=](auto, auto token, auto... given) {
-    return !IsOurs("start", token) || fail(given...);
+    return !NoteIfOurs("start", token) || fail(given...);
   });
-  // On another window station nothing is granted on the interactive one.
+  // Cannot be opened, so that nothing is granted on the interactive window station.
   REPLACE(OpenWindowStationW, [](auto...) { return nullptr; });
   REPLACE(CreateProcessW, [=](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");
@@ -146,7 +146,7 @@ TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
   });
   // RunAsUser leaves its token open.
   using Path = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
-  for (const auto& [minor, ownSession, hasSession, duplicates, desktop, happens] :
+  for (const auto& [minor, ownSession, hasSession, duplicates, desktop, expected] :
        {Path{1, 5, true, true, nullptr, "close1start2close2"},
         Path{1, 3, true, false, nullptr, "start1close1"},
         Path{1, 5, false, true, L"kelvo other", "caller"},
@@ -166,6 +166,6 @@ TEST_CASE("RunAsUser: chooses by Windows, session, token and desktop") {
     HANDLE untouched = &calls;
     calls.clear();
     CHECK_FALSE(LaunchInUserSession(L"program", nullptr, true, &untouched));
-    CHECK_BOTH(untouched == &calls, calls == happens);
+    CHECK_BOTH(untouched == &calls, calls == expected);
   }
 }

@@ -3,9 +3,9 @@
 #include "tests/support/ascii.h"
 #include "tests/support/desktop_scope.h"
 
-// Its first thread notes its desktop and ends at once. The second one waits for the event that the
-// first argument names, writes the command line and the desktop into a file next to itself, reports
-// that by the event "..._done" and ends the program with 7.
+// The first thread notes its desktop and ends at once. The second thread waits for the event that
+// the first argument names. It writes the command line and the desktop into a file next to the
+// program, sets the event "..._done" and ends the program with exit code 7.
 static std::wstring desktop;
 
 static DWORD WINAPI Work(void* arguments) {

@@ -2,8 +2,8 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("ParseRegistryValuePath: root, key path and value name") {
-  // A path without both parts is refused; without two separators it leaves the texts alone.
+TEST_CASE("ParseRegistryValuePath: splits into root, key path and value name") {
+  // Rejects a path that lacks a part. Without two separators it also leaves the texts unchanged.
   const std::tuple<const wchar_t*, bool, HKEY, WString, WString> rows[] = {
       {L"HKEY_CURRENT_USER\\Software\\App\\x", true, HKEY_CURRENT_USER, L"Software\\App", L"x"},
       {L"HKEY_CLASSES_ROOT\\.x\\y", true, HKEY_CLASSES_ROOT, L".x", L"y"},

@@ -5,7 +5,7 @@
 #include "lib/registry/registry_number.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("RegistryReadDword, RegistryReadBinary, RegistryDeleteValue: as written, the key stays") {
+TEST_CASE("RegistryReadDword, RegistryReadBinary, RegistryDeleteValue: read back, keep the key") {
   HKEY const root = HKEY_CURRENT_USER;
   const StandInKey user(root);
   const wchar_t* const key = L"key";
@@ -23,7 +23,7 @@ TEST_CASE("RegistryReadDword, RegistryReadBinary, RegistryDeleteValue: as writte
   REQUIRE(WriteRegistryValue(root, key, L"n", REG_DWORD, "12345", 5) == 0);
   CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
 
-  // It is shorter when it is read than it was when its size was asked.
+  // Simulates a value that became shorter after its size was queried.
   REPLACE(RegQueryValueExW, [](auto original, auto... given) {
     const LSTATUS status = original(given...);
     const auto& [opened, name, reserved, type, data, size] = std::tuple(given...);
@@ -33,7 +33,7 @@ TEST_CASE("RegistryReadDword, RegistryReadBinary, RegistryDeleteValue: as writte
   for (const std::string& stored : {std::string("\0\xFF\0x", 4), std::string()}) {
     REQUIRE(RegistryWriteBinary(root, key, L"n", stored) == 0);
     CHECK(RegistryReadBinary(root, key, L"n", bytes) == 0);
-    CHECK(bytes == std::string("\0\xFF\0x", 4));  // no bytes leave what was there
+    CHECK(bytes == std::string("\0\xFF\0x", 4));  // an empty value changes nothing
     CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
   }
   CHECK_BOTH(RegistryValueExists(root, key, L"n"), RegistryDeleteValue(root, key, L"n") == 0);

@@ -11,7 +11,7 @@
 #include "tests/security/test_acl.h"
 #include "tests/support/testing.h"
 
-// Deletes the deny entries of an object whose DACL is `list`, not a copy of it.
+// Deletes the deny ACEs of an object whose DACL is `list` itself, not a copy.
 static void DeleteDenyAces(const TestAcl& list, PSID sid) {
   REPLACE(GetSecurityInfo, [&](auto, auto, auto, auto, auto, auto, ACL** dacl, auto...) {
     *dacl = list.acl;
@@ -20,7 +20,7 @@ static void DeleteDenyAces(const TestAcl& list, PSID sid) {
   DeleteDenyACEofObject(sid, nullptr, SE_WINDOW_OBJECT);
 }
 
-TEST_CASE("FindACEInACL, CopyACL, CalculateACLSize: the last equal entry, whole copies and sizes") {
+TEST_CASE("FindACEInACL, CopyACL, CalculateACLSize: the last equal ACE, whole copies and sizes") {
   TestAce wanted{.flags = 2, .mask = 7};
   TestAce other{.flags = 2, .mask = 7, .sid = {SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {18}}};
   const TestAcl list({wanted, wanted, {.type = 1, .flags = 2, .mask = 7}, {.mask = 7}, other});
@@ -37,7 +37,7 @@ TEST_CASE("FindACEInACL, CopyACL, CalculateACLSize: the last equal entry, whole 
   CHECK(denying.acl->AceCount == 3);
 }
 
-TEST_CASE("GetACEInsertionIndex: a new entry comes before the first of its rank") {
+TEST_CASE("GetACEInsertionIndex: puts a new ACE before the first of its rank") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
   const std::tuple<BYTE, BYTE, DWORD> cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
                                                  {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
@@ -49,28 +49,28 @@ TEST_CASE("GetACEInsertionIndex: a new entry comes before the first of its rank"
 }
 
 TEST_CASE(
-    "FindACEInACL, DeleteDenyACEofObject, CopyACL: wrong sizes lead to no read past the end") {
-  // A read past the end is swallowed by the guards: that it does not happen shows in the messages.
+    "FindACEInACL, DeleteDenyACEofObject, CopyACL: do not read past the end if sizes are wrong") {
+  // The guards swallow a read past the end, but it would change the messages.
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};
-  const std::function<void(const TestAcl&)> lies[] = {
+  const std::function<void(const TestAcl&)> corruptions[] = {
       [](auto& list) { list.aces[1].size += 4; },
       [](auto& list) { list.aces[0].size = 0; },
       [](auto& list) { list.acl->AceCount = 3; },
       [](auto& list) { *list.acl = {ACL_REVISION, 0, 7, 0, 0}; },
       [](auto& list) { list.aces[1].sid.SubAuthorityCount = 2; },
       [](auto& list) { list.aces[1].size = 15; }};
-  for (const auto& lie : lies) {
+  for (const auto& corrupt : corruptions) {
     const TestAcl list({{.type = 1, .mask = 2}, {.type = 1}});
-    lie(list);
+    corrupt(list);
     traced.clear();
     CHECK(FindACEInACL(list.acl, ace.get()) == kNoAceIndex);
     DeleteDenyAces(list, &ace.sid);
     CHECK(CopyACL(list.acl, TestAcl({{}}).acl) == FALSE);
-    CHECK(traced == (&lie - lies < 4 ? L"FindACEInACL GetAclInformation Failed;"
-                                       L"DeleteDenyACEofObject GetAclInformation Failed;"
-                                     : L"DeleteDenyACEofObject GetAce Failed;") +
+    CHECK(traced == (&corrupt - corruptions < 4 ? L"FindACEInACL GetAclInformation Failed;"
+                                                  L"DeleteDenyACEofObject GetAclInformation Failed;"
+                                                : L"DeleteDenyACEofObject GetAce Failed;") +
                         std::wstring(L"DeleteDenyACEofObject exception caught in __finally;"
                                      L"CopyACL AddAce Failed;"));
   }

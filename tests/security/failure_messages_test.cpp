@@ -30,25 +30,25 @@ constexpr FailingCall kWatched[] = {
     RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
     SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
     SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
-    // Last: when it fails to restore the station, that is lost.
+    // Comes last: if it fails to restore the station, the process loses that station.
     SETS_LAST_ERROR(SetProcessWindowStation)};
 
-// The operation under test and what it has traced, without the traces of others that it calls.
+// The operation under test, and its trace without the messages of operations that it calls.
 static std::wstring operation, traced;
 
-// Makes each call that an operation makes to these functions fail, and then throw, one at a time.
-// As a rule the operation then fails and names a call that failed, but not one that threw; a last
-// message comes from its clean-up, except where it fails at once. failure_messages.txt has each
-// outcome of each operation with the first call of each function that leads to it.
-TEST_CASE("failing calls: each traces its own message, then the operation's") {
-  // Replaces the interactive station, which everybody shares.
+// Makes each call of an operation to these functions fail, and then throw, one call at a time. As a
+// rule the operation then fails. It names the call if it failed, but not if it threw. Its clean-up
+// adds a last message, unless it fails at once. failure_messages.txt lists each outcome of each
+// operation with the first call of each function that causes it.
+TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
+  // Replaces the interactive station, which all programs share.
   const DesktopScope standIn(L"kelvo stand-in", L"Default");
   REPLACE(OpenWindowStationW,
           [](auto original, auto, auto... rest) { return original(L"kelvo stand-in", rest...); });
   const WindowObjects scope;
   const OwnedKernelObject token = OwnToken();
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
-  // More than fits on the stack, and enough to have all calls made.
+  // `many` does not fit on the stack; `few` is enough for all calls to be made.
   const TestAcl many(std::vector<TestAce>(51));
   const TestAcl few(std::vector<TestAce>(3));
   TestAce ace{.mask = 9};
@@ -81,21 +81,21 @@ TEST_CASE("failing calls: each traces its own message, then the operation's") {
        [&] { return allowAll(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
       {L"AllowTokenFullAccessToObject",
        [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
-      // The object's list grows.
+      // The object's DACL grows.
       {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }},
       {L"RunAsUser", [&] { return IsOnInteractiveDesktop(); }},
       {L"RunAsUser", [&] { return RunAsUser(command, TRUE, nullptr); }}};
   SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
     const std::wstring text = tag == std::wstring(L"RunAsEx") ? message : L"a wrong tag";
     traced += text.starts_with(operation + L" ") ? L"," + text.substr(operation.length()) : L"";
-    throw 1;  // is the sink's own trouble
+    throw 1;  // the operation must not notice
   });
-  // By operation and outcome, the calls that failed and those that threw.
+  // The calls that failed and the calls that threw, by operation and outcome.
   std::map<std::wstring, std::map<std::wstring, std::array<std::wstring, 2>>> outcomes;
   for (const auto& [name, succeeds] : operations) {
     operation = name;
     const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
-      // A restoring call may have been the one that failed.
+      // Restores both, because the operation's call to restore them may have failed.
       SetProcessWindowStation(scope.station);
       SetThreadDesktop(scope.desktop);
       for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
@@ -131,7 +131,7 @@ TEST_CASE("failing calls: each traces its own message, then the operation's") {
       }
     }
   }
-  // Nobody fails, so the token's user is let into the desktop, by the rights of desktops.
+  // If no call fails, the token's user gets all rights of desktops on the desktop.
   WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
   RunAsUser(command, TRUE, nullptr);
   CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);

@@ -9,8 +9,8 @@
 
 static BOOL isWritten = FALSE;
 
-// Runs an action on a file whose ACL is `list`, in SDDL. The file is simulated: Wine keeps only the
-// mode bits of an ACL.
+// Runs an action on a simulated file whose ACL is `list`, in SDDL. Of a real file's ACL, Wine keeps
+// only the mode bits.
 static void WithFile(std::wstring& list, const std::function<void()>& action) {
   REPLACE(GetFileSecurityW, [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
     const OwnedLocalMemory<void> made = FromSddl(list, size);
@@ -25,7 +25,7 @@ static void WithFile(std::wstring& list, const std::function<void()>& action) {
   action();
 }
 
-// Lets administrators into that file and returns what was printed.
+// Grants administrators access to that file and returns the printed text.
 static std::string Printed() {
   isWritten = FALSE;
   char printed[4096] = "";
@@ -36,7 +36,7 @@ static std::string Printed() {
   return text;
 }
 
-TEST_CASE("AddFileAccessRights: replaces the account's explicit entries, repeatedly") {
+TEST_CASE("AddFileAccessRights: replaces the account's explicit ACEs, repeatedly") {
   for (auto [list, result] :
        {std::pair<std::wstring, std::wstring>{L"none", L"D:(A;;FA;;;BA)"},
         {L"D:(A;;FR;;;BA)(D;;FW;;;BG)(A;ID;FR;;;BA)", L"D:(D;;FW;;;BG)(A;;FA;;;BA)(A;ID;FR;;;BA)"},
@@ -57,7 +57,7 @@ TEST_CASE("AddFileAccessRights: names each failing call, leaves the file unchang
       SETS_LAST_ERROR(InitializeAcl), SETS_LAST_ERROR(GetAce), SETS_LAST_ERROR(AddAce),
       SETS_LAST_ERROR(AddAccessAllowedAce), SETS_LAST_ERROR(SetSecurityDescriptorDacl),
       SETS_LAST_ERROR(SetFileSecurityW),
-      // The messages of these lack a space.
+      // The messages of these two lack a space.
       SETS_LAST_ERROR(InitializeSecurityDescriptor), SETS_LAST_ERROR(GetSecurityDescriptorControl)};
   const std::wstring before = L"D:AI(A;;FR;;;WD)(A;ID;FR;;;WD)";
   std::wstring list = before;
@@ -83,7 +83,7 @@ TEST_CASE("AddFileAccessRights: names each failing call, leaves the file unchang
     const ReplacedExport missing("SetSecurityDescriptorControl", nullptr);
     CHECK(Printed() == "");
     CHECK(list != before);
-    // A list that reaches past its descriptor, and one with an entry that reaches past the list.
+    // Tries an ACL that reaches past its descriptor, and one with an ACE past the ACL's end.
     for (WORD ACL::* const field : {&ACL::AclSize, &ACL::AceCount}) {
       REPLACE(GetSecurityDescriptorDacl,
               [&](auto original, auto from, auto has, ACL** dacl, auto flag) {

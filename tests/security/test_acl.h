@@ -9,7 +9,7 @@
 
 namespace kelvo::test {
 
-// An entry as it is stored in a list, with the SID S-1-5-19, which is "LS" in SDDL.
+// An ACE as an ACL stores it. Its SID is S-1-5-19, which is "LS" in SDDL.
 struct TestAce {
   ACCESS_ALLOWED_ACE* get() { return reinterpret_cast<ACCESS_ALLOWED_ACE*>(this); }
 
@@ -20,8 +20,8 @@ struct TestAce {
   SID sid{SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {19}};
 };
 
-// A list of these entries and `spare` bytes that ends where memory ends: a read past it is a fault.
-// It is never freed.
+// An ACL of these ACEs and `spare` bytes, directly in front of a guard page: a read past its end is
+// a fault. It is never freed.
 struct TestAcl {
   explicit TestAcl(const std::vector<TestAce>& entries, std::size_t spare = 0) {
     constexpr std::size_t kRoom = 0x10000;
@@ -38,7 +38,7 @@ struct TestAcl {
   TestAce* aces = nullptr;
 };
 
-// A security descriptor's DACL as SDDL, and back.
+// Converts a security descriptor's DACL to SDDL, and back.
 inline std::wstring ToSddl(PSECURITY_DESCRIPTOR descriptor) {
   OwnedLocalMemory<wchar_t> text;
   ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, 1, DACL_SECURITY_INFORMATION,
@@ -52,11 +52,11 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
   return descriptor;
 }
 
-// The beginning of an entry that grants all rights to one.
+// The beginning of an ACE that grants all rights to a station or a desktop.
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
-// The DACL of an object of whatever kind, "none" when it has none.
+// Returns the DACL of an object of any kind, or "none" if it has no DACL.
 inline std::wstring ReadDacl(HANDLE object) {
   std::vector<BYTE> descriptor(0x10000);
   DWORD size = 0x10000;
@@ -76,14 +76,14 @@ inline OwnedKernelObject OwnToken() {
   return token;
 }
 
-// A station and a desktop whose ACLs can be read on every Wine: Wine 10 finds none for a window
-// object, but finds that of the same handle as a kernel object.
+// A station and a desktop whose ACLs can be read on every Wine. Wine 10 finds no ACL of a window
+// object, but finds it if the same handle is treated as a kernel object.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 
   static constexpr auto kAsKernelObject = [](auto original, HANDLE object, SE_OBJECT_TYPE type,
                                              SECURITY_INFORMATION what, auto... rest) {
-    // Nothing else is read, and writing does not protect the list from what it inherits.
+    // The code must read and write only the DACL, and not protect it from inheritance.
     CHECK(what == DACL_SECURITY_INFORMATION);
     return original(object, type == SE_WINDOW_OBJECT ? SE_KERNEL_OBJECT : type, what, rest...);
   };

@@ -9,9 +9,9 @@
 
 static TestAce localService;
 
-TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: one explicit entry, where there is a list") {
+TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: add one explicit ACE to a DACL") {
   const WindowObjects scope;
-  // Ends where the entry is inserted: Wine's AddAce appends, whatever the index.
+  // The new ACE belongs at the end of this DACL: Wine's AddAce appends and ignores the index.
   const std::wstring before = L"D:(D;;CC;;;LS)(D;;CC;;;WD)";
   WriteDacl(scope.station, before);
   WriteDacl(scope.desktop, before);
@@ -38,7 +38,7 @@ TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: one explicit entry, where 
   CHECK(ReadDacl(scope.desktop) == L"none");
 }
 
-TEST_CASE("AllowTokenFullAccessToObject: lists of more than 1,008 bytes use the heap") {
+TEST_CASE("AllowAccessToDesktop: uses the heap for ACLs of more than 1,008 bytes") {
   const WindowObjects scope;
   int allocated = 0, freed = 0;
   COUNT_CALLS(HeapAlloc, allocated);
@@ -54,7 +54,7 @@ TEST_CASE("AllowTokenFullAccessToObject: lists of more than 1,008 bytes use the 
   }
 }
 
-TEST_CASE("DeleteDenyACEofObject: removes all but one at index 0") {
+TEST_CASE("DeleteDenyACEofObject: removes all deny ACEs except one at index 0") {
   const WindowObjects scope;
   const wchar_t* const cases[][2] = {
       {L"D:(A;;CC;;;WD)(D;;CC;;;LS)(D;;DC;;;LS)(D;;CC;;;NS)(D;ID;CC;;;LS)(A;;CC;;;LS)",
@@ -70,7 +70,7 @@ TEST_CASE("DeleteDenyACEofObject: removes all but one at index 0") {
   CHECK(DeleteDenyACEofObject(&localService.sid, scope.desktop, SE_WINDOW_OBJECT) == FALSE);
 }
 
-TEST_CASE("AllowTokenFullAccessToObject: rights by the name of the type") {
+TEST_CASE("AllowTokenFullAccessToObject: chooses the rights by the name of the type") {
   const WindowObjects scope;
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), L"D:");
@@ -95,7 +95,7 @@ TEST_CASE("AllowTokenFullAccessToObject: rights by the name of the type") {
   CHECK(ReadDacl(event.get()) == others);
 }
 
-TEST_CASE("CreateTokenPriv: the names that the system has") {
+TEST_CASE("CreateTokenPriv: skips names that the system lacks") {
   const LPCWSTR names[] = {L"SeNoSuch", L"SeDebugPrivilege", L"", L"SeTcbPrivilege", nullptr};
   DWORD count = 0;
   const OwnedLocalMemory<TOKEN_PRIVILEGES> set(CreateTokenPriv(&count, names, FALSE));

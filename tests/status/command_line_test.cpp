@@ -2,10 +2,10 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("ParseCommandLine: every argument as given, or what is wrong") {
+TEST_CASE("ParseCommandLine: returns every argument as given, or the mistake") {
   using Kind = CommandLine::Kind;
   struct Row {
-    std::vector<const wchar_t*> words;
+    std::vector<const wchar_t*> arguments;
     Kind kind;
     std::vector<WString> applications;
     WString mistake;
@@ -26,9 +26,9 @@ TEST_CASE("ParseCommandLine: every argument as given, or what is wrong") {
       {{L"\u0416\xD800"}, Kind::kWrong, {}, L"Unexpected word '\u0416\xD800'"},
       {{L"--", L"x"}, Kind::kWrong, {}, L"Unexpected word 'x'"},
   };
-  for (const auto& [words, kind, applications, mistake] : rows) {
+  for (const auto& [arguments, kind, applications, mistake] : rows) {
     std::vector<const wchar_t*> all{L"sorrel_status.exe"};
-    all.insert(all.end(), words.begin(), words.end());
+    all.insert(all.end(), arguments.begin(), arguments.end());
     const CommandLine line = ParseCommandLine(static_cast<int>(all.size()), all.data());
     CAPTURE(mistake);
     CHECK(line.kind == kind);

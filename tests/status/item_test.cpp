@@ -13,7 +13,7 @@
 #include "tests/support/testing.h"
 #include "tool/dependent_applications.h"
 
-TEST_CASE("QueryApplications: reports what the registry has in place of the list") {
+TEST_CASE("QueryApplications: reports a list, and any other value in its place") {
   struct Row {
     DWORD type;
     std::wstring stored;
@@ -47,7 +47,7 @@ TEST_CASE("QueryApplications: reports what the registry has in place of the list
   }
 }
 
-TEST_CASE("IsPublishedName: oem, a number, .inf") {
+TEST_CASE("IsPublishedName: accepts oem, a number and .inf") {
   CHECK_BOTH(IsPublishedName(L"oem0.inf"), IsPublishedName(L"OEM123.INF"));
   for (const wchar_t* const name : {L"oem.inf", L"oem1.info", L"oem1", L"oem", L"", L"oe1.inf",
                                     L"oem1x.inf", L"xem1.inf", L"oem1.inf.inf"}) {
@@ -55,7 +55,7 @@ TEST_CASE("IsPublishedName: oem, a number, .inf") {
   }
 }
 
-TEST_CASE("QueryService: counts a device unless it is certainly a remote device's") {
+TEST_CASE("QueryService: counts a device unless it certainly belongs to a remote device") {
   const std::wstring id = L"BTHENUM\\{3abb9028-beae-4bf1-acd7-5cd7d5e4e0ca}";
   struct Row {
     std::wstring ids, instanceId;
@@ -123,33 +123,33 @@ TEST_CASE("QueryService: counts a device unless it is certainly a remote device'
   }
 }
 
-// What the program writes, in a place that takes no memory.
+// The program's output, in a buffer that needs no allocation.
 static char written[0x1000];
 
-struct Surroundings {
+struct Conditions {
   HANDLE device = GetCurrentThread();  // standard output and standard error
   BOOL writes = TRUE;
   bool hasMemory = true;
 };
 
 // Runs the program with an option and its value.
-static int Run(const wchar_t* option, const wchar_t* value, const Surroundings& around = {}) {
-  const wchar_t* const words[] = {L"sorrel_status.exe", option, value};
+static int Run(const wchar_t* option, const wchar_t* value, const Conditions& conditions = {}) {
+  const wchar_t* const arguments[] = {L"sorrel_status.exe", option, value};
   bool hasMemory = true;
   REPLACE(malloc, [&](auto original, auto size) { return hasMemory ? original(size) : nullptr; });
-  REPLACE(GetStdHandle, [&](auto, auto) { return around.device; });
+  REPLACE(GetStdHandle, [&](auto, auto) { return conditions.device; });
   REPLACE(WriteFile, [&](auto, auto, auto bytes, DWORD size, DWORD* done, auto) {
     std::copy_n(static_cast<const char*>(bytes), size, written);
     written[*done = size] = '\0';
-    return around.writes;
+    return conditions.writes;
   });
-  hasMemory = around.hasMemory;
-  const int code = AnswerCommandLine(value == nullptr ? 2 : 3, words);
+  hasMemory = conditions.hasMemory;
+  const int code = AnswerCommandLine(value == nullptr ? 2 : 3, arguments);
   hasMemory = true;
   return code;
 }
 
-TEST_CASE("AnswerCommandLine: exit code 3 when a standard output that exists cannot be written") {
+TEST_CASE("AnswerCommandLine: returns 3 if standard output exists but cannot be written") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   CHECK(Run(L"--application", L"a", {nullptr, FALSE}) == 1);
   CHECK(Run(L"--application", L"a", {INVALID_HANDLE_VALUE, FALSE}) == 1);
@@ -157,12 +157,12 @@ TEST_CASE("AnswerCommandLine: exit code 3 when a standard output that exists can
   CHECK(Run(L"--help", nullptr, {GetCurrentThread(), FALSE}) == 3);
 }
 
-TEST_CASE("AnswerCommandLine: out of memory the exit code is 3, and standard error says why") {
+TEST_CASE("AnswerCommandLine: returns 3 without memory, and standard error says why") {
   CHECK(Run(L"--version", nullptr, {GetCurrentThread(), TRUE, false}) == 3);
   CHECK(std::string(written) == "sorrel_status: not enough memory\r\n");
 }
 
-TEST_CASE("AnswerCommandLine: a system name from Windows 10 on, any number of groups") {
+TEST_CASE("AnswerCommandLine: names Windows 10, reads any number of groups") {
   constexpr DWORD kCount = 200;
   struct {
     TOKEN_GROUPS first;
@@ -186,7 +186,7 @@ TEST_CASE("AnswerCommandLine: a system name from Windows 10 on, any number of gr
   const auto windows10 = PretendWindows(VER_PLATFORM_WIN32_NT, 10, 0);
   Run(L"--json", nullptr);
   CHECK(std::strstr(written, "\"administrator\": false"));
-  // Filtered: the group only denies access.
+  // Simulates a filtered token, in which the group only denies access.
   token.others[kCount - 2] = {administrators, SE_GROUP_USE_FOR_DENY_ONLY};
   Run(L"--json", nullptr);
   CHECK(std::strstr(written, "\"administrator\": true"));

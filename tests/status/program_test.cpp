@@ -17,8 +17,8 @@ static std::wstring FromUtf8(const std::string& text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
 
-// On a clean machine a folder, the current one, with certificates, INF files, sorrel_status.exe
-// with the simulator's libraries, and a copy of it with a driver library that has a version.
+// Cleans the machine and makes a new folder the current one. It has certificates, INF files and
+// sorrel_status.exe with the simulator's libraries; a copy's driver library has a version.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -36,11 +36,11 @@ struct Machine : ProgramFolder {
     Write("large.inf", inf);
     std::filesystem::resize_file("large.inf", 0x400001);
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
-    PutBack();
+    Unpublish();
   }
-  ~Machine() { PutBack(); }
+  ~Machine() { Unpublish(); }
 
-  static void PutBack() {
+  static void Unpublish() {
     locked.reset();
     for (const wchar_t* const file : {L"oem6.inf", L"oem7.inf", L"oem8.inf", L"oem9.inf"}) {
       std::error_code ignored;
@@ -48,7 +48,7 @@ struct Machine : ProgramFolder {
     }
   }
 
-  // Publishes a file as oem6.inf, which nobody else can read then.
+  // Publishes a file as oem6.inf and locks it, so that no program can read it.
   static void PublishLocked(const wchar_t* file) {
     locked.reset();
     const std::wstring published = kInfFolder + L"oem6.inf";
@@ -59,7 +59,7 @@ struct Machine : ProgramFolder {
   static inline OwnedFile locked;
 };
 
-// What a line of lifecycle.txt that begins with "* " does to the machine.
+// The changes of the machine that the lines of lifecycle.txt with "* " name.
 static const std::map<std::string, std::function<void()>> kChanges = {
     {"* Tessalin.inf is published as oem8.inf, incomplete.inf as oem9.inf; oem7.inf is a folder",
      [] {
@@ -70,11 +70,11 @@ static const std::map<std::string, std::function<void()>> kChanges = {
     {"* oem6.inf, of another size, cannot be read", [] { Machine::PublishLocked(L"binary.cer"); }},
     {"* oem6.inf, of the same size, cannot be read",
      [] { Machine::PublishLocked(L"unpublished.inf"); }},
-    {"* the store CA is gone",
+    {"* the store CA is deleted",
      [] { RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\SystemCertificates\\CA"); }},
 };
 
-// The administrators' page, which shows the usage and an example.
+// Returns the administrators' page, which shows the usage and an example.
 static std::string Page() { return ReadBytes(ProgramPath(L"expected\\administrators.md")); }
 static std::string ShownOnPage(const std::string& kind) {
   const std::string page = Page();
@@ -82,7 +82,7 @@ static std::string ShownOnPage(const std::string& kind) {
   return Replaced(page.substr(from, page.find("```", from) - from), "\n", "\r\n");
 }
 
-// Checks that the JSON form says in ASCII, by keys that the page explains, what the text form says.
+// Checks that the JSON form says what the text form says, in ASCII, under keys of the page.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;
   const Json report = Json::parse(json.output);
@@ -100,18 +100,17 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
                                 : value.is_string()
                                     ? ToVisibleUtf8(FromUtf8(value.get<std::string>()))
                                     : "";
-      // The text form leaves out what is as it should be.
+      // The text form leaves out normal values of these keys.
       CHECK((key == "item" || key == "list" || line.find(shown) != std::string::npos));
     }
   }
 }
 
-TEST_CASE(
-    "sorrel_status.exe reports what lifecycle.txt says, in both forms, and loads no library") {
+TEST_CASE("sorrel_status.exe: reports as in lifecycle.txt, in both forms, and loads no library") {
   const Machine machine;
-  std::istringstream life(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
+  std::istringstream lifecycle(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
   std::string seen;
-  for (std::string line; std::getline(life, line);) {
+  for (std::string line; std::getline(lifecycle, line);) {
     line.erase(std::min(line.find('\r'), line.size()));
     CAPTURE(line);
     if (line.starts_with("* ")) {
@@ -121,7 +120,7 @@ TEST_CASE(
       ProgramFolder::Run(FromUtf8(line.substr(2)));
       seen += line + "\r\n\r\n";
     } else if (line.starts_with("> ")) {
-      // With --json in the file that form is the page's example.
+      // If the line in the file has --json, the JSON form must be the page's example.
       const std::wstring command = FromUtf8(Replaced(line.substr(2), " --json$", ""));
       std::filesystem::remove("journal");
       const ChildResult text = ProgramFolder::Run(command);

@@ -6,7 +6,7 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("CompareNoCase: compares lower-case units") {
-  // Below U+0100 only A to Z are folded; above, whatever the system maps to one unit.
+  // Below U+0100 only A to Z are folded. Above, the system's mapping to a single unit is used.
   CHECK(CompareNoCase(L"Foo\u0100B", L"fOO\u0101") == L'b');
   CHECK(CompareNoCase(L"a", L"ab") == -L'b');
   CHECK(CompareNoCase(L"Z", L"[") == L'z' - L'[');
@@ -21,7 +21,7 @@ TEST_CASE("CompareNoCase: compares lower-case units") {
   }
 }
 
-TEST_CASE("CompareNoCase: depends on LC_CTYPE, on no other category") {
+TEST_CASE("CompareNoCase: depends on the category LC_CTYPE only") {
   REQUIRE(std::setlocale(LC_NUMERIC, "") != nullptr);
   CHECK(CompareNoCase(L"\u0416", L"\u0436") == 0);
   REQUIRE(std::setlocale(LC_CTYPE, "") != nullptr);

@@ -3,7 +3,7 @@
 #include "lib/string/text_routines.h"
 #include "tests/support/testing.h"
 
-// All tokens, each ended by "|".
+// Returns all tokens, each followed by "|".
 static std::wstring Split(const std::wstring& text, const wchar_t* delimiter, bool collapse) {
   std::wstring items;
   std::size_t count = 0;
@@ -29,6 +29,6 @@ TEST_CASE("StringTokenizer: splits at the whole delimiter, in linear time") {
   const std::wstring run(1'000'000, L';');
   CHECK(Split(run, L";", true) == L"");
   CHECK(Split(run, L";", false) == std::wstring(1'000'000, L'|'));
-  // The tokenizer itself would find an empty delimiter without end.
+  // Only CountTokens takes an empty delimiter: the tokenizer would find it endlessly.
   CHECK_BOTH(CountTokens(L"a;b", L"", true) == 1, CountTokens(L"", L"", true) == 0);
 }

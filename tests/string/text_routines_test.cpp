@@ -3,7 +3,7 @@
 #include "lib/string/hex_text.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("SubstringClamped, BytesToHex: within the text, two digits a byte") {
+TEST_CASE("SubstringClamped, BytesToHex: stay within the text, two digits per byte") {
   CHECK(SubstringClamped(L"kite", 1, 2) == L"it");
   CHECK(SubstringClamped(L"kite", 3, 9) == L"e");
   CHECK(SubstringClamped(L"kite", 4, 1) == L"");
@@ -12,7 +12,7 @@ TEST_CASE("SubstringClamped, BytesToHex: within the text, two digits a byte") {
   CHECK(BytesToHex(nullptr, 3) == L"");
 }
 
-TEST_CASE("ReplaceAll: arguments inside the text, a result that is too long") {
+TEST_CASE("ReplaceAll: accepts arguments inside the text, throws without memory") {
   WString text = L"a-b-ab";
   CHECK(ReplaceAll(text, text.c_str() + 4, text.c_str() + 2) == 1);
   CHECK(text == L"a-b-b-ab");
@@ -22,7 +22,7 @@ TEST_CASE("ReplaceAll: arguments inside the text, a result that is too long") {
   text = L"aaabaa";
   CHECK(ReplaceAll(text, L"aa", L"cc") == 2);
   CHECK(text == L"ccabcc");
-  // No room for the result.
+  // There is no memory for the result.
   const WString many(2000, L'x');
   text = many;
   const std::wstring longer(2000, L'y');

@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("WString: null, parts of itself, what does not fit") {
+TEST_CASE("WString: accepts null and parts of itself, rejects bad positions and lengths") {
   CHECK_BOTH(WString(nullptr).empty(), WString(L"brindle").AssignCString(nullptr).empty());
   for (const wchar_t* const original : {L"seven__", L"a text that does not fit into the object"}) {
     WString text(original);

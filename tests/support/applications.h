@@ -15,7 +15,7 @@
 
 namespace kelvo::test {
 
-// The list of dependent applications in the registry; "none" when there is no such value.
+// Returns the list of dependent applications in the registry, or "none" if there is no such value.
 inline std::wstring Applications() {
   wchar_t list[2048];
   DWORD size = sizeof(list);
@@ -29,7 +29,7 @@ inline std::string Replaced(const std::string& text, const std::string& pattern,
   return std::regex_replace(text, std::regex(pattern), by);
 }
 
-// A report of sorrel_status.exe where what differs from run to run has a name.
+// Replaces the texts in a report of sorrel_status.exe that differ from run to run by names.
 inline std::string Named(std::string report) {
   report = Replaced(report, "[0-9A-F]{40}", "THUMBPRINT");
   report = Replaced(report, "\\d{4}-[-0-9T:]{14}Z", "TIME");
@@ -37,10 +37,10 @@ inline std::string Named(std::string report) {
   return Replaced(report, "system +[^;]+(; [^;]+); (not )?elevated", "system          WINDOWS$1");
 }
 
-// Where Windows publishes the INF files of the driver store.
+// The folder in which Windows publishes the INF files of the driver store.
 inline const std::wstring kInfFolder = L"C:\\windows\\inf\\";
 
-// No application is recorded and no certificate is in a store when it begins and when it ends.
+// Removes recorded applications and certificates in both stores when constructed and destroyed.
 struct CleanMachine {
   CleanMachine() { Clear(); }
   CleanMachine(const CleanMachine&) = delete;
@@ -52,9 +52,9 @@ struct CleanMachine {
   }
 };
 
-// On such a machine a folder with sorrel.exe, the simulator's libraries and certificates, the
-// current one until this is destroyed, and further copies: the path in the folder of this program,
-// then in the new folder.
+// Makes a folder with sorrel.exe, the simulator's libraries and certificates on a clean machine. It
+// is the current folder until this object is destroyed. `further` lists other files to copy: the
+// path in this program's folder, then the path in the new folder.
 struct ProgramFolder : CleanMachine, ScratchFolder {
   ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {
     for (const wchar_t* const file :

@@ -10,8 +10,8 @@
 
 namespace kelvo::test {
 
-// The subjects of the certificates in a system store of the local machine; empty when there is no
-// such store, which stays so.
+// Returns the subjects of the certificates in a system store of the local machine, or an empty text
+// if the store does not exist. Does not create the store.
 inline std::wstring SubjectsInStore(const wchar_t* name) {
   HCERTSTORE store =
       CertOpenStore(CERT_STORE_PROV_SYSTEM_W, 0, 0,
@@ -27,9 +27,9 @@ inline std::wstring SubjectsInStore(const wchar_t* name) {
   return subjects;
 }
 
-// Empties the stores that the tool writes to, of which a throw-away prefix has certificates of
-// tests alone, and makes them where they are gone. Wine keeps what CertDeleteCertificateFromStore
-// deletes.
+// Empties the stores that the program writes to, and creates them if they are missing. In a
+// throw-away prefix they hold only certificates of tests. Deletes registry keys, because Wine keeps
+// what CertDeleteCertificateFromStore deletes.
 inline void RemoveTestCertificates() {
   RequireThrowAwayPrefix();
   for (const std::wstring name : {L"TrustedPublisher", L"CA"}) {

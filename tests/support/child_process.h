@@ -15,10 +15,9 @@ struct ChildResult {
   std::string output, errors;
 };
 
-// Runs a command line to its end; returns the whole exit code and what it wrote, byte for byte.
-// With `program`, a path, that file is run, whatever the command line names: Windows would look for
-// its first word in this test program's own folder before the current one. `access` is what the
-// child may do with its output.
+// Runs a command line to its end. Returns the exit code and the output, byte for byte. If `program`
+// is given, runs that path instead of the first argument, which Windows would search for in this
+// test program's folder before the current folder. The child's output handles have `access`.
 inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = nullptr,
                             DWORD access = GENERIC_WRITE) {
   const ScratchFolder folder;
@@ -35,7 +34,7 @@ inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = n
   startup.hStdOutput = output.get();
   startup.hStdError = errors.get();
   PROCESS_INFORMATION started{};
-  // Under load Wine now and then fails a start with ERROR_INTERNAL_ERROR.
+  // Under load a start sometimes fails on Wine, with ERROR_INTERNAL_ERROR.
   for (DWORD pause = 0; CreateProcessW(program, commandLine.data(), nullptr, nullptr, TRUE, 0,
                                        nullptr, nullptr, &startup, &started) == FALSE;
        Sleep(pause += 50)) {

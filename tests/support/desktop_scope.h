@@ -6,12 +6,12 @@
 
 namespace kelvo::test {
 
-// Puts this process on the window station and this thread on the desktop of the given names, until
-// it is destroyed. Makes those that do not exist. Null leaves the process where it is.
+// Moves this process to a window station and this thread to a desktop until this object is
+// destroyed. Creates a station or desktop that does not exist. A null name changes nothing.
 struct DesktopScope {
   DesktopScope(const wchar_t* stationName, const wchar_t* desktopName) {
     constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
-    // Wine closes a desktop, and nobody finds it any more, a second after its last thread left it.
+    // Keeps a thread on the first desktop: Wine removes one a second after its last thread left.
     constexpr auto sleep = [](void*) -> DWORD { return SleepEx(INFINITE, FALSE); };
     [[maybe_unused]] static const HANDLE stays =
         CreateThread(nullptr, 0, sleep, nullptr, 0, nullptr);
@@ -24,8 +24,8 @@ struct DesktopScope {
       SetThreadDesktop(desktop);
     }
   }
-  // On a desktop that Wine opens on this process's own display: that of the first desktop belongs
-  // to whoever was there first, and may be none. A process keeps the display of its first window.
+  // Uses a new desktop, which Wine opens on this process's display. The first desktop has that of
+  // the first process, perhaps none. A process keeps the display of its first window.
   DesktopScope()
       : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}
   DesktopScope(const DesktopScope&) = delete;
@@ -42,7 +42,7 @@ struct DesktopScope {
   HDESK desktop = nullptr;
 };
 
-// "station\desktop" of this process and thread.
+// Returns "station\desktop" of this process and thread.
 inline std::wstring CurrentDesktop() {
   wchar_t station[99] = L"", desktop[99] = L"";
   HDESK const current = GetThreadDesktop(GetCurrentThreadId());

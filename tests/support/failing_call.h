@@ -11,15 +11,15 @@ namespace kelvo::test {
 // The error of every call that is made to fail.
 constexpr DWORD kFailure = 1234;
 
-// A function whose calls can be made to fail. `run(nth, throws, action)` runs `action` while the
-// nth call to the function fails, or throws, and returns whether there was an nth call.
+// A function whose calls can be made to fail. `run(nth, throws, action)` runs `action` and makes
+// the nth call to the function fail or throw. Returns whether there was an nth call.
 struct FailingCall {
   const char* function;
   bool (*run)(int nth, bool throws, const std::function<void()>& action);
 };
 
-// A table of them says how each reports failure: by a result of null or FALSE and the last error,
-// or by returning the error itself.
+// Rows of a table. A function reports failure by a null or FALSE result and the last error, or it
+// returns the error:
 //   constexpr FailingCall kFailing[] = {SETS_LAST_ERROR(GetAce), RETURNS_ERROR(GetSecurityInfo)};
 #define SETS_LAST_ERROR(called) KELVO_FAILING_CALL(called, SetLastError(kFailure), 0)
 #define RETURNS_ERROR(called) KELVO_FAILING_CALL(called, void(), kFailure)

@@ -12,9 +12,9 @@
 
 namespace kelvo::test {
 
-// A folder of this test's own, deleted with everything in it along with this object.
+// A new folder, deleted with all its contents when this object is destroyed.
 struct ScratchFolder {
-  // Under the next number that no other test, or one that crashed, has taken.
+  // Takes the next free number: other tests, and tests that crashed, leave folders.
   ScratchFolder() {
     do {
       path = std::filesystem::temp_directory_path() / (L"kelvo test " + std::to_wstring(++made));
@@ -38,21 +38,21 @@ struct ScratchFolder {
   std::filesystem::path path;
 };
 
-// The file's bytes; empty when it cannot be read.
+// Returns the file's bytes, or an empty string if it cannot be read.
 inline std::string ReadBytes(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// The path of one of the project's programs, which are all in one folder.
+// Returns the path of one of the project's programs, which are all in one folder.
 inline std::wstring ProgramPath(const std::wstring& name) {
   std::wstring self(32768, L'\0');
   GetModuleFileNameW(nullptr, self.data(), 32768);
   return std::filesystem::path(self.c_str()).replace_filename(name);
 }
 
-// Compares what was seen with a file that the test lists under EXPECTED, byte by byte, and shows
-// where they differ first. What was seen is then in FILE.seen, in the folder of that copy.
+// Compares `seen` byte by byte with a file that the test lists under EXPECTED. If they differ,
+// shows the first difference and writes `seen` to FILE.seen, in the folder of that file's copy.
 inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);
   const std::string expected = ReadBytes(path);

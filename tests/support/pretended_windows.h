@@ -6,7 +6,7 @@
 
 namespace kelvo::test {
 
-// GetVersionExW reports this Windows, build 1381, until what this returns is destroyed:
+// Makes GetVersionExW report this Windows, build 1381, until the returned object is destroyed:
 //   const auto vista = PretendWindows(VER_PLATFORM_WIN32_NT, 6, 0);
 inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
                            const wchar_t* servicePack = L"") {

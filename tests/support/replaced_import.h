@@ -8,18 +8,18 @@
 #include <string>
 #include <utility>
 
-// Replaces functions of Windows for the code under test, until the end of a block.
+// Replaces Windows functions for the code under test until the end of a block.
 //
-// One that the program imports, by a lambda that takes the original and its arguments:
+// Replaces an imported function by a lambda that takes the original function and the arguments:
 //   REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
-// One that is looked up at run time, by a function of the same type, or by null where this Windows
-// is to lack it:
+// Replaces a result of GetProcAddress by a function of the same type, or by null to simulate a
+// Windows without it:
 //   const ReplacedExport native("GetNativeSystemInfo", nullptr);
 
 namespace kelvo::test {
 
-// Calls `visit(library, function, slot)` for each function that a module imports by name, until it
-// returns true.
+// Calls `visit(library, function, slot)` for each function that a module imports by name, until
+// `visit` returns true.
 template <typename Visit>
 void VisitImports(HMODULE module, Visit visit) {
   auto* const image = reinterpret_cast<BYTE*>(module);
@@ -29,7 +29,7 @@ void VisitImports(HMODULE module, Visit visit) {
       image + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
   for (; library->Name != 0; ++library) {
     for (DWORD at = 0;; at += sizeof(ULONG_PTR)) {
-      // mingw's import libraries align pointers at 4 bytes only: they are copied out and in.
+      // Copies pointers in and out, because mingw's import libraries align them at only 4 bytes.
       ULONG_PTR name = 0;
       std::memcpy(&name, image + library->OriginalFirstThunk + at, sizeof(name));
       if (name == 0) {
@@ -45,7 +45,7 @@ void VisitImports(HMODULE module, Visit visit) {
   }
 }
 
-// Directs a module's calls of an imported function to `target` and returns the previous target.
+// Redirects a module's calls of an imported function to `target`. Returns the previous target.
 inline void* SwapImport(const std::string& function, void* target,
                         HMODULE module = GetModuleHandleW(nullptr)) {
   void* previous = nullptr;
@@ -63,8 +63,8 @@ inline void* SwapImport(const std::string& function, void* target,
                              : throw std::runtime_error("this module does not import " + function);
 }
 
-// Until it is destroyed, `replacement` is called in place of an imported function, with the
-// original function and then the arguments of the call.
+// Calls `replacement` in place of an imported function until this object is destroyed. Passes it
+// the original function and then the arguments of the call.
 template <typename Function, typename Replacement>
 struct ReplacedImport;
 
@@ -84,7 +84,7 @@ struct ReplacedImport<Result(Parameters...), Replacement> {
                                parameters...);
   }
 
-  // Each lambda has its own type, and so its own `active`.
+  // Each lambda has a different type, and therefore a separate `active`.
   static inline ReplacedImport* active = nullptr;
   const char* function;
   Replacement replacement;
@@ -107,8 +107,8 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
     return original(parameters...);                          \
   })
 
-// Until it is destroyed, GetProcAddress returns `function` for the export `name` of any module;
-// null means a Windows that does not have it.
+// Makes GetProcAddress return `function` for the export `name` of any module until this object is
+// destroyed. Null simulates a Windows that lacks the export.
 struct ReplacedExport {
   ReplacedExport(const char* exported, void* function) : name(exported) {
     replaced[name] = reinterpret_cast<FARPROC>(function);

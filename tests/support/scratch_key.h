@@ -9,11 +9,11 @@
 
 namespace kelvo::test {
 
-// The path of a registry key of this test's own below HKEY_CURRENT_USER. The key is not there at
-// first and is deleted, with everything below it, along with this object.
+// The path of a registry key below HKEY_CURRENT_USER that does not exist at first. The key is
+// deleted with everything below it when this object is destroyed.
 //
-// Nothing of the library makes the name or deletes the key: all of it is under test, and the tree
-// of an empty name is the user's whole registry.
+// The library neither makes the name nor deletes the key, because it is under test: with an empty
+// name, the deleted tree would be the user's whole registry.
 struct ScratchKey : std::wstring {
   ScratchKey()
       : std::wstring(L"Software\\kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " +
@@ -24,8 +24,8 @@ struct ScratchKey : std::wstring {
   static inline int made = 0;
 };
 
-// Stores `units` without their last `cutBytes` bytes as a value. Puts "#" after them, since Windows
-// would store a NUL that it found there.
+// Stores `units`, without their last `cutBytes` bytes, as a value. Puts "#" after them, because
+// Windows would store a NUL that it finds there.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);
@@ -33,8 +33,8 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
   REQUIRE(RegSetKeyValueW(root, subkey, name, type, units.data(), size) == ERROR_SUCCESS);
 }
 
-// Until it is destroyed, this process finds `key`, empty at first, in place of one of Windows'
-// predefined keys. Tests write and delete through `key`, never through the predefined one.
+// Replaces one of Windows' predefined keys by `key`, which is empty at first, until this object is
+// destroyed. Tests write and delete through `key`, never through the predefined key.
 struct StandInKey {
   explicit StandInKey(HKEY replaced) : predefined(replaced) {
     HKEY created = nullptr;

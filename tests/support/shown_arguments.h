@@ -10,12 +10,12 @@
 
 namespace kelvo::test {
 
-// What a test can compare of an argument: a number, a constant string without its folder, a few
-// fields of a record; of any other pointer or handle, whether there is one.
+// Returns what a test can compare: a number, a constant string without its folder, or a few fields
+// of a record. For other pointers and handles, returns whether they are null.
 template <typename Argument>
 std::string Shown(Argument argument) {
   if constexpr (std::is_same_v<Argument, SIZE_T>) {
-    return "size";  // of a token's groups, say, which differ from machine to machine
+    return "size";  // such as that of a token's groups, which differs between machines
   } else if constexpr (std::is_integral_v<Argument> || std::is_enum_v<Argument>) {
     return std::to_string(static_cast<long long>(argument));
   } else if constexpr (std::is_same_v<Argument, LPCSTR> || std::is_same_v<Argument, LPCWSTR>) {

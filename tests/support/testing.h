@@ -1,6 +1,6 @@
 #pragma once
 
-// What nearly all tests use.
+// Includes the headers that nearly all tests use.
 
 #include <windows.h>
 
@@ -20,12 +20,12 @@
 #include "tests/support/replaced_import.h"
 #include "tests/support/scratch_key.h"
 
-// Two facts that belong together, of which a failure shows the one that does not hold.
+// Checks two related facts. A failure shows which of them is false.
 #define CHECK_BOTH(first, second) \
   CHECK(first);                   \
   CHECK(second)
 
-// How a failed check shows a text.
+// Shows a text in the message of a failed check.
 template <>
 struct doctest::StringMaker<std::wstring> {
   static doctest::String convert(const std::wstring& text) {
@@ -44,6 +44,6 @@ struct doctest::StringMaker<kelvo::WString> {
   }
 };
 
-// Test files are about nothing else.
+// Test files use these names throughout.
 using namespace kelvo;
 using namespace kelvo::test;

@@ -11,7 +11,7 @@ static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(given.length()) + (given.length() < size ? 0 : 1);
 }
 
-// The first character says which format was asked for. The host's own name is a short one.
+// Puts the requested format into the first character. The simulated host name is short.
 static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
   const std::size_t length = format == ComputerNameDnsHostname ? 1 : given.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));
@@ -27,8 +27,7 @@ static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
 static WString x(std::size_t count) { return {count, L'x'}; }
 
 TEST_CASE(
-    "GetSystemDirectoryPath, GetSystemWow64DirectoryPath: one separator at the end, within the "
-    "buffer") {
+    "GetSystemDirectoryPath, GetSystemWow64DirectoryPath: end with one separator, fit the buffer") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return GiveDirectory(to...); });
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},
@@ -49,9 +48,8 @@ TEST_CASE(
 }
 
 TEST_CASE(
-    "GetUserNameInFormat, GetUserNameFQ, GetComputerNameFQ: the format asked for, else the plain "
-    "one") {
-  // Wine takes long to load it for each name.
+    "GetUserNameInFormat, GetUserNameFQ, GetComputerNameFQ: return the format or the plain name") {
+  // Keeps the library loaded: Wine takes long to load it for each name.
   const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
   const auto give = [](auto, wchar_t* name, DWORD* size) {
     return GiveDirectory(name, *size) < *size ? TRUE : FALSE;

@@ -16,7 +16,7 @@ TEST_CASE(
   int freed = 0;
   COUNT_CALLS(GlobalUnlock, freed);
   COUNT_CALLS(GlobalFree, freed);
-  // Fills the memory in front of the resource and, with "!!", behind it.
+  // Fills the memory in front of the resource with 0x11, and behind it with "!!".
   REPLACE(GlobalLock, [](auto original, auto memory) {
     return std::memset(original(memory), 0x11, GlobalSize(memory));
   });
@@ -27,7 +27,7 @@ TEST_CASE(
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // The file asked about; the path of the value that is moved, where to, and the length it claims.
+  // The file; then the value to move: the length of its path, its new position and claimed length.
   char name[99] = "", from[9] = "";
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
@@ -41,7 +41,7 @@ TEST_CASE(
     }
     return answer;
   });
-  PlayCases(L"file_versions.txt", [&] {
+  RunCases(L"file_versions.txt", [&] {
     pathLength = 0;
     std::sscanf(given.c_str(), "%98s %d.%d.%d.%d, path of %zu, %8[a-z] %d, length %u", name,
                 &numbers[0], &numbers[1], &numbers[2], &numbers[3], &pathLength, from, &offset,
@@ -60,7 +60,7 @@ TEST_CASE(
   });
 }
 
-TEST_CASE("IsIEVersionAtLeast: looks in the system directory, restores the name") {
+TEST_CASE("IsIEVersionAtLeast: reads the file in the system directory, restores the name") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
@@ -80,7 +80,7 @@ TEST_CASE("IsIEVersionAtLeast: looks in the system directory, restores the name"
   CHECK(WString(GetIEVersionName(nullptr, {6, 0, 0, 0})) == L"Internet Explorer 5.5");
 }
 
-TEST_CASE("GetComCtlVersion: the library's version, or 4.0") {
+TEST_CASE("GetComCtlVersion: returns the library's version, or 4.0") {
   static HRESULT result;
   const auto report = +[](DLLVERSIONINFO* version) -> HRESULT {
     *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};

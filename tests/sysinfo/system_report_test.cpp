@@ -6,12 +6,12 @@
 #include "lib/sysinfo/color_depth.h"
 #include "tests/sysinfo/simulated_cases.h"
 
-// Returns the length.
+// Copies a text and returns its length.
 static UINT Write(wchar_t* to, const std::wstring& text) {
   return static_cast<UINT>(lstrlenW(lstrcpyW(to, text.c_str())));
 }
 
-TEST_CASE("CollectSystemReport: each entry asks what its name says") {
+TEST_CASE("CollectSystemReport: each entry has the value that its name says") {
   const ReplacedExport computer(
       "GetComputerNameExW", +[](int format, wchar_t* name, DWORD* size) -> BOOL {
         *size = 10;
@@ -67,7 +67,7 @@ TEST_CASE("CollectSystemReport: each entry asks what its name says") {
                             : index == BITSPIXEL ? Number("bits", 24)
                                                  : 0);
   });
-  PlayCases(L"report.txt", [&] {
+  RunCases(L"report.txt", [&] {
     DWORD major, minor;
     std::sscanf(given.c_str(), "%lu.%lu", &major, &minor);
     const auto windows = PretendWindows(Number("platform", 2), major, minor);

@@ -4,36 +4,36 @@
 
 #include "tests/sysinfo/simulated_cases.h"
 
-// What that Windows was asked, in order, after its version.
+// The queries that the simulated Windows received, in order.
 static std::string asked;
-static void Ask(const std::string& question, const std::string& function) {
+static void NoteQuery(const std::string& question, const std::string& function) {
   asked += " " + question;
   if (Has("raises " + function)) {
     *static_cast<volatile int*>(nullptr) = 1;
   }
 }
 
-static void WINAPI TellSystem(SYSTEM_INFO* info) {
+static void WINAPI ReportSystem(SYSTEM_INFO* info) {
   info->wProcessorArchitecture = static_cast<WORD>(Number("architecture", 9));
 }
-static BOOL WINAPI TellProduct(DWORD major, DWORD, DWORD pack, DWORD packMinor, DWORD* type) {
-  Ask("product", "GetProductInfo");
+static BOOL WINAPI ReportProduct(DWORD major, DWORD, DWORD pack, DWORD packMinor, DWORD* type) {
+  NoteQuery("product", "GetProductInfo");
   *type = major == 6 && pack + packMinor == 0 ? Number("product", 0) : 0;
   return TRUE;
 }
 
-TEST_CASE("GetSystemVersionString: each Windows as in windows_names.txt") {
+TEST_CASE("GetSystemVersionString: names each Windows as in windows_names.txt") {
   OSVERSIONINFOEXW version;
   REPLACE(GetVersionExW, [&](auto, OSVERSIONINFOW* record) {
     const DWORD size = record->dwOSVersionInfoSize;
-    Ask(std::to_string(size), "GetVersionExW");
+    NoteQuery(std::to_string(size), "GetVersionExW");
     std::memcpy(record, &version, size);
     record->dwOSVersionInfoSize = size;
     return !Has("no version") && (size == 276 || !Has("short"));
   });
   REPLACE(GetSystemInfo, [](auto, auto* info) { info->wProcessorArchitecture = 0xABCD; });
   REPLACE(GetSystemMetrics, [](auto, int index) {
-    Ask(std::to_string(index), "GetSystemMetrics");
+    NoteQuery(std::to_string(index), "GetSystemMetrics");
     return Has("metric " + std::to_string(index)) ? 1 : 0;
   });
   REPLACE(RegOpenKeyExW, [](auto, HKEY root, std::wstring path, DWORD, REGSAM access, HKEY* key) {
@@ -42,14 +42,14 @@ TEST_CASE("GetSystemVersionString: each Windows as in windows_names.txt") {
                        ? L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions"
                        : L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009"));
     CHECK(access == KEY_QUERY_VALUE);
-    Ask(Ascii(name), "RegOpenKeyExW");
+    NoteQuery(Ascii(name), "RegOpenKeyExW");
     const bool opens = root == HKEY_LOCAL_MACHINE && Has(Ascii(name));
     *key = opens ? root : nullptr;
     return opens ? ERROR_SUCCESS : ERROR_FILE_NOT_FOUND;
   });
   REPLACE(RegQueryValueExW, [](auto, auto, std::wstring name, auto, auto, BYTE* data, DWORD* size) {
-    Ask(Ascii(name), "RegQueryValueExW");
-    // What the registry stores without a terminator.
+    NoteQuery(Ascii(name), "RegQueryValueExW");
+    // Simulates a stored text without a terminator.
     const std::string text = given.substr(given.find("ProductOptions ") + 15);
     std::copy_n(text.begin(), std::min<std::size_t>(text.length(), *size / 2),
                 reinterpret_cast<wchar_t*>(data));
@@ -57,10 +57,10 @@ TEST_CASE("GetSystemVersionString: each Windows as in windows_names.txt") {
     return Has("size only") || *size <= room ? ERROR_SUCCESS : ERROR_MORE_DATA;
   });
   REPLACE(RegCloseKey, [](auto...) {
-    Ask("closed", "RegCloseKey");
+    NoteQuery("closed", "RegCloseKey");
     return ERROR_SUCCESS;
   });
-  PlayCases(L"windows_names.txt", [&] {
+  RunCases(L"windows_names.txt", [&] {
     version = {};
     version.dwBuildNumber = 0xABCD0000 + 1381;
     version.dwPlatformId = Number("platform", VER_PLATFORM_WIN32_NT);
@@ -69,8 +69,8 @@ TEST_CASE("GetSystemVersionString: each Windows as in windows_names.txt") {
     std::sscanf(given.c_str(), "%lu.%lu", &version.dwMajorVersion, &version.dwMinorVersion);
     const std::string pack = given.substr(Has("pack") ? given.find('"') + 1 : given.length());
     std::copy_n(pack.begin(), std::min(pack.find('"'), pack.length()), version.szCSDVersion);
-    const ReplacedExport native("GetNativeSystemInfo", Has("no native") ? nullptr : &TellSystem);
-    const ReplacedExport info("GetProductInfo", Has("product") ? &TellProduct : nullptr);
+    const ReplacedExport native("GetNativeSystemInfo", Has("no native") ? nullptr : &ReportSystem);
+    const ReplacedExport info("GetProductInfo", Has("product") ? &ReportProduct : nullptr);
     asked.clear();
     const std::string line = Ascii(GetSystemVersionString().c_str());
     REQUIRE(asked.starts_with(" 284"));
@@ -78,7 +78,7 @@ TEST_CASE("GetSystemVersionString: each Windows as in windows_names.txt") {
   });
 }
 
-TEST_CASE("GetSystemVersionNumbers: memory for one text, zeros without an answer") {
+TEST_CASE("GetSystemVersionNumbers: allocates one text, returns zeros without an answer") {
   {
     const auto windows = PretendWindows(2, 10, 0);
     int left = 1;

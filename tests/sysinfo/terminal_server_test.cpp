@@ -4,14 +4,14 @@
 
 TEST_CASE("IsProductSuiteInstalled: finds a suite in the list") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
-  // The last two have no terminator; the last one no last byte either.
+  // The last two lists have no terminator. The very last also lacks a byte.
   const std::tuple<DWORD, const wchar_t*, DWORD, bool> lists[] = {
       {REG_SZ, L"Terminal Server\0", 34, false},
       {REG_MULTI_SZ, L"A\0terminal Server\0", 38, false},
       {REG_MULTI_SZ, L"A\0\0Terminal Server\0", 40, false},
       {REG_MULTI_SZ, L"A\0Terminal Server!", 34, true},
       {REG_MULTI_SZ, L"A\0Terminal Server!", 33, true}};
-  // It is longer when it is read than it was when its size was asked.
+  // Simulates a list that became longer after its size was queried.
   REPLACE(RegQueryValueExW, [](auto original, auto... arguments) {
     const LSTATUS status = original(arguments...);
     *std::get<5>(std::tuple(arguments...)) -=

@@ -5,11 +5,10 @@
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// On a machine with no dependent application recorded and both certificate stores empty, a folder,
-// the current one, with certificates and these programs:
+// Cleans the machine and makes a new folder the current one, with certificates and these programs:
 //   sorrel.exe, with the simulator's libraries
-//   alone\sorrel.exe, with none
-//   swapped\sorrel.exe, with each library under the other's name, hence without its functions
+//   alone\sorrel.exe, without them
+//   swapped\sorrel.exe, with their names swapped, so that each lacks the expected functions
 //   without_security.exe and without_crypt32.exe, for which Wine has no such library
 struct Rehearsal : ProgramFolder {
   Rehearsal()
@@ -25,14 +24,14 @@ struct Rehearsal : ProgramFolder {
       RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), library.c_str(), REG_SZ, L"", 2);
     }
     Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
-    // Of a file of 0 bytes Wine 8 would import whatever is on its stack.
+    // Avoids a file of 0 bytes, for which Wine 8 would import data from its stack.
     Write("empty.cer", "\n");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
 
-  // Runs a command line; words NAME=value before the program set a variable for this run. Returns
-  // all that came of it: what it wrote, its exit code, the list of applications and the
-  // certificates in each store, then the journal.
+  // Runs a command line, for which NAME=value in front of the program sets an environment variable.
+  // Returns the output, the exit code, the list of applications, the certificates in each store,
+  // and the journal.
   static std::string Run(std::wstring line) {
     std::filesystem::remove("journal");
     std::vector<std::wstring> variables;
@@ -54,13 +53,13 @@ struct Rehearsal : ProgramFolder {
   }
 };
 
-TEST_CASE("sorrel.exe: lines, exit codes, calls and state are those of transcript.txt") {
+TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt") {
   const Rehearsal machine;
-  // An editor of whatever system may have ended its lines.
+  // Accepts the line ends of any editor.
   std::string bytes = ReadBytes(ProgramPath(L"expected\\transcript.txt"));
   std::erase(bytes, '\r');
   std::istringstream transcript(bytes);
-  // The lines that are written once, under a name, and the name: "@NAME:", lines, an empty line.
+  // Named lines, each with its name. The file defines them: "@NAME:", lines, an empty line.
   std::vector<std::pair<std::string, std::string>> named;
   std::string seen;
   for (std::string line; std::getline(transcript, line);) {
@@ -76,7 +75,7 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state are those of transcrip
       seen += line + "\r\n" + text + "\r\n";
     } else if (line.starts_with("> ")) {
       std::string outcome = Rehearsal::Run({line.begin() + 2, line.end()});
-      // Or a program that writes a name would pass for one that writes the lines.
+      // Otherwise a program that writes a name would pass for one that writes the lines.
       CHECK(outcome.find('@') == std::string::npos);
       for (const auto& [text, name] : named) {
         for (std::size_t at = 0; (at = outcome.find(text)) != std::string::npos;) {
@@ -89,7 +88,7 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state are those of transcrip
   CheckAgainstFile(seen, L"transcript.txt");
 }
 
-TEST_CASE("install: a run that crashes has written every line before, of any length") {
+TEST_CASE("install: writes every line before a crash, of any length") {
   const Rehearsal machine;
   const std::wstring path(32'000, L'p');
   const std::wstring text(6'000, L'l');
@@ -104,7 +103,7 @@ TEST_CASE("install: a run that crashes has written every line before, of any len
   CHECK_BOTH(run.exitCode == ERROR_PROCESS_ABORTED, run.errors.empty());
 }
 
-TEST_CASE("register: adds to the stored list, replaces what is no list") {
+TEST_CASE("register: adds to a stored list, replaces any other value") {
   const Rehearsal machine;
   struct Row {
     DWORD type;
@@ -120,7 +119,7 @@ TEST_CASE("register: adds to the stored list, replaces what is no list") {
     Rehearsal::Run(L"LATER=b sorrel.exe register kite");
     CHECK(Applications() == list);
   }
-  // Outside ASCII a name is shown as far as a byte can.
+  // sorrel.exe writes each unit of a name as one byte: a question mark if it does not fit.
   CHECK(Rehearsal::Run(L"sorrel.exe unregister KITE")
             .starts_with("OK: Dependant applications exist: ?ofie \xFF??\r\n"));
 }

@@ -3,10 +3,10 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("FormatSystemMessage: whole, or empty when the call fails") {
+TEST_CASE("FormatSystemMessage: returns the whole text, or none if the call fails") {
   DWORD answer = 0;
   REPLACE(FormatMessageW, [&](auto, auto, auto, auto, auto, LPWSTR buffer, auto, auto) {
-    // What a failing call leaves behind, too.
+    // A failing call also leaves this behind.
     lstrcpyW(buffer, L"half a text");
     return answer;
   });
@@ -15,7 +15,7 @@ TEST_CASE("FormatSystemMessage: whole, or empty when the call fails") {
   CHECK(FormatSystemMessage(0xC1) == L"half a text");
 }
 
-TEST_CASE("DifxLogCallback: no exception leaves it") {
+TEST_CASE("DifxLogCallback: lets no exception escape") {
   bool writes = false;
   REPLACE(WriteFile, [&](auto...) {
     writes = true;

@@ -3,7 +3,7 @@
 #include "tests/support/shown_arguments.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("EnableLoadDriverPrivilege: the last error after the adjustment decides") {
+TEST_CASE("EnableLoadDriverPrivilege: depends on the last error after the adjustment") {
   struct Row {
     DWORD error;
     bool isEnabled;
@@ -18,7 +18,7 @@ TEST_CASE("EnableLoadDriverPrivilege: the last error after the adjustment decide
       SetLastError(error);
       return TRUE;
     });
-    // Closing the token must not hide it.
+    // Closing the token must not hide the last error of the adjustment.
     REPLACE(CloseHandle, [&](auto original, HANDLE handle) {
       original(handle);
       SetLastError(ERROR_INVALID_HANDLE);

@@ -3,7 +3,7 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("NarrowLibrarySearch: the program's folder and the system's alone") {
+TEST_CASE("NarrowLibrarySearch: searches only the program's folder and the system's") {
   static DWORD directories;
   static BOOL isSupported;
   const auto set = +[](DWORD given) { return directories = given, isSupported; };
@@ -26,7 +26,7 @@ TEST_CASE("NarrowLibrarySearch: the program's folder and the system's alone") {
   }
 }
 
-TEST_CASE("BindDriverInterface: by its path, the program's folder first") {
+TEST_CASE("BindDriverInterface: loads by path, from the program's folder first") {
   const ScratchFolder folder;
   std::wstring asked;
   bool isPathKnown = true;
@@ -43,7 +43,7 @@ TEST_CASE("BindDriverInterface: by its path, the program's folder first") {
   REPLACE(LoadLibraryW, [&](auto, LPCWSTR name) {
     return asked = name, SetLastError(ERROR_BAD_EXE_FORMAT), nullptr;
   });
-  // Memory that is freed may change the last error.
+  // Freeing memory may change the last error.
   REPLACE(free, [](auto original, void* memory) {
     original(memory);
     SetLastError(ERROR_GEN_FAILURE);
@@ -54,7 +54,7 @@ TEST_CASE("BindDriverInterface: by its path, the program's folder first") {
   const std::wstring ownCopy = folder.Write("difxapi.dll", "");
   BindDriverInterface(driver);
   CHECK(asked == ownCopy);
-  // The current folder is not taken for the program's.
+  // The current folder must not be mistaken for the program's.
   std::filesystem::current_path(folder.path);
   isPathKnown = false;
   BindDriverInterface(driver);

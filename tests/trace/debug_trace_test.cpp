@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("FormatTraceLine: a time and a message of any length") {
+TEST_CASE("DebugTrace: writes the time and a message of any length") {
   std::wstring written;
   REPLACE(GetSystemTime, [](auto, auto* time) { *time = {2014, 3, 3, 5, 7, 8, 9, 45}; });
   REPLACE(OutputDebugStringW, [&](auto, const wchar_t* text) { written = text; });

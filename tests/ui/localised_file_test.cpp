@@ -3,7 +3,7 @@
 #include "lib/ui/locale_table.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("FindLocaleName, FindLocaleId: the names that Windows has") {
+TEST_CASE("FindLocaleName, FindLocaleId: have the names that Windows has") {
   int count = 0;
   for (LCID id = 0; id < 0x10000; ++id) {
     const wchar_t* const name = FindLocaleName(id);
@@ -12,7 +12,7 @@ TEST_CASE("FindLocaleName, FindLocaleId: the names that Windows has") {
     }
     ++count;
     CHECK(FindLocaleId(name) == id);
-    // In Wine 10 the name of Konkani holds its script.
+    // Skips Konkani, whose name in Wine 10 includes its script.
     if (id != 0x0457) {
       wchar_t known[LOCALE_NAME_MAX_LENGTH] = L"";
       LCIDToLocaleName(id, known, LOCALE_NAME_MAX_LENGTH, 0);
@@ -24,7 +24,7 @@ TEST_CASE("FindLocaleName, FindLocaleId: the names that Windows has") {
   CHECK_BOTH(FindLocaleId(L"de-C") == 0, FindLocaleId(nullptr) == 0);
 }
 
-TEST_CASE("FindLocalisedFile: the exact file, or the nearest") {
+TEST_CASE("FindLocalisedFile: finds the exact file, or the nearest") {
   const ScratchFolder scratch;
   const std::wstring folder = scratch / L"";
   const auto find = [&](LANGID language, LocalisedFileForm form) {
@@ -38,8 +38,8 @@ TEST_CASE("FindLocalisedFile: the exact file, or the nearest") {
   CHECK(GetLocalisedFilePath(nullptr, L"a", 0x0407, kSuffix) == L"a_de-DE");
   CHECK(GetLocalisedFilePath(L"C:\\x", L"a", 0xFFFF, kSuffix) == L"");
   CHECK(GetLocalisedFilePath(L"C:\\x", nullptr, 0x0407, kSuffix) == L"");
-  // What is made one after the other, of a path that ends in a separator only the folder, and what
-  // is then found for German (Germany).
+  // Each step makes a file, or only a folder if the path ends in a separator. The second column is
+  // the file then found for German (Germany).
   const wchar_t* const steps[][2] = {
       {L"\u00E9_old.x", L""},
       {L"\u00E9_de-DE.x\\", L""},

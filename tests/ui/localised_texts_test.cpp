@@ -6,7 +6,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("ChooseResourceLanguage: exact, same language, English, first") {
+TEST_CASE("ChooseResourceLanguage: chooses the exact language, a related one, English, the first") {
   using Languages = std::vector<LANGID>;
   const auto languagesOf = [](const wchar_t* library) {
     return GetStringResourceLanguages(LoadLibraryW(ProgramPath(library).c_str()));
@@ -14,21 +14,20 @@ TEST_CASE("ChooseResourceLanguage: exact, same language, English, first") {
   CHECK(languagesOf(L"string_languages.dll") == Languages{0x0407, 0x0411, 0x0809});
   CHECK(languagesOf(L"named_strings.dll") == Languages{0x0C0C});
   CHECK_BOTH(GetStringResourceLanguages(nullptr).empty(), ChooseResourceLanguage({}, 0x0409) == 0);
-  // Itself, a relative, English, the first.
   CHECK(ChooseResourceLanguage({0x0407, 0x0807}, 0x0807) == 0x0807);
   CHECK(ChooseResourceLanguage({0x0409, 0x0C07, 0x0407}, 0x0807) == 0x0C07);
   CHECK(ChooseResourceLanguage({0x040C, 0x0809, 0x0409}, 0x0411) == 0x0809);
   CHECK(ChooseResourceLanguage({0x040C, 0x0410}, 0x0411) == 0x040C);
 }
 
-TEST_CASE("LocaleNameFromLcid: none where Windows has no names") {
+TEST_CASE("LocaleNameFromLcid: returns nothing if Windows has no names") {
   CHECK_BOTH(LocaleNameFromLcid(0x0007) == L"de", LocaleNameFromLcid(0x12345) == L"");
   const ReplacedExport missing("LCIDToLocaleName", nullptr);
   CHECK(LocaleNameFromLcid(0x0007) == L"");
 }
 
-TEST_CASE("ReplaceAllInBuffer: all occurrences within eight characters") {
-  // A text, what is replaced in it by what, and the result; null where nothing may change.
+TEST_CASE("ReplaceAllInBuffer: replaces all occurrences within eight characters") {
+  // A text, the search text, its replacement, and the result, which is null if nothing may change.
   const std::array<const wchar_t*, 4> rows[] = {
       {L"a.b.c", L".", L"--", L"a--b--c"}, {L"aaa", L"aa", L"a", L"aa"},
       {L"abab", L"ab", nullptr, L""},      {L"abc", L"x", L"y", nullptr},
@@ -45,7 +44,7 @@ TEST_CASE("ReplaceAllInBuffer: all occurrences within eight characters") {
   }
 }
 
-TEST_CASE("RewriteWindowTexts: labels and buttons only") {
+TEST_CASE("RewriteWindowTexts: rewrites only labels and buttons") {
   const DesktopScope scope;
   const auto make = [](const std::wstring& kind, const std::wstring& text, HWND parent) {
     return CreateWindowExW(0, kind.c_str(), text.c_str(), parent == nullptr ? 0 : WS_CHILD, 0, 0, 9,
@@ -57,7 +56,7 @@ TEST_CASE("RewriteWindowTexts: labels and buttons only") {
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
-  // Each pair is applied once, by the order of the keys.
+  // Each pair is applied once, in the order of the keys.
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},
@@ -84,8 +83,8 @@ TEST_CASE("RewriteWindowTexts: labels and buttons only") {
   TextSubstitutions().clear();
 }
 
-TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw after the enumeration only") {
-  // The runtime takes memory for the first exception.
+TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw only after the enumeration") {
+  // Throws once now, because the runtime allocates memory for the first exception.
   CHECK_THROWS(throw 1);
   bool hasMemory = true, isThrown = false;
   REPLACE(malloc,
@@ -106,7 +105,7 @@ TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw after the enume
   });
   REPLACE(EnumChildWindows,
           [&](auto, auto, auto rewrite, auto context) { return call(rewrite, nullptr, context); });
-  // Every window is a label with this text.
+  // Makes every window a label with this text.
   REPLACE(GetClassNameW,
           [](auto, auto, auto* name, auto) { return lstrlenW(lstrcpyW(name, L"static")); });
   REPLACE(GetWindowTextW,
@@ -117,7 +116,7 @@ TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw after the enume
   CHECK_FALSE(isThrown);
 }
 
-TEST_CASE("WriteUtf8: characters to a console, bytes to a file; a short write fails") {
+TEST_CASE("WriteUtf8: writes characters to a console, bytes to a file; a short write fails") {
   std::wstring seen;
   DWORD lost = 0;
   BOOL answer = TRUE;
@@ -138,7 +137,7 @@ TEST_CASE("WriteUtf8: characters to a console, bytes to a file; a short write fa
   for (const bool isConsole : {true, false}) {
     REPLACE(GetConsoleMode,
             [=](auto, HANDLE asked, auto) -> BOOL { return asked == errors && isConsole; });
-    // Characters of two, three and four bytes; the last one has two units.
+    // Writes characters of two, three and four bytes. The last of them has two UTF-16 units.
     CHECK(WriteUtf8(STD_ERROR_HANDLE, "\xC3\xA9\n\xE2\x82\xAC\xF0\x9F\x98\x80\n"));
     CHECK(seen == (isConsole ? L"\u00E9\r\n\u20AC\U0001F600\r\n"
                              : L"\xC3\xA9\r\n\xE2\x82\xAC\xF0\x9F\x98\x80\r\n"));
@@ -160,7 +159,7 @@ TEST_CASE("WriteUtf8: a long text reaches a console in pieces of whole character
             seen.append(static_cast<const wchar_t*>(text), length);
             CHECK_FALSE(IS_HIGH_SURROGATE(seen.back()));
             *done = length;
-            // What a console took at once before Windows 10, in characters.
+            // The most units that a console accepted at once before Windows 10.
             return length < 0x8000;
           });
   std::wstring expected = L"a";

@@ -3,7 +3,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("GetMonitorArea, GetMonitorWorkArea: the nearest monitor's, else the primary one's") {
+TEST_CASE("GetMonitorArea, GetMonitorWorkArea: choose the nearest monitor, else the primary one") {
   const DesktopScope scope;
   const ReplacedExport find(
       "MonitorFromPoint", +[](POINT point, DWORD flags) {
@@ -21,7 +21,7 @@ TEST_CASE("GetMonitorArea, GetMonitorWorkArea: the nearest monitor's, else the p
   MONITORINFO primary{40, {}, {}, 0};
   GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &primary);
   const MONITORINFO nearest{40, {30, 1, 2, 40}, {30, 11, 12, 13}, 0};
-  // At 0 there is no monitor.
+  // At x = 0 there is no monitor.
   for (const auto& [monitors, x, missing, isNearest] : {std::tuple{2, 5L, "", true},
                                                         {1, 5L, "", false},
                                                         {2, 0L, "", false},

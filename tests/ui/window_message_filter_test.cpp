@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("AllowWindowMessage: from Windows 7 on") {
+TEST_CASE("AllowWindowMessage: works from Windows 7 on") {
   using Call = std::tuple<HWND, UINT, DWORD, CHANGEFILTERSTRUCT*>;
   static Call seen;
   static BOOL answer;

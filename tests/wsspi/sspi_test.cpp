@@ -2,7 +2,7 @@
 #include "lib/wsspi/sspi_loader.h"
 #include "tests/support/testing.h"
 
-// One case: what one step leaves in the process is what the next one starts from.
+// Runs all steps in one case, because each step starts from the state that the last one left.
 TEST_CASE("SspiInitialize: tries again after each failure, loads once") {
   int loads = 0;
   bool isMissing = true;
