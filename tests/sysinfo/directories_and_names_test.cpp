@@ -4,19 +4,19 @@
 #include "lib/sysinfo/user_name.h"
 #include "tests/support/testing.h"
 
-static std::wstring given;
+static std::wstring simulatedText;
 
 static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
-  buffer[given.copy(buffer, size - 1)] = L'\0';
-  return static_cast<UINT>(given.length()) + (given.length() < size ? 0 : 1);
+  buffer[simulatedText.copy(buffer, size - 1)] = L'\0';
+  return static_cast<UINT>(simulatedText.length()) + (simulatedText.length() < size ? 0 : 1);
 }
 
 // Puts the requested format into the first character. The simulated host name is short.
 static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
-  const std::size_t length = format == ComputerNameDnsHostname ? 1 : given.length();
+  const std::size_t length = format == ComputerNameDnsHostname ? 1 : simulatedText.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));
   SetLastError(ERROR_MORE_DATA);
-  if (given.empty() || given.length() >= room) {
+  if (simulatedText.empty() || simulatedText.length() >= room) {
     return FALSE;
   }
   GiveDirectory(buffer, room);
@@ -37,7 +37,7 @@ TEST_CASE(
                              {x(1023), L"", x(1023) + L"\\"},
                              {x(1024), L"", L""}};
   for (const auto& [directory, systemPath, wow64Path] : rows) {
-    given = directory.c_str();
+    simulatedText = directory.c_str();
     const ReplacedExport wow64("GetSystemWow64DirectoryW", &GiveDirectory);
     CHECK(GetSystemWow64DirectoryPath() == wow64Path);
     CHECK(GetSystemDirectoryPath() == systemPath);
@@ -57,7 +57,7 @@ TEST_CASE(
   REPLACE(GetUserNameW, give);
   REPLACE(GetComputerNameW, give);
   for (const std::size_t length : {1U, 15U, 16U, 100U, 101U, 255U, 256U, 257U, 1000U}) {
-    given.assign(length, L'x');
+    simulatedText.assign(length, L'x');
     CHECK(GetAccountName() == x(length > 256 ? 0 : length));
     {
       const ReplacedExport user("GetUserNameExW", &GiveName);
