@@ -1,9 +1,11 @@
 #include "lib/string/text_routines.h"
 
+#include "lib/string/format_text.h"
 #include "lib/string/hex_text.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("SubstringClamped, BytesToHex: stay within the text, two digits per byte") {
+TEST_CASE("SubstringClamped, FormatText, BytesToHex: short results, two digits per byte") {
+  CHECK(FormatText(L"%s", L"x") == L"x");
   CHECK(SubstringClamped(L"kite", 1, 2) == L"it");
   CHECK(SubstringClamped(L"kite", 3, 9) == L"e");
   CHECK(SubstringClamped(L"kite", 4, 1) == L"");

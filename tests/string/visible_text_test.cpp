@@ -21,4 +21,5 @@ TEST_CASE("ToVisibleUtf8: shows the numbers of characters that control a termina
     CHECK(ToVisibleUtf8(text) == visible);
     CHECK(CountCharacters(visible) == columns);
   }
+  CHECK(ToVisibleUtf8(std::wstring_view(L"\U0001F600", 1)) == "<U+D83D>");
 }
