@@ -65,11 +65,11 @@ cxxopts::Options MakeParser() {
       "                    [--application NAME]... [--service] [--json]");
   const auto text = [] { return cxxopts::value<std::string>(); };
   parser.add_options()  //
-      ("publisher", "check that its certificate is in TrustedPublisher", text(), "FILE")(
-          "intermediate", "check that its certificate is in CA", text(), "FILE")(
-          "inf", "check that its driver package is in the driver store", text(), "FILE")(
-          "application", "check that the application is on the list", text(), "NAME")(
-          "service", "check that Bluetooth has a device for the service")(
+      ("publisher", "check for its certificate in TrustedPublisher", text(), "FILE")(
+          "intermediate", "check for its certificate in CA", text(), "FILE")(
+          "inf", "check for its package in the driver store", text(), "FILE")(
+          "application", "check for the application on the list", text(), "NAME")(
+          "service", "check for the Bluetooth device of the service")(
           "json", "write one JSON object in ASCII")("help", "show this text")(
           "version", "show the program's version");
   return parser;
