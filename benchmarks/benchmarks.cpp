@@ -1,6 +1,7 @@
-// Compares the library's strings with their peers, and measures the start and the size of
-// sorrel.exe. Each line is the median of interleaved runs: in milliseconds, and as a ratio to the
-// first line of its group, which is ours.
+// Compares the library's string functions with alternatives, and measures how long sorrel.exe takes
+// to start, and its size. Each line has the median of interleaved runs, in milliseconds and as a
+// ratio to the first line of its group. In a comparison, the first line is the library's own
+// function. A goal is a limit for a ratio.
 
 #include <windows.h>
 
@@ -31,7 +32,7 @@ using kelvo::WString;
 
 constexpr std::size_t kRuns = 21;
 
-// Keeps the compiler from leaving out what is measured.
+// Keeps the compiler from optimising the measured work away.
 volatile std::size_t sink = 0;
 
 struct Contender {
@@ -103,8 +104,8 @@ std::size_t BoostSplit(const std::wstring& list, boost::algorithm::token_compres
   return items.size();
 }
 
-// Work that consumes its input gets a new copy for each run. No copy is freed while the clock runs:
-// the cost of new memory would hide the work.
+// Gives each run its own copy of the input, for work that changes its input. Makes all copies in
+// advance and frees none until the end: allocating while the clock runs would distort the times.
 template <typename Input, typename Work>
 std::function<std::size_t()> WithOwnInput(const Input& input, Work work) {
   return [work, inputs = std::make_shared<std::vector<Input>>(kRuns, input), run = 0U]() mutable {
@@ -120,32 +121,31 @@ std::function<std::size_t()> WalkOwnInput(const std::wstring& list, bool collaps
 }
 
 void MeasureSplitting(const std::wstring& list) {
-  Measure(
-      "split 100,000 items, collapsed (goal: the bare loop at 0.67 or more, both boosts above 1)",
-      {{"StringTokenizer", WalkOwnInput(list, true)},
-       {"find and substr in a bare loop", [&] { return BareLoop(list, true); }},
-       {"views::split into std::wstring",
-        [&] {
-          std::size_t units = 0;
-          for (const auto part : std::views::split(list, L';')) {
-            units += std::wstring(part.begin(), part.end()).length();
-          }
-          return units;
-        }},
-       {"boost::tokenizer",
-        [&] {
-          const boost::char_separator<wchar_t> separator(L";");
-          const boost::tokenizer<boost::char_separator<wchar_t>, std::wstring::const_iterator,
-                                 std::wstring>
-              items(list, separator);
-          std::size_t units = 0;
-          for (const std::wstring& item : items) {
-            units += item.length();
-          }
-          return units;
-        }},
-       {"boost::split", [&] { return BoostSplit(list, boost::token_compress_on); }}});
-  Measure("the same, not collapsed",
+  Measure("split 100,000 items, collapsed (goal: bare loop at least 0.67, both of Boost above 1)",
+          {{"StringTokenizer", WalkOwnInput(list, true)},
+           {"find and substr in a bare loop", [&] { return BareLoop(list, true); }},
+           {"views::split into std::wstring",
+            [&] {
+              std::size_t units = 0;
+              for (const auto part : std::views::split(list, L';')) {
+                units += std::wstring(part.begin(), part.end()).length();
+              }
+              return units;
+            }},
+           {"boost::tokenizer",
+            [&] {
+              const boost::char_separator<wchar_t> separator(L";");
+              const boost::tokenizer<boost::char_separator<wchar_t>, std::wstring::const_iterator,
+                                     std::wstring>
+                  items(list, separator);
+              std::size_t units = 0;
+              for (const std::wstring& item : items) {
+                units += item.length();
+              }
+              return units;
+            }},
+           {"boost::split", [&] { return BoostSplit(list, boost::token_compress_on); }}});
+  Measure("split 100,000 items, not collapsed",
           {{"StringTokenizer", WalkOwnInput(list, false)},
            {"find and substr in a bare loop", [&] { return BareLoop(list, false); }},
            {"boost::split", [&] { return BoostSplit(list, boost::token_compress_off); }}});
@@ -184,18 +184,17 @@ void MeasureShortNames() {
       return sum;
     };
   };
-  Measure(
-      "compare a short name 100,000 times (goal: _wcsicmp, a plain loop over A to Z, at 1 or more)",
-      {{"CompareNoCase", repeat(kelvo::CompareNoCase)},
-       {"_wcsicmp", repeat([](auto a, auto b) { return _wcsicmp(a, b); })},
-       {"lstrcmpiW", repeat([](auto a, auto b) { return lstrcmpiW(a, b); })}});
+  Measure("compare a short name 100,000 times (goal: _wcsicmp, for A to Z only, at least 1)",
+          {{"CompareNoCase", repeat(kelvo::CompareNoCase)},
+           {"_wcsicmp", repeat([](auto a, auto b) { return _wcsicmp(a, b); })},
+           {"lstrcmpiW", repeat([](auto a, auto b) { return lstrcmpiW(a, b); })}});
 }
 
 void MeasureReplacing(const std::wstring& text) {
   std::wstring buffer = text;
   buffer.resize(text.length() * 2);
   Measure(
-      "replace 50,000 hits (goal: both boosts above 1)",
+      "replace 50,000 matches (goal: both of Boost above 1)",
       {{"ReplaceAll",
         WithOwnInput(WString(text),
                      [](WString& own) { return kelvo::ReplaceAll(own, L"kite", L"heron"); })},
@@ -213,7 +212,7 @@ void MeasureReplacing(const std::wstring& text) {
         })}});
 }
 
-// Linear work costs twice as much for twice the input.
+// Measures whether the work is linear: twice the input should take twice the time.
 void MeasureGrowth() {
   const auto growth = [](const char* title, const std::function<std::size_t(int)>& work) {
     Measure(title, {{"100,000", [&] { return work(100'000); }},
@@ -221,13 +220,13 @@ void MeasureGrowth() {
   };
   growth("StringTokenizer, twice the items (goal: at most 2.3)",
          [](int items) { return WalkItems(L"brindle;", items); });
-  growth("StringTokenizer, a run of delimiters twice as long (2.3)",
+  growth("StringTokenizer, a run of delimiters twice as long (goal: at most 2.3)",
          [](int items) { return WalkItems(L";;;;;;;;", items); });
-  growth("CompareNoCase, twice the length (2.3)", [](int items) {
+  growth("CompareNoCase, twice the length (goal: at most 2.3)", [](int items) {
     return static_cast<std::size_t>(kelvo::CompareNoCase(
         Repeated(L"Brindle\u0416", items).c_str(), Repeated(L"bRINDLE\u0436", items).c_str()));
   });
-  growth("ReplaceAll, twice the hits (2.3)", [](int items) {
+  growth("ReplaceAll, twice the matches (goal: at most 2.3)", [](int items) {
     WString text(Repeated(L"brindle;", items));
     return kelvo::ReplaceAll(text, L"rind", L"heron");
   });
@@ -252,21 +251,22 @@ std::size_t Start(const std::filesystem::path& program) {
 
 extern "C" int wmain(int /*argc*/, wchar_t** argv) {
   MeasureSplitting(Repeated(L"brindle;", 100'000));
-  MeasureComparison("compare 700,000 ASCII units that differ in case (goal: _wcsicmp at 1 or more)",
+  MeasureComparison("compare 700,000 ASCII units that differ in case (goal: _wcsicmp at least 1)",
                     Repeated(L"BRINDLE", 100'000), Repeated(L"brindle", 100'000), true);
   MeasureComparison("compare 300,000 Cyrillic units that differ in case (goal: lstrcmpiW above 1)",
                     Repeated(L"\u0416\u0418\u042F", 100'000),
                     Repeated(L"\u0436\u0438\u044F", 100'000), false);
-  MeasureComparison(
-      "compare 300,000 equal Cyrillic units (goal: CompareStringOrdinal at 1 or more)",
-      Repeated(L"\u0416\u0418\u042F", 100'000), Repeated(L"\u0416\u0418\u042F", 100'000), false);
+  MeasureComparison("compare 300,000 equal Cyrillic units (goal: CompareStringOrdinal at least 1)",
+                    Repeated(L"\u0416\u0418\u042F", 100'000),
+                    Repeated(L"\u0416\u0418\u042F", 100'000), false);
   MeasureShortNames();
   MeasureReplacing(Repeated(L"brindle kite;", 50'000));
   MeasureGrowth();
 
   const std::filesystem::path folder = std::filesystem::absolute(argv[0]).parent_path();
-  Measure("start a program", {{"an empty one", [&] { return Start(folder / "empty_program.exe"); }},
-                              {"sorrel.exe", [&] { return Start(folder / "sorrel.exe"); }}});
+  Measure("start a program",
+          {{"an empty program", [&] { return Start(folder / "empty_program.exe"); }},
+           {"sorrel.exe", [&] { return Start(folder / "sorrel.exe"); }}});
   std::printf("\nsorrel.exe has %.1f KiB\n",
               static_cast<double>(std::filesystem::file_size(folder / "sorrel.exe")) / 1024);
   return 0;

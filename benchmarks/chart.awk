@@ -1,8 +1,9 @@
-# Makes a bar chart (SVG) of what benchmarks.exe printed: a bar for each ratio to the first line of its group, on a logarithmic scale.
+# Makes a bar chart (SVG) from the output of benchmarks.exe. Each bar is the ratio to the first line of its group, on a
+# logarithmic scale.
 
-function text(x, y, weight, what) {
-  gsub(/&/, "\\&amp;", what); gsub(/</, "\\&lt;", what)
-  rows = rows sprintf("<text x=\"%d\" y=\"%d\" font-weight=\"%s\">%s</text>\n", x, y, weight, what)
+function text(x, y, weight, content) {
+  gsub(/&/, "\\&amp;", content); gsub(/</, "\\&lt;", content)
+  rows = rows sprintf("<text x=\"%d\" y=\"%d\" font-weight=\"%s\">%s</text>\n", x, y, weight, content)
 }
 
 BEGIN { y = 10; left = 330; doubling = 50 }
@@ -27,5 +28,5 @@ BEGIN { y = 10; left = 330; doubling = 50 }
 END {
   printf "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"960\" height=\"%d\" font-family=\"sans-serif\" font-size=\"12\">\n", y + 40
   printf "<rect width=\"100%%\" height=\"100%%\" fill=\"white\"/>\n%s", rows
-  printf "<text x=\"10\" y=\"%d\">Ratios to the first line of a group (the dark mark), on a logarithmic scale: to the right slower, to the left faster.</text>\n</svg>\n", y + 28
+  printf "<text x=\"10\" y=\"%d\">Ratios to the first line of each group (the dark mark), on a logarithmic scale. To the right: slower. To the left: faster.</text>\n</svg>\n", y + 28
 }

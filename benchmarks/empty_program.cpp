@@ -1,2 +1,2 @@
-// What every start of a process costs.
+// Does nothing: shows how long any process takes to start.
 extern "C" int wmain() { return 0; }

@@ -1,33 +1,34 @@
-# Run by CPack when the archives are made: checks that they hold nothing private, and writes SHA256SUMS and a
-# bill of materials (SPDX 2.3, from bill_of_materials.json.in) for them.
+# Checks that the archives contain nothing private, and writes SHA256SUMS and a bill of materials for them (SPDX 2.3,
+# from bill_of_materials.json.in). CPack runs this script after it has made the archives.
 
 cmake_minimum_required(VERSION 3.25)
 
 file(READ ${CMAKE_CURRENT_LIST_DIR}/bill_of_materials.json.in templates)
-# expand(OBJECT)   sets `object` to an object of the templates, each @variable@ in it replaced
+# expand(KIND)   sets `object` to the template of this kind, with each @variable@ replaced
 macro(expand kind)
   string(JSON object GET "${templates}" ${kind})
   string(CONFIGURE "${object}" object @ONLY)
 endmacro()
-# append(ARRAY OBJECT)   adds such an object to one of the bill's arrays
+# append(ARRAY KIND)   expands a template and adds the result to an array of the bill
 macro(append array kind)
   expand(${kind})
   list(APPEND ${array} "${object}")
 endmacro()
 
-# Neither the folder that it was built in, as debug information names it, nor a private key. No names of tests or keys.
+# Files must not contain a private key, nor the path of the source folder, which debug information may contain. File
+# names must not be those of tests or keys.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")
 
-# Each archive and each file in it.
+# Packs each archive again, and adds it and its files to the bill.
 set(number 0)
 foreach(archive ${CPACK_PACKAGE_FILES})
   cmake_path(GET archive FILENAME name)
   set(unpacked ${CPACK_TOPLEVEL_DIRECTORY}/unpacked/${name})
   file(ARCHIVE_EXTRACT INPUT ${archive} DESTINATION ${unpacked})
   file(GLOB_RECURSE paths LIST_DIRECTORIES false RELATIVE ${unpacked} ${unpacked}/*)
-  # CPack's entries name the account that made them: packed again without.
+  # Packs the files without the name of the user account, which CPack's entries contain.
   file(REMOVE ${archive})
   execute_process(COMMAND ${CMAKE_COMMAND} -E env TZ=UTC zip -q -X ${archive} ${paths}
     WORKING_DIRECTORY ${unpacked} COMMAND_ERROR_IS_FATAL ANY)
@@ -57,7 +58,7 @@ foreach(archive ${CPACK_PACKAGE_FILES})
   append(relationships describes)
 endforeach()
 
-# describe(PACKAGE)   sets `version` and `purl` (a package URL) to those of a package of Debian's
+# describe(PACKAGE)   sets `version` and `purl` (package URL) to those of a Debian package
 function(describe package)
   execute_process(COMMAND dpkg-query -W -f \${Version} ${package} OUTPUT_VARIABLE version COMMAND_ERROR_IS_FATAL ANY)
   string(REPLACE "+" "%2B" purl "pkg:deb/debian/${package}@${version}")
@@ -67,8 +68,8 @@ function(describe package)
   set(purl ${purl} PARENT_SCOPE)
 endfunction()
 
-# What of others is inside our programs: a library of the compiler's or a header, its name, its licence, and the files that
-# hold it.
+# Adds the third-party code in our programs. Each entry has a library of the compiler or a header, the name for the
+# bill, the licence, and the programs that contain it.
 set(all "sorrel;sorrel_status;bthprops;difxapi")
 foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${all}"
     "libmingwex.a;mingw-w64-runtime;ZPL-2.1;${all}" "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT;sorrel_status"
@@ -87,7 +88,7 @@ foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${
   endforeach()
 endforeach()
 
-# What made them.
+# Adds the tools that built the programs.
 foreach(package clang-19 lld-19 llvm-19 binutils-mingw-w64-x86-64 cmake ninja-build zip)
   describe(${package})
   append(packages tool)

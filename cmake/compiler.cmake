@@ -1,4 +1,4 @@
-# Which compilers are refused, and what our own targets are compiled with.
+# Rejects unsuitable compilers, and sets the compiler and linker options of our own targets.
 
 include(CheckCSourceCompiles)
 
@@ -8,7 +8,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_C_STANDARD 11)
 
 if(NOT MSVC)
-  # __try and __except, which only the C files of lib/platform use.
+  # Enables __try and __except, which only the C files of lib/platform use.
   set(KELVO_STRUCTURED_EXCEPTIONS_FLAGS -fms-extensions -Wno-language-extension-token)
 endif()
 
@@ -25,43 +25,46 @@ if(NOT CMAKE_SIZEOF_VOID_P EQUAL 8)
   message(FATAL_ERROR "Only 64-bit Windows is supported.")
 endif()
 
-# How every target of this project is compiled: linked privately, so that nothing of it reaches a consumer. Warnings
-# become errors in our presets only (CMAKE_COMPILE_WARNING_AS_ERROR).
+# The compiler options of all targets of this project. The targets link this privately, so that a consumer does not get
+# the options. Warnings become errors only in our presets (CMAKE_COMPILE_WARNING_AS_ERROR).
 add_library(kelvo_build_options INTERFACE)
 target_compile_definitions(kelvo_build_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 if(MSVC)
-  # C4996: the GetVersionEx family is deprecated but what the library is asked to report.
+  # C4996: the library has to report the results of GetVersionEx and related functions, which are deprecated.
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Z7)
 else()
-  # No file may say where it was built.
+  # Keeps the path of the build folder out of all files.
   target_compile_options(kelvo_build_options INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
   target_compile_options(kelvo_build_options INTERFACE
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
 endif()
-# The sources name functions of Windows 10 and look them up at run time, whatever Windows a consumer's project is for. Options,
-# since a definition would not take back the one that the consumer gives.
+# Makes the headers declare the functions of Windows 10, which the sources bind at run time, even if a consumer's
+# project targets an older Windows. Uses options, since a compile definition could not undefine the consumer's macro
+# first.
 target_compile_options(kelvo_build_options INTERFACE
   "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>")
 
-# Debug information for the .pdb of a program that is shipped: for it and for the libraries in it.
+# Adds debug information for the .pdb file of a shipped program, to the program and to the static libraries in it.
 add_library(kelvo_debug_information INTERFACE)
 if(NOT MSVC)
   target_compile_options(kelvo_debug_information INTERFACE
     "$<$<COMPILE_LANGUAGE:C,CXX>:-g;-gcodeview;-gno-codeview-command-line;-ffile-compilation-dir=.;-fdebug-compilation-dir=.>")
 endif()
 
-# How our programs are linked besides: hardened, with the checksum in the header (-release), and the same bytes wherever
-# they were built. Without control-flow guard: Debian 12's runtime lacks the function that it dispatches calls through.
-# kelvo_wide_program is for one that begins with wmain, kelvo_shipped_program for one that is shipped: what a debugger
-# needs is in a .pdb with its name.
+# The linker options of our programs:
+#   kelvo_program          hardening, a checksum in the header (-release), and reproducible bytes in any build folder.
+#                          There is no control-flow guard, because Debian 12's runtime lacks its dispatch function
+#   kelvo_wide_program     also wmain as the entry point
+#   kelvo_shipped_program  also a .pdb file for debuggers
 add_library(kelvo_program INTERFACE)
 target_link_libraries(kelvo_program INTERFACE kelvo_build_options)
 add_library(kelvo_wide_program INTERFACE)
 target_link_libraries(kelvo_wide_program INTERFACE kelvo_program)
 add_library(kelvo_shipped_program INTERFACE)
 target_link_libraries(kelvo_shipped_program INTERFACE kelvo_wide_program kelvo_debug_information)
-# The libraries that it imports come from the system directory alone (LOAD_LIBRARY_SEARCH_SYSTEM32), where Windows obeys that.
+# Makes Windows load the imports of a shipped program only from the system directory (LOAD_LIBRARY_SEARCH_SYSTEM32), in
+# the versions that support this.
 if(MSVC)
   target_link_options(kelvo_shipped_program INTERFACE /DEPENDENTLOADFLAG:0x800)
   target_link_options(kelvo_program INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG /CETCOMPAT /RELEASE /Brepro /PDBALTPATH:%_PDB%)

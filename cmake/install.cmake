@@ -1,12 +1,16 @@
-# What `cmake --install` puts in place and `cpack` packs: the components "tool" (what a setup ships), "documentation" in
-# one package, "simulator" (never in the folder of signed programs, which would load its libraries), "sdk" (the library, as the CMake package kelvo) and "symbols" in one each.
+# Defines the components that `cmake --install` installs and `cpack` packs:
+#   tool           the programs that a setup ships
+#   documentation  the pages and sample setups; in the same archive as tool
+#   simulator      in a separate archive: signed programs would load its libraries if they were in the same folder
+#   sdk            the library, as the CMake package kelvo
+#   symbols        the .pdb files
 
 include(CMakePackageConfigHelpers)
 
 install(TARGETS sorrel sorrel_status RUNTIME DESTINATION bin COMPONENT tool)
 install(FILES $<TARGET_FILE_DIR:sorrel>/sorrel.pdb $<TARGET_FILE_DIR:sorrel>/sorrel_status.pdb DESTINATION bin COMPONENT symbols EXCLUDE_FROM_ALL)
 
-# The tree is the repository's, so that the pages' links hold.
+# Keeps the repository's folder structure, so that the links between the pages work.
 install(FILES README.md CHANGELOG.md SECURITY.md DESTINATION share/doc/sorrel COMPONENT documentation OPTIONAL)
 install(DIRECTORY docs installers DESTINATION share/doc/sorrel COMPONENT documentation
   PATTERN library.md EXCLUDE PATTERN development.md EXCLUDE
@@ -30,13 +34,14 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/kelvo-config.cmake.in ${PROJECT_BINARY_
 install(FILES ${PROJECT_BINARY_DIR}/kelvo-config.cmake ${PROJECT_BINARY_DIR}/kelvo-config-version.cmake
   DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(FILES docs/library.md CHANGELOG.md DESTINATION share/doc/kelvo COMPONENT sdk OPTIONAL)
-# What scripts/docs has made, if it was run.
+# Installs the reference if scripts/docs has made it.
 install(DIRECTORY build/docs/html/ DESTINATION share/doc/kelvo/reference COMPONENT sdk OPTIONAL)
 install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONENT sdk)
 install(FILES cmake/toolchain_mingw.cmake DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(SCRIPT cmake/link_pages.cmake COMPONENT sdk)
 
-# Four archives, which unpack into one folder. What is in them is signed before and accounted for afterwards.
+# Makes four archives. Each unpacks into one folder. sign_programs.cmake runs before packing, account_for_packages.cmake
+# afterwards.
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)

@@ -1,6 +1,7 @@
-# Run when pages have been installed: a link to what is not installed with them becomes plain text, and one to a header finds it.
+# Adapts the links of the installed pages: a link to a file that is not installed becomes plain text, and a link to a
+# header leads to the installed header.
 
-# In their place, since a list would take brackets for its own.
+# Replaces brackets by these characters, since CMake does not split a list inside brackets.
 string(ASCII 1 open)
 string(ASCII 2 close)
 set(prefix $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX})

@@ -1,4 +1,4 @@
-# Run by CPack before it packs: signs the programs when scripts/package asks for it, by these variables.
+# Signs the programs if scripts/package has set these environment variables. CPack runs this script before it packs.
 
 if(NOT DEFINED ENV{SORREL_SIGN_CERTIFICATE})
   return()
@@ -10,13 +10,13 @@ endif()
 if(DEFINED ENV{SORREL_SIGN_TIME_SERVER})
   list(APPEND options -ts $ENV{SORREL_SIGN_TIME_SERVER})
 else()
-  message(WARNING "Without a time server the signatures are good only until the certificate expires.")
+  message(WARNING "Without a time server, the signatures are valid only until the certificate expires.")
 endif()
 
 file(GLOB_RECURSE programs ${CPACK_TEMPORARY_DIRECTORY}/tool/*.exe)
 list(LENGTH programs count)
 if(count LESS 2)
-  message(FATAL_ERROR "Both programs are signed, but only these are there: ${programs}")
+  message(FATAL_ERROR "There should be two programs to sign, but there are only these: ${programs}")
 endif()
 set(roots $ENV{SORREL_SIGN_CERTIFICATE})
 if(DEFINED ENV{SORREL_SIGN_ROOTS})
@@ -26,9 +26,9 @@ foreach(program ${programs})
   execute_process(COMMAND osslsigncode sign ${options} -key "$ENV{SORREL_SIGN_KEY}" -in ${program} -out ${program}.signed
     OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
   file(RENAME ${program}.signed ${program})
-  execute_process(COMMAND osslsigncode verify -CAfile ${roots} ${program} RESULT_VARIABLE code OUTPUT_VARIABLE said)
+  execute_process(COMMAND osslsigncode verify -CAfile ${roots} ${program} RESULT_VARIABLE code OUTPUT_VARIABLE output)
   if(NOT code EQUAL 0)
-    message(FATAL_ERROR "The signature of ${program} is not good: ${said}")
+    message(FATAL_ERROR "The signature of ${program} is not valid: ${output}")
   endif()
 endforeach()
 message(STATUS "Signed and verified: ${programs}. Not signed: the simulator's libraries, batch files, the archives.")

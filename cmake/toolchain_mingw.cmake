@@ -1,4 +1,4 @@
-# Clang for Windows on mingw-w64, run here through Wine.
+# Builds for Windows with clang and mingw-w64. The programs run on Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -10,8 +10,9 @@ set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_AR llvm-ar-19)
 set(CMAKE_RANLIB llvm-ranlib-19)
 
-# Pretends that x86intrin.h is included already. The processor's vector functions are half of what mingw's windows.h brings: each
-# source would be compiled, and looked through by clang-tidy, twice as long. A project that calls them leaves this out.
+# Pretends that x86intrin.h is included already. Its vector functions are half of the code that mingw's windows.h
+# includes, so compiling and clang-tidy would take twice as long. A project that uses them must remove these
+# definitions.
 set(CMAKE_C_FLAGS_INIT -D__X86INTRIN_H)
 set(CMAKE_CXX_FLAGS_INIT -D__X86INTRIN_H)
 
@@ -24,7 +25,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 
-# Missing in the library's package, which has this file, too.
+# The library's package has this file, but not scripts/wine.
 if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/../scripts/wine)
   set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../scripts/wine;${CMAKE_BINARY_DIR}/wine")
 endif()

@@ -1,4 +1,5 @@
-// Compiles the examples of the library's headers, each in a function. Nothing calls them.
+// The examples of the library's headers, each in a function, so that the compiler checks them.
+// Nothing calls these functions.
 
 #define SECURITY_WIN32
 #include <windows.h>
@@ -18,7 +19,7 @@
 #include "lib/trace/trace_sink.h"
 #include "lib/ui/localised_file.h"
 
-// NOLINTBEGIN(misc-use-internal-linkage): internal ones would count as unused
+// NOLINTBEGIN(misc-use-internal-linkage): with internal linkage, they would count as unused
 namespace kelvo::examples {
 
 BOOL RunAsUserExample() {
@@ -85,7 +86,7 @@ void TraceSinkExample() {
       [](const wchar_t* tag, const wchar_t* message) { DebugTrace(L"%s: %s", tag, message); });
 }
 
-// What WString has in common with std::wstring.
+// Uses WString like a std::wstring.
 std::size_t WStringExample(const WString& text) {
   std::size_t blanks = 0;
   for (const wchar_t unit : text) {

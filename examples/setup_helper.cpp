@@ -1,13 +1,14 @@
-// What a setup often needs, a command each:
+// Does what setups often need. Each task is a command:
 //   setup_helper read HKEY_CURRENT_USER\Software\App\Setting
 //     prints a registry value
 //   setup_helper grant FILE SID
-//     lets an account read and write a file
+//     grants an account read and write access to a file
 //   setup_helper start PROGRAM [ARGUMENTS]
-//     starts a program for the user at the screen, waits for its end, and ends with its exit code
+//     starts a program in the console session's user account, waits until it ends, and returns its
+//     exit code
 //   setup_helper ready PROGRAM MUTEX
-//     starts a program and waits until it has made its mutex
-// Otherwise ends with 0 for success and 1 for failure.
+//     starts a program and waits until the program has created its mutex
+// The other commands return 0 for success and 1 for failure.
 
 #include <windows.h>
 
@@ -43,7 +44,7 @@ int Read(const wchar_t* path, const wchar_t* /*unused*/) {
   WString key;
   WString name;
   if (!kelvo::ParseRegistryValuePath(path, root, key, name)) {
-    return Print(L"Not the path of a registry value", kFailure);
+    return Print(L"This is not the path of a registry value", kFailure);
   }
   if (!kelvo::RegistryValueExists(root, key.c_str(), name.c_str())) {
     return Print(L"There is no such value", kFailure);
@@ -56,7 +57,7 @@ int Grant(const wchar_t* file, const wchar_t* sid) {
   constexpr DWORD kRights = FILE_GENERIC_READ | FILE_WRITE_DATA | FILE_APPEND_DATA;
   return kelvo::AddFileAccessRights(file, sid, kRights) != FALSE
              ? Print(L"Granted", kSuccess)
-             : Print(L"The access list could not be changed", kFailure);
+             : Print(L"The ACL could not be changed", kFailure);
 }
 
 int Start(const wchar_t* program, const wchar_t* arguments) {
@@ -93,12 +94,12 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-extern "C" int wmain(int count, wchar_t** words) {
+extern "C" int wmain(int count, wchar_t** arguments) {
   if (count < 3) {
     return Print(L"setup_helper read|grant|start|ready ...", kFailure);
   }
   const auto* const command = std::ranges::find_if(
-      kCommands, [&](const Command& known) { return std::wcscmp(known.name, words[1]) == 0; });
-  return command != std::end(kCommands) ? command->run(words[2], count > 3 ? words[3] : L"")
+      kCommands, [&](const Command& known) { return std::wcscmp(known.name, arguments[1]) == 0; });
+  return command != std::end(kCommands) ? command->run(arguments[2], count > 3 ? arguments[3] : L"")
                                         : Print(L"There is no such command", kFailure);
 }

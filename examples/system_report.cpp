@@ -1,4 +1,4 @@
-// Prints what the library finds out about this system, a line for each entry, in UTF-8.
+// Prints the library's report about this system in UTF-8, one line for each entry.
 
 #include "lib/sysinfo/system_report.h"
 
@@ -16,7 +16,7 @@ namespace kelvo {
 
 namespace {
 
-// A longer name pushes its own value aside instead of everybody's.
+// Limits the column: a longer name shifts only its own value to the right, not all values.
 constexpr std::size_t kWidestColumn = 40;
 
 using Line = std::pair<std::string, std::string>;

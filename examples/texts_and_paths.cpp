@@ -1,4 +1,5 @@
-// Shows text routines, long paths and locales of the library, a line each, in UTF-8.
+// Shows the library's functions for strings, long paths and locales. Prints one line for each, in
+// UTF-8.
 
 #include <windows.h>
 
@@ -17,13 +18,13 @@ using kelvo::WString;
 
 namespace {
 
-void Print(const char* what, const WString& text) {
-  kelvo::WriteUtf8(STD_OUTPUT_HANDLE, std::string(what) + kelvo::ToVisibleUtf8(text) + "\n");
+void Print(const char* label, const WString& text) {
+  kelvo::WriteUtf8(STD_OUTPUT_HANDLE, std::string(label) + kelvo::ToVisibleUtf8(text) + "\n");
 }
 
 }  // namespace
 
-extern "C" int wmain(int /*count*/, wchar_t** /*words*/) {
+extern "C" int wmain(int /*count*/, wchar_t** /*arguments*/) {
   WString list = L"kite;;brindle;rind";
   kelvo::ReplaceAll(list, L"rind", L"heron");
   Print("replaced:    ", list);

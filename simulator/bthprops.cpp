@@ -1,4 +1,4 @@
-// Stands in for the system's Bluetooth control-panel library.
+// Simulates the system's Bluetooth control panel library.
 
 #include <windows.h>
 

@@ -46,7 +46,7 @@ struct StoreKind {
 constexpr StoreKind kPublisher = {"publisher", kTrustedPublisherStore};
 constexpr StoreKind kIntermediate = {"intermediate", kIntermediateCaStore};
 
-// Says where difxapi.dll is, without loading it.
+// Returns the item for difxapi.dll, without loading the library.
 Item QueryInterface() {
   constexpr const char* kKind = "interface";
   constexpr const wchar_t* kLibrary = L"difxapi.dll";
@@ -59,8 +59,8 @@ Item QueryInterface() {
   return {kKind, State::kPresent, path, {TextDetail("version", L"version", version.data())}};
 }
 
-// Like IsAdmin, ignores the group's attributes; unlike IsAdmin, has no limit on the size of the
-// groups.
+// Ignores the attributes of the group, as IsAdmin does. Unlike IsAdmin, reads token groups of any
+// size.
 DWORD QueryAdministrator(bool& isAdministrator) {
   OwnedKernelObject token;
   DWORD size = 0;
@@ -83,7 +83,7 @@ DWORD QueryAdministrator(bool& isAdministrator) {
 Item QuerySystem() {
   WString name = GetSystemVersionString();
   if (name.find(L"(") == 0) {
-    // From Windows 10 on the string has no name, only the numbers.
+    // Since Windows 10 the string has only the numbers, without a name.
     name = L"Windows " + name;
   }
   const WString numbers = GetSystemVersionNumbers();
@@ -163,8 +163,8 @@ int Write(std::string_view text, int exitCode) {
   return WriteUtf8(STD_OUTPUT_HANDLE, text) ? exitCode : kSomethingUnknown;
 }
 
-int Run(int count, const wchar_t* const* words) {
-  const CommandLine line = ParseCommandLine(count, words);
+int Run(int count, const wchar_t* const* arguments) {
+  const CommandLine line = ParseCommandLine(count, arguments);
   switch (line.kind) {
     case CommandLine::Kind::kHelp:
       return Write(UsageText(), kAllPresent);
@@ -182,11 +182,11 @@ int Run(int count, const wchar_t* const* words) {
 
 }  // namespace
 
-int AnswerCommandLine(int count, const wchar_t* const* words) {
+int AnswerCommandLine(int count, const wchar_t* const* arguments) {
   try {
-    return Run(count, words);
+    return Run(count, arguments);
   } catch (const std::exception&) {
-    // Not WriteUtf8, which allocates.
+    // Does not use WriteUtf8, which allocates memory.
     constexpr std::string_view kText = "sorrel_status: not enough memory\r\n";
     DWORD written = 0;
     WriteFile(GetStdHandle(STD_ERROR_HANDLE), kText.data(), static_cast<DWORD>(kText.length()),

@@ -12,9 +12,9 @@ namespace {
 
 constexpr const char* kApplication = "application";
 
-// What the registry holds where the list belongs.
+// The registry value of the list, of any type and size.
 struct StoredList {
-  LSTATUS error = ERROR_SUCCESS;  // of opening the key or of querying the value
+  LSTATUS error = ERROR_SUCCESS;  // from opening the key or querying the value
   DWORD type = REG_NONE;
   DWORD size = 0;  // in bytes
 

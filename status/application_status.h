@@ -8,11 +8,11 @@
 namespace kelvo {
 
 // Reads the list of dependent applications (ReadApplicationList in tool/dependent_applications.h)
-// without creating its key, and returns an item for each of `names`, which is present when the tool
-// would find it in the list to remove it. Without names, returns an item for each application in
-// the list, or a single absent one when there is none. An absent item says so when the registry
-// holds something that the tool cannot read and treats as an empty list. All are unknown when the
-// key or the value could not be read.
+// without creating its key. Returns an item for each of `names`: present when the list contains it,
+// as IsSameApplication compares names. If `names` is empty, returns an item for each application in
+// the list, or a single absent item for an empty list. A detail describes the list: whether it
+// exists, and whether sorrel.exe treats it as empty because it cannot read it. All items are
+// unknown when the key or the value cannot be read.
 std::vector<Item> QueryApplications(const std::vector<WString>& names);
 
 }  // namespace kelvo

@@ -34,14 +34,15 @@ bool IsInStore(HCERTSTORE store, PCCERT_CONTEXT certificate) {
 
 WString Name(PCCERT_CONTEXT certificate, DWORD flags) {
   constexpr DWORD kType = CERT_NAME_SIMPLE_DISPLAY_TYPE;
-  // Lengths count the terminator.
+  // Both lengths include the terminator.
   const DWORD length = CertGetNameStringW(certificate, kType, flags, nullptr, nullptr, 0);
   WString name(length, L'\0');
   CertGetNameStringW(certificate, kType, flags, nullptr, name.data(), length);
   return {name.c_str()};
 }
 
-// Empty when Windows cannot hash it; GetLastError then says why.
+// Returns an empty string when Windows cannot compute the hash; GetLastError then returns the
+// error.
 WString Thumbprint(PCCERT_CONTEXT certificate) {
   std::array<BYTE, 20> hash{};  // SHA-1
   DWORD size = sizeof(hash);
@@ -101,7 +102,7 @@ Item QueryStore(const char* kind, const wchar_t* storeName) {
     return UnknownItem(kind, storeName, error);
   }
   DWORD count = 0;
-  // Each call frees the context that it is given.
+  // Each call frees the context that was passed in.
   PCCERT_CONTEXT certificate = nullptr;
   while (store &&
          (certificate = CertEnumCertificatesInStore(store.get(), certificate)) != nullptr) {

@@ -9,14 +9,14 @@ namespace kelvo {
 
 // Both functions open a system store of the local machine read-only (CertOpenStore).
 
-// Reads the certificate in `file` and returns an item of `kind`, present when the store holds
-// the same certificate (CryptQueryObject, CertFindCertificateInStore with CERT_FIND_EXISTING). Its
-// details are subject, issuer, thumbprint (the SHA-1 hash), the end of its validity, and whether it
-// has expired.
+// Reads the certificate in `file` (CryptQueryObject) and returns an item of `kind`: present when
+// the store contains the same certificate (CertFindCertificateInStore with CERT_FIND_EXISTING). The
+// details are its subject, issuer, thumbprint (SHA-1 hash) and end of validity, whether it has
+// expired, and whether the store exists.
 //
-// The file holds one certificate in binary, Base64 or hexadecimal form; of several in Base64, as in
-// a PEM file with a chain, only the first is read. For a collection (PKCS #7, a serialized store)
-// the item is unknown with CRYPT_E_NO_MATCH.
+// The file contains one certificate in binary, Base64 or hexadecimal form. If it contains several
+// in Base64, such as a PEM file with a chain, only the first is read. If it is a collection (PKCS
+// #7 or a serialized store), the item is unknown with CRYPT_E_NO_MATCH.
 Item QueryCertificate(const char* kind, const WString& file, const wchar_t* storeName);
 
 // Returns an item with the number of certificates in the store.

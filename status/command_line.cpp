@@ -1,6 +1,7 @@
 #include "status/command_line.h"
 
-// The parser's regular expressions would be larger than the rest of the program.
+// Leaves out the regular expressions of the parser, which would be larger than the rest of the
+// program.
 #define CXXOPTS_NO_REGEX
 #include <cxxopts.hpp>
 
@@ -27,11 +28,11 @@ or not all of the report could be written. A program that is started without a
 standard output answers by its exit code alone.
 )";
 
-// The parser takes bytes. Each unit outside ASCII becomes three bytes, as in CESU-8, unpaired
-// surrogates too, so that every word comes back as it was.
-std::string ToBytes(std::wstring_view word) {
+// Encodes each UTF-16 unit outside ASCII as three bytes, as in CESU-8, since the parser takes
+// bytes. FromBytes restores every argument exactly, even one with unpaired surrogates.
+std::string ToBytes(std::wstring_view argument) {
   std::string bytes;
-  for (const wchar_t unit : word) {
+  for (const wchar_t unit : argument) {
     if (unit < 0x80) {
       bytes += static_cast<char>(unit);
     } else {
@@ -43,15 +44,16 @@ std::string ToBytes(std::wstring_view word) {
 }
 
 WString FromBytes(std::string_view bytes) {
-  WString word;
+  WString argument;
   while (!bytes.empty()) {
     const auto low = [&bytes](std::size_t i) { return static_cast<unsigned>(bytes[i]) & 0x3F; };
     const bool isAscii = (static_cast<unsigned>(bytes[0]) & 0x80) == 0;
-    word += WString(1, static_cast<wchar_t>(isAscii ? static_cast<unsigned>(bytes[0])
-                                                    : (low(0) & 0xF) << 12 | low(1) << 6 | low(2)));
+    argument +=
+        WString(1, static_cast<wchar_t>(isAscii ? static_cast<unsigned>(bytes[0])
+                                                : (low(0) & 0xF) << 12 | low(1) << 6 | low(2)));
     bytes.remove_prefix(isAscii ? 1 : 3);
   }
-  return word;
+  return argument;
 }
 
 cxxopts::Options MakeParser() {
@@ -61,19 +63,19 @@ cxxopts::Options MakeParser() {
   parser.custom_help(
       "[--publisher FILE]... [--intermediate FILE]... [--inf FILE]...\n"
       "                    [--application NAME]... [--service] [--json]");
-  const auto word = [] { return cxxopts::value<std::string>(); };
+  const auto text = [] { return cxxopts::value<std::string>(); };
   parser.add_options()  //
-      ("publisher", "check that its certificate is in TrustedPublisher", word(), "FILE")(
-          "intermediate", "check that its certificate is in CA", word(), "FILE")(
-          "inf", "check that its driver package is in the driver store", word(), "FILE")(
-          "application", "check that the application is on the list", word(), "NAME")(
-          "service", "check that Bluetooth has a device for the service")(
+      ("publisher", "check for its certificate in TrustedPublisher", text(), "FILE")(
+          "intermediate", "check for its certificate in CA", text(), "FILE")(
+          "inf", "check for its package in the driver store", text(), "FILE")(
+          "application", "check for the application on the list", text(), "NAME")(
+          "service", "check for the Bluetooth device of the service")(
           "json", "write one JSON object in ASCII")("help", "show this text")(
           "version", "show the program's version");
   return parser;
 }
 
-// Returns false for a switch that was given a value.
+// Returns false for an option that takes no value but was given one.
 bool TakeOption(const std::string& option, const WString& value, Questions& questions) {
   if (option == "publisher") {
     questions.publishers.push_back(value);
@@ -84,7 +86,7 @@ bool TakeOption(const std::string& option, const WString& value, Questions& ques
   } else if (option == "application") {
     questions.applications.push_back(value);
   } else {
-    // The parser's value for a switch that was given none.
+    // The parser stores "true" for an option that was given no value.
     return value == L"true";
   }
   return true;
@@ -120,12 +122,12 @@ CommandLine FromParsed(const cxxopts::ParseResult& parsed) {
 
 }  // namespace
 
-CommandLine ParseCommandLine(int count, const wchar_t* const* words) {
+CommandLine ParseCommandLine(int count, const wchar_t* const* arguments) {
   const auto size = static_cast<std::size_t>(count);
   std::vector<std::string> bytes(size);
   std::vector<const char*> pointers(size);
   for (std::size_t i = 0; i < size; ++i) {
-    bytes[i] = ToBytes(words[i]);
+    bytes[i] = ToBytes(arguments[i]);
     pointers[i] = bytes[i].c_str();
   }
   try {

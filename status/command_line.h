@@ -7,7 +7,7 @@
 
 namespace kelvo {
 
-// What the command line asks for. Names and paths are its arguments, unchanged.
+// The items that a command line asks about. Names and paths are unchanged arguments.
 struct Questions {
   std::vector<WString> applications;
   std::vector<WString> publishers;      // certificate files
@@ -15,7 +15,7 @@ struct Questions {
   std::vector<WString> driverPackages;  // INF files
   bool service = false;
 
-  // Returns whether nothing in particular is asked for, which means everything.
+  // Returns whether the command line names no item, which asks for the general report.
   [[nodiscard]] bool IsGeneral() const {
     return !service && applications.empty() && publishers.empty() && intermediates.empty() &&
            driverPackages.empty();
@@ -31,10 +31,10 @@ struct CommandLine {
   WString mistake;  // for kWrong
 };
 
-// Parses the `count` words of a command line, the first of which is the program's own path.
-CommandLine ParseCommandLine(int count, const wchar_t* const* words);
+// Parses the `count` arguments of a command line; the first is the program's own path.
+CommandLine ParseCommandLine(int count, const wchar_t* const* arguments);
 
-// Returns how to call the program and what its exit codes mean, in ASCII.
+// Returns the usage text, which also explains the exit codes, in ASCII.
 std::string UsageText();
 
 }  // namespace kelvo

@@ -20,8 +20,8 @@ namespace {
 // Far larger than any INF file.
 constexpr LONGLONG kMostBytes = LONGLONG{4} * 1024 * 1024;
 
-// Opens a file and gets its size. If the path is another process's pipe, that process cannot
-// impersonate the caller.
+// Opens a file and gets its size. If the path is another process's pipe, SECURITY_ANONYMOUS
+// prevents that process from impersonating the caller.
 DWORD OpenFile(const WString& path, DWORD access, OwnedFile& file, LARGE_INTEGER& size) {
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   file.reset(CreateFileW(path.c_str(), access, kShare, nullptr, OPEN_EXISTING,
@@ -48,7 +48,7 @@ DWORD ReadBytes(const WString& path, std::string& bytes) {
 }
 
 bool HasVersionSection(std::string bytes) {
-  // INF files are ANSI or UTF-16.
+  // INF files are ANSI or UTF-16: without NULs, both can be searched as ASCII.
   std::erase(bytes, '\0');
   std::transform(bytes.begin(), bytes.end(), bytes.begin(), [](char byte) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(byte)));
@@ -56,7 +56,7 @@ bool HasVersionSection(std::string bytes) {
   return bytes.find("[version]") != std::string::npos;
 }
 
-// A file of another size cannot match, so it need not be readable.
+// Compares the sizes first: a file of another size cannot match, so it need not be readable.
 DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) {
   OwnedFile file;
   LARGE_INTEGER size{};
@@ -72,7 +72,8 @@ DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) 
   return error;
 }
 
-// Stores the name of the published file with these bytes; leaves `name` empty when there is none.
+// Stores the name of the published file with the same bytes, or leaves `name` empty when there is
+// none.
 DWORD FindPublishedCopy(const std::string& wanted, WString& name) {
   std::array<wchar_t, MAX_PATH> windows{};
   if (GetSystemWindowsDirectoryW(windows.data(), MAX_PATH) == 0) {
@@ -128,13 +129,13 @@ DWORD ReadEntry(const SetupFunctions& functions, HINF inf, const wchar_t* key, W
   return ERROR_SUCCESS;
 }
 
-// Returns why an entry is missing, or ERROR_SUCCESS.
+// Returns the error code of a missing entry, or ERROR_SUCCESS.
 DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVersion) {
   const SetupFunctions functions;
   if (!functions) {
     return GetLastError();
   }
-  // A bare name would be looked for in Windows' INF folder.
+  // For a bare file name, Windows would search its INF folder.
   const WString path = FullPath(infPath);
   HINF const inf = functions.open(path.c_str(), nullptr, INF_STYLE_WIN4, nullptr);
   if (inf == INVALID_HANDLE_VALUE) {
@@ -167,7 +168,8 @@ Item QueryDriverPackage(const WString& infPath) {
   }
   WString provider;
   WString driverVersion;
-  // Reads the given file: opening the published copy could make Windows write a .pnf next to it.
+  // Reads the given file: opening the published copy could make Windows write a .pnf file next to
+  // it.
   error = ReadVersion(infPath, provider, driverVersion);
   Item item{kKind,
             State::kPresent,

@@ -7,18 +7,19 @@
 
 namespace kelvo {
 
-// Returns the item for the driver package of an INF file: present when a file with the same bytes
-// is in Windows' INF folder, where Windows publishes the INF of each package in the driver store.
-// Packages that differ only in their catalog are two for Windows but one here.
+// Returns the item for the driver package of an INF file: present when Windows' INF folder has a
+// file with the same bytes. There, Windows publishes the INF file of each package in the driver
+// store. Two packages that differ only in their catalogs count as the same package here, but not in
+// Windows.
 //   - Unknown when the file cannot be read, is larger than 4 MiB or has no section [Version]
-//     (ERROR_SECTION_NOT_FOUND), or when a published file of the same size cannot be read and no
-//     other one matches.
-//   - A present item has provider and version from [Version], with %string% tokens expanded
-//     (SetupGetLineTextW; setupapi.dll is loaded for that and freed).
+//     (ERROR_SECTION_NOT_FOUND). Also unknown when a published file of the same size cannot be read
+//     and no other published file matches.
+//   - A present item has the provider and the version from [Version], with %string% tokens expanded
+//     (SetupGetLineTextW). Loads setupapi.dll for that and frees it.
 Item QueryDriverPackage(const WString& infPath);
 
-// Returns whether a file in the INF folder is a published one: "oem", digits, ".inf", in any letter
-// case.
+// Returns whether a file name is that of a published INF file: "oem", digits and ".inf", in any
+// letter case.
 bool IsPublishedName(std::wstring_view name);
 
 }  // namespace kelvo

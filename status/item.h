@@ -10,27 +10,28 @@
 
 namespace kelvo {
 
-// From best to worst: the state of a list of items is that of its worst one.
+// In order from best to worst; WorstState uses this order.
 enum class State {
-  kInfo,     // a fact, which is neither good nor bad
-  kPresent,  // it is there
-  kAbsent,   // it is not there
-  kUnknown,  // it could not be checked
+  kInfo,     // a fact that is neither good nor bad
+  kPresent,  // the thing is there
+  kAbsent,   // the thing is not there
+  kUnknown,  // the thing could not be checked
 };
 
 // Returns the stable name of a state, as both forms of the report write it.
 const char* StateName(State state);
 
-// One fact about an item: scripts find `value` under the stable name `key`, a person reads
-// `phrase`. Either may be empty: then that reader gets nothing.
+// One fact about an item. The JSON report has `value` under the stable name `key`; the text report
+// has `phrase`. The JSON report omits a detail without a key, the text report a detail without a
+// phrase.
 struct Detail {
   std::string key;
   std::variant<bool, DWORD, WString> value;
   WString phrase;
 };
 
-// One line of the report. `kind` is a stable name, in lower case and with "_" for blanks; `name` is
-// what was asked for or found, and may be empty.
+// One line of the report. `kind` is a stable name in lower case, with "_" for blanks. `name` is the
+// name or path that was asked for or found; it may be empty.
 struct Item {
   const char* kind;
   State state;
@@ -41,12 +42,12 @@ struct Item {
 // Returns the state of the worst item, or kInfo for no items.
 State WorstState(const std::vector<Item>& items);
 
-// Returns the detail `key` with the phrase "label text", or without a phrase when `text` is empty.
+// Returns a detail with the phrase "label text", or with an empty phrase when `text` is empty.
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
-// Adds a Windows error code as two details: eight hexadecimal digits under `key` + "_code", the
-// system's message without its full stop and line break under `key` + "_text". The phrase has both
-// after `label`.
+// Adds two details for a Windows error code: `key` + "_code" has eight hexadecimal digits, `key` +
+// "_text" the system's message without its full stop and line break. The phrase consists of
+// `label`, code and message.
 void AddError(Item& item, const std::string& key, const WString& label, DWORD error);
 
 // Returns an item for something that could not be checked, with the keys "error_code" and

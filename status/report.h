@@ -8,14 +8,19 @@
 namespace kelvo {
 
 // Returns the items as text for a person, in UTF-8: one line for each, with its state, kind, name
-// and details in columns. Characters that would act on a terminal are made visible.
+// and details in columns. Characters that would control a terminal are made visible
+// (ToVisibleUtf8).
 std::string TextReport(const std::vector<Item>& items);
 
-// Returns the items for a script, as one JSON object in ASCII, which every shell reads whatever its
-// code page: the number "schema", the program's "version", the "state" of the worst item, and the
-// array "items". Each item is an object with "item", "state", "name" (null when there is none) and
-// its details by their keys. Later versions may add keys; "schema" changes when a key changes its
-// meaning or is removed. An unpaired surrogate becomes U+FFFD.
+// Returns the items for a script, as one JSON object in ASCII, which a shell can read in any code
+// page:
+//   - "schema", a number: later versions may add keys, but the number changes when a key is removed
+//     or changes its meaning
+//   - "version", the version of the program
+//   - "state", the state of the worst item
+//   - "items", an array of objects with "item" (the kind), "state", "name" (null when it is empty)
+//     and the details by their keys
+// An unpaired surrogate becomes U+FFFD.
 std::string JsonReport(const std::vector<Item>& items);
 
 }  // namespace kelvo

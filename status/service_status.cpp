@@ -49,12 +49,13 @@ WString ServiceHardwareId() {
                     id.Data4[4], id.Data4[5], id.Data4[6], id.Data4[7]);
 }
 
-// Each id ends in a NUL, the last one in two. Empty for a device that has none.
+// Returns the hardware ids, each with its NUL, and one more NUL after the last. A device without
+// hardware ids has only NULs.
 std::vector<wchar_t> ReadHardwareIds(const DeviceFunctions& functions, HDEVINFO devices,
                                      SP_DEVINFO_DATA& device) {
   DWORD size = 0;
   functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr, nullptr, 0, &size);
-  // Two more units end the list even if the driver did not.
+  // Adds two NULs, which terminate the list even if the driver did not.
   std::vector<wchar_t> ids((size / sizeof(wchar_t)) + 2);
   if (functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr,
                             reinterpret_cast<BYTE*>(ids.data()), size, nullptr) == FALSE) {
@@ -67,8 +68,7 @@ bool StartsWith(const wchar_t* text, std::wstring_view start) {
   return _wcsnicmp(text, start.data(), start.length()) == 0;
 }
 
-// What follows the service's class identifier in a device's hardware ids, one entry for each id of
-// the service.
+// Returns the rest of each hardware id that begins with ServiceHardwareId.
 std::vector<WString> ServiceIdSuffixes(const std::vector<wchar_t>& hardwareIds) {
   const WString wanted = ServiceHardwareId();
   std::vector<WString> suffixes;
@@ -87,8 +87,8 @@ bool IsRemoteSuffix(const WString& suffix) {
           !StartsWith(suffix.c_str() + kMaker.length(), L"0000"));
 }
 
-// The address in an instance id, such as the 12 digits in "...&0&001122334455_C00000000"; nothing
-// when it has none.
+// Returns the address in a device's instance id, such as the 12 digits in
+// "...&0&001122334455_C00000000", or nothing when the id has no address.
 std::optional<std::uint64_t> AddressOf(const DeviceFunctions& functions, HDEVINFO devices,
                                        SP_DEVINFO_DATA& device) {
   constexpr std::ptrdiff_t kDigits = 12;
@@ -136,7 +136,7 @@ DWORD QueryServiceDevice(bool& isThere) {
   HDEVINFO const devices =
       functions.getDevices(nullptr, L"BTHENUM", nullptr, DIGCF_ALLCLASSES | DIGCF_PRESENT);
   if (devices == INVALID_HANDLE_VALUE) {
-    // ERROR_INVALID_DATA: no Bluetooth bus was ever enumerated.
+    // ERROR_INVALID_DATA means that no Bluetooth bus was ever enumerated.
     const DWORD error = GetLastError();
     return error == ERROR_INVALID_DATA ? ERROR_SUCCESS : error;
   }
@@ -147,8 +147,8 @@ DWORD QueryServiceDevice(bool& isThere) {
 
 void AddLibrary(Item& item) {
   constexpr const char* kKey = "bluetooth_library";
-  // As data, so that none of its code runs; by full path, since Wine's search for data files
-  // ignores SetDefaultDllDirectories.
+  // Loads the library as data, so that none of its code runs, and by its full path, because Wine
+  // ignores SetDefaultDllDirectories when it searches for data files.
   const WString path = LibraryPath(L"bthprops.cpl");
   const OwnedModule library(LoadLibraryExW(
       path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));

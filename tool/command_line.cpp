@@ -15,7 +15,7 @@ namespace kelvo {
 
 namespace {
 
-using Words = const wchar_t* const*;
+using Arguments = const wchar_t* const*;
 
 constexpr int kUsageExitCode = 2;
 
@@ -24,38 +24,40 @@ DWORD EnablePrivilegeAndSetService(bool enable) {
   return RegisterHandsfreeService(enable);
 }
 
-DWORD RunInstall(Words words) { return Install(words[2], words[3], words[4], words[5]); }
+DWORD RunInstall(Arguments arguments) {
+  return Install(arguments[2], arguments[3], arguments[4], arguments[5]);
+}
 
-// words[2], the INF path, is there for symmetry with install: the driver package stays.
-DWORD RunUninstall(Words words) {
+// Ignores arguments[2], the INF path, which mirrors install: the driver package stays installed.
+DWORD RunUninstall(Arguments arguments) {
   EnableLoadDriverPrivilege();
   bool noneLeft = false;
-  RemoveDependentApplication(words[3], noneLeft);
+  RemoveDependentApplication(arguments[3], noneLeft);
   if (noneLeft) {
     RegisterHandsfreeService(false);
   }
   return ERROR_SUCCESS;
 }
 
-DWORD RunRegister(Words /*words*/) { return EnablePrivilegeAndSetService(true); }
+DWORD RunRegister(Arguments /*arguments*/) { return EnablePrivilegeAndSetService(true); }
 
-DWORD RunUnregister(Words /*words*/) { return EnablePrivilegeAndSetService(false); }
+DWORD RunUnregister(Arguments /*arguments*/) { return EnablePrivilegeAndSetService(false); }
 
-DWORD RunRegisterFor(Words words) {
-  AddDependentApplication(words[2]);
+DWORD RunRegisterFor(Arguments arguments) {
+  AddDependentApplication(arguments[2]);
   return EnablePrivilegeAndSetService(true);
 }
 
-DWORD RunUnregisterFor(Words words) {
+DWORD RunUnregisterFor(Arguments arguments) {
   bool noneLeft = false;
-  RemoveDependentApplication(words[2], noneLeft);
+  RemoveDependentApplication(arguments[2], noneLeft);
   return noneLeft ? EnablePrivilegeAndSetService(false) : ERROR_SUCCESS;
 }
 
 struct CommandForm {
-  int wordCount;
+  int argumentCount;
   const wchar_t* keyword;
-  DWORD (*run)(Words words);
+  DWORD (*run)(Arguments arguments);
 };
 
 constexpr std::array kCommandForms = {
@@ -64,8 +66,8 @@ constexpr std::array kCommandForms = {
     CommandForm{3, L"register", RunRegisterFor}, CommandForm{3, L"unregister", RunUnregisterFor},
 };
 
-// Setup programs compare this text: it stays as it is, examples that run into the next line
-// included.
+// Never change these texts, not even the missing line breaks after some examples: setup programs
+// compare them.
 constexpr std::array kUsageTexts = {
     L"invalid arguments\n",
     L"install: Install Certificate, Driver and Register Service, remember dependant application\n",
@@ -82,7 +84,7 @@ constexpr std::array kUsageTexts = {
 
 int RunCommandLine(int count, const wchar_t* const* arguments) {
   for (const CommandForm& form : kCommandForms) {
-    if (form.wordCount == count && std::wcscmp(arguments[1], form.keyword) == 0) {
+    if (form.argumentCount == count && std::wcscmp(arguments[1], form.keyword) == 0) {
       return static_cast<int>(form.run(arguments));
     }
   }

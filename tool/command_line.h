@@ -2,10 +2,12 @@
 
 namespace kelvo {
 
-// Runs the command that the arguments ask for and returns the process's exit code: 0 for install
-// and uninstall; what RegisterHandsfreeService returns for register and unregister, but 0 for an
-// unregister that leaves other applications; 2, after writing the usage text, for arguments that
-// match no form. `arguments` are `count` strings, the first of which is the program's own path.
+// Runs the command that the `count` arguments specify; the first is the program's own path. Returns
+// the process's exit code:
+//   - install, uninstall: 0
+//   - register, unregister: the result of RegisterHandsfreeService, or 0 when unregister leaves
+//     other applications on the list
+//   - any other arguments: 2, after writing the usage text
 int RunCommandLine(int count, const wchar_t* const* arguments);
 
 }  // namespace kelvo

@@ -16,7 +16,7 @@ std::string ToConsoleBytes(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.length() + 1);
   for (const wchar_t unit : text) {
-    // Even after a CR, which system messages include.
+    // Adds a CR even after the CR that a system message already has.
     if (unit == L'\n') {
       bytes += '\r';
     }
@@ -52,7 +52,8 @@ void Report(const wchar_t* format, ...) {
 WString FormatSystemMessage(DWORD code) {
   constexpr DWORD kMessageLength = 2000;
   WString buffer(kMessageLength, L'\0');
-  // 0 on failure: the call may leave half a message with inserts, which get no arguments here.
+  // Resizes to 0 when the call fails: it may have written part of a message with inserts, for which
+  // there are no arguments.
   buffer.resize(FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, code,
                                MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), buffer.data(),
                                kMessageLength, nullptr));

@@ -14,8 +14,8 @@ namespace kelvo {
 void Report(const wchar_t* format, ...);
 
 // Returns the system's message for an error code in the user's language (FormatMessageW), at most
-// 1,999 characters, with its final line break. Returns an empty string when the system has none,
-// and for a message with inserts ("%1"), since there are no arguments for them.
+// 1,999 characters, with its final line break. Returns an empty string when the system has no
+// message for the code, or when the message has inserts ("%1"), for which there are no arguments.
 WString FormatSystemMessage(DWORD code);
 
 }  // namespace kelvo

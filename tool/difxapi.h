@@ -1,7 +1,7 @@
 #pragma once
 
-// The part of the driver installation interface (difxapi.dll of the driver kit) that is used here;
-// the platform's own SDKs bring no header for it.
+// Declares the part of the driver installation interface (difxapi.dll, from the driver kit) that
+// the tool uses. The platform's SDKs have no header for it.
 
 #include <windows.h>
 
@@ -29,8 +29,9 @@ inline constexpr DWORD DRIVER_PACKAGE_SILENT = 0x00000002;
 // Sets the callback for log events; null removes it.
 void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);
 
-// Installs the driver package of a fully qualified INF path. Stores in `needReboot` whether the
-// installation asks for a restart. Returns 0 or a Win32 or SetupAPI error code.
+// Installs the driver package of an INF file, given by its fully qualified path. Stores in
+// `needReboot` whether the installation needs a restart. Returns 0 or a Win32 or SetupAPI error
+// code.
 DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
                                    const INSTALLERINFO_W* installerInfo, BOOL* needReboot);
 }

@@ -8,22 +8,23 @@
 
 namespace kelvo {
 
-// The driver installation interface, for as long as it is needed: destroying this object frees the
-// library.
+// The loaded driver installation interface. Destroying the object frees the library, after which
+// the functions must not be called.
 struct DriverInterface {
   OwnedModule library;
   decltype(&SetDifxLogCallbackW) setLogCallback = nullptr;
   decltype(&DriverPackageInstallW) installPackage = nullptr;
 };
 
-// Loads "difxapi.dll" from its LibraryPath and looks its functions up. Returns 0, or the code that
-// says why the library or a function is missing; nothing may be called then. The library is loaded
-// by its full path: it is a KnownDLL, and by its bare name Windows would load its own copy.
+// Loads "difxapi.dll" from its LibraryPath and gets the addresses of its functions. Returns 0, or
+// an error code when the library or a function is missing; then neither function may be called.
+// Loads the library by its full path because it is a KnownDLL: given the bare name, Windows would
+// always load the system's copy.
 DWORD BindDriverInterface(DriverInterface& driver);
 
 // The interface's log callback: reports the event as one "INFO: " line. A null description counts
-// as empty; `context` is unused. May be called on any thread. No exception leaves it: when memory
-// runs out, the line is dropped.
+// as empty; `context` is unused. Any thread may call it. It never throws: when memory runs out, it
+// drops the line.
 void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description,
                               PVOID context) noexcept;
 

@@ -6,10 +6,11 @@
 namespace kelvo {
 
 bool EnableLoadDriverPrivilege() {
-  // The adjustment also succeeds when the token lacks the privilege: only the last error shows it.
+  // AdjustTokenPrivileges also succeeds when the token lacks the privilege; only the last error
+  // shows that.
   const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {
-    // One wording for all three calls; only the code differs.
+    // The text is the same whichever of the three calls fails; only the code differs.
     Report(L"ERR: OpenProcessToken failed, err = %08lX\n", error);
   }
   return error == ERROR_SUCCESS;

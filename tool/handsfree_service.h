@@ -8,9 +8,10 @@ namespace kelvo {
 inline constexpr GUID HandsfreeServiceClassGuid = {
     0x3ABB9028, 0xBEAE, 0x4BF1, {0xAC, 0xD7, 0x5C, 0xD7, 0xD5, 0xE4, 0xE0, 0xCA}};
 
-// Registers the hands-free service with the local Bluetooth stack, or withdraws it, and reports the
-// outcome in one line. Returns the result of BluetoothSetLocalServiceInfo; 0 when "bthprops.cpl"
-// cannot be loaded; the lookup's error code when that library has no such function.
+// Registers the hands-free service with the local Bluetooth stack, or unregisters it when `enable`
+// is false, and reports the outcome in one line. Returns the result of
+// BluetoothSetLocalServiceInfo, 0 when "bthprops.cpl" cannot be loaded, or the error code of
+// GetProcAddress when the library does not export the function.
 DWORD RegisterHandsfreeService(bool enable);
 
 }  // namespace kelvo

@@ -11,7 +11,8 @@ namespace kelvo {
 
 namespace {
 
-// The path of the copy in the program's folder; empty when the program's own path is unknown.
+// Returns the path of the copy in the program's folder, or an empty string when the program's own
+// path is unknown.
 WString OwnCopyPath(const wchar_t* name) {
   const WString program = ReadModulePath(nullptr);
   const std::size_t directoryLength = program.rfind(L"\\") + 1;

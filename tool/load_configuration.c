@@ -1,10 +1,11 @@
-// The load configuration of a program that is shipped: Windows 10 1607 and later load the libraries
-// that it imports from the system directory alone. One planted in the program's folder is too early
-// for NarrowLibrarySearch, which runs in wmain. Visual Studio's linker writes this by itself.
+// Defines the load configuration of a shipped program, which makes Windows 10 1607 and later load
+// its imports from the system directory only. NarrowLibrarySearch cannot do this: it runs in wmain,
+// after Windows has loaded the imports. Visual Studio's linker writes this structure itself.
 
 #include <windows.h>
 
-// The layout of IMAGE_LOAD_CONFIG_DIRECTORY64, which older mingw-w64 headers declare without these flags.
+// The layout of IMAGE_LOAD_CONFIG_DIRECTORY64, which older mingw-w64 headers declare without
+// DependentLoadFlags.
 struct LoadConfiguration {
   DWORD size;
   BYTE before[74];

@@ -1,4 +1,4 @@
-// An uncaught exception ends the process without a word: nothing is ever written to standard error.
+// Makes an uncaught exception end the process silently: nothing may be written to standard error.
 
 #include <windows.h>
 
@@ -7,7 +7,7 @@
 namespace {
 
 [[noreturn]] void EndProcess() {
-  // What abort() would exit with.
+  // The exit code of abort().
   constexpr UINT kAborted = 3;
   TerminateProcess(GetCurrentProcess(), kAborted);
   for (;;) {
@@ -19,8 +19,8 @@ namespace {
 #ifdef __GLIBCXX__
 namespace __gnu_cxx {
 
-// Takes the place of libstdc++'s own handler, which would write to standard error and bring 45 KiB
-// of name demangling into the program.
+// Replaces libstdc++'s own handler, which would write to standard error and add 45 KiB of name
+// demangling to the program.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,cert-*): the name is libstdc++'s
 void __verbose_terminate_handler() { EndProcess(); }
 

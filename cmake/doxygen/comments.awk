@@ -1,6 +1,7 @@
-# Makes the comments of a header Doxygen's: one in front of a declaration belongs to it, and to the declarations that follow
-# without a blank line; one in front of a blank line belongs to the header. Lines indented by three blanks are an example or a
-# table, those that begin with "-" a list.
+# Turns the comments of a header into Doxygen comments:
+#   - A comment before a declaration documents it, and all declarations that follow without a blank line.
+#   - A comment before a blank line documents the header.
+#   - Lines indented by three spaces are an example or a table; lines that begin with "-" are a list.
 
 function print_block(mark,   i, line, literal) {
   for (i = 1; i <= count; ++i) {

@@ -1,4 +1,5 @@
-# Pictures are left out. In a page, a link to a header becomes one to its reference, and a link to what is not in the reference becomes its text.
+# Removes diagrams. Turns links to headers into links to their reference pages, and links to files that are not part of
+# the reference into plain text.
 /^```mermaid/,/^```$/d
 s/\[\([a-z0-9_]*\.h\)\](\.\.\/lib\/[^)]*)/\\ref \1 "\1"/g
 s/\[\([^]]*\)\]([./]*installers[^)]*)/\1/g
