@@ -37,13 +37,13 @@ StoredList QueryStoredList() {
 Detail DescribeList(const StoredList& list, bool isEmpty) {
   constexpr const char* kKey = "list";
   if (!list.IsThere()) {
-    return {kKey, L"none", L"none is recorded"};
+    return {kKey, L"none", L"no list is recorded"};
   }
   if (list.type != REG_SZ && list.type != REG_EXPAND_SZ) {
-    return {kKey, L"not text", L"the list is not text: sorrel.exe takes it as empty"};
+    return {kKey, L"not text", L"the list is not text: sorrel.exe treats it as empty"};
   }
   if (list.size > kMaxRegistryStringSize) {
-    return {kKey, L"too long", L"the list is too long: sorrel.exe takes it as empty"};
+    return {kKey, L"too long", L"the list is too long: sorrel.exe treats it as empty"};
   }
   return {kKey, isEmpty ? L"empty" : L"text", isEmpty ? L"the list is empty" : L""};
 }

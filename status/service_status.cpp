@@ -167,7 +167,7 @@ Item QueryService(DeviceSearch search) {
   Item item{"service", State::kInfo, {}, {}};
   if (search == DeviceSearch::kNone) {
     AddLibrary(item);
-    item.details.push_back({{}, {}, L"its device is looked for with --service"});
+    item.details.push_back({{}, {}, L"use --service to search for its device"});
     return item;
   }
   bool isThere = false;

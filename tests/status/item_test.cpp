@@ -33,11 +33,11 @@ TEST_CASE("QueryApplications: reports a list, and any other value in its place")
       {REG_EXPAND_SZ,
        longest + L"x",
        {L"a\x1B"},
-       "absent   application     a<U+001B>; the list is too long: sorrel.exe takes it as empty\n"},
+       "absent   application     a<U+001B>; the list is too long: sorrel.exe treats it as empty\n"},
       {REG_DWORD,
        L"1",
        {},
-       "absent   application     the list is not text: sorrel.exe takes it as empty\n"},
+       "absent   application     the list is not text: sorrel.exe treats it as empty\n"},
   };
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   for (const auto& [type, stored, names, report] : rows) {
