@@ -34,13 +34,13 @@ if(MSVC)
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Z7)
 else()
-  # Keeps the path of the build folder out of all files.
+  # Keeps the path of the source folder out of all files.
   target_compile_options(kelvo_build_options INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
   target_compile_options(kelvo_build_options INTERFACE
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
 endif()
-# Makes the headers declare the functions of Windows 10, which the sources bind at run time, even if a consumer's
-# project targets an older Windows. Uses options, since a compile definition could not undefine the consumer's macro
+# Makes the headers declare the functions of Windows 10, even if a consumer's project targets an older Windows; the
+# sources bind them at run time. Uses options, since a compile definition could not undefine the consumer's macro
 # first.
 target_compile_options(kelvo_build_options INTERFACE
   "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>")

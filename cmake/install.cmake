@@ -40,8 +40,8 @@ install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONE
 install(FILES cmake/toolchain_mingw.cmake DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(SCRIPT cmake/link_pages.cmake COMPONENT sdk)
 
-# Makes four archives. Each unpacks into one folder. sign_programs.cmake runs before packing, account_for_packages.cmake
-# afterwards.
+# Makes four archives, which all unpack into the same folder. sign_programs.cmake runs before packing,
+# account_for_packages.cmake afterwards.
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)

@@ -8,7 +8,8 @@
 //     exit code
 //   setup_helper ready PROGRAM MUTEX
 //     starts a program and waits until the program has created its mutex
-// The other commands return 0 for success and 1 for failure.
+// Otherwise returns 0 for success and 1 for failure; start also returns 1 if it cannot start the
+// program.
 
 #include <windows.h>
 

@@ -22,8 +22,8 @@ enum class State {
 const char* StateName(State state);
 
 // One fact about an item. The JSON report has `value` under the stable name `key`; the text report
-// has `phrase`. The JSON report omits a detail without a key, the text report a detail without a
-// phrase.
+// has `phrase`. A detail without a key is not in the JSON report; one without a phrase is not in
+// the text report.
 struct Detail {
   std::string key;
   std::variant<bool, DWORD, WString> value;

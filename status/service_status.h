@@ -11,7 +11,8 @@ enum class DeviceSearch { kNone, kBluetoothBus };
 // as data, so that none of its code runs. If `search` asks for it, the item also reports whether
 // the Bluetooth bus has a device for the service; this loads setupapi.dll and frees it.
 //   - A device counts when it is present, one of its hardware ids begins with "BTHENUM\" and the
-//     service's class identifier in braces, and it is not recognised as a paired remote device's.
+//     service's class identifier in braces, and nothing shows that it belongs to a paired remote
+//     device.
 //     If its instance id contains an address, the address must be zero. Without an address, no such
 //     hardware id may continue with "_VID", or with "_LOCALMFG&" and a number other than 0000.
 //   - It is certain that the bus also makes devices for services of remote devices, and that their
