@@ -129,7 +129,7 @@ DWORD ReadEntry(const SetupFunctions& functions, HINF inf, const wchar_t* key, W
   return ERROR_SUCCESS;
 }
 
-// Returns the error code of a missing entry, or ERROR_SUCCESS.
+// Reads both entries, even when one is missing. Returns the first error code, or ERROR_SUCCESS.
 DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVersion) {
   const SetupFunctions functions;
   if (!functions) {

@@ -6,7 +6,7 @@ namespace kelvo {
 // the process's exit code:
 //   - install, uninstall: 0
 //   - register, unregister: the result of RegisterHandsfreeService, or 0 when unregister leaves
-//     other applications on the list
+//     other applications on the list (tool/dependent_applications.h)
 //   - any other arguments: 2, after writing the usage text
 int RunCommandLine(int count, const wchar_t* const* arguments);
 

@@ -17,8 +17,8 @@ static std::uint64_t currentInput = 0;
 
 void Expect(bool holds, const char* what) {
   if (!holds) {
-    std::cerr << "FAILED: " << what << "\nRepeat it with: scripts/fuzz \"" << currentTarget->name
-              << "\" " << currentInput << "\n";
+    std::cerr << "FAILED: this does not hold: " << what << "\nRepeat it with: scripts/fuzz \""
+              << currentTarget->name << "\" " << currentInput << "\n";
     TerminateProcess(GetCurrentProcess(), 1);
   }
 }

@@ -17,8 +17,9 @@ static std::wstring FromUtf8(const std::string& text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
 
-// Cleans the machine and makes a new folder the current one. It has certificates, INF files and
-// sorrel_status.exe with the simulator's libraries; a copy's driver library has a version.
+// Cleans the machine and makes a new folder the current one. The folder has certificates, INF
+// files, sorrel_status.exe and the simulator's libraries. Its subfolder "versioned" has another
+// sorrel_status.exe, with a difxapi.dll that has a version (a copy of sorrel.exe).
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -59,7 +60,7 @@ struct Machine : ProgramFolder {
   static inline OwnedFile locked;
 };
 
-// The changes of the machine that the lines of lifecycle.txt with "* " name.
+// The changes to the machine. A line of lifecycle.txt that starts with "* " says which one to make.
 static const std::map<std::string, std::function<void()>> kChanges = {
     {"* Tessalin.inf is published as oem8.inf, incomplete.inf as oem9.inf; oem7.inf is a folder",
      [] {
@@ -82,7 +83,8 @@ static std::string ShownOnPage(const std::string& kind) {
   return Replaced(page.substr(from, page.find("```", from) - from), "\n", "\r\n");
 }
 
-// Checks that the JSON form says what the text form says, in ASCII, under keys of the page.
+// Checks that the JSON form is ASCII and says what the text form says, and that the administrators'
+// page lists its keys.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;
   const Json report = Json::parse(json.output);
@@ -100,13 +102,15 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
                                 : value.is_string()
                                     ? ToVisibleUtf8(FromUtf8(value.get<std::string>()))
                                     : "";
-      // The text form leaves out normal values of these keys.
+      // The text form words the values of these two keys differently.
       CHECK((key == "item" || key == "list" || line.find(shown) != std::string::npos));
     }
   }
 }
 
-TEST_CASE("sorrel_status.exe: reports as in lifecycle.txt, in both forms, and loads no library") {
+TEST_CASE(
+    "sorrel_status.exe: reports as in lifecycle.txt, in both forms, and runs no simulated "
+    "library") {
   const Machine machine;
   std::istringstream lifecycle(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
   std::string seen;
@@ -138,7 +142,9 @@ TEST_CASE("sorrel_status.exe: reports as in lifecycle.txt, in both forms, and lo
   CheckAgainstFile(seen, L"lifecycle.txt");
 }
 
-TEST_CASE("sorrel_status.exe: a wrong command line ends with 2 and the usage on standard error") {
+TEST_CASE(
+    "sorrel_status.exe: for a wrong command line, writes the usage to standard error, exits with "
+    "2") {
   const Machine machine;
   const ChildResult run = ProgramFolder::Run(L"sorrel_status.exe --json --nothing");
   CHECK_BOTH(run.exitCode == 2, run.output == "");
