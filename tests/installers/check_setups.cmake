@@ -46,11 +46,12 @@ foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareServic
     ${setups}/good/setup.msi)
 endforeach()
 
-# A user could have his own commands run by a cmd.exe that is started without /d.
+# A user could have his own commands run by a cmd.exe that is started without /d. A silent setup would wait for the answer to a
+# message box that has none for it.
 file(GLOB_RECURSE samples ${source_folder}/installers/*)
 foreach(sample ${samples})
-  file(STRINGS ${sample} started REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]")
-  if(started)
-    message(SEND_ERROR "${sample} starts cmd.exe without /d: ${started}")
+  file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|MessageBox [^/]*$")
+  if(wrong)
+    message(SEND_ERROR "${sample} starts cmd.exe without /d, or asks in a silent setup: ${wrong}")
   endif()
 endforeach()
