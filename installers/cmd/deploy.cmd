@@ -1,6 +1,6 @@
 @echo off
-rem deploy.cmd          lays the product's files into its folder and prepares the computer. A first installation that fails is
-rem                     taken back; a product that was there before stays.
+rem deploy.cmd          copies the product's files to its folder and prepares the computer. If a first installation fails, it is
+rem                     undone; a product that was there before stays.
 rem deploy.cmd remove   takes the application off the list and removes these files.
 rem Both end as run_sorrel.cmd does.
 setlocal EnableExtensions DisableDelayedExpansion
@@ -8,7 +8,7 @@ set "errorlevel="
 set "here=%~dp0"
 if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
-rem It is not read where this folder's name has a percent sign or a caret, which call takes for more than a letter.
+rem Call changes percent signs and carets in this folder's name, and then does not find the file.
 if not defined product exit /b 1603
 rem Not %ProgramFiles%, which is another folder for what a 32-bit program starts.
 if not defined ProgramW6432 set "ProgramW6432=%ProgramFiles%"

@@ -33,10 +33,9 @@ static const bool isStandIn = [] {
   for (const std::wstring store : {L"TrustedPublisher", L"CA"}) {
     const std::wstring all =
         L"Software\\Microsoft\\SystemCertificates\\" + store + L"\\Certificates";
-    HKEY certificate = nullptr;
     if (words == L"-delstore " + store + L" " + thumbprint &&
-        RegOpenKeyW(HKEY_LOCAL_MACHINE, (all + L"\\" + thumbprint).c_str(), &certificate) ==
-            ERROR_SUCCESS) {
+        RegGetValueW(HKEY_LOCAL_MACHINE, (all + L"\\" + thumbprint).c_str(), L"Blob", RRF_RT_ANY,
+                     nullptr, nullptr, nullptr) == ERROR_SUCCESS) {
       RegDeleteTreeW(HKEY_LOCAL_MACHINE, all.c_str());
     }
   }
