@@ -147,22 +147,16 @@ static void PutInPlace(const ScratchFolder& scratch) {
     std::filesystem::remove(file);
     std::filesystem::copy_file(ProgramPath(source), file);
   }
-  const std::wstring from = scratch / L"A & \u017D";
-  std::wstring events;
-  for (int i = 0; i < 30; ++i) {
-    events += L"1,0,ERR: Reboot required by none of these many words|";
-  }
   for (const auto& [name, value] :
        {std::pair(L"RULE", Rule()),
         {L"GOOD", installers + L"good"},
         {L"BAD", installers + L"bad"},
         {L"OTHER", installers + L"f\u00FCr andere"},
-        {L"FROM", from},
-        {L"FILES", L"\"" + from + L"\\Tessalin.inf\" \"" + from + L"\\trusted.cer\" \"" + from +
-                       L"\\trusted_i.cer\""},
+        {L"FROM", scratch / L"A & \u017D"},
         {L"FOLDER", L"C:\\Program Files\\\u017Dlu\u0165 & Co"},
         {L"NEWER", scratch / L"newer"},
-        {L"EVENTS", events + L"1,0," + std::wstring(1002, L'x') + L"ERR: amid a line"}}) {
+        {L"EVENTS", L"1,0,ERR: Reboot required by none|1,0," + std::wstring(1002, L'x') +
+                        L"ERR: amid a line"}}) {
     SetEnvironmentVariableW(name, value.c_str());
   }
 }
