@@ -1,6 +1,6 @@
 @echo off
-rem deploy.cmd          lays the product's files into its folder and prepares the computer. A first installation that fails is
-rem                     taken back; a product that was there before stays.
+rem deploy.cmd          copies the product's files to its folder and prepares the computer. If a first installation fails, it is
+rem                     undone; a product that was there before stays.
 rem deploy.cmd remove   takes the application off the list and removes these files.
 rem Both end as run_sorrel.cmd does.
 setlocal EnableExtensions DisableDelayedExpansion
@@ -8,6 +8,8 @@ set "errorlevel="
 set "here=%~dp0"
 if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
+rem Call changes percent signs and carets in this folder's name, and then does not find the file.
+if not defined product exit /b 1603
 rem Not %ProgramFiles%, which is another folder for what a 32-bit program starts.
 if not defined ProgramW6432 set "ProgramW6432=%ProgramFiles%"
 set "folder=%ProgramW6432%\%product%"
@@ -16,11 +18,14 @@ set "shell=%SystemRoot%\System32\cmd.exe"
 set "code=0"
 if "%~1"=="remove" goto remove
 
-rem Absent, and not only unknown: a first installation.
+rem Absent, and not only unknown: a first installation. Windows itself gives 1 for a companion that may not run.
 set "first="
-if exist "%here%sorrel_status.exe" "%here%sorrel_status.exe" --application "%application%" >nul
+"%here%sorrel_status.exe" --version >nul 2>&1
+if not "%errorlevel%"=="0" goto copy
+"%here%sorrel_status.exe" --application "%application%" >nul
 if "%errorlevel%"=="1" set "first=1"
 
+:copy
 rem Before the tool runs, so that a detection compares with this version's files.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"

@@ -8,5 +8,5 @@ rem The driver package and the certificates of its signer and of the authority t
 set "inf=Tessalin.inf"
 set "publisher=trusted.cer"
 set "intermediate=trusted_i.cer"
-rem What a computer whose radio is away or switched off does to the installation: "fails" or "spared".
+rem Whether the installation fails when the radio is missing or off: "fails" or "spared".
 set "radio_off=fails"

@@ -24,7 +24,7 @@ if not exist "%run%" exit /b 1603
 
 rem Whatever runs writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem A radio that is away or off is the only failure that the maker can spare: by these codes, with which "register" then ends.
+rem A radio that is missing or off is the only failure that the maker can spare: with these codes, which "register" then ends with.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
 rem Variables of for are put in after a line is taken apart, so no text of the tool's can act as a command.

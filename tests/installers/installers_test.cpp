@@ -10,27 +10,32 @@ static const std::wstring kStandIns = kLogs + L"stand_ins";
 static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
 // Copies of this program play Windows' pnputil and certutil, which Wine lacks: each writes down its
-// words, and takes away what the test has put in place when they name it.
+// words, and removes what the test has put in place when they name it. Any copy ends with the
+// variable "ends"; with a failure it does nothing before.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
   const std::wstring program = std::filesystem::path(self).stem();
   const std::wstring line = GetCommandLineW();
   const std::wstring words = line.substr(line.find(L"\" ") + 2);
-  if (program != L"pnputil" && program != L"certutil") {
+  if (program == L"installers_tests") {
     return false;
   }
   RequireThrowAwayPrefix();
+  const wchar_t* const ends = _wgetenv(L"ends");
+  const auto code = static_cast<UINT>(ends != nullptr ? _wtoi(ends) : 0);
+  if (code != 0 && code != ERROR_SUCCESS_REBOOT_REQUIRED) {
+    ExitProcess(code);
+  }
   std::ofstream(std::filesystem::path(kStandIns), std::ios::app | std::ios::binary)
       << ToUtf8(L"  " + program + L" " + words.substr(0, words.rfind(L' ')) + L"\n");
   const std::wstring thumbprint = words.substr(words.rfind(L' ') + 1);
   for (const std::wstring store : {L"TrustedPublisher", L"CA"}) {
     const std::wstring all =
         L"Software\\Microsoft\\SystemCertificates\\" + store + L"\\Certificates";
-    HKEY certificate = nullptr;
     if (words == L"-delstore " + store + L" " + thumbprint &&
-        RegOpenKeyW(HKEY_LOCAL_MACHINE, (all + L"\\" + thumbprint).c_str(), &certificate) ==
-            ERROR_SUCCESS) {
+        RegGetValueW(HKEY_LOCAL_MACHINE, (all + L"\\" + thumbprint).c_str(), L"Blob", RRF_RT_ANY,
+                     nullptr, nullptr, nullptr) == ERROR_SUCCESS) {
       RegDeleteTreeW(HKEY_LOCAL_MACHINE, all.c_str());
     }
   }
@@ -38,35 +43,49 @@ static const bool isStandIn = [] {
   if (words == (isOld ? L"-d oem97.inf" : L"/delete-driver oem97.inf /uninstall")) {
     std::filesystem::remove(kPublishedInf);
   }
-  ExitProcess(0);
+  ExitProcess(code);
 }();
 
-static DWORD EntriesInApps() {
+// The entries in "Apps". %QUIET% is then the last one's command for a silent removal.
+static std::wstring Apps() {
   HKEY key = nullptr;
   RegCreateKeyW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
                 &key);
   const OwnedRegistryKey owned(key);
-  DWORD count = 0;
-  RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr, nullptr,
-                   nullptr, nullptr, nullptr);
-  return count;
+  std::wstring apps;
+  wchar_t name[256];
+  for (DWORD i = 0; RegEnumKeyW(key, i, name, 256) == ERROR_SUCCESS; ++i) {
+    const auto value = [&](const wchar_t* of) {
+      wchar_t text[1024] = L"";
+      DWORD size = sizeof(text);
+      RegGetValueW(key, name, of, RRF_RT_REG_SZ, nullptr, text, &size);
+      return std::wstring(text);
+    };
+    apps += L" " + value(L"DisplayName") + L" " + value(L"DisplayVersion") + L" by " +
+            value(L"Publisher");
+    SetEnvironmentVariableW(L"QUIET", value(L"QuietUninstallString").c_str());
+  }
+  return apps;
 }
 
-// The list, the certificates that are trusted (publisher, intermediate), how many files each
-// product has, and the entries in "Apps".
+static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
+                                                  L"C:\\Program Files\\\u017Dlu\u0165 & Co",
+                                                  L"C:\\Program Files\\M\u00F6we Kit"};
+
+// The list, the certificates that are trusted (publisher, intermediate), how many files the folder
+// of each product has, and the entries in "Apps".
 static std::string State() {
   std::wstring state = Applications() + L" | " +
                        (SubjectsInStore(L"TrustedPublisher").empty() ? L"" : L"P") +
                        (SubjectsInStore(L"CA").empty() ? L"" : L"I") + L" |";
-  for (const wchar_t* const product : {L"Brindle", L"\u017Dlu\u0165 & Co", L"M\u00F6we Kit"}) {
-    const auto files =
-        std::filesystem::directory_iterator(std::filesystem::path(L"C:\\Program Files") / product);
-    // Without the simulator's two.
-    if (const auto count = std::distance(begin(files), end(files)) - 2; count != 0) {
-      state += std::wstring(L" ") + product + L" " + std::to_wstring(count);
+  for (const std::filesystem::path& product : kProducts) {
+    if (exists(product)) {
+      const auto files = std::filesystem::directory_iterator(product);
+      state += L" " + product.filename().wstring() + L" " +
+               std::to_wstring(std::distance(begin(files), end(files)));
     }
   }
-  return "  " + ToUtf8(state + L" | " + std::to_wstring(EntriesInApps())) + "\n";
+  return "  " + ToUtf8(state + L" |" + Apps()) + "\n";
 }
 
 static void Reset() {
@@ -81,8 +100,8 @@ static std::wstring Expand(const std::wstring& text) {
   return expanded;
 }
 
-// Runs a line of lives.txt: NAME=VALUE for the simulator, or in lower case for a variable as it is,
-// then a command line. Returns the exit code.
+// Runs a line of lifecycles.txt: NAME=VALUE for the simulator, or in lower case for a variable as
+// it is, then a command line. Returns the exit code.
 static DWORD Run(std::wstring line) {
   std::vector<std::wstring> names;
   for (std::size_t end = 0; (end = line.find(L'=')) < line.find_first_of(L" \"");) {
@@ -108,55 +127,48 @@ static std::wstring Rule() {
   return Expand({rule.begin(), rule.end()});
 }
 
-// Folders, programs and variables that the lives use.
+// Folders, programs and variables that the lifecycles use.
 static void PutInPlace(const ScratchFolder& scratch) {
   std::filesystem::remove_all(kLogs);
   std::filesystem::create_directories(kLogs);
-  const std::filesystem::path products = L"C:\\Program Files";
-  for (const std::filesystem::path& folder :
-       {products / L"Brindle", products / L"\u017Dlu\u0165 & Co", products / L"M\u00F6we Kit",
-        scratch / L"A & \u017D", scratch / L"newer"}) {
+  for (const std::filesystem::path& folder : kProducts) {
     std::filesystem::remove_all(folder);
-    std::filesystem::copy(ProgramPath(L"simulator"), folder);
   }
   const std::wstring installers = ProgramPath(L"installers\\");
   std::filesystem::copy(installers + L"good\\files", scratch / L"A & \u017D");
   std::filesystem::copy(installers + L"bad\\files", scratch / L"newer");
-  for (const wchar_t* const program : {L"pnputil.exe", L"certutil.exe"}) {
-    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", program, REG_SZ, L"native",
+  for (const auto& [name, source] : {std::pair(L"pnputil.exe", L"installers_tests.exe"),
+                                     {L"certutil.exe", L"installers_tests.exe"},
+                                     {L"bthprops.cpl", L"simulator\\bthprops.cpl"},
+                                     {L"difxapi.dll", L"simulator\\difxapi.dll"}}) {
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\DllOverrides", name, REG_SZ, L"native",
                     14);
-    const std::filesystem::path standIn = std::filesystem::path(L"C:\\windows\\system32") / program;
-    std::filesystem::remove(standIn);
-    std::filesystem::copy_file(ProgramPath(L"installers_tests.exe"), standIn);
-  }
-  const std::wstring from = scratch / L"A & \u017D";
-  std::wstring events;
-  for (int i = 0; i < 30; ++i) {
-    events += L"1,0,ERR: Reboot required by none of these many words|";
+    const std::filesystem::path file = std::filesystem::path(L"C:\\windows\\system32") / name;
+    std::filesystem::remove(file);
+    std::filesystem::copy_file(ProgramPath(source), file);
   }
   for (const auto& [name, value] :
        {std::pair(L"RULE", Rule()),
         {L"GOOD", installers + L"good"},
         {L"BAD", installers + L"bad"},
         {L"OTHER", installers + L"f\u00FCr andere"},
-        {L"FROM", from},
-        {L"FILES", L"\"" + from + L"\\Tessalin.inf\" \"" + from + L"\\trusted.cer\" \"" + from +
-                       L"\\trusted_i.cer\""},
+        {L"FROM", scratch / L"A & \u017D"},
         {L"FOLDER", L"C:\\Program Files\\\u017Dlu\u0165 & Co"},
         {L"NEWER", scratch / L"newer"},
-        {L"EVENTS", events + L"1,0," + std::wstring(1002, L'x') + L"ERR: amid a line"}}) {
+        {L"EVENTS", L"1,0,ERR: Reboot required by none|1,0," + std::wstring(1002, L'x') +
+                        L"ERR: amid a line"}}) {
     SetEnvironmentVariableW(name, value.c_str());
   }
 }
 
-TEST_CASE("lives of products") {
+TEST_CASE("lifecycles of products") {
   const CleanMachine machine;
   const ScratchFolder scratch;
   // No product of an earlier build may hold on to the files.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
   PutInPlace(scratch);
-  std::istringstream lines(ReadBytes(ProgramPath(L"expected\\lives.txt")));
+  std::istringstream lines(ReadBytes(ProgramPath(L"expected\\lifecycles.txt")));
   std::string seen;
   std::string before;
   for (std::string line; std::getline(lines, line);) {
@@ -179,5 +191,5 @@ TEST_CASE("lives of products") {
       before = state;
     }
   }
-  CheckAgainstFile(seen, L"lives.txt");
+  CheckAgainstFile(seen, L"lifecycles.txt");
 }
