@@ -1,16 +1,17 @@
 @echo off
 rem deploy.cmd          copies the product's files to its folder and prepares the computer. If a first installation fails, it is
-rem                     undone; a product that was there before stays.
-rem deploy.cmd remove   takes the application off the list and removes these files.
-rem Both end as run_sorrel.cmd does.
+rem                     undone. If an upgrade fails, nothing is removed: the new version's files stay.
+rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application, and deletes the product's files unless this script runs
+rem                     from the product's folder.
+rem Both return the exit codes of run_sorrel.cmd.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
 if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
-rem Call changes percent signs and carets in this folder's name, and then does not find the file.
+rem If this folder's name has a percent sign or a caret, call changes it and does not find the file.
 if not defined product exit /b 1603
-rem Not %ProgramFiles%, which is another folder for what a 32-bit program starts.
+rem Not %ProgramFiles%: when a 32-bit program starts this script, that is the folder for 32-bit programs.
 if not defined ProgramW6432 set "ProgramW6432=%ProgramFiles%"
 set "folder=%ProgramW6432%\%product%"
 set files=sorrel.exe sorrel_status.exe run_sorrel.cmd remove_all.cmd deploy.cmd product.cmd "%inf%" "%publisher%" "%intermediate%"
@@ -18,7 +19,8 @@ set "shell=%SystemRoot%\System32\cmd.exe"
 set "code=0"
 if "%~1"=="remove" goto remove
 
-rem Absent, and not only unknown: a first installation. Windows itself gives 1 for a companion that may not run.
+rem It is a first installation only if sorrel_status.exe runs and returns 1 (absent). Windows also returns 1 for a program that
+rem is not allowed to run, so --version is tried first.
 set "first="
 "%here%sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto copy
@@ -26,13 +28,13 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Before the tool runs, so that a detection compares with this version's files.
+rem Copies the files before the tool runs, so that detection compares the computer with this version's files.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F
 
 :install
-rem The outer quotation marks with a caret: the others are then taken in pairs, around a "&" in the folder's name.
+rem The carets escape the outer quotation marks. Only the inner ones then form pairs, so a "&" in the folder's name is quoted.
 if "%code%"=="0" "%shell%" /d /s /c ^""%here%run_sorrel.cmd" install "%here%%inf%" "%here%%publisher%" "%here%%intermediate%" "%application%"^"
 if "%code%"=="0" set "code=%errorlevel%"
 if not "%code%"=="1603" exit /b %code%

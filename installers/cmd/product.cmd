@@ -1,10 +1,10 @@
-rem Change these: the other batch files of this folder read them here.
+rem Change these settings. The other batch files of this folder read them.
 
 rem The product, which is also the name of its folder below Program Files.
 set "product=Brindle"
-rem Its name on the list of applications: the same for all versions, and no part of another product's.
+rem The product's name on the list of applications. It must be the same for all versions, and no part of another name.
 set "application=brindle"
-rem The driver package and the certificates of its signer and of the authority that issued that one.
+rem The driver package, its signer's certificate, and the certificate of the authority that issued it.
 set "inf=Tessalin.inf"
 set "publisher=trusted.cer"
 set "intermediate=trusted_i.cer"

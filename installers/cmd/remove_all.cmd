@@ -1,7 +1,7 @@
 @echo off
-rem remove_all.cmd   takes the application off the list. When that was the last one, Windows' own certutil and pnputil remove
-rem                  both certificates and the driver package, too. Ends with 0, with 3010 when the computer must be
-rem                  restarted, with 1603 when something is still there, or could not be looked at.
+rem remove_all.cmd   removes the application from the list. If no application is left, Windows' certutil and pnputil then remove
+rem                  both certificates and the driver package. Returns 0, 3010 when the computer must be restarted, or 1603
+rem                  when something is still there or could not be checked.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
@@ -9,7 +9,7 @@ if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "answer=%log%.answer"
-rem What a 32-bit program starts sees another System32, without pnputil.
+rem A script that a 32-bit program starts sees another System32, without pnputil.
 set "system=%SystemRoot%\System32"
 if exist "%SystemRoot%\Sysnative\cmd.exe" set "system=%SystemRoot%\Sysnative"
 set "code=1603"
@@ -18,7 +18,7 @@ set "restart="
 "%system%\cmd.exe" /d /s /c ^""%here%run_sorrel.cmd" uninstall none "%application%"^"
 call :ask application "%application%" list
 if not "%state%"=="absent" goto end
-rem Whoever is on the list still needs the rest.
+rem An application that is still on the list needs the rest.
 if "%value%"=="text" set "code=0"
 if not "%value%"=="none" if not "%value%"=="empty" goto end
 
@@ -28,7 +28,7 @@ call :ask intermediate "%here%%intermediate%" thumbprint
 if "%state%"=="present" call :windows certutil.exe "-delstore CA %value%"
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "/delete-driver %value% /uninstall"
-rem Before Windows 10 1607 pnputil has other words.
+rem Before Windows 10 1607, pnputil has other options.
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "-d %value%"
 
@@ -46,8 +46,8 @@ if exist "%answer%" del /f /q "%answer%"
 >>"%log%" echo === remove_all.cmd ends with %code%
 exit /b %code%
 
-rem Asks the companion: "state" is that of the item, "value" that of a key. Without an answer both are empty: an exit code of 1
-rem would not do, since Windows itself gives it when the program may not run or the answer cannot be written.
+rem Runs sorrel_status.exe. "state" is then the item's state, "value" the value of a key; both are empty without a report. An
+rem exit code of 1 would prove nothing: Windows also returns it when the program is not allowed to run.
 :ask
 set "state="
 set "value="
@@ -59,7 +59,7 @@ for /f "usebackq tokens=1,2 delims=:, " %%A in ("%answer%") do if "%%~A"=="state
 for /f "usebackq tokens=1,2 delims=:, " %%A in ("%answer%") do if "%%~A"=="%3" set "value=%%~B"
 exit /b
 
-rem Runs a program of Windows' own, shows what it wrote and adds it to the log.
+rem Runs a program of Windows, shows its output and adds it to the log.
 :windows
 >"%answer%" "%system%\%1" %~2
 if "%errorlevel%"=="3010" set "restart=1"

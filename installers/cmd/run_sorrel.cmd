@@ -1,8 +1,8 @@
 @echo off
-rem run_sorrel.cmd WORD...   runs sorrel.exe of this folder with these words, shows what it wrote and adds it to the
-rem product's log. Ends with 0, with 3010 when the computer must be restarted, with 1603 when a step failed.
+rem run_sorrel.cmd ARGUMENT...   runs sorrel.exe of this folder with these arguments, shows its output and adds it to the
+rem product's log. Returns 0, 3010 when the computer must be restarted, or 1603 when a step failed.
 setlocal EnableExtensions DisableDelayedExpansion
-rem A variable of that name would hide what programs end with.
+rem A variable of that name would hide the exit codes of programs.
 set "errorlevel="
 if not exist "%~dp0product.cmd" exit /b 1603
 call "%~dp0product.cmd"
@@ -11,30 +11,30 @@ set "run=%log%.run"
 set "failed="
 set "restart="
 
-rem The log has the last runs, and so has the one before it.
+rem A log that has become large is renamed, so that the last runs are kept.
 if exist "%log%" for %%F in ("%log%") do if %%~zF gtr 65536 move /y "%log%" "%log%.old" >nul
 >>"%log%" echo === %product%, %date% %time%: sorrel.exe %*
 
-rem What another run wrote must not be taken for this one's.
+rem The output of another run must not be mistaken for that of this run.
 if exist "%run%" del /f /q "%run%"
 if exist "%run%" exit /b 1603
 "%~dp0sorrel.exe" %* >"%run%"
 set "code=%errorlevel%"
 if not exist "%run%" exit /b 1603
 
-rem Whatever runs writes at least one line.
+rem Every run of sorrel.exe writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem A radio that is missing or off is the only failure that the maker can spare: with these codes, which "register" then ends with.
+rem A missing radio, or one that is off, is the only failure that can be spared: with these codes, which "register" then returns.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
-rem Variables of for are put in after a line is taken apart, so no text of the tool's can act as a command.
+rem cmd.exe parses a line before it inserts the variables of for, so no output of the tool can act as a command.
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000490 1168" set "code=0"
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000014 20" set "code=0"
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A"=="ERR" if not "%%B %%C %%D"=="%spared% 00000490" if not "%%B %%C %%D"=="%spared% 00000014" if not "%%B %%C %%D %%E"=="no Bluetooth available, bthprops.cpl missing" set "failed=1"
 if not "%code%"=="0" set "failed=1"
 for /f "usebackq delims=" %%L in ("%run%") do if "%%L"=="Reboot required" set "restart=1"
 
-rem The tool writes no line about the name, and does not record one that is part of another's.
+rem The tool writes no line about the name, and does not record a name that is part of another one.
 set "name="
 if "%~1"=="install" set "name=%~5"
 if "%~1"=="register" set "name=%~2"

@@ -2,13 +2,13 @@
 # build.sh FOLDER OUTPUT.msi [NAME=VALUE...]   makes the package of brindle.wxs, with these values in place of those below.
 # FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver package and the certificates.
 set -euo pipefail
-# In the POSIX locale, and where it does not look at the locale, wixl ends at the first letter that is not ASCII.
+# In the POSIX locale, wixl stops at the first letter that is not ASCII.
 export LC_ALL=C.UTF-8 CHARSET=UTF-8
 
-# Brindle's alone: two products with the same ones remove each other.
+# Only for Brindle: two products with the same GUIDs remove each other.
 guids=(6e1c1df6-6f3d-4f0e-9a5b-8b6d1f8a3c21 2f0a1a54-0c3b-4d57-9a53-6f1a3e7f1b11)
 
-# Change these.
+# Change these settings.
 declare -A setting=(
   # The product, which is also the name of its folder below Program Files.
   [PRODUCT]='Brindle'
@@ -17,9 +17,9 @@ declare -A setting=(
   # Made by uuidgen, once for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
-  # Its name on the list of applications: the same for all versions, and no part of another product's. ASCII.
+  # The product's name on the list of applications. It must be the same for all versions, no part of another name, and ASCII.
   [APPLICATION]='brindle'
-  # The driver package and the certificates of its signer and of the authority that issued that one.
+  # The driver package, its signer's certificate, and the certificate of the authority that issued it.
   [INF]='Tessalin.inf'
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
@@ -47,31 +47,31 @@ output=$(realpath -m "$2")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 cp "$here/service.js" "$scratch"
-# What run_sorrel.cmd reads.
+# The file that run_sorrel.cmd reads.
 printf 'set "%s=%s"\r\n' product "${setting[PRODUCT]}" application "${setting[APPLICATION]}" \
   radio_off "${setting[RADIO_OFF]}" >"$scratch/product.cmd"
 rm -f "$output"
 (cd "$1" && wixl -a x64 "${settings[@]}" -D Scripts="$(realpath --relative-to=. "$scratch")" -o "$output" "$here/brindle.wxs")
 
-# wixl 0.101 removes the old version before the transaction begins, so that it would not come back when the new one fails.
+# wixl 0.101 removes the old version before the transaction begins, so a failed upgrade would not restore it.
 msibuild "$output" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
 
-# Nor can it write these actions.
+# wixl cannot write these actions either.
 add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
   msibuild "$output" -q "INSERT INTO CustomAction (Action, Type, Source, Target) VALUES ('$1', $2, '$3', '$4')"
   msibuild "$output" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
 }
 
-# service.js, deferred, as the system. 3077: JScript in the package; with 64: errors ignored, so that a missing radio does
-# not keep the product on the computer. Within an upgrade the name stays on the list, for the old version may come back.
+# Run service.js, deferred, as SYSTEM. Type 3077 is JScript in the package; plus 64 ignores errors, so that a missing radio
+# does not keep the product on the computer. An upgrade leaves the name on the list, since the old version may be restored.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 
-# A first installation that fails takes its application off the list again. The tool comes out of the package itself, since the
-# installed one may be gone by then. 3394: a program in the package, deferred, on rollback, as the system, errors ignored. Only
-# an administrator starts a first installation.
+# Removes the application from the list when a first installation fails. The tool comes from the package, since the installed
+# one may be gone by then. Type 3394: a program in the package, deferred, on rollback, as SYSTEM, errors ignored. Only an
+# administrator starts a first installation.
 add_action UndoPrepareService 3394 sorrel "uninstall none \"${setting[APPLICATION]}\"" \
   'NOT Installed AND NOT WIX_UPGRADE_DETECTED' 4002
 
-# service.js, when all is done, errors ignored.
+# Runs service.js at the end, errors ignored.
 add_action AskForRestart 69 service AskForRestart 'NOT REMOVE="ALL"' 6601

@@ -1,5 +1,5 @@
-// The deferred actions of the package: each runs the command line in CustomActionData without a window. An ordinary user may
-// start a repair, and from a console on his screen he could start programs with the system's rights.
+// The deferred actions of the package. Each runs the command line in CustomActionData without a window: an ordinary user may
+// start a repair, and could use a console on his screen to start programs as SYSTEM.
 
 function run() {
   return new ActiveXObject("WScript.Shell").Run(Session.Property("CustomActionData"), 0, true);
@@ -15,7 +15,7 @@ function ReleaseService() {
   return 1;
 }
 
-// A deferred action cannot ask for a restart, so this one looks at the end of the log when all is done.
+// A deferred action cannot ask for a restart, so this action checks the end of the log after all others.
 function AskForRestart() {
   var path = Session.Property("WindowsFolder") + "Logs\\" + Session.Property("Log");
   var log = new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(path);

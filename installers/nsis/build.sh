@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# build.sh FOLDER OUTPUT.exe [NAME=VALUE...] [-OPTION...]   makes the setup of setup.nsi, with these values in place of those
-# that it has under "Change these", and these options of makensis. FOLDER holds sorrel.exe, sorrel_status.exe,
+# build.sh FOLDER OUTPUT.exe [NAME=VALUE...] [-OPTION...]   makes the setup of setup.nsi. The values replace those of its settings
+# to change; the options are those of makensis. FOLDER holds sorrel.exe, sorrel_status.exe,
 # run_sorrel.cmd, the driver package and the certificates.
 set -euo pipefail
-# In the POSIX locale makensis ends at the first letter that is not ASCII.
+# In the POSIX locale, makensis stops at the first letter that is not ASCII.
 export LC_ALL=C.UTF-8
 files=$(realpath "$1")
 output=$(realpath -m "$2")

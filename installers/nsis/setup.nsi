@@ -1,8 +1,8 @@
-; A setup of a product that relies on the hands-free service. build.sh makes it, or
+; The setup of a product that uses the hands-free service. Make it with build.sh, or with
 ;   makensis -DFILES=FOLDER -DOUTPUT=FILE setup.nsi
 ; FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver package and the certificates.
 
-; Change these, here or as arguments (-DPRODUCT=...).
+; Change these settings, here or as arguments (-DPRODUCT=...).
 !macro Setting NAME VALUE
   !ifndef ${NAME}
     !define ${NAME} "${VALUE}"
@@ -12,9 +12,9 @@
 !insertmacro Setting PRODUCT "Brindle"
 !insertmacro Setting VERSION "1.0.0"
 !insertmacro Setting MAKER "The sorrel authors"
-; Its name on the list of applications: the same for all versions, and no part of another product's. ASCII.
+; The product's name on the list of applications. It must be the same for all versions, no part of another name, and ASCII.
 !insertmacro Setting APPLICATION "brindle"
-; The driver package and the certificates of its signer and of the authority that issued that one.
+; The driver package, its signer's certificate, and the certificate of the authority that issued it.
 !insertmacro Setting INF "Tessalin.inf"
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
@@ -30,7 +30,7 @@
   !insertmacro ${DO} "${INTERMEDIATE}"
 !macroend
 
-; CVE-2025-43715: a user of the computer could put another program into the folder from which an older NSIS' setup runs.
+; CVE-2025-43715: setups of an older NSIS run programs from a folder in which a user could have put another program.
 !ifndef OLD_NSIS_ACCEPTED
   !if ${NSIS_PACKEDVERSION} < 0x03011000
     !warning "NSIS ${NSIS_VERSION} lets a user of the computer gain the setup's rights (CVE-2025-43715): use 3.11 or later."
@@ -61,7 +61,7 @@ Page instfiles
 UninstPage uninstConfirm
 UninstPage instfiles
 
-; What run_sorrel.cmd reads.
+; The file that run_sorrel.cmd reads.
 !tempfile PRODUCT_CMD
 !macro ProductLine NAME VALUE
   !appendfile "${PRODUCT_CMD}" 'set "${NAME}=${VALUE}"$\r$\n'
@@ -70,8 +70,8 @@ UninstPage instfiles
 !insertmacro ProductLine application "${APPLICATION}"
 !insertmacro ProductLine radio_off "${RADIO_OFF}"
 
-; There is no page that asks for the folder. /D= of a setup and _?= of its removal may name another one: it must be one that
-; only administrators write to, since what is in it runs with their rights. Nor may cmd.exe see a variable in it.
+; No page asks for the folder, but /D= of the setup and _?= of the uninstaller can name another one. Only administrators may
+; have write access to it, since its programs run with their rights. Its name must not contain a variable of cmd.exe.
 !macro Begin
   SetRegView 64
   StrCpy $0 "$INSTDIR"
@@ -95,8 +95,8 @@ Function un.onInit
   !insertmacro Begin
 FunctionEnd
 
-; Runs the tool; what run_sorrel.cmd ends with is then in $0. It reads the tool's lines from a file, since
-; nsExec::ExecToStack keeps 1,023 characters.
+; Runs the tool; the exit code of run_sorrel.cmd is then in $0. run_sorrel.cmd reads the tool's lines from a file, since
+; nsExec::ExecToStack keeps only 1,023 characters.
 !macro RunSorrel WORDS
   nsExec::Exec '"${SYSTEM}\cmd.exe" /d /s /c ""$INSTDIR\run_sorrel.cmd" ${WORDS}"'
   Pop $0
@@ -117,7 +117,7 @@ FunctionEnd
 !macroend
 
 Section
-  ; Empty at a first installation. Such a one takes no name that a removal has left to the next start of Windows.
+  ; Empty for a first installation, which must not use a name that Windows will delete at its next start after a removal.
   ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
   StrCpy $8 "$9"
   ${If} $9 == ""
@@ -138,7 +138,7 @@ Section
   WriteRegStr HKLM "${UNINSTALL_KEY}" Publisher "${MAKER}"
   WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\$8"'
   WriteRegStr HKLM "${UNINSTALL_KEY}" Uninstaller "$8"
-  ; Without quotation marks and at the end, as NSIS takes it: the removal then stays until it is done.
+  ; NSIS wants _?= at the end, without quotation marks. The uninstaller then does not return before it is done.
   WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\$8" /S _?=$INSTDIR'
 
   StrCpy $0 1603
