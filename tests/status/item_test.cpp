@@ -162,7 +162,7 @@ TEST_CASE("AnswerCommandLine: returns 3 without memory, and standard error says 
   CHECK(std::string(written) == "sorrel_status: not enough memory\r\n");
 }
 
-TEST_CASE("AnswerCommandLine: names Windows 10, reads any number of groups") {
+TEST_CASE("AnswerCommandLine: names Windows 10, reads any number of groups and the elevation") {
   constexpr DWORD kCount = 200;
   struct {
     TOKEN_GROUPS first;
@@ -178,7 +178,8 @@ TEST_CASE("AnswerCommandLine: names Windows 10, reads any number of groups") {
   REPLACE(GetTokenInformation,
           [&](auto original, auto asked, auto kind, void* out, DWORD size, DWORD* needed) -> BOOL {
             if (kind != TokenGroups) {
-              return original(asked, kind, out, size, needed);
+              std::memset(out, 0, size);  // not elevated
+              return kind == TokenElevation || original(asked, kind, out, size, needed);
             }
             *needed = sizeof(token);
             return size < sizeof(token) ? FALSE : std::memcpy(out, &token, size) != nullptr;
@@ -190,6 +191,7 @@ TEST_CASE("AnswerCommandLine: names Windows 10, reads any number of groups") {
   token.others[kCount - 2] = {administrators, SE_GROUP_USE_FOR_DENY_ONLY};
   Run(L"--json", nullptr);
   CHECK(std::strstr(written, "\"administrator\": true"));
+  CHECK(std::strstr(written, "\"elevated\": false"));
   CHECK(std::strstr(written, "\"name\": \"Windows (10.0.1381)\""));
   CHECK(std::strstr(written, "\"version\": \"10.0.1381\""));
 }
