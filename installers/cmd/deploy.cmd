@@ -28,7 +28,7 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before the tool runs, so that detection compares the computer with this version's files.
+rem Copies the files before the tool runs: the deployment system's detection rule compares the computer with these copies.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F

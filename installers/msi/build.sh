@@ -17,13 +17,14 @@ declare -A setting=(
   # Made by uuidgen, once for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
-  # The product's name on the list of applications. It must be the same for all versions, no part of another name, and ASCII.
+  # The name under which sorrel.exe records the product on its own list of the applications that use the Bluetooth service.
+  # It must be ASCII, the same for all versions, and must not be part of another application's name.
   [APPLICATION]='brindle'
   # The driver package, its signer's certificate, and the certificate of the authority that issued it.
   [INF]='Tessalin.inf'
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
-  # Whether the installation fails when the radio is missing or off: "fails" or "spared".
+  # When the radio is missing or off: with "fails" the installation fails; with "spared" this failure, and no other, is ignored.
   [RADIO_OFF]='fails'
 )
 

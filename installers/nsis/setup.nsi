@@ -12,13 +12,14 @@
 !insertmacro Setting PRODUCT "Brindle"
 !insertmacro Setting VERSION "1.0.0"
 !insertmacro Setting MAKER "The sorrel authors"
-; The product's name on the list of applications. It must be the same for all versions, no part of another name, and ASCII.
+; The name under which sorrel.exe records the product on its own list of the applications that use the Bluetooth service. It
+; must be ASCII, the same for all versions, and must not be part of another application's name.
 !insertmacro Setting APPLICATION "brindle"
 ; The driver package, its signer's certificate, and the certificate of the authority that issued it.
 !insertmacro Setting INF "Tessalin.inf"
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
-; Whether the installation fails when the radio is missing or off: "fails" or "spared".
+; What happens when the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is ignored.
 !insertmacro Setting RADIO_OFF "fails"
 ; Add the driver package's other files here.
 !macro EachFile DO

@@ -1,5 +1,6 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# If `prefix` is set, the library must be the package that contains `source`. Otherwise it is built from its sources.
+# If `prefix` is set, `source` is in an installed package of the library, and the consumer's find_package must find that
+# package. Otherwise the consumer builds the library from its sources.
 
 if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON

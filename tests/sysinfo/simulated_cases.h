@@ -6,18 +6,20 @@
 
 namespace kelvo::test {
 
-// The simulated case: the machine or the file, and how it differs from the usual.
+// The left side of the current case, such as "5.1, type 2, bits 32": the Windows version or the
+// file, then how it differs from the defaults.
 inline std::string given;
 inline bool Has(const std::string& word) { return given.find(word) != std::string::npos; }
 
-// Returns the number behind a word of the case, or `usual` if the word is missing.
+// Returns the number after a word of the case, or `usual` if the word is missing.
 inline DWORD Number(const std::string& word, DWORD usual) {
   const std::size_t at = given.find(word + " ");
   return at == std::string::npos ? usual
                                  : std::strtoul(given.c_str() + at + word.length(), nullptr, 0);
 }
 
-// Runs each case of a file, "given = seen" on one line or two, and compares what `run` returns.
+// For each case in the file, sets `given` and calls `run`, then checks that the results reproduce
+// the file. A case is "given = seen"; lines that start with a space continue it.
 template <typename Run>
 void RunCases(const std::wstring& file, const Run& run) {
   std::istringstream cases(ReadBytes(ProgramPath(L"expected\\" + file)));
