@@ -32,8 +32,9 @@ class Owned {
   // Closes the handle.
   ~Owned() { reset(); }
 
-  // Return whether there is a handle, and the handle.
+  // Returns whether there is a handle.
   explicit operator bool() const { return handle_ != Kind::None(); }
+  // Returns the handle and keeps its ownership.
   [[nodiscard]] Handle get() const { return handle_; }
 
   // Closes the handle and returns the address at which a Windows function stores a new one.
@@ -42,8 +43,9 @@ class Owned {
     return &handle_;
   }
 
-  // Pass whether the call that got Receive()'s address succeeded. Keeps what a successful call
-  // stored; drops, without closing it, what a failed one may have stored. Returns `succeeded`.
+  // `succeeded` is the result of the call to which the pointer from Receive() was passed. Keeps
+  // what a successful call stored; drops, without closing it, what a failed one may have stored.
+  // Returns `succeeded`.
   bool KeepIf(bool succeeded) {
     if (!succeeded) {
       release();

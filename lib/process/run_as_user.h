@@ -22,9 +22,9 @@ namespace kelvo {
 //     SYSTEM, this gives every user of the computer a process with SYSTEM's rights.
 //   - Begin the command line with a full path in quotation marks, or Windows tries "C:\Program.exe"
 //     for "C:\Program Files\...".
-//   - Enables those of these privileges that this process holds, until it exits:
-//     SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege, SeIncreaseQuotaPrivilege,
-//     SeAssignPrimaryTokenPrivilege and SeCreateTokenPrivilege.
+//   - Enables the following privileges, as far as this process holds them. They stay enabled until
+//     the process exits: SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
+//     SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege and SeCreateTokenPrivilege.
 //   - Leaves open the token, and the station and desktop that it opened.
 //   - Traces failures (lib/trace/trace_sink.h).
 BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process);

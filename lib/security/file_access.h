@@ -17,8 +17,9 @@ namespace kelvo {
 // has its new DACL, which is set in one call. Otherwise returns FALSE, leaves the file unchanged,
 // and prints one line to the C runtime's standard output: the call that failed and its last error.
 // A DACL that extends past its descriptor, or an ACE past its DACL, counts as a failed
-// GetAclInformation. Prints nothing for a null or invalid SID, nor for a file without a descriptor,
-// whose size GetFileSecurityW reports without an error. Throws nothing.
+// GetAclInformation. Prints nothing for a null or invalid SID. Nor does it for a file without a
+// descriptor: there, GetFileSecurityW succeeds when asked for the size, so there is no error to
+// print. Throws nothing.
 //   // All users may read the file.
 //   const BOOL isAllowed =
 //       AddFileAccessRights(L"C:\\App\\log.txt", L"S-1-5-32-545", FILE_GENERIC_READ);

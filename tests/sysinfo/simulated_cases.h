@@ -6,8 +6,8 @@
 
 namespace kelvo::test {
 
-// The left side of the current case, such as "5.1, type 2, bits 32": the Windows version or the
-// file, then how it differs from the defaults.
+// The left side of the current case: the simulated system and how it differs from the defaults,
+// such as "5.1, type 2, bits 32", or the name of a file, and what to ask and to change about it.
 inline std::string given;
 inline bool Has(const std::string& word) { return given.find(word) != std::string::npos; }
 
