@@ -52,9 +52,9 @@ LANGID NumberOf(const WString& name) {
   return PRIMARYLANGID(language) != LANG_INVARIANT ? language : LANGID{0};
 }
 
-// Returns 0 when the name is not a language's. Windows 10 returns a neutral language for
-// well-formed names that have no LCID, such as "en-DE" and "old": their part before the "-" then
-// gives the primary language, or none.
+// Returns 0 when the name is not a language's. For well-formed names that have no LCID,
+// such as "en-DE" and "old", Windows 10 returns a language whose primary language is LANG_NEUTRAL.
+// The name up to its first "-" then decides: English for "en-DE", 0 for "old".
 LANGID LanguageOf(const WString& name) {
   const LANGID language = NumberOf(name);
   return language == 0 || !IsNeutral(language)

@@ -11,11 +11,11 @@ function(expect code text)
   execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${setups}
     RESULT_VARIABLE seen OUTPUT_VARIABLE output ERROR_VARIABLE output)
   if(NOT seen EQUAL code OR NOT output MATCHES "${text}")
-    message(SEND_ERROR "${ARGN} ended with ${seen}, not ${code}, and wrote, instead of ${text}: ${output}")
+    message(SEND_ERROR "${ARGN}: expected exit code ${code} and output like \"${text}\", got ${seen} and: ${output}")
   endif()
 endfunction()
 
-# An NSIS that is too old, and one that makes 32-bit setups alone.
+# An NSIS that is too old, and one that can make only 32-bit setups.
 execute_process(COMMAND makensis -VERSION OUTPUT_VARIABLE version)
 set(warning "^$")
 if(version MATCHES "^v([0-9.]+)" AND CMAKE_MATCH_1 VERSION_LESS 3.11)
@@ -31,7 +31,7 @@ if(NOT manifest)
   message(SEND_ERROR "The setup does not ask for an administrator's rights")
 endif()
 
-# What would end as another package than the one that was meant.
+# Settings that build.sh refuses, because the package would not be the intended one.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
 expect(2 "see uuidgen" ${msi} PRODUCT=Kite)
 expect(2 "these names" ${msi} PRODUKT=Kite)
@@ -48,8 +48,8 @@ foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareServic
     good/setup.msi)
 endforeach()
 
-# A user could have his own commands run by a cmd.exe that is started without /d. A silent setup would wait for the answer to a
-# message box that has none for it.
+# A user could have his own commands run by a cmd.exe that is started without /d. A silent setup would wait at a message box
+# that has no default answer (/SD).
 file(GLOB_RECURSE samples ${source_folder}/installers/*)
 foreach(sample ${samples})
   file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|MessageBox [^/]*$")

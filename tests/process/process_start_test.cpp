@@ -136,7 +136,7 @@ TEST_CASE("LaunchInUserSession: chooses the call by Windows version, session, to
   REPLACE(CreateProcessAsUserW, [=](auto, auto token, auto... given) {
     return !NoteIfOurs("start", token) || fail(given...);
   });
-  // Cannot be opened, so that nothing is granted on the interactive window station.
+  // The interactive window station cannot be opened, so that nothing is granted on it.
   REPLACE(OpenWindowStationW, [](auto...) { return nullptr; });
   REPLACE(CreateProcessW, [=](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");

@@ -11,7 +11,8 @@ static TestAce localService;
 
 TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: add one explicit ACE to a DACL") {
   const WindowObjects scope;
-  // The new ACE belongs at the end of this DACL: Wine's AddAce appends and ignores the index.
+  // In this DACL, the right place for the new ACE is the end: Wine's AddAce ignores the index and
+  // appends, so no other place would work here.
   const std::wstring before = L"D:(D;;CC;;;LS)(D;;CC;;;WD)";
   WriteDacl(scope.station, before);
   WriteDacl(scope.desktop, before);

@@ -11,7 +11,8 @@ namespace kelvo::test {
 struct DesktopScope {
   DesktopScope(const wchar_t* stationName, const wchar_t* desktopName) {
     constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
-    // Keeps a thread on the first desktop: Wine removes one a second after its last thread left.
+    // Keeps a thread on the first desktop, since Wine removes a desktop one second after its last
+    // thread has left it.
     constexpr auto sleep = [](void*) -> DWORD { return SleepEx(INFINITE, FALSE); };
     [[maybe_unused]] static const HANDLE stays =
         CreateThread(nullptr, 0, sleep, nullptr, 0, nullptr);
@@ -24,8 +25,9 @@ struct DesktopScope {
       SetThreadDesktop(desktop);
     }
   }
-  // Uses a new desktop, which Wine opens on this process's display. The first desktop has that of
-  // the first process, perhaps none. A process keeps the display of its first window.
+  // Uses a new desktop, which Wine opens on this process's display. The first desktop uses
+  // the display of the first process, which may have had none. A process keeps the display of its
+  // first window.
   DesktopScope()
       : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}
   DesktopScope(const DesktopScope&) = delete;

@@ -9,7 +9,8 @@
 //   sorrel.exe, with the simulator's libraries
 //   alone\sorrel.exe, without them
 //   swapped\sorrel.exe, with their names swapped, so that each lacks the expected functions
-//   without_security.exe and without_crypt32.exe, for which Wine has no such library
+//   without_security.exe and without_crypt32.exe, copies of sorrel.exe for which Wine loads no
+//   security.dll or no crypt32.dll
 struct Rehearsal : ProgramFolder {
   Rehearsal()
       : ProgramFolder({{L"sorrel.exe", L"alone\\sorrel.exe"},
@@ -59,7 +60,8 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt")
   std::string bytes = ReadBytes(ProgramPath(L"expected\\transcript.txt"));
   std::erase(bytes, '\r');
   std::istringstream transcript(bytes);
-  // Named lines, each with its name. The file defines them: "@NAME:", lines, an empty line.
+  // Blocks of lines, each with the name of the block. The file defines a block as "@NAME:", its
+  // lines and an empty line.
   std::vector<std::pair<std::string, std::string>> named;
   std::string seen;
   for (std::string line; std::getline(transcript, line);) {
@@ -75,7 +77,7 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt")
       seen += line + "\r\n" + text + "\r\n";
     } else if (line.starts_with("> ")) {
       std::string outcome = Rehearsal::Run({line.begin() + 2, line.end()});
-      // Otherwise a program that writes a name would pass for one that writes the lines.
+      // A program that writes "@NAME" must not pass for one that writes the lines of that block.
       CHECK(outcome.find('@') == std::string::npos);
       for (const auto& [text, name] : named) {
         for (std::size_t at = 0; (at = outcome.find(text)) != std::string::npos;) {
@@ -88,7 +90,7 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt")
   CheckAgainstFile(seen, L"transcript.txt");
 }
 
-TEST_CASE("install: writes every line before a crash, of any length") {
+TEST_CASE("install: writes every line, of any length, before a crash") {
   const Rehearsal machine;
   const std::wstring path(32'000, L'p');
   const std::wstring text(6'000, L'l');
