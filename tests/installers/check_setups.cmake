@@ -49,11 +49,11 @@ foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareServic
 endforeach()
 
 # A user could have his own commands run by a cmd.exe that is started without /d. A silent setup would wait at a message box
-# that has no default answer (/SD).
+# that has no default answer (/SD). A console of SYSTEM would be visible to a user who starts a repair.
 file(GLOB_RECURSE samples ${source_folder}/installers/*)
 foreach(sample ${samples})
-  file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|MessageBox [^/]*$")
+  file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|MessageBox [^/]*$|\"CustomActionData\"., [^0]")
   if(wrong)
-    message(SEND_ERROR "${sample} starts cmd.exe without /d, or asks in a silent setup: ${wrong}")
+    message(SEND_ERROR "${sample} starts cmd.exe without /d, asks in a silent setup, or shows a console: ${wrong}")
   endif()
 endforeach()
