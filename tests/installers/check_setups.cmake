@@ -39,6 +39,9 @@ foreach(build nsis msi)
   expect(2 "such a character" ${${build}} APPLICATION=a%b)
 endforeach()
 
+# The last action of an installation reads the log that run_sorrel.cmd writes.
+expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi" Property)
+
 # The package's actions: those that change the computer run as the system (2048 is in their types), and the old version comes
 # back when an upgrade fails.
 foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\t" "InstallInitialize\t\t1500\n"
