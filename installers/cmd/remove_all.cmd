@@ -7,6 +7,8 @@ set "errorlevel="
 set "here=%~dp0"
 if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
+rem As in deploy.cmd: in a folder with a percent sign or a caret, call does not find the file.
+if not defined product exit /b 1603
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "answer=%log%.answer"
 rem A script that a 32-bit program starts sees another System32, without pnputil.
