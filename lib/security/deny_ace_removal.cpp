@@ -15,8 +15,8 @@ bool IsDeny(const void* ace) {
   return type == ACCESS_DENIED_ACE_TYPE || type == ACCESS_DENIED_OBJECT_ACE_TYPE;
 }
 
-// Stops before index 0, whose ACE is never examined. An empty DACL starts at an index that GetAce
-// refuses.
+// Never examines the ACE at index 0. For an empty DACL, the first index is MAXDWORD, for which
+// GetAce fails.
 bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
   for (DWORD index = aceCount - 1; index > 0; --index) {
     const void* const ace = internal::AceAt(dacl, index);
@@ -57,8 +57,8 @@ bool DeleteDenyAcesOfObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type,
   if (!DeleteDenyAces(sid, dacl, size.AceCount)) {
     return false;
   }
-  // Written even when nothing was deleted. The message names GetAce, although it is the write that
-  // failed.
+  // Writes the DACL back even when no ACE was deleted. The failure message also names GetAce,
+  // although only SetSecurityInfo can fail here.
   return internal::Check(SetSecurityInfo(object, type, DACL_SECURITY_INFORMATION, nullptr, nullptr,
                                          dacl, nullptr) == ERROR_SUCCESS,
                          L"DeleteDenyACEofObject SetSecurityInfo GetAce Failed");

@@ -6,19 +6,19 @@
 
 namespace kelvo {
 
-// Removes the deny ACEs (ACCESS_DENIED_ACE_TYPE) for one SID from an object's DACL, except one at
-// index 0, and writes the DACL back (SetSecurityInfo), even when there were none. The handle needs
-// READ_CONTROL and WRITE_DAC. An object without a DACL is left unchanged. For a group's SID, all
-// of its members are no longer denied. This lasts until the object is deleted: for a window
-// station, when its session ends.
+// Removes the deny ACEs (ACCESS_DENIED_ACE_TYPE) for `sid` from an object's DACL, but never the ACE
+// at index 0. Writes the DACL back (SetSecurityInfo) even when no ACE was removed. The handle needs
+// READ_CONTROL and WRITE_DAC. An object without a DACL is left unchanged. If `sid` is a group, the
+// removal affects every member of the group. The change lasts until the object is deleted: for a
+// window station, until its session ends.
 //
-// Object ACEs stay, because the SID is expected right after the mask, where they have other data.
-// Callback ACEs stay too. So does an ACE that DeleteAce refuses to delete, which is not traced.
-// Returns TRUE when the DACL was written back or there is none. Returns FALSE, traces why and
+// Object ACEs stay: the SID is read right after the mask, where an object ACE has other data.
+// Callback ACEs stay too. An ACE that DeleteAce fails to delete also stays, without a trace.
+// Returns TRUE when the DACL was written back or the object has none. Returns FALSE, traces why and
 // leaves the DACL unchanged in these cases:
 //   - The DACL cannot be read or written.
-//   - It has no ACEs.
-//   - A deny ACE, object ACEs included, is too short for its SID.
+//   - The DACL has no ACEs.
+//   - A deny ACE or an object deny ACE after index 0 is too short for its SID.
 BOOL DeleteDenyACEofObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type);
 
 }  // namespace kelvo

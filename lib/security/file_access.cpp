@@ -27,7 +27,7 @@ bool Allocate(DWORD size, OwnedProcessHeapMemory<Content>& memory) {
   return Check(static_cast<bool>(memory), L"HeapAlloc() failed. Error %d\n");
 }
 
-// The security descriptor of a file, which holds its DACL.
+// A file's security descriptor, which contains the file's DACL.
 struct Descriptor {
   OwnedProcessHeapMemory<void> memory;
   DWORD size = 0;
@@ -36,7 +36,7 @@ struct Descriptor {
 bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
   DWORD size = 0;
   if (GetFileSecurityW(path, DACL_SECURITY_INFORMATION, nullptr, 0, &size) != FALSE) {
-    return false;  // a file without a descriptor is refused silently
+    return false;  // the file has no descriptor; nothing is printed
   }
   read.size = size;
   return Check(GetLastError() == ERROR_INSUFFICIENT_BUFFER,
@@ -47,7 +47,8 @@ bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
                L"GetFileSecurity() failed. Error %d\n");
 }
 
-// Calls GetAclInformation for a DACL that, with all its ACEs, is inside the descriptor.
+// Calls GetAclInformation. Fails with ERROR_INVALID_ACL when the DACL extends past the descriptor
+// or an ACE extends past the DACL.
 bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFORMATION& size) {
   const auto offset = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(dacl) -
                                                static_cast<const BYTE*>(descriptor.memory.get()));
@@ -59,7 +60,8 @@ bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFOR
   return internal::QueryAclSize(dacl, size);
 }
 
-// Finds the descriptor's DACL, null when it has none, and its size.
+// Finds the descriptor's DACL and its size. If there is no DACL, stores null and the size of an
+// empty DACL.
 bool FindDacl(const Descriptor& descriptor, ACL*& dacl, ACL_SIZE_INFORMATION& size) {
   BOOL isPresent = FALSE;
   BOOL isDefaulted = FALSE;
@@ -92,8 +94,10 @@ bool IsOfAccount(const void* ace, PSID account) {
   return sid != nullptr && EqualSid(sid, account) != FALSE;
 }
 
-// Fills an empty DACL with the explicit ACEs of other accounts, the new ACE, and everything from
-// the first inherited ACE on, whoever it is for. `oldDacl` may be null when `count` is 0.
+// Adds these ACEs to the empty `newDacl`. `oldDacl` may be null when `count` is 0.
+//   1. The ACEs before the first inherited ACE of `oldDacl`, except those of `account`.
+//   2. The new ACE.
+//   3. The first inherited ACE and all ACEs after it, including those of `account`.
 bool FillDacl(const ACL* oldDacl, DWORD count, PSID account, DWORD accessMask, ACL* newDacl) {
   void* ace = nullptr;
   DWORD index = 0;
@@ -145,7 +149,7 @@ bool CarryInheritanceOver(PSECURITY_DESCRIPTOR from, PSECURITY_DESCRIPTOR to) {
   auto* const setControl =
       KELVO_FIND_FUNCTION(GetModuleHandleW(L"advapi32.dll"), SetSecurityDescriptorControl);
   if (setControl == nullptr) {
-    return true;  // Windows NT 4.0, which has no such flags
+    return true;  // Windows NT 4.0, which has no inheritance flags
   }
   SECURITY_DESCRIPTOR_CONTROL old = 0;
   DWORD revision = 0;

@@ -4,23 +4,26 @@
 
 namespace kelvo {
 
-// Adds an ACE to the DACL of a file or directory that grants an account `accessMask`. `sid` is the
+// Grants an account `accessMask` by adding an ACE to the DACL of a file or directory. `sid` is the
 // account's SID in any form that ConvertStringSidToSidW accepts.
-//   - The new DACL has the explicit ACEs of other accounts, then the new ACE, then everything from
-//     the first inherited ACE on. Explicit ACEs of the account, including deny ACEs, are dropped.
-//   - A file without a DACL gets one with this ACE alone.
-//   - A protected DACL stays protected, and an auto-inherited one auto-inherited. One that is both
-//     ("D:PAI") becomes only auto-inherited, and so takes its folder's ACEs.
-//   - A link is followed: use a path that no other account can redirect.
+//   - The new DACL has the explicit ACEs of other accounts, then the new ACE, then the first
+//     inherited ACE and all ACEs after it. The account's explicit ACEs before the first inherited
+//     ACE are dropped, including deny ACEs.
+//   - A file without a DACL gets a DACL that contains only the new ACE.
+//   - A protected DACL stays protected, and an auto-inherited DACL stays auto-inherited. If a DACL
+//     is both ("D:PAI"), it loses its protection and then inherits the ACEs of the file's folder.
+//   - A link is followed: use a path that no other account can redirect to another file.
 //
-// Needs READ_CONTROL and WRITE_DAC (GetFileSecurityW, SetFileSecurityW). Returns TRUE when the file
-// has its new DACL, which is set in one call. Otherwise returns FALSE, leaves the file unchanged,
-// and prints one line to the C runtime's standard output: the call that failed and its last error.
-// A DACL that extends past its descriptor, or an ACE past its DACL, counts as a failed
-// GetAclInformation. Prints nothing for a null or invalid SID. Nor does it for a file without a
-// descriptor: there, GetFileSecurityW succeeds when asked for the size, so there is no error to
-// print. Throws nothing.
-//   // All users may read the file.
+// Needs READ_CONTROL and WRITE_DAC (GetFileSecurityW, SetFileSecurityW). Returns TRUE when the new
+// DACL was set, which is done in one call. On failure, returns FALSE, leaves the file unchanged and
+// prints one line to the C runtime's standard output: the name of the call that failed and its last
+// error. If the DACL extends past its descriptor, or an ACE past the DACL, the line names
+// GetAclInformation. Throws nothing. Two kinds of failure print nothing:
+//   - `sid` is null or invalid.
+//   - The file has no descriptor. GetFileSecurityW then succeeds when it is asked for the size, so
+//     there is no error to print.
+//
+//   // Members of the Users group may read the file.
 //   const BOOL isAllowed =
 //       AddFileAccessRights(L"C:\\App\\log.txt", L"S-1-5-32-545", FILE_GENERIC_READ);
 BOOL AddFileAccessRights(const wchar_t* path, const wchar_t* sid, DWORD accessMask);

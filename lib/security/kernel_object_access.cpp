@@ -74,7 +74,7 @@ bool MakeAbsolute(Buffers& buffers) {
   const bool areAllocated = buffers.descriptor != nullptr && buffers.dacl != nullptr &&
                             buffers.sacl != nullptr && buffers.owner != nullptr &&
                             buffers.group != nullptr;
-  // The message mentions a SID, but memory has run out.
+  // The message mentions a SID, but the cause is that memory has run out.
   if (!internal::Check(areAllocated, L"ModifySecurity Invalid SID Found")) {
     return false;
   }
@@ -107,7 +107,8 @@ bool GrantToCurrentUser(HANDLE object, DWORD mask, Buffers& buffers) {
       L"ModifySecurity SetKernelObjectSecurity Failed");
 }
 
-// Inverted, and kept so: only null buffers are freed, so none is.
+// The condition is inverted and must stay so: LocalFree is called only for null pointers, so the
+// buffers stay allocated, as the header says.
 void Release(const Buffers& buffers) {
   for (void* const buffer : {buffers.oldDescriptor, buffers.descriptor, buffers.dacl, buffers.sacl,
                              buffers.owner, buffers.group}) {

@@ -4,26 +4,27 @@
 
 namespace kelvo {
 
-// Both functions change a privilege in this process's token until the process exits
-// (OpenProcessToken, LookupPrivilegeValueW on this system, AdjustTokenPrivileges). `name` is
-// Windows' name of the privilege, such as "SeShutdownPrivilege".
+// Both functions change a privilege in this process's token (OpenProcessToken,
+// LookupPrivilegeValueW on this system, AdjustTokenPrivileges). The change lasts until the process
+// exits. `name` is Windows' name of the privilege, such as "SeShutdownPrivilege".
 
 // Enables or disables a privilege. Returns the result of AdjustTokenPrivileges, which is TRUE even
 // for a privilege that the token does not hold. Returns FALSE when an earlier step fails or an
-// exception ends one.
+// exception occurs.
 BOOL EnablePrivilege(const wchar_t* name, BOOL enable);
 
-// What EnablePrivilegeWithOutcome returns.
+// The result of EnablePrivilegeWithOutcome.
 struct PrivilegeOutcome {
-  // The result of AdjustTokenPrivileges; FALSE when it was not called. TRUE does not mean that the
-  // token holds the privilege.
+  // The result of AdjustTokenPrivileges, or FALSE when that function was not called. TRUE does not
+  // mean that the token holds the privilege.
   BOOL adjusted = FALSE;
-  // The last error of the call that failed or, when none did, of AdjustTokenPrivileges:
-  // ERROR_NOT_ALL_ASSIGNED when the token does not hold the privilege.
+  // The last error of the call that failed. When no call failed, the last error of
+  // AdjustTokenPrivileges: ERROR_NOT_ALL_ASSIGNED when the token does not hold the privilege.
   DWORD error = ERROR_SUCCESS;
 };
 
-// Enables a privilege and returns the outcome, for callers that must find out whether it is held.
+// Enables a privilege and returns the outcome, for callers that must find out whether the token
+// holds the privilege.
 PrivilegeOutcome EnablePrivilegeWithOutcome(const wchar_t* name);
 
 }  // namespace kelvo

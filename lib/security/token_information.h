@@ -4,12 +4,12 @@
 
 namespace kelvo {
 
-// Returns one class of information about a token (GetTokenInformation): its structure and all that
-// this points to, in one block that the caller frees with LocalFree. Returns null, and traces why,
-// when the token cannot be read or memory runs out. Also returns null for fixed-size classes whose
-// size query fails with an error other than ERROR_INSUFFICIENT_BUFFER, such as TokenElevation: read
-// these with GetTokenInformation itself. The token needs TOKEN_QUERY (TokenSource:
-// TOKEN_QUERY_SOURCE).
+// Returns one class of information about a token (GetTokenInformation). The structure and the data
+// to which it points are in one block, which the caller frees with LocalFree. Returns null, and
+// traces why, when the token cannot be read or memory runs out. Also returns null for some
+// fixed-size classes, such as TokenElevation: their size query fails with an error other than
+// ERROR_INSUFFICIENT_BUFFER. Read these classes with GetTokenInformation. The token handle needs
+// TOKEN_QUERY or, for TokenSource, TOKEN_QUERY_SOURCE.
 void* GetFromToken(HANDLE token, TOKEN_INFORMATION_CLASS kind);
 
 }  // namespace kelvo

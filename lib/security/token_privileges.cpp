@@ -11,7 +11,7 @@ namespace kelvo {
 
 namespace {
 
-// The first three are listed twice, so the set contains them twice.
+// The first three names are listed twice, so the privilege set contains these privileges twice.
 constexpr const wchar_t* kBuiltInPrivileges[] = {
     L"SeCreateTokenPrivilege",
     L"SeAssignPrimaryTokenPrivilege",
@@ -63,7 +63,8 @@ DWORD CountNames(const wchar_t* const* names) {
   return count;
 }
 
-// Fills `entries` from the first on and returns how many of the names this system supports.
+// Writes one entry to `entries`, without gaps, for each name that this system supports. Returns the
+// number of entries written.
 DWORD LookUpPrivileges(const wchar_t* const* names, DWORD count, LUID_AND_ATTRIBUTES* entries) {
   DWORD known = 0;
   for (DWORD index = 0; index < count; ++index) {

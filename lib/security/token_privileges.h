@@ -4,12 +4,13 @@
 
 namespace kelvo {
 
-// Returns a privilege set of the named privileges, without those that this system does not support
-// (LookupPrivilegeValueW); each is enabled and enabled by default. The set is a block of 4 bytes
-// and 12 for each privilege, which the caller frees with LocalFree. `names` ends with a null
-// pointer; null counts as an empty list. With `useBuiltIn`, the library's own list replaces it: 25
-// names, three of them twice. `count` receives the number of privileges in the set and must not be
-// null. Returns null, and traces why, when memory runs out.
+// Returns a set of those privileges in `names` that this system supports (LookupPrivilegeValueW).
+// Each privilege is marked as enabled and as enabled by default. The set is one memory block: 4
+// bytes, plus 12 bytes for each privilege. The caller frees the block with LocalFree. `names` is an
+// array that ends with a null pointer; a null `names` counts as an empty array. If `useBuiltIn` is
+// true, `names` is ignored and the library's own list is used: 25 names, three of them listed
+// twice. `count` receives the number of privileges in the set and must not be null. Returns null,
+// and traces why, when memory runs out.
 TOKEN_PRIVILEGES* CreateTokenPriv(DWORD* count, const wchar_t* const* names, BOOL useBuiltIn);
 
 }  // namespace kelvo

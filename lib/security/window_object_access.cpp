@@ -15,7 +15,7 @@ namespace kelvo {
 
 namespace {
 
-// The differences between the two kinds of window objects.
+// The values that differ between window stations and desktops.
 struct WindowObjectKind {
   ACCESS_MASK mask;
   const wchar_t* readFailed;
@@ -50,7 +50,8 @@ constexpr WindowObjectKind kDesktop = {
     .writeFailed = L"AllowAccessToDesktop SetSecurityInfo Failed",
     .cleanUp = L"AllowAccessToDesktop exception caught in __finally"};
 
-// A DACL up to this size is built on the stack: 1,024 bytes less a marker of 16.
+// A DACL of up to this size is built on the stack, a larger one on the heap. The limit is that of
+// _malloca on x64: 1,024 bytes, of which 16 are for its marker.
 constexpr std::size_t kStackSize = 1024 - 16;
 
 bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,
@@ -61,7 +62,7 @@ bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE*
   if (!internal::Check(CopyACL(built, dacl) != FALSE, kind.copyFailed)) {
     return false;
   }
-  // An ACE for which no index is found is appended: kNoAceIndex is MAXDWORD.
+  // If GetACEInsertionIndex returns kNoAceIndex, AddAce appends the ACE.
   return internal::Check(AddAce(built, ACL_REVISION, GetACEInsertionIndex(built, ace), ace,
                                 ace->Header.AceSize) != FALSE,
                          kind.addFailed);
@@ -69,10 +70,10 @@ bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE*
 
 bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
                  ACCESS_ALLOWED_ACE* ace) {
-  // An ACL is aligned to 2 bytes, the ACEs in it to 4.
+  // The ACL structure needs an alignment of only 2 bytes, but the ACEs in it need 4.
   alignas(DWORD) std::array<std::byte, kStackSize> stack{};
   const DWORD size = CalculateACLSize(dacl, nullptr, 0, &ace, 1);
-  // Not freed when it comes from the heap, like the ACE.
+  // If this memory comes from the heap, it is never freed, as the header says.
   void* const scratch =
       size <= stack.size() ? stack.data() : HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, size);
   if (!internal::Check(scratch != nullptr, kind.allocationFailed)) {
@@ -96,12 +97,11 @@ bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
           kind.readFailed)) {
     return false;
   }
-  // Never freed.
+  // The ACE is never freed, as the header says.
   ACCESS_ALLOWED_ACE* const ace = AllocateACE(ACCESS_ALLOWED_ACE_TYPE, 0, kind.mask, sid);
   if (dacl == nullptr) {
     return true;
   }
-  // Without an ACE, there is nothing to look for.
   return ace != nullptr &&
          (FindACEInACL(dacl, ace) != kNoAceIndex || ReplaceDacl(kind, object, dacl, ace));
 }

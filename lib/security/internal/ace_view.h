@@ -7,32 +7,33 @@
 namespace kelvo::internal {
 
 // ACLs come from other processes and from disks, and Windows' own functions trust the sizes in
-// them. These functions never read past an ACL or an ACE: the first two refuse a malformed ACL, the
-// others read the ACEs of a well-formed one. Every type of ACE is read with the layout of
-// ACCESS_ALLOWED_ACE: header, mask, SID. An ACE may be at any address, since the size of the one
-// before it may be any number.
+// them. The functions below never read past an ACL or an ACE: the first two return false for a
+// malformed ACL, and the others are for the ACEs of a well-formed ACL. Every type of ACE is read
+// with the layout of ACCESS_ALLOWED_ACE: header, mask, SID. An ACE may be at any address, even an
+// unaligned one, since the ACE before it may have any size.
 
 // The offset of the SID in an ACE, after header and mask.
 constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
 
-// Returns true when every ACE, with the size in its AceSize, is wholly inside the ACL's AclSize
-// bytes. Returns false for null, too. Does not check what the ACEs contain.
+// Returns true when all ACEs, each of AceSize bytes, are inside the AclSize bytes of the ACL.
+// Returns false when they are not, when an AceSize is less than the size of an ACE_HEADER, or when
+// `acl` is null. Does not check the contents of the ACEs.
 bool AreAcesInsideAcl(const ACL* acl);
 
-// Calls GetAclInformation (AclSizeInformation) for an ACL whose ACEs are inside it. Returns false
-// and leaves `size` unchanged when they are not (GetLastError returns ERROR_INVALID_ACL) or the
-// call fails.
+// Calls GetAclInformation (AclSizeInformation) when AreAcesInsideAcl returns true. Returns false
+// and leaves `size` unchanged when AreAcesInsideAcl returns false (the last error is then
+// ERROR_INVALID_ACL) or GetAclInformation fails.
 bool QueryAclSize(const ACL* acl, ACL_SIZE_INFORMATION& size);
 
-// Returns the ACE at `index` of an ACL that QueryAclSize accepted (GetAce), or null when there is
-// none.
+// Returns the ACE at `index` (GetAce), or null when there is none. QueryAclSize must have returned
+// true for `acl` before.
 void* AceAt(const ACL* acl, DWORD index);
 
 // Returns an ACE's header.
 ACE_HEADER HeaderOfAce(const void* ace);
 
-// Returns an ACE's SID, or null when it is not wholly inside the ACE's AceSize bytes. It need not
-// be valid: an object ACE has other data there, which equals no SID.
+// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. The SID
+// may be invalid: an object ACE has other data at this offset, which equals no SID.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal

@@ -6,14 +6,15 @@
 
 namespace kelvo::internal {
 
-// Returns `succeeded`; if it is false, first traces `message` under the tag that all operations on
+// Returns `succeeded`. If it is false, first traces `message` with the tag that all operations on
 // ACLs, tokens and the interactive desktop share.
 bool Check(bool succeeded, const wchar_t* message);
 
-// Runs `steps`, which returns whether the operation succeeded, and then `cleanUp`, on every path. A
-// C++ or structured exception that leaves `steps` counts as failure; one that leaves `cleanUp` only
-// ends it. After a failure, traces `cleanUpMessage` last. What `steps` allocates must
-// belong to owners declared outside `steps`; reset them in `cleanUp`.
+// Runs `steps`, which returns whether the operation succeeded, and then always runs `cleanUp`. A
+// C++ or structured exception that leaves `steps` counts as failure; an exception that leaves
+// `cleanUp` is swallowed and does not change the result. After a failure, traces `cleanUpMessage`
+// last. Memory that `steps` allocates must belong to owners that are declared outside `steps`, so
+// that `cleanUp` can reset them.
 template <typename Steps, typename CleanUp>
 BOOL GuardedOperation(const wchar_t* cleanUpMessage, const Steps& steps, const CleanUp& cleanUp) {
   const bool succeeded = GuardedAnswer(false, steps);
