@@ -6,18 +6,18 @@ namespace internal {
 bool RunGuarded(void (*run)(const void* context), const void* context);
 }  // namespace internal
 
-// Calls `action` and returns true when it returns. Swallows a C++ or structured exception, such as
-// an access violation, that leaves `action`, and returns false. A structured exception skips the
-// destructors between the fault and this call: keep owners of resources outside `action`, which
-// only uses them.
+// Calls `action`. Returns true when `action` returns. When a C++ or structured exception (such as
+// an access violation) leaves `action`, swallows the exception and returns false. After a
+// structured exception, the destructors of objects created inside `action` do not run: create the
+// objects that own resources outside `action`, and only use them inside.
 template <typename Action>
 bool GuardedCall(const Action& action) {
   return internal::RunGuarded([](const void* context) { (*static_cast<const Action*>(context))(); },
                               &action);
 }
 
-// Returns what `steps` returns, or `failure` when a C++ or structured exception leaves it. Keep
-// owners outside `steps`, as with GuardedCall.
+// Calls `steps` and returns its result, or `failure` when a C++ or structured exception leaves
+// `steps`. As with GuardedCall, create the objects that own resources outside `steps`.
 template <typename Answer, typename Steps>
 Answer GuardedAnswer(Answer failure, const Steps& steps) {
   Answer answer = failure;

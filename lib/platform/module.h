@@ -24,9 +24,9 @@ struct ModuleTraits {
 //   const bool isKnown = getName != nullptr && getName(NameDisplay, name, &size) != FALSE;
 using OwnedModule = Owned<internal::ModuleTraits>;
 
-// Returns the function that `module` exports as `name` (GetProcAddress), or null when the module is
-// null or has no such export; GetLastError then says why. For a null module, that is the error of
-// the call that should have loaded it.
+// Returns the function that `module` exports as `name` (GetProcAddress). Returns null when `module`
+// is null or has no such export. GetLastError then returns the error of GetProcAddress or, for a
+// null module, the error of the earlier call that should have loaded the module.
 template <typename Function>
 Function* FindFunction(HMODULE module, const char* name) {
   return module == nullptr
@@ -36,7 +36,7 @@ Function* FindFunction(HMODULE module, const char* name) {
 
 }  // namespace kelvo
 
-// FindFunction for a function that a header declares: `function` is both the name of the export and
-// the source of the type.
+// Calls FindFunction for a function that a header declares. `function` is the name of the export,
+// and the declaration of that name gives the type.
 #define KELVO_FIND_FUNCTION(module, function) \
   ::kelvo::FindFunction<decltype(::function)>((module), #function)

@@ -18,7 +18,7 @@ class Owned {
   using Handle = typename Kind::Handle;
 
   Owned() = default;
-  // Takes ownership of a handle. An owner can be moved, not copied.
+  // Takes ownership of a handle. An Owned object can be moved but not copied.
   explicit Owned(Handle handle) : handle_(handle) {}
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;
@@ -34,7 +34,7 @@ class Owned {
 
   // Returns whether there is a handle.
   explicit operator bool() const { return handle_ != Kind::None(); }
-  // Returns the handle and keeps its ownership.
+  // Returns the handle, which this object continues to own.
   [[nodiscard]] Handle get() const { return handle_; }
 
   // Closes the handle and returns the address at which a Windows function stores a new one.
@@ -43,9 +43,9 @@ class Owned {
     return &handle_;
   }
 
-  // `succeeded` is the result of the call to which the pointer from Receive() was passed. Keeps
-  // what a successful call stored; drops, without closing it, what a failed one may have stored.
-  // Returns `succeeded`.
+  // `succeeded` is the result of the call to which the pointer from Receive() was passed. If true,
+  // keeps the handle that the call stored. If false, drops any value that the call stored, without
+  // closing it. Returns `succeeded`.
   bool KeepIf(bool succeeded) {
     if (!succeeded) {
       release();
@@ -53,10 +53,10 @@ class Owned {
     return succeeded;
   }
 
-  // Returns the handle and gives up its ownership.
+  // Returns the handle, which this object no longer owns.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 
-  // Closes the handle and takes ownership of another one, or of none.
+  // Closes the present handle, if there is one, and takes ownership of `handle`.
   void reset(Handle handle = Kind::None()) {
     const Handle old = std::exchange(handle_, handle);
     if (old != Kind::None()) {
@@ -104,17 +104,18 @@ struct FileSearchTraits {
 
 }  // namespace internal
 
-// A process, thread, token or mutex: closed with CloseHandle, null when there is none.
+// A handle of a process, thread, token or mutex: closed with CloseHandle, null when there is none.
 using OwnedKernelObject = Owned<internal::KernelObjectTraits>;
 
 // A handle from CreateFileW: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
 using OwnedFile = Owned<internal::FileTraits>;
 
-// A search from FindFirstFileW: closed with FindClose, INVALID_HANDLE_VALUE when there is none.
+// A search handle from FindFirstFileW: closed with FindClose, INVALID_HANDLE_VALUE when there is
+// none.
 using OwnedFileSearch = Owned<internal::FileSearchTraits>;
 
-// Memory from LocalAlloc or from a Windows function whose caller frees it: freed with LocalFree,
-// null when there is none.
+// Memory from LocalAlloc, or from a Windows function that allocates such memory for its caller:
+// freed with LocalFree, null when there is none.
 template <typename Content>
 using OwnedLocalMemory = Owned<internal::LocalMemoryTraits<Content>>;
 

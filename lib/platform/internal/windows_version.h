@@ -4,12 +4,12 @@
 
 namespace kelvo::internal {
 
-// Returns what GetVersionExW reports in the 276-byte OSVERSIONINFOW, queried on every call. All
-// fields are 0 when that fails. On Windows 8.1 and later, it reports 6.2 to a program whose
-// manifest does not name 8.1 or later.
+// Calls GetVersionExW every time and returns the OSVERSIONINFOW (276 bytes) that it fills. When
+// GetVersionExW fails, all fields are 0. On Windows 8.1 and later, GetVersionExW reports version
+// 6.2 to a program whose manifest does not list Windows 8.1 or later.
 OSVERSIONINFOW QueryWindowsVersion();
 
-// Returns true for NT major.minor and later.
+// Returns true when `version` is Windows NT `major`.`minor` or later.
 bool IsNtAtLeast(const OSVERSIONINFOW& version, DWORD major, DWORD minor);
 
 }  // namespace kelvo::internal
