@@ -27,8 +27,8 @@ struct CertificateTraits {
 // An open certificate store: closed with CertCloseStore, null when there is none.
 using OwnedCertificateStore = Owned<internal::CertificateStoreTraits>;
 
-// A certificate context: freed with CertFreeCertificateContext, null when there is none. It may
-// outlive the store that it came from.
+// A certificate context: freed with CertFreeCertificateContext, null when there is none. The
+// context may outlive the store from which it was read.
 using OwnedCertificate = Owned<internal::CertificateTraits>;
 
 }  // namespace kelvo

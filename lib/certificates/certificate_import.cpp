@@ -11,14 +11,15 @@ namespace kelvo {
 
 namespace {
 
-// A fixed set, since newer headers add to CERT_QUERY_CONTENT_FLAG_ALL.
+// The flags of the content types 1 to 13. CERT_QUERY_CONTENT_FLAG_ALL is not used, since newer
+// headers add types to it.
 constexpr DWORD kContentTypes = 0x3FFE;
 
-// Bound at run time, so that a program that imports no certificate starts without crypt32.dll, and
-// a missing function becomes an error code.
+// The functions of crypt32.dll, which are looked up at run time. A program that imports no
+// certificate does not need the library, and a missing function leads to an error code.
 struct Crypt32 {
-  // Returns false and sets the last error when the library or one of its functions is missing. The
-  // library stays loaded, since a store may stay open.
+  // Returns false and sets the last error when the library or one of its functions is missing.
+  // Never frees the library, since a store that AddFromFile leaves open still needs it.
   bool Bind() {
     const HMODULE library = LoadSystemLibrary(L"crypt32.dll").release();
     openStore = KELVO_FIND_FUNCTION(library, CertOpenStore);
@@ -59,7 +60,7 @@ DWORD AddFromFile(const Crypt32& crypt32, const wchar_t* file, BoundStore& syste
                           0, &encodingType, &contentType, &formatType, &store, nullptr,
                           &context) == FALSE) {
     const DWORD error = GetLastError();
-    // Left open on this path: one handle for each unreadable file is accepted.
+    // Leaves the system store open: one leaked handle for each unreadable file is accepted.
     static_cast<void>(systemStore.release());  // NOLINT(bugprone-unused-return-value): as above
     return error;
   }
@@ -79,7 +80,7 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   if (!wsspi::IsSspiInitialized()) {
     wsspi::SspiInitialize();
   }
-  // All functions are looked up before the first call: if one is missing, nothing has changed.
+  // All functions are looked up before any of them is called: if one is missing, no store changes.
   Crypt32 crypt32;
   if (!crypt32.Bind()) {
     return GetLastError();

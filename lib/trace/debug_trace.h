@@ -6,12 +6,14 @@
 
 namespace kelvo {
 
-// Writes the current UTC time and a message formatted as by FormatText, of any length and without a
-// line break, to the debugger (OutputDebugStringW).
+// Writes the current UTC time and a message to the debugger (OutputDebugStringW). `format` and the
+// arguments are those of FormatText (lib/string/format_text.h). The message may have any length. No
+// line break is added.
 void DebugTrace(const wchar_t* format, ...);
 
-// Returns the line that DebugTrace writes at `time`: "day.month.year
-// hour:minute:second:millisecond", every number padded with zeros, a space and `message`.
+// Returns the line that DebugTrace writes at `time`: the time, a space and `message`. The format of
+// the time is day.month.year hour:minute:second:millisecond, padded with zeros, for example
+// "31.01.2026 09:05:07:042".
 WString FormatTraceLine(const SYSTEMTIME& time, const WString& message);
 
 }  // namespace kelvo

@@ -7,7 +7,7 @@
 
 namespace wsspi {
 
-// What failed; an index into kSspiErrorTexts.
+// The code of a failure, which is also the index of its text in kSspiErrorTexts.
 enum SspiErrorCode : std::int32_t {
   ErrorSuccess = 0,
   ErrorNotInitialized = 1,
@@ -25,7 +25,7 @@ enum SspiErrorCode : std::int32_t {
   ErrorUnknown = 13,
 };
 
-// The name and the meaning of each SspiErrorCode, with the code as index.
+// The name and the meaning of each SspiErrorCode, indexed by the code.
 inline constexpr std::array<const wchar_t*, 14> kSspiErrorTexts = {
     L"ErrorSuccess: no errors",
     L"ErrorNotInitialized: SspiInitialize() was not called",
@@ -43,20 +43,21 @@ inline constexpr std::array<const wchar_t*, 14> kSspiErrorTexts = {
     L"ErrorUnknown: unknown error",
 };
 
-// Thrown when the security support interface fails: allocated with new and thrown as a pointer;
-// whoever catches it deletes it.
+// Thrown when the security support provider interface (SSPI) fails. The exception is allocated with
+// new and thrown as a pointer; the code that catches the pointer must delete it.
 struct SspiException {
-  // A null `atFile` counts as empty. A code above 16 is stored as 16, any other as given: check a
-  // code before you use it as an index into kSspiErrorTexts.
+  // A null `atFile` is stored as an empty string. An `errorCode` above 16 is stored as 16; any
+  // other is stored unchanged.
   SspiException(const wchar_t* atFile, std::uint32_t atLine, std::int32_t errorCode,
                 std::uint32_t errorDetail);
 
-  // Where it was thrown.
+  // The source file and line that are reported as the place of the failure.
   kelvo::WString file;
   std::uint32_t line;
-  // The code as given, or 16 when it was higher. An index into kSspiErrorTexts only from 0 to 13.
+  // The code that was given, or 16 when that was higher. Only codes from 0 to 13 have a text: check
+  // the code before you use it as an index into kSspiErrorTexts.
   std::int32_t code;
-  // The failing call's own error code, or 0.
+  // The error code of the call that failed, or 0.
   std::uint32_t detail;
 };
 

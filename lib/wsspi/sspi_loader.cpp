@@ -12,7 +12,8 @@ namespace wsspi {
 
 namespace {
 
-// The reported place of a failure: fixed, so that editing this file does not change the numbers.
+// The file name and line numbers that an SspiException reports. The numbers are constants, so that
+// they stay the same when this file is edited.
 constexpr const wchar_t* kFile = L"wsspi";
 constexpr std::uint32_t kLineNoLibrary = 47;
 constexpr std::uint32_t kLineNoEntryPoint = 59;

@@ -2,14 +2,14 @@
 
 namespace wsspi {
 
-// Returns true once SspiInitialize has the provider's function table.
+// Returns true once SspiInitialize has obtained the SSPI function table.
 bool IsSspiInitialized();
 
-// Loads "security.dll" and keeps the function table that its InitSecurityInterfaceW returns, once
-// per process; the library is never freed. Does nothing when it already has the table. When it
-// cannot get the table, throws an SspiException (lib/wsspi/sspi_exception.h) by pointer, with
-// ErrorNoLibrary or ErrorNoSecurityInterface; the next call tries again. Two concurrent calls would
-// at worst load it twice.
+// Loads "security.dll", calls its InitSecurityInterfaceW and keeps the function table that this
+// function returns. Does nothing when the process already has the table. The library is never
+// freed. If the table cannot be obtained, throws an SspiException (lib/wsspi/sspi_exception.h) by
+// pointer, with ErrorNoLibrary or ErrorNoSecurityInterface; the next call tries again. At worst,
+// two concurrent calls both load the library.
 void SspiInitialize();
 
 }  // namespace wsspi
