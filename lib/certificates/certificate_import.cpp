@@ -16,7 +16,7 @@ namespace {
 constexpr DWORD kContentTypes = 0x3FFE;
 
 // The functions of crypt32.dll, which are looked up at run time. A program that imports no
-// certificate does not need the library, and a missing function leads to an error code.
+// certificate therefore starts without the library, and a missing function becomes an error code.
 struct Crypt32 {
   // Returns false and sets the last error when the library or one of its functions is missing.
   // Never frees the library, since a store that AddFromFile leaves open still needs it.

@@ -43,9 +43,9 @@ class Owned {
     return &handle_;
   }
 
-  // `succeeded` is the result of the call to which the pointer from Receive() was passed. If true,
-  // keeps the handle that the call stored. If false, drops any value that the call stored, without
-  // closing it. Returns `succeeded`.
+  // `succeeded` is the result of the call to which the pointer from Receive() was passed. If it is
+  // true, keeps the handle that the call stored. If it is false, drops any value that the call
+  // stored, without closing it. Returns `succeeded`.
   bool KeepIf(bool succeeded) {
     if (!succeeded) {
       release();
@@ -56,7 +56,8 @@ class Owned {
   // Returns the handle, which this object no longer owns.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 
-  // Closes the present handle, if there is one, and takes ownership of `handle`.
+  // Closes the present handle, if there is one, and takes ownership of `handle`. Without an
+  // argument, the object then has no handle.
   void reset(Handle handle = Kind::None()) {
     const Handle old = std::exchange(handle_, handle);
     if (old != Kind::None()) {

@@ -5,8 +5,8 @@
 namespace kelvo {
 
 // These functions treat an ACL as unreadable when one of its ACEs extends past the end of the ACL.
-// They trace every failure (lib/trace/trace_sink.h) except an exception, after which they return
-// the same result as for other failures.
+// They trace every failure (lib/trace/trace_sink.h). An exception counts as a failure but is not
+// traced.
 
 // Means "no index". When AddAce receives this value as the index, it appends the ACE.
 constexpr DWORD kNoAceIndex = MAXDWORD;
@@ -18,13 +18,13 @@ DWORD FindACEInACL(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 // Appends all ACEs of `source`, in their order, to `destination`, an initialized ACL with room for
 // them. Returns FALSE when either ACL is unreadable or AddAce fails, for example because an ACE
 // does not fit; ACEs that were appended before the failure stay. If `source` has no ACEs, returns
-// TRUE even when `destination` is unreadable.
+// TRUE even when `destination` is null or unreadable.
 BOOL CopyACL(ACL* destination, const ACL* source);
 
 // Returns the size in bytes of a new ACL that holds the ACEs of `acl` (which may be null), an allow
-// or deny ACE for each SID, and the ACEs in `aces`. If `acl` is not null, the result includes the
-// header of `acl` in addition to that of the new ACL. Either array may be null when its count is 0.
-// Returns 0 when `acl` is unreadable or a SID is invalid.
+// or deny ACE for each SID in `sids`, and the ACEs in `aces`. If `acl` is not null, the result
+// includes the header of `acl` in addition to that of the new ACL. Either array may be null when
+// its count is 0. Returns 0 when `acl` is unreadable or a SID is invalid.
 DWORD CalculateACLSize(const ACL* acl, const PSID* sids, DWORD sidCount,
                        const ACCESS_ALLOWED_ACE* const* aces, DWORD aceCount);
 

@@ -18,7 +18,7 @@ namespace kelvo {
 // leaves the DACL unchanged in these cases:
 //   - The DACL cannot be read or written.
 //   - The DACL has no ACEs.
-//   - A deny ACE or an object deny ACE after index 0 is too short for its SID.
+//   - After index 0, a deny ACE or an object deny ACE is too short for its SID.
 BOOL DeleteDenyACEofObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type);
 
 }  // namespace kelvo

@@ -54,8 +54,8 @@ struct SspiException {
   // The source file and line that are reported as the place of the failure.
   kelvo::WString file;
   std::uint32_t line;
-  // The code that was given, or 16 when that was higher. Only codes from 0 to 13 have a text: check
-  // the code before you use it as an index into kSspiErrorTexts.
+  // The `errorCode` that was given, or 16 when that was above 16. Only codes from 0 to 13 have a
+  // text: check the code before you use it as an index into kSspiErrorTexts.
   std::int32_t code;
   // The error code of the call that failed, or 0.
   std::uint32_t detail;

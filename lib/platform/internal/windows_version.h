@@ -4,9 +4,9 @@
 
 namespace kelvo::internal {
 
-// Calls GetVersionExW every time and returns the OSVERSIONINFOW (276 bytes) that it fills. When
-// GetVersionExW fails, all fields are 0. On Windows 8.1 and later, GetVersionExW reports version
-// 6.2 to a program whose manifest does not list Windows 8.1 or later.
+// Returns the OSVERSIONINFOW (276 bytes) that GetVersionExW fills; each call queries the version
+// anew. When GetVersionExW fails, all fields are 0. On Windows 8.1 and later, GetVersionExW reports
+// version 6.2 to a program whose manifest does not list Windows 8.1 or later.
 OSVERSIONINFOW QueryWindowsVersion();
 
 // Returns true when `version` is Windows NT `major`.`minor` or later.
