@@ -19,7 +19,7 @@ bool RunsInConsoleSession() {
   return session == GetActiveConsoleSessionId();
 }
 
-// Returns a primary token of the user of the console session, null when there is none.
+// Returns a primary token of the console session's user, or null when Windows does not return one.
 OwnedKernelObject TokenOfConsoleUser() {
   OwnedKernelObject token;
   return token.KeepIf(QueryUserTokenOfSession(GetActiveConsoleSessionId(), token.Receive()))
