@@ -23,7 +23,8 @@ WString CopyToTemporaryFile(const wchar_t* source) {
     return {};
   }
   if (CopyFileW(source, copy.data(), FALSE) == FALSE) {
-    // GetTempFileNameW has already created an empty file with this name.
+    // GetTempFileNameW has already created an empty file with this name, which must not replace the
+    // target.
     DeleteFileW(copy.data());
     return {};
   }

@@ -16,8 +16,8 @@ namespace kelvo {
 //   0x80040011  the class identifier cannot be converted to a string (StringFromCLSID)
 //   3           no file has that path (FileExists), for example because the stored path is in
 //               quotation marks
-//   other       the Windows error code of opening the last of the four keys or of reading the
-//               value, such as ERROR_MORE_DATA for a value of more than 522 bytes
+//   other       the Windows error code of the last of the four attempts to open a key, or of
+//               reading the value, such as ERROR_MORE_DATA for a value of more than 522 bytes
 DWORD GetLocalServerPath(const wchar_t* progId, WString& path);
 
 }  // namespace kelvo

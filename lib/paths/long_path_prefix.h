@@ -16,8 +16,8 @@ WString AddLongPathPrefix(const wchar_t* path);
 
 // Removes the prefix: "\\?\C:\x" becomes "C:\x", and "\\?\UNC\server\share", with "UNC" in any
 // letter case, becomes "\\server\share". Returns every other path unchanged, for example a volume
-// path ("\\?\Volume{...}") or "\\?\UNC\.\pipe\x", which would become a device path without its
-// prefix.
+// path ("\\?\Volume{...}"). "\\?\UNC\.\pipe\x" is also returned unchanged, because without the
+// prefix it would be a device path.
 WString RemoveLongPathPrefix(const wchar_t* path);
 
 // Returns true when `path` begins with "\\?\".

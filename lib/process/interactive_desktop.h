@@ -12,6 +12,7 @@ inline constexpr const wchar_t* kInteractiveDesktop = L"Default";
 
 // The names of a window station and of a desktop on it.
 struct DesktopNames {
+  // Room for a name of up to 520 bytes, with its NUL.
   using Name = std::array<wchar_t, 260>;
 
   // A name that was not read is empty.

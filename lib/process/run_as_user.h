@@ -5,10 +5,11 @@
 namespace kelvo {
 
 // Runs a command line on the interactive desktop, "WinSta0\Default", with a copy of this process's
-// token. The caller may be on any desktop. Returns TRUE when the new process was started.
-// `commandLine` must be writable, because CreateProcessAsUserW may change it. With `wait`, returns
-// only after the new process has ended. When `process` is not null, `*process` receives the new
-// process's handle, which the caller closes. On failure, `*process` is unchanged. For example:
+// token. The caller may be on any desktop. Returns TRUE when the new process was started,
+// otherwise FALSE. `commandLine` must be writable, because CreateProcessAsUserW may change it. With
+// `wait`, returns only after the new process has ended. When `process` is not null, `*process`
+// receives the new process's handle, which the caller closes. On failure, `*process` is unchanged.
+// For example:
 //   wchar_t command[] = L"\"C:\\Program Files\\App\\app.exe\" /start";
 //   OwnedKernelObject process;
 //   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());
@@ -16,7 +17,7 @@ namespace kelvo {
 //   - If this process is not on the window station "WinSta0" (the comparison is case-sensitive), it
 //     is moved there for the duration of the call. The token's user also gets full access to the
 //     station and its desktop until the session ends (AllowTokenFullAccessToObject).
-//   - Windows must support SeTakeOwnershipPrivilege; this process need not hold it. The process
+//   - Windows must support SeTakeOwnershipPrivilege; this process need not hold it. This process
 //     needs SeAssignPrimaryTokenPrivilege, unless Windows lets it assign the token without this
 //     privilege.
 //   - The new process and its thread get a null DACL, which gives everyone full access to them. If
@@ -24,8 +25,8 @@ namespace kelvo {
 //     SYSTEM's rights.
 //   - Begin the command line with a full path in quotation marks. Without the quotation marks,
 //     Windows tries "C:\Program.exe" before "C:\Program Files\...".
-//   - Each of these privileges that this process holds is enabled, and stays enabled until the
-//     process exits: SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
+//   - The following privileges are enabled, if this process holds them, and stay enabled until it
+//     exits: SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
 //     SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege and SeCreateTokenPrivilege.
 //   - The handles of the copied token, and of a station and desktop opened by the call, stay open.
 //   - Failures are traced (lib/trace/trace_sink.h).

@@ -11,15 +11,15 @@ namespace kelvo {
 //   - On Windows XP and later, the program runs in that user's session and account
 //     (CreateProcessAsUserW). When nobody is logged on to the session or Windows refuses the user's
 //     token, the program runs in the caller's session and account instead (CreateProcessW).
-//     QueryUserTokenOfSession (lib/process/user_session.h) documents the privilege that is needed
-//     to get the token.
+//     For the privilege that is needed to get the token, see QueryUserTokenOfSession
+//     (lib/process/user_session.h).
 //   - On Windows 2000, the program always runs in the caller's session and account. It is started
 //     by RunAsUser (lib/process/run_as_user.h) when the caller is in the console session but not on
 //     the interactive desktop, and by CreateProcessW otherwise.
 //   - The program inherits the caller's environment and current directory, but no handles. Put no
 //     secret in the environment, because the user's program can read it.
-//   - A service must not let the program run in the service's account. It should first call
-//     QueryUserTokenOfSession, and should not start the program when that fails.
+//   - A service must not let the program run in the service's account: it must first call
+//     QueryUserTokenOfSession, and must not call this function if that fails.
 //
 // With `wait`, returns only after the program has ended. When `processHandle` is not null,
 // `*processHandle` receives the process's handle, which the caller closes. On failure,

@@ -16,7 +16,8 @@ LSTATUS RegistryReadBinary(HKEY root, const wchar_t* subkey, const wchar_t* valu
 
 // Writes `bytes` as a REG_BINARY value (RegSetValueExW), creating the key and all missing keys on
 // its path. Returns 0 or the error code of the write. Returns -1 when the key cannot be created or
-// opened for KEY_WRITE, and ERROR_INVALID_PARAMETER when the size does not fit in a DWORD.
+// opened for KEY_WRITE, and ERROR_INVALID_PARAMETER when the size of `bytes` does not fit in
+// a DWORD.
 LSTATUS RegistryWriteBinary(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const std::string& bytes);
 

@@ -17,7 +17,7 @@ constexpr REGSAM kDeleteValues = kDeleteSubkeys | KEY_QUERY_VALUE;
 constexpr DWORD kNameLength = 255;
 
 // Subkeys and values are always enumerated at index 0: the entry found there is deleted before the
-// next call, and another entry takes its index.
+// same key is enumerated again, and another entry takes its index.
 
 // Returns an empty string when the key has no subkey, cannot be opened or cannot be enumerated.
 WString FirstSubkey(HKEY root, const WString& path) {

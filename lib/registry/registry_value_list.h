@@ -11,7 +11,7 @@ namespace kelvo {
 
 // See lib/registry/registry_key.h for `root`, `subkey` and RegistryAccessFlags.
 
-// Pairs of a value's name and the value as a string.
+// An ordered list of pairs of a name and a string.
 using NameTextList = std::vector<std::pair<WString, WString>>;
 
 // Returns the name and the string of every REG_SZ, REG_EXPAND_SZ and REG_DWORD value of a key, in
