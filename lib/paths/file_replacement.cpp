@@ -13,17 +13,18 @@ namespace kelvo {
 
 namespace {
 
-// Returns the path of a copy in the temporary folder, or an empty string when it cannot be made.
+// Copies a file to the temporary folder and returns the copy's path, or an empty string on failure.
 WString CopyToTemporaryFile(const wchar_t* source) {
   std::array<wchar_t, MAX_PATH> folder{};
-  // Allocated first, so that running out of memory leaves no copy behind.
+  // Allocated before the file is created, so that running out of memory leaves no file behind.
   WString copy(MAX_PATH, L'\0');
   if (GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()) == 0 ||
       GetTempFileNameW(folder.data(), L"wqr", 0, copy.data()) == 0) {
     return {};
   }
   if (CopyFileW(source, copy.data(), FALSE) == FALSE) {
-    // GetTempFileNameW has created an empty file, which must not replace anything.
+    // GetTempFileNameW has already created an empty file with this name, which must not replace the
+    // target.
     DeleteFileW(copy.data());
     return {};
   }
@@ -57,7 +58,7 @@ bool Schedule(const wchar_t* source, const wchar_t* target) {
 
 bool ScheduleFileReplace(const void* /*unused*/, const wchar_t* source, const wchar_t* target,
                          bool copyFirst) {
-  // Without a target, Windows would delete the source.
+  // If the target were null, MoveFileExW would schedule the deletion of the source.
   if (source == nullptr || target == nullptr) {
     return true;
   }
@@ -66,7 +67,7 @@ bool ScheduleFileReplace(const void* /*unused*/, const wchar_t* source, const wc
     return true;
   }
   if (!Schedule(from.c_str(), target) && copyFirst) {
-    // The caller cannot delete it: it never learns the name.
+    // The caller could not delete the copy, because it does not know the copy's name.
     DeleteFileW(from.c_str());
   }
   return true;

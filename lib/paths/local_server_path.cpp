@@ -31,7 +31,8 @@ DWORD FindClassKey(const wchar_t* progId, WString& classKey) {
   return ERROR_SUCCESS;
 }
 
-// Not OpenRegistryKey, which would add RegistryAccessFlags: each attempt specifies its own view.
+// Calls RegOpenKeyExW rather than OpenRegistryKey, which would add RegistryAccessFlags to the
+// registry view that each attempt specifies.
 LSTATUS OpenServerKey(const WString& classKey, OwnedRegistryKey& key) {
   LSTATUS status = ERROR_SUCCESS;
   for (const wchar_t* const server : {L"\\LocalServer32", L"\\LocalServer"}) {
@@ -53,7 +54,8 @@ LSTATUS ReadServer(const WString& classKey, WString& server) {
     return status;
   }
   constexpr DWORD kCapacity = 522;
-  // One character more than the size passed to the registry: it ends a string stored without a NUL.
+  // Has one character more than the size passed to RegQueryValueExW, so that a NUL follows even
+  // a string that is stored without one.
   std::array<wchar_t, (kCapacity / sizeof(wchar_t)) + 1> text{};
   DWORD size = kCapacity;
   status = RegQueryValueExW(key.get(), nullptr, nullptr, nullptr,

@@ -6,16 +6,18 @@
 
 namespace kelvo {
 
-// Stores the path of the executable registered as the COM local server of `progId` and returns 0.
-// Reads the default value of the first key that opens: "LocalServer32", then "LocalServer", below
-// the class's key in HKEY_CLASSES_ROOT\CLSID, each in the 64-bit registry view before the 32-bit
-// one. The path is the stored string up to its first "/", with any spaces before that. On failure,
-// leaves `path` unchanged and returns one of these:
+// Stores in `path` the path of the executable that is registered as the COM local server of
+// `progId`, and returns 0. Tries to open the keys "LocalServer32" and then "LocalServer" below the
+// class's key in HKEY_CLASSES_ROOT\CLSID, each first in the 64-bit and then in the 32-bit registry
+// view. Reads the default value of the first key that can be opened. The path is the stored string
+// up to its first "/", including any spaces before the "/". On failure, leaves `path` unchanged and
+// returns one of these:
 //   0x80110411  the ProgID has no class (CLSIDFromProgID), or is null
-//   0x80040011  the class identifier cannot be written as a string (StringFromCLSID)
-//   3           no file has that path (FileExists), as when it is in quotation marks
-//   other       the Windows error code of opening the last of the four keys or of reading the
-//               value: ERROR_MORE_DATA when it is longer than 522 bytes
+//   0x80040011  the class identifier cannot be converted to a string (StringFromCLSID)
+//   3           no file has that path (FileExists), for example because the stored path is in
+//               quotation marks
+//   other       the Windows error code of the last of the four attempts to open a key, or of
+//               reading the value, such as ERROR_MORE_DATA for a value of more than 522 bytes
 DWORD GetLocalServerPath(const wchar_t* progId, WString& path);
 
 }  // namespace kelvo

@@ -12,28 +12,28 @@ namespace {
 constexpr std::wstring_view kPrefix = L"\\\\?\\";
 constexpr std::wstring_view kUncPrefix = L"\\\\?\\UNC\\";
 
-// Windows' limit, without the NUL.
+// The length of the longest path that Windows accepts, without the NUL.
 constexpr std::size_t kMaxPrefixedLength = 32'767;
 
 std::wstring_view ViewOf(const wchar_t* path) { return path != nullptr ? path : L""; }
 
 bool IsSeparator(wchar_t unit) { return unit == L'\\' || unit == L'/'; }
 
-// Returns true for "C:\" or "C:/" and anything after it.
+// Returns true when the path begins with a drive letter, a colon and a separator ("C:\" or "C:/").
 bool BeginsWithDrive(std::wstring_view path) {
   const auto letter = path.empty() ? L'\0' : path[0] | 0x20;
   return path.length() >= 3 && letter >= L'a' && letter <= L'z' && path[1] == L':' &&
          IsSeparator(path[2]);
 }
 
-// Returns true when the part of a path after "\\" begins with a server name. "\\.\" and "\\?\"
-// begin device paths.
+// Returns true when `path`, the part of a path after "\\", begins with a server name. "." and "?"
+// are not server names, because paths that begin with "\\.\" or "\\?\" are device paths.
 bool BeginsWithName(std::wstring_view path) {
   const std::wstring_view name = path.substr(0, path.find_first_of(L"\\/"));
   return !name.empty() && name != L"." && name != L"?";
 }
 
-// Returns true for "\\server" and anything after it.
+// Returns true when the path begins with two separators and a server name ("\\server").
 bool BeginsWithServer(std::wstring_view path) {
   return path.length() >= 3 && IsSeparator(path[0]) && IsSeparator(path[1]) &&
          BeginsWithName(path.substr(2));
@@ -73,7 +73,7 @@ WString RemoveLongPathPrefix(const wchar_t* path) {
       BeginsWithName(given.substr(kUncPrefix.length()))) {
     return WString(L"\\\\").append(given.substr(kUncPrefix.length()));
   }
-  // After the prefix, "/" is no separator.
+  // In a path that has the prefix, Windows does not treat "/" as a separator.
   const bool hasDrive = HasLongPathPrefix(path) &&
                         BeginsWithDrive(given.substr(kPrefix.length())) &&
                         given[kPrefix.length() + 2] == L'\\';

@@ -4,11 +4,12 @@
 
 namespace kelvo {
 
-// Returns the directory, with a trailing backslash, of the module whose handle `module` points to
-// (GetModuleFileNameW). A null pointer or a null handle means the program itself. The string is in
-// a process-wide buffer of 255 characters, which the next call overwrites. It is empty when the
-// process has no such module, or when the directory with its backslash is longer than 254
-// characters. A path without a backslash counts as a directory.
+// Returns the directory of a module (GetModuleFileNameW), with a trailing backslash. `module`
+// points to the module's handle; a null pointer or a null handle means the program itself. The
+// returned string is in a process-wide buffer of 255 characters, which the next call overwrites.
+// The string is empty when the process has no such module, or when the directory with its backslash
+// is longer than 254 characters. If the module's path has no backslash, the whole path counts as
+// the directory.
 const wchar_t* GetModuleDirectory(const HMODULE* module);
 
 }  // namespace kelvo

@@ -6,8 +6,8 @@
 
 namespace kelvo {
 
-// Returns a module's path (GetModuleFileNameW), of up to 32,767 characters. Null means the program
-// itself. Empty when the process has no such module.
+// Returns a module's path (GetModuleFileNameW), which may have up to 32,767 characters. A null
+// `module` means the program itself. Returns an empty string when the process has no such module.
 WString ReadModulePath(HMODULE module);
 
 }  // namespace kelvo

@@ -30,7 +30,7 @@ bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names) {
 }
 
 BOOL IsOnInteractiveDesktop() {
-  // Closed in reverse order.
+  // The destructors close the station first, then the desktop.
   internal::OwnedDesktop desktop;
   internal::OwnedWindowStation station;
   DesktopNames names;

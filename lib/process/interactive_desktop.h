@@ -12,21 +12,22 @@ inline constexpr const wchar_t* kInteractiveDesktop = L"Default";
 
 // The names of a window station and of a desktop on it.
 struct DesktopNames {
-  // 520 bytes.
+  // Room for a name of up to 520 bytes, with its NUL.
   using Name = std::array<wchar_t, 260>;
 
-  // Empty when not read.
+  // A name that was not read is empty.
   Name station{};
   Name desktop{};
 };
 
-// Reads the window station's name, then the desktop's (GetUserObjectInformationW). Stops at a name
-// that cannot be read or does not fit, traces which (lib/trace/trace_sink.h) and returns false.
+// Reads the window station's name, then the desktop's name (GetUserObjectInformationW). At the
+// first name that cannot be read or does not fit, traces which name it is (lib/trace/trace_sink.h)
+// and returns false.
 bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names);
 
-// Returns TRUE when this process's window station is "WinSta0" and this thread's desktop is
-// "Default", both in any ASCII letter case. Returns FALSE otherwise, and when a name cannot be
-// read, which is traced.
+// Returns TRUE when this process's window station is "WinSta0" and the calling thread's desktop is
+// "Default". Both comparisons ignore ASCII letter case. Otherwise returns FALSE. When a name cannot
+// be read, returns FALSE and traces the failure.
 BOOL IsOnInteractiveDesktop();
 
 }  // namespace kelvo

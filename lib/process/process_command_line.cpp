@@ -12,8 +12,9 @@ namespace kelvo {
 
 namespace {
 
-// The part of the PEB that is read. Reading the parameters at 0x18 is deliberate, although a 64-bit
-// PEB usually has them at 0x20.
+// The part of the process environment block (PEB) that ReadParameters reads. The pointer to the
+// process parameters is read from offset 0x18. This is deliberate, although a 64-bit PEB usually
+// has that pointer at 0x20.
 struct EnvironmentBlock {
   std::byte before[0x18];
   const void* parameters;
@@ -33,10 +34,10 @@ static_assert(sizeof(ProcessParameters) == 240);
 static_assert(sizeof(PROCESS_BASIC_INFORMATION) == 48 &&
               offsetof(PROCESS_BASIC_INFORMATION, PebBaseAddress) == 8);
 
-// Process-wide, but looked up again on every call.
+// Every call of GetProcessCommandLine looks up this function again.
 decltype(&::NtQueryInformationProcess) queryProcess = nullptr;
 
-// Returns the number of bytes read, 0 on failure.
+// Returns the number of bytes read, or 0 on failure.
 SIZE_T Read(HANDLE process, const void* address, void* content, SIZE_T size) {
   SIZE_T read = 0;
   return ReadProcessMemory(process, address, content, size, &read) != FALSE ? read : 0;

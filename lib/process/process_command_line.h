@@ -4,16 +4,19 @@
 
 namespace kelvo {
 
-// Copies the command line of another process, UTF-16 without a terminator, into `buffer` and
-// returns the number of bytes copied. `process` needs PROCESS_QUERY_INFORMATION and
-// PROCESS_VM_READ. Returns 0 when `bufferBytes` is less than the command line's length in bytes,
-// when NtQueryInformationProcess is missing or fails, or when a read fails, which may leave part of
-// the command line in `buffer`.
+// Copies the command line of another process into `buffer`, as UTF-16 without a terminator, and
+// returns the number of bytes copied. The handle `process` needs PROCESS_QUERY_INFORMATION and
+// PROCESS_VM_READ. Returns 0 in these cases:
+//   - The system is Windows 9x, Windows 7 or a later version, or GetVersionExW fails. The other
+//     process is then not read.
+//   - `bufferBytes` is less than the command line's length in bytes.
+//   - NtQueryInformationProcess (looked up at run time) is missing or fails.
+//   - Reading the other process fails. A part of the command line may then be in `buffer`.
 //
-// Reads the process parameters from offset 0x18 of the process environment block (PEB), which
-// NtQueryInformationProcess (looked up at run time) finds. In a 64-bit process, they are usually at
-// 0x20; what is copied is then not the command line. On Windows 7 and later, on Windows 9x, and
-// when GetVersionExW fails, returns 0 without reading the process.
+// NtQueryInformationProcess returns the address of the process environment block (PEB). The pointer
+// to the process parameters, which contain the command line, is read from offset 0x18 of the PEB.
+// In a 64-bit process, that pointer is usually at 0x20. In that case, the bytes copied are not the
+// command line.
 DWORD GetProcessCommandLine(HANDLE process, void* buffer, DWORD bufferBytes);
 
 }  // namespace kelvo

@@ -29,7 +29,7 @@ StartResult WaitForMutex(const WString& name, bool pumpMessages, DWORD timeoutMs
     if (OwnedKernelObject(OpenMutexW(MUTEX_ALL_ACCESS, FALSE, name.c_str()))) {
       return kMutexAppeared;
     }
-    // While pumping, polls without a pause, so that no message has to wait.
+    // The loop does not sleep while it pumps messages, so that no message has to wait.
     if (!pumpMessages) {
       Sleep(kPollPauseMs);
     } else if (PumpWaitingMessages() == WM_CLOSE) {

@@ -31,7 +31,7 @@ std::int32_t GetRemoteClientName(wchar_t* buffer, int capacity) {
       answer = 0;
     }
   });
-  // A separate guarded call, so that the name is freed whatever happened above.
+  // This second guarded call frees the name even after an exception in the first call.
   GuardedCall([&] {
     if (name != nullptr) {
       freeMemory(name);

@@ -15,7 +15,7 @@ namespace kelvo {
 
 namespace {
 
-// What one call keeps for its clean-up.
+// The state and the resources of one call of RunAsUser.
 struct Launch {
   bool isOnInteractiveStation = false;
   internal::OwnedWindowStation keptStation;
@@ -31,7 +31,7 @@ bool KeepPlace(HWINSTA station, HDESK desktop, Launch& launch) {
   if (!ReadDesktopNames(station, desktop, names)) {
     return false;
   }
-  // Case-sensitive, unlike IsOnInteractiveDesktop.
+  // Both comparisons are case-sensitive, unlike those in IsOnInteractiveDesktop.
   launch.isOnInteractiveStation = lstrcmpW(names.station.data(), kInteractiveStation) == 0;
   const bool isOnInteractiveDesktop =
       launch.isOnInteractiveStation && lstrcmpW(names.desktop.data(), kInteractiveDesktop) == 0;
@@ -86,7 +86,7 @@ void CleanUp(Launch& launch, BOOL wait, HANDLE* process) {
     SetProcessWindowStation(launch.keptStation.get());
   }
   if (launch.keptDesktop) {
-    // The thread never left it.
+    // Sets the desktop that the thread already has.
     SetThreadDesktop(launch.keptDesktop.get());
   }
   if (launch.started.process) {
@@ -116,7 +116,7 @@ BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process) {
   if (!internal::Check(static_cast<bool>(ownToken), L"RunAsUser OpenProcessToken On Self Failed")) {
     return FALSE;
   }
-  // Left open by design.
+  // The token's handle stays open by design.
   const HANDLE token = internal::DuplicateAsPrimary(std::move(ownToken)).release();
   Launch launch;
   return internal::GuardedOperation(

@@ -4,29 +4,32 @@
 
 namespace kelvo {
 
-// Starts a command line with a copy of this process's own token on the interactive desktop,
-// "WinSta0\Default", whatever desktop the caller is on, and returns whether it was started.
-// `commandLine` must be writable (CreateProcessAsUserW). With `wait`, returns only after the new
-// process has ended. `process` may be null; otherwise it receives the new process's handle, which
-// the caller closes, and is unchanged on failure:
+// Runs a command line on the interactive desktop, "WinSta0\Default", with a copy of this process's
+// token. The caller may be on any desktop. Returns TRUE when the new process was started,
+// otherwise FALSE. `commandLine` must be writable, because CreateProcessAsUserW may change it. With
+// `wait`, returns only after the new process has ended. When `process` is not null, `*process`
+// receives the new process's handle, which the caller closes. On failure, `*process` is unchanged.
+// For example:
 //   wchar_t command[] = L"\"C:\\Program Files\\App\\app.exe\" /start";
 //   OwnedKernelObject process;
 //   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());
 //
-//   - A process that is not on "WinSta0" (case-sensitive) is moved there for the duration of the
-//     call, and the token's user gets full access to the station and its desktop until the session
-//     ends (AllowTokenFullAccessToObject).
-//   - Windows must support SeTakeOwnershipPrivilege. The caller needs
-//     SeAssignPrimaryTokenPrivilege, unless the token may be assigned without it.
-//   - The new process and its thread get a null DACL, so everyone has full access: called as
-//     SYSTEM, this gives every user of the computer a process with SYSTEM's rights.
-//   - Begin the command line with a full path in quotation marks, or Windows tries "C:\Program.exe"
-//     for "C:\Program Files\...".
-//   - Enables the following privileges, as far as this process holds them. They stay enabled until
-//     the process exits: SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
+//   - If this process is not on the window station "WinSta0" (the comparison is case-sensitive), it
+//     is moved there for the duration of the call. The token's user also gets full access to the
+//     station and its desktop until the session ends (AllowTokenFullAccessToObject).
+//   - Windows must support SeTakeOwnershipPrivilege; this process need not hold it. This process
+//     needs SeAssignPrimaryTokenPrivilege, unless Windows lets it assign the token without this
+//     privilege.
+//   - The new process and its thread get a null DACL, which gives everyone full access to them. If
+//     SYSTEM calls this function, every user of the computer can thus control a process that has
+//     SYSTEM's rights.
+//   - Begin the command line with a full path in quotation marks. Without the quotation marks,
+//     Windows tries "C:\Program.exe" before "C:\Program Files\...".
+//   - The following privileges are enabled, if this process holds them, and stay enabled until it
+//     exits: SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
 //     SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege and SeCreateTokenPrivilege.
-//   - Leaves open the token, and the station and desktop that it opened.
-//   - Traces failures (lib/trace/trace_sink.h).
+//   - The handles of the copied token, and of a station and desktop opened by the call, stay open.
+//   - Failures are traced (lib/trace/trace_sink.h).
 BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process);
 
 }  // namespace kelvo

@@ -19,7 +19,8 @@ bool RunsInConsoleSession() {
   return session == GetActiveConsoleSessionId();
 }
 
-// Returns a primary token of the user of the console session, null when there is none.
+// Returns a primary token of the console session's user, or null when QueryUserTokenOfSession
+// fails.
 OwnedKernelObject TokenOfConsoleUser() {
   OwnedKernelObject token;
   return token.KeepIf(QueryUserTokenOfSession(GetActiveConsoleSessionId(), token.Receive()))

@@ -9,19 +9,21 @@ namespace kelvo {
 // command line is the path in double quotes, a space and the unchanged arguments; null strings
 // count as empty. Give a full path.
 //   - On Windows XP and later, the program runs in that user's session and account
-//     (CreateProcessAsUserW). When nobody is logged on there, or Windows refuses the user's token
-//     (for what that needs, see QueryUserTokenOfSession in lib/process/user_session.h), it runs in
-//     the caller's session and account instead (CreateProcessW).
-//   - On Windows 2000, it always runs in the caller's account: through RunAsUser
-//     (lib/process/run_as_user.h) when the caller is in the console session but not on the
-//     interactive desktop, otherwise in the caller's session.
-//   - The program inherits the environment and the current directory, but no handles. The
-//     environment reaches the user's program: put no secret there.
-//   - A service must not let the program run in the service's account: call QueryUserTokenOfSession
-//     first.
+//     (CreateProcessAsUserW). When nobody is logged on to the session or Windows refuses the user's
+//     token, the program runs in the caller's session and account instead (CreateProcessW).
+//     For the privilege that is needed to get the token, see QueryUserTokenOfSession
+//     (lib/process/user_session.h).
+//   - On Windows 2000, the program always runs in the caller's session and account. It is started
+//     by RunAsUser (lib/process/run_as_user.h) when the caller is in the console session but not on
+//     the interactive desktop, and by CreateProcessW otherwise.
+//   - The program inherits the caller's environment and current directory, but no handles. Put no
+//     secret in the environment, because the user's program can read it.
+//   - A service must not let the program run in the service's account: it must first call
+//     QueryUserTokenOfSession, and must not call this function if that fails.
 //
-// With `wait`, returns only after the program has ended. When `processHandle` is not null, it
-// receives the process's handle, which the caller closes; it is unchanged on failure:
+// With `wait`, returns only after the program has ended. When `processHandle` is not null,
+// `*processHandle` receives the process's handle, which the caller closes. On failure,
+// `*processHandle` is unchanged. For example:
 //   OwnedKernelObject process;
 //   LaunchInUserSession(L"C:\\App\\app.exe", L"/start", true, process.Receive());
 //   const BOOL hasEnded = GetExitCodeProcess(process.get(), &exitCode);

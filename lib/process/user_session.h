@@ -4,14 +4,16 @@
 
 namespace kelvo {
 
-// Returns the identifier of the console session, the one attached to the physical screen and
-// keyboard (WTSGetActiveConsoleSessionId, looked up at run time), or 0xFFFFFFFF while another is
-// being attached. Returns 0 before Windows XP and on a Windows without that function.
+// Returns the identifier of the console session, which is the session attached to the physical
+// screen and keyboard (WTSGetActiveConsoleSessionId, looked up at run time). Returns 0xFFFFFFFF
+// while another session is being attached. Returns 0 on Windows versions before XP and when Windows
+// lacks WTSGetActiveConsoleSessionId.
 DWORD GetActiveConsoleSessionId();
 
-// Stores the primary token of the user who is logged on to the session in `*token`, which the
-// caller closes (WTSQueryUserToken, looked up at run time). Needs the privilege "SeTcbPrivilege".
-// Returns false and stores null when Windows refuses the token, and before Windows XP.
+// Stores in `*token` the primary token of the user who is logged on to the session
+// (WTSQueryUserToken, looked up at run time). The caller closes the token. The calling process
+// needs the privilege "SeTcbPrivilege". When Windows refuses the token, and on Windows versions
+// before XP, stores null and returns false.
 bool QueryUserTokenOfSession(DWORD sessionId, HANDLE* token);
 
 }  // namespace kelvo

@@ -4,10 +4,12 @@
 
 namespace kelvo {
 
-// Returns the path below HKEY_CURRENT_USER of the key in which Explorer caches the names of
-// programs that it has started. On Windows Vista and later, that is
-// "Software\Classes\Local Settings\Software\Microsoft\Windows\Shell\MuiCache", on Windows XP and
-// Server 2003 "Software\Microsoft\Windows\ShellNoRoam\MUICache", before that an empty string.
+// Returns the path, below HKEY_CURRENT_USER, of the key in which Explorer caches the names of
+// programs that it has started:
+//   - on Windows Vista and later,
+//     "Software\Classes\Local Settings\Software\Microsoft\Windows\Shell\MuiCache"
+//   - on Windows XP and Server 2003, "Software\Microsoft\Windows\ShellNoRoam\MUICache"
+//   - on earlier versions, an empty string
 // Windows does not document these keys.
 WString GetMuiCacheKeyName();
 

@@ -8,15 +8,16 @@ namespace kelvo {
 
 // See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
 
-// Reads a REG_BINARY value into `bytes`. Returns 0 or the error code of the failed open or query
-// (RegQueryValueExW). Leaves `bytes` unchanged on failure and also, although it returns 0, when the
-// value is empty or has another type.
+// Reads a REG_BINARY value into `bytes`. Returns 0 or the error code of opening the key or querying
+// the value (RegQueryValueExW). On failure, leaves `bytes` unchanged. When the value is empty or
+// has another type, also leaves `bytes` unchanged, but returns 0.
 LSTATUS RegistryReadBinary(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            std::string& bytes);
 
 // Writes `bytes` as a REG_BINARY value (RegSetValueExW), creating the key and all missing keys on
-// its path. Returns 0, the error code of the write, -1 when the key cannot be created or opened for
-// KEY_WRITE, or ERROR_INVALID_PARAMETER for more bytes than a DWORD can count.
+// its path. Returns 0 or the error code of the write. Returns -1 when the key cannot be created or
+// opened for KEY_WRITE, and ERROR_INVALID_PARAMETER when the size of `bytes` does not fit in
+// a DWORD.
 LSTATUS RegistryWriteBinary(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const std::string& bytes);
 

@@ -7,17 +7,17 @@
 namespace kelvo {
 
 // Rules for all registry operations in this folder:
-//   - `root` is an open or a predefined key. `subkey` is a path below it, with backslashes between
-//     its keys. `valueName` is a value's name; null or an empty string means the key's default
-//     value. All strings are NUL-terminated.
+//   - `root` is an open key or a predefined key. `subkey` is the path of a key below `root`, with
+//     backslashes between the key names. `valueName` is a value's name; null or an empty string
+//     means the key's default value. All strings are NUL-terminated.
 //   - Keys are opened with RegistryAccessFlags. Only OpenRegistryKey and CreateRegistryKey leave a
-//     key open; every other function closes its keys before it returns.
-//   - A status is 0 for success, otherwise the Windows error code of the failed call, or -1 where
-//     the operation says so.
+//     key open; before any other function returns, it closes the keys that it opened.
+//   - An LSTATUS is 0 on success. On failure, it is the Windows error code of the failed call,
+//     unless the function's comment names another number, such as -1.
 
-// ORed into the access mask of every key that these operations open or create, and passed to
-// RegDeleteKeyExW. To use another registry view, set it to KEY_WOW64_64KEY or KEY_WOW64_32KEY
-// before other threads use the registry.
+// Flags for every call in this folder that opens, creates or deletes a key: they are ORed into the
+// access mask, and passed to RegDeleteKeyExW. To use another registry view, set this variable to
+// KEY_WOW64_64KEY or KEY_WOW64_32KEY before other threads use the registry.
 extern REGSAM RegistryAccessFlags;
 
 namespace internal {
@@ -30,11 +30,11 @@ struct RegistryKeyTraits {
 
 }  // namespace internal
 
-// A key that this process opened: closed with RegCloseKey, null when there is none.
+// Owns a key that this process opened, and closes it with RegCloseKey. Null means "no key".
 using OwnedRegistryKey = Owned<internal::RegistryKeyTraits>;
 
-// Opens an existing key (RegOpenKeyExW with `access` | RegistryAccessFlags). A null or empty
-// `subkey` opens `root` itself. On failure, `key` owns nothing.
+// Opens an existing key (RegOpenKeyExW with `access` | RegistryAccessFlags). When `subkey` is null
+// or empty, opens `root` itself. On failure, `key` owns nothing.
 LSTATUS OpenRegistryKey(HKEY root, const wchar_t* subkey, REGSAM access, OwnedRegistryKey& key);
 
 // Opens a key for KEY_WRITE | RegistryAccessFlags, or creates it and all missing keys on its path
@@ -42,7 +42,7 @@ LSTATUS OpenRegistryKey(HKEY root, const wchar_t* subkey, REGSAM access, OwnedRe
 // owns nothing.
 LSTATUS CreateRegistryKey(HKEY root, const wchar_t* subkey, OwnedRegistryKey& key);
 
-// Returns true when the key opens with KEY_READ.
+// Returns true when the key can be opened for KEY_READ.
 bool RegistryKeyExists(HKEY root, const wchar_t* subkey);
 
 }  // namespace kelvo

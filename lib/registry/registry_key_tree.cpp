@@ -16,9 +16,10 @@ constexpr REGSAM kDeleteSubkeys =
 constexpr REGSAM kDeleteValues = kDeleteSubkeys | KEY_QUERY_VALUE;
 constexpr DWORD kNameLength = 255;
 
-// The loops always ask for index 0, since the previous entry there has been deleted.
+// Subkeys and values are always enumerated at index 0: the entry found there is deleted before the
+// same key is enumerated again, and another entry takes its index.
 
-// Empty when there is no subkey or the key does not open.
+// Returns an empty string when the key has no subkey, cannot be opened or cannot be enumerated.
 WString FirstSubkey(HKEY root, const WString& path) {
   OwnedRegistryKey key;
   std::array<wchar_t, kNameLength> name{};
@@ -65,8 +66,9 @@ LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_
   if (WString(parentPath).empty() || WString(keyName).empty()) {
     return ERROR_ACCESS_DENIED;
   }
-  // The path of the key being emptied and, for each key from keyName down to it, the length of its
-  // parent's path. A loop, not a recursion, since others decide how deep the tree is.
+  // `path` is the path of the key being emptied. `parentLengths` has one number for each key from
+  // `keyName` down to that key: the length of the path of the key's parent. The code uses a loop,
+  // not recursion, because other programs may have made the tree too deep for the stack.
   WString path = WString(parentPath) + L"\\" + keyName;
   std::vector<std::size_t> parentLengths{WString(parentPath).length()};
   while (!parentLengths.empty()) {

@@ -6,15 +6,17 @@ namespace kelvo {
 
 // See lib/registry/registry_key.h for `root` and RegistryAccessFlags.
 
-// Deletes the key parentPath\keyName below `root` with everything below it, from the deepest key
-// up. Returns 0 or the error code of the first deletion that failed, or of opening the key's
-// parent; what was deleted before that stays deleted. Returns ERROR_ACCESS_DENIED and changes
-// nothing when either string is null or empty.
+// Deletes the key parentPath\keyName below `root` and everything in it, every subkey before its
+// parent. Stops at the first step that fails: deleting a value, deleting a key, or opening the
+// parent of a key to delete. Returns 0 or the error code of the failed step; everything deleted
+// before that step stays deleted. When `parentPath` or `keyName` is null or empty, returns
+// ERROR_ACCESS_DENIED and changes nothing.
 //
-// The paths in a tree may be as long as the registry accepts (32,767 characters). A tree with a
-// longer path, or with a subkey whose name has 255 characters, is not deleted completely: the error
-// code of deleting a key that still has subkeys is returned. Keys are deleted with RegDeleteKeyExW
-// or, where Windows lacks it, with RegDeleteKeyW, which ignores the registry view.
+// The path of a key in the tree may have up to 32,767 characters, the limit of the registry
+// functions. When the tree has a key with a longer path, or a subkey whose name has 255 characters,
+// only a part of the tree is deleted. The function then returns the error code of deleting a key
+// that still has subkeys. Keys are deleted with RegDeleteKeyExW. Where Windows lacks this function,
+// they are deleted with RegDeleteKeyW, which ignores the registry view.
 LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_t* keyName);
 
 }  // namespace kelvo

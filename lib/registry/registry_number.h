@@ -6,9 +6,9 @@ namespace kelvo {
 
 // See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
 
-// Returns the number in a REG_DWORD value (RegQueryValueExW), or `defaultNumber` when the key does
-// not open or the value is missing, has another type or has more than 4 bytes. In shorter data, the
-// missing high bytes count as 0.
+// Returns the number in a REG_DWORD value (RegQueryValueExW). Returns `defaultNumber` when the key
+// cannot be opened, or when the value is missing, has another type or has more than 4 bytes. When
+// the value has fewer than 4 bytes, the missing high bytes count as 0.
 DWORD RegistryReadDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                         DWORD defaultNumber);
 
@@ -18,8 +18,8 @@ bool RegistryReadBoolean(HKEY root, const wchar_t* subkey, const wchar_t* valueN
                          bool defaultAnswer);
 
 // Writes a REG_DWORD value of 4 bytes (RegSetValueExW), creating the key and all missing keys on
-// its path. Returns 0, the error code of the write, or -1 when the key cannot be created or opened
-// for KEY_WRITE.
+// its path. Returns 0 or the error code of the write. Returns -1 when the key cannot be created or
+// opened for KEY_WRITE.
 LSTATUS RegistryWriteDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            DWORD number);
 

@@ -18,8 +18,9 @@ constexpr DWORD kReadLength = kMaxRegistryStringSize / sizeof(wchar_t);
 
 enum class Expansion { kNone, kWhereTypeSays };
 
-// Reads a string value into `buffer`, which must be zeroed; `capacity`, in characters, is the size
-// passed to the registry. Returns false, with an empty `buffer`, when the value cannot be used.
+// Reads a string value into `buffer`, which the caller has filled with NULs. `capacity` is the size
+// passed to RegQueryValueExW, in characters. When the value cannot be read or is not a string,
+// returns false, and `buffer` holds an empty string.
 bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expansion expansion,
               std::span<wchar_t> buffer, DWORD capacity) {
   OwnedRegistryKey key;
@@ -38,7 +39,8 @@ bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expans
   // The string may have been stored without a terminator.
   buffer.back() = L'\0';
   if (type == REG_EXPAND_SZ && expansion == Expansion::kWhereTypeSays) {
-    // One more than the size passed to the function: a string cut at that size has no NUL.
+    // Has one character more than the size passed to ExpandEnvironmentStringsW, which may fill that
+    // size completely, without a NUL, when the result is longer.
     std::array<wchar_t, MAX_PATH + 1> expanded{};
     if (ExpandEnvironmentStringsW(buffer.data(), expanded.data(), MAX_PATH) != 0) {
       lstrcpynW(buffer.data(), expanded.data(), static_cast<int>(capacity));
@@ -73,7 +75,8 @@ LSTATUS WriteText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, DW
 
 WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            const wchar_t* defaultText) {
-  // One more than the size passed to the registry, to end 2,048 bytes that have no terminator.
+  // Has one character more than the size passed to RegQueryValueExW, so that a value of 2,048 bytes
+  // without a terminator is followed by a NUL.
   std::array<wchar_t, kReadLength + 1> buffer{};
   const bool found =
       ReadText(root, subkey, valueName, Expansion::kWhereTypeSays, buffer, kReadLength);

@@ -21,7 +21,8 @@ class ValueReader {
     nameLength_ = kBufferLength;
     size_ = kBufferLength * sizeof(wchar_t);
     name_.front() = L'\0';
-    // The rest keeps the previous value's data: a number's string may continue into it.
+    // Clears only the first character: the string of a REG_DWORD value may continue with the data
+    // that earlier values left in this buffer, as documented at ReadRegistryKeyValues.
     data_.front() = L'\0';
     return RegEnumValueW(key_, index, name_.data(), &nameLength_, nullptr, &type_,
                          reinterpret_cast<BYTE*>(data_.data()), &size_) == ERROR_SUCCESS;
@@ -48,7 +49,8 @@ class ValueReader {
     return WString(std::wstring_view(name_.data(), nameLength_));
   }
 
-  // Returns only this value's data, which may lack a terminator or end in half a character.
+  // Returns the string in this value's data, which may lack a terminator or end in half a
+  // character. Ignores the data of earlier values that follows in the buffer.
   [[nodiscard]] WString StoredText() const {
     WString text(std::wstring_view(data_.data(), (size_ + 1) / sizeof(wchar_t)));
     if (size_ % sizeof(wchar_t) != 0) {
@@ -65,7 +67,8 @@ class ValueReader {
   }
 
   HKEY key_;
-  // One more than the size passed to the registry, so that a string of full length ends in a NUL.
+  // Each buffer has one character more than the size passed to RegEnumValueW, so that even a string
+  // of that size is followed by a NUL.
   std::vector<wchar_t> name_ = std::vector<wchar_t>(kBufferLength + 1);
   std::vector<wchar_t> data_ = std::vector<wchar_t>(kBufferLength + 1);
   DWORD nameLength_ = 0;

@@ -6,12 +6,14 @@
 
 namespace kelvo {
 
-// Splits a full path such as HKEY_CURRENT_USER\Software\App\Setting into its root key, the path
-// below it and the value's name, which follows the last backslash. The root is HKEY_CLASSES_ROOT,
-// HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE or HKEY_USERS, in capitals and unabbreviated. Returns true
-// when neither the key path nor the value name is empty. Otherwise returns false. It then assigns
-// nothing when the path does not start with one of these roots and a backslash, only `root` when
-// there is no second backslash, and all three when the key path or the value name is empty.
+// Splits a full path such as HKEY_CURRENT_USER\Software\App\Setting into the root key, the path of
+// the key below the root, and the value's name, which follows the last backslash. The root is
+// HKEY_CLASSES_ROOT, HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE or HKEY_USERS, in capitals and
+// unabbreviated. Returns true when neither the key path nor the value name is empty. Returns false
+// in these cases:
+//   - The path does not start with one of these roots and a backslash. Assigns nothing.
+//   - There is no second backslash. Assigns only `root`.
+//   - The key path or the value name is empty. Assigns all three results.
 bool ParseRegistryValuePath(const WString& fullPath, HKEY& root, WString& keyPath,
                             WString& valueName);
 

@@ -12,7 +12,8 @@ bool EnableRegistryReflection(HKEY key, bool enable) {
 }
 
 REGSAM GetRegistryViewAccess(int view) {
-  // Only 64-bit Windows has two views, and the library is built for no other.
+  // Only 64-bit Windows has two views. The library is built for 64-bit Windows only, so this
+  // function does not check whether Windows is 64-bit.
   switch (view) {
     case 1:
       return KEY_WOW64_32KEY;

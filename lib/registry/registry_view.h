@@ -10,7 +10,7 @@ namespace kelvo {
 bool EnableRegistryReflection(HKEY key, bool enable);
 
 // Returns the access flag for a registry view: KEY_WOW64_32KEY for view 1, KEY_WOW64_64KEY for view
-// 2, and 0, the process's default view, for every other number.
+// 2, and 0 (the process's default view) for every other number.
 REGSAM GetRegistryViewAccess(int view);
 
 }  // namespace kelvo

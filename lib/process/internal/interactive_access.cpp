@@ -21,7 +21,7 @@ HWINSTA SetInteractiveStation() {
              L"RunAsUser SetProcessWindowStation to hwinstaNew Failed")) {
     return nullptr;
   }
-  // Left open by design, like the desktop below.
+  // The handle stays open by design, like that of the desktop in MoveToInteractiveStation.
   return station.release();
 }
 
@@ -33,7 +33,7 @@ bool MoveToInteractiveStation(HANDLE token) {
     return false;
   }
   SetLastError(ERROR_SUCCESS);
-  // Opened only for its DACL: the thread does not switch to it.
+  // The desktop is opened only to change its DACL. The thread stays on its current desktop.
   const HDESK desktop = OpenDesktopW(kInteractiveDesktop, 0, FALSE, kReadAndWriteDacl);
   if (!Check(desktop != nullptr, L"RunAsUser Open Desktop With WRITE_DAC Failed")) {
     return false;

@@ -4,10 +4,11 @@
 
 namespace kelvo::internal {
 
-// Assigns the window station "WinSta0" to this process and gives the token's user full access to it
-// and to its desktop "Default" (SetProcessWindowStation, AllowTokenFullAccessToObject). The thread
-// keeps its desktop. Both handles stay open by design. Returns false and traces why when a step
-// fails; the process may then already be on "WinSta0".
+// Moves this process to the window station "WinSta0" (SetProcessWindowStation). Gives the token's
+// user full access to this station and to its desktop "Default" (AllowTokenFullAccessToObject). The
+// calling thread keeps its desktop. The handles of the station and of the desktop stay open by
+// design. When a step fails, traces why and returns false; the process may then already be on
+// "WinSta0".
 bool MoveToInteractiveStation(HANDLE token);
 
 }  // namespace kelvo::internal

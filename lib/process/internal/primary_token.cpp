@@ -10,7 +10,7 @@ namespace kelvo::internal {
 
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token) {
   OwnedKernelObject duplicate;
-  // A primary token ignores the impersonation level.
+  // The impersonation level (SecurityDelegation) has no effect on a primary token.
   GuardedCall([&] {
     duplicate.KeepIf(DuplicateTokenEx(token.get(), MAXIMUM_ALLOWED, nullptr, SecurityDelegation,
                                       TokenPrimary, duplicate.Receive()) != FALSE);

@@ -4,13 +4,14 @@
 
 namespace kelvo::internal {
 
-// Returns a primary token with all rights (MAXIMUM_ALLOWED), duplicated from `token` with
-// DuplicateTokenEx, or `token` itself when that fails. Returns null for null.
+// Duplicates `token` as a primary token (DuplicateTokenEx) and returns the duplicate, whose handle
+// has all the rights that Windows allows (MAXIMUM_ALLOWED). When the duplication fails, returns
+// `token` itself. When `token` is null, returns null.
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token);
 
-// Enables the privileges in this process's token that help to start a process with another token.
-// Returns false, and traces it, when enabling SeTakeOwnershipPrivilege fails; ignores failures of
-// the others.
+// Enables, in this process's token, the privileges that help to start a process with another token.
+// When enabling SeTakeOwnershipPrivilege fails, traces the failure and returns false. Ignores
+// failures to enable the other privileges.
 bool EnableStartPrivileges();
 
 }  // namespace kelvo::internal

@@ -5,10 +5,12 @@
 
 namespace kelvo::internal {
 
-// The handles of a process that CreateProcessW or CreateProcessAsUserW created; null before that.
+// The handles of a process that CreateProcessW or CreateProcessAsUserW created, and of its first
+// thread. Both are null when no process was created.
 struct StartedProcess {
   StartedProcess() = default;
-  // `isCreated` is the call's result: when the call failed, `started` holds no process.
+  // `isCreated` is the result of CreateProcessW or CreateProcessAsUserW. When it is FALSE,
+  // `started` is ignored.
   StartedProcess(BOOL isCreated, const PROCESS_INFORMATION& started)
       : process(isCreated != FALSE ? started.hProcess : nullptr),
         thread(isCreated != FALSE ? started.hThread : nullptr) {}
@@ -17,7 +19,8 @@ struct StartedProcess {
   OwnedKernelObject thread;
 };
 
-// Returns the path in double quotes, a space and the unchanged arguments; null counts as empty.
+// Returns a command line: the path in double quotes, a space and the unchanged arguments. A null
+// string counts as empty.
 inline WString QuotedCommandLine(const wchar_t* exePath, const wchar_t* arguments) {
   return WString(L"\"") + exePath + L"\" " + arguments;
 }

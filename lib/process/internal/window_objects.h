@@ -6,8 +6,9 @@
 
 namespace kelvo::internal {
 
-// Window stations and desktops, including those from GetProcessWindowStation and GetThreadDesktop:
-// Windows refuses to close a handle that the process or a thread is using.
+// Types that own the handles of window stations and desktops. They may also own a handle from
+// GetProcessWindowStation or GetThreadDesktop: closing it does no harm, because Windows refuses to
+// close a handle that the process or a thread is using.
 struct WindowStationTraits {
   using Handle = HWINSTA;
   static Handle None() { return nullptr; }
