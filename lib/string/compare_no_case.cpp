@@ -16,8 +16,8 @@ namespace {
 using Table = std::array<wchar_t, 0x10000>;
 
 // Maps all units in one call, because a call to Windows costs far more than mapping one unit. The
-// input contains the units in order, so only U+DBFF and U+DC00 form a surrogate pair in it. That
-// pair encodes a character without case.
+// units are in order, so the only surrogate pair among them is U+DBFF U+DC00, which encodes a
+// character without case.
 Table MakeTable() {
   Table units;
   const auto fill = [&] { std::iota(units.begin(), units.end(), L'\0'); };

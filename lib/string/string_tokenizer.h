@@ -27,15 +27,14 @@ class StringTokenizer {
 
  private:
   // CollapseRuns replaces each run of delimiters in the string with one delimiter. A delimiter of
-  // one unit cannot overlap itself and needs no replacement: SkipRun skips the run after each item.
+  // one unit cannot overlap itself, so its runs stay: SkipRun skips the run after each item.
   void CollapseRuns();
   void SkipRun();
 
   WString text_;
   WString delimiter_;
   bool skipsRuns_ = false;
-  // The position of the next item. Erasing each returned item from the string instead would take
-  // quadratic time.
+  // The position of the next item. Erasing each returned item instead would take quadratic time.
   std::size_t next_ = 0;
 };
 

@@ -20,8 +20,8 @@ WString SubstringClamped(const WString& text, std::size_t start, std::size_t cou
 std::size_t ReplaceAll(WString& text, const wchar_t* search, const wchar_t* replacement);
 
 // Returns the number of items that a StringTokenizer with the same arguments would return. With an
-// empty `delimiter`, which a StringTokenizer does not accept, returns 1 for a non-empty string and
-// 0 for an empty one.
+// empty `delimiter`, which a StringTokenizer does not accept, returns 0 when `text` is empty
+// and 1 otherwise.
 std::size_t CountTokens(const WString& text, const WString& delimiter, bool collapse);
 
 }  // namespace kelvo

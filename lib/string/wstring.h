@@ -61,8 +61,7 @@ class WString {
   [[nodiscard]] std::size_t find(std::wstring_view text, std::size_t start = 0) const {
     return text_.find(text, start);
   }
-  // Finds the last occurrence of `text` that begins at or before `start`. `start` may be past the
-  // end.
+  // Finds the last occurrence of `text` beginning at or before `start`, which may be past the end.
   [[nodiscard]] std::size_t rfind(std::wstring_view text, std::size_t start = npos) const {
     return text_.rfind(text, start);
   }
@@ -75,7 +74,7 @@ class WString {
   [[nodiscard]] wchar_t operator[](std::size_t position) const { return text_[position]; }
 
   // size() and length() return the number of units, without the NUL; max_size() returns the largest
-  // possible number; empty() returns whether there are none.
+  // possible number of units; empty() returns whether size() is 0.
   [[nodiscard]] std::size_t size() const { return text_.size(); }
   [[nodiscard]] std::size_t length() const { return text_.length(); }
   [[nodiscard]] std::size_t max_size() const { return text_.max_size(); }

@@ -11,9 +11,8 @@ namespace kelvo {
 // resource; these functions do not check it first.
 
 // Compares a file's version with major.minor.build.revision. Returns 1 when the file's version is
-// higher, 0 when the versions are equal, -1 when the file's version is lower, and 2 when the file
-// has none. When the result is 1 or 0, the memory that holds the resource stays allocated and
-// locked.
+// higher, 0 when it is equal, -1 when it is lower, and 2 when there is no version. When the result
+// is 1 or 0, the memory that holds the resource stays allocated and locked.
 int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int revision);
 
 // Another name for CompareFileVersion.
@@ -23,7 +22,7 @@ int CompareFileVersionNumbers(const wchar_t* path, int major, int minor, int bui
 constexpr std::size_t kFileVersionStringCapacity = 32;
 
 // Writes the version of the file `path` as "major.minor.build.revision" to `text`, which must have
-// room for kFileVersionStringCapacity characters, and returns true. When the file has no version,
+// room for kFileVersionStringCapacity characters, and returns true. When there is no version,
 // writes "not available" and returns false.
 bool GetFileVersionString(wchar_t* text, const wchar_t* path);
 

@@ -19,12 +19,12 @@ namespace kelvo {
 //     "SYSTEM\CurrentControlSet\Control\ProductOptions". When the value cannot be read, the key
 //     stays open.
 //   - On NT 4.0 with Service Pack 6, the line says "Service Pack 6a" when HKEY_LOCAL_MACHINE
-//     "SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009" opens.
-//   - Both keys are opened for KEY_QUERY_VALUE.
+//     "SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009" opens. Both keys are opened
+//     for KEY_QUERY_VALUE.
 //   - The line has a note when GetVersionExW fails, when the product type cannot be read, and when
 //     an exception ends a query. When any other query fails, or Windows lacks its function, only
-//     the part from that query is missing.
-//   - Throws only when there is no memory for the note about an exception.
+//     the part from that query is missing. Throws only when there is no memory for the note about
+//     an exception.
 WString GetSystemVersionString();
 
 // Returns the version of the running Windows as "(major.minor.build)", with the low 16 bits of the

@@ -17,11 +17,10 @@ namespace kelvo {
 // Returns the name of the user's account, without the domain (GetUserNameW); empty on failure.
 WString GetAccountName();
 
-// Returns the user's name, of any length, in a format such as NameSamCompatible ("DOMAIN\name")
-// (GetUserNameExW). Empty for NameUnknown and on failure. For a local account, every format except
-// NameSamCompatible fails. Loads "secur32.dll" by name for the call, so the process's search order
-// decides which file is loaded. When that file does not load or lacks GetUserNameExW, the result is
-// empty.
+// Returns the user's name, of any length, in a format such as NameSamCompatible ("DOMAIN\name").
+// Calls GetUserNameExW of "secur32.dll". Loads that library by name for the call, so the process's
+// search order decides which file is loaded. Empty for NameUnknown, when the library does not load
+// or lacks the function, and on failure. For a local account, only NameSamCompatible succeeds.
 WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
 // Returns the user principal name, such as "name@domain" (GetUserNameInFormat with

@@ -4,9 +4,8 @@
 
 namespace kelvo {
 
-// These functions query the elevation of this process's token (GetTokenInformation). Every function
-// returns false before NT 6.0, when the token cannot be opened for TOKEN_QUERY, and when the token
-// cannot be read.
+// These functions query the elevation of this process's token (GetTokenInformation). All return
+// false before NT 6.0, and when the token cannot be opened for TOKEN_QUERY or cannot be read.
 
 // Returns true when the token is elevated (TokenElevation).
 bool IsVistaProcessElevated();

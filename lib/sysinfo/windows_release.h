@@ -2,16 +2,14 @@
 
 namespace kelvo {
 
-// These functions report which Windows is running. IsWin95 is true only on Windows 95, and IsWin98
-// on every later Windows 9x. A function that names an NT release is true on that release and on
-// every later one. None distinguishes a workstation from a server, so IsWinServer2008 is true on
-// Windows Vista and IsWinServer2012 on Windows 8.
+// These functions report which Windows is running. None distinguishes a workstation from a server,
+// so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
 //
-// Each call, except of the two constants at the end, queries GetVersionExW and returns false when
+// Every function except the last two queries GetVersionExW on each call and returns false when
 // GetVersionExW fails. On Windows 8.1 and later, GetVersionExW reports 6.2 to a program whose
 // manifest does not name 8.1 or later.
 
-// Returns true on Windows 9x with minor version 0.
+// Returns true on Windows 9x with minor version 0, which only Windows 95 has.
 bool IsWin95();
 // Returns true on Windows 9x with any other minor version, including Windows Millennium Edition.
 bool IsWin98();
@@ -33,7 +31,7 @@ bool IsWinServer2003();
 bool IsWinServer2008();
 bool IsWinServer2012();
 
-// Both are constants, since the library is built for 64-bit Windows only.
+// Both results are constant, since the library is built for 64-bit Windows only.
 constexpr bool IsWin64Bit() { return true; }
 constexpr bool Is32BitOnWin64() { return false; }
 

@@ -39,7 +39,7 @@ void AppendServerMode(const OSVERSIONINFOEXW& version, WString& text) {
   }
 }
 
-// Appends the name of Windows Vista to 8.1 or of the server release that has the same version.
+// Handles NT 6: Windows Vista to 8.1 and the server releases of the same versions.
 void AppendNt6Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& text) {
   static constexpr const wchar_t* kWorkstations[] = {L"Windows Vista ", L"Windows 7 ",
                                                      L"Windows 8 ", L"Windows 8.1 "};
