@@ -12,18 +12,19 @@ namespace kelvo {
 
 namespace {
 
-// Maps every unit to its lower case.
+// Maps every UTF-16 code unit to lower case.
 using Table = std::array<wchar_t, 0x10000>;
 
-// A call to Windows costs far more than mapping one unit, so all are mapped at once. The only
-// surrogates that form a pair here, U+DBFF and U+DC00, encode a character without case.
+// Maps all units in one call, because a call to Windows costs far more than mapping one unit. The
+// units are in order, so the only surrogate pair among them is U+DBFF U+DC00, which encodes a
+// character without case.
 Table MakeTable() {
   Table units;
   const auto fill = [&] { std::iota(units.begin(), units.end(), L'\0'); };
   fill();
   constexpr int kCount = static_cast<int>(units.size());
-  // The invariant locale, so that the user's settings do not change which strings are equal. This
-  // flag allows the output to overwrite the input.
+  // The invariant locale keeps the user's settings from changing which strings are equal.
+  // LCMAP_LOWERCASE allows the output to overwrite the input.
   if (LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, units.data(), kCount, units.data(), kCount) !=
       kCount) {
     fill();
@@ -41,7 +42,7 @@ wchar_t FoldInDefaultLocale(wchar_t unit) {
 
 wchar_t FoldInLocale(wchar_t unit) { return static_cast<wchar_t>(std::towlower(unit)); }
 
-// Returns true for the two cases of one letter from A to Z.
+// Returns true when `a` and `b` are the same letter from A to Z in different cases.
 bool AreCasesOfLetter(unsigned a, unsigned b) {
   constexpr unsigned kCaseBit = 0x20;
   return (a ^ b) == kCaseBit && (a | kCaseBit) - L'a' < 26;
@@ -50,7 +51,7 @@ bool AreCasesOfLetter(unsigned a, unsigned b) {
 template <typename Fold>
 std::int32_t Compare(const wchar_t* a, const wchar_t* b, bool foldsLetters, Fold fold) {
   const auto folded = [fold](wchar_t unit) { return unit == 0xFFFF ? unit : fold(unit); };
-  // Nearly all units are equal or letters.
+  // Folds last, since nearly all pairs of units are equal or differ only in the case of a letter.
   for (; *a == *b || (foldsLetters && AreCasesOfLetter(*a, *b)) || folded(*a) == folded(*b);
        ++a, ++b) {
     if (*a == L'\0') {
@@ -63,7 +64,7 @@ std::int32_t Compare(const wchar_t* a, const wchar_t* b, bool foldsLetters, Fold
 }  // namespace
 
 std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b) {
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): asks, and changes nothing
+  // NOLINTNEXTLINE(concurrency-mt-unsafe): setlocale with null changes nothing
   const bool isDefaultLocale = std::string_view(std::setlocale(LC_CTYPE, nullptr)) == "C";
   return isDefaultLocale ? Compare(a, b, true, FoldInDefaultLocale)
                          : Compare(a, b, false, FoldInLocale);

@@ -9,14 +9,14 @@ namespace kelvo {
 // Splits a string at a delimiter, which is matched as a whole, not as a set of characters:
 //   for (StringTokenizer items(list, L";", true); items.HasMoreTokens();) Use(items.NextToken());
 // Reading all items takes time linear in the length of the string. The delimiter must not be empty:
-// with `collapse`, the constructor would never return; without it, NextToken would return empty
-// items forever.
+// with `collapse`, the constructor would never return; without `collapse`, NextToken would return
+// empty items forever.
 class StringTokenizer {
  public:
-  // Stores both strings. With `collapse`, runs of adjacent delimiters count as one, and delimiters
-  // at the start and the end are dropped, so that no item is empty. Without it, items between
-  // adjacent delimiters and before a leading one are empty; no empty item follows a delimiter at
-  // the end.
+  // Stores both strings. With `collapse`, a run of adjacent delimiters counts as one delimiter, and
+  // delimiters at the start and the end are dropped, so that no item is empty. Without `collapse`,
+  // there is an empty item between two adjacent delimiters and before a delimiter at the start, but
+  // none after a delimiter at the end.
   StringTokenizer(WString text, WString delimiter, bool collapse);
 
   // Returns whether there is another item.
@@ -26,15 +26,15 @@ class StringTokenizer {
   WString NextToken();
 
  private:
-  // Rewrites the string with one delimiter in place of each run. A delimiter of one unit, which
-  // cannot overlap itself, needs no rewriting: SkipRun skips the run after each item.
+  // CollapseRuns replaces each run of delimiters in the string with one delimiter. A delimiter of
+  // one unit cannot overlap itself, so its runs stay: SkipRun skips the run after each item.
   void CollapseRuns();
   void SkipRun();
 
   WString text_;
   WString delimiter_;
   bool skipsRuns_ = false;
-  // Where the next item starts. Erasing the items before it would take quadratic time.
+  // The position of the next item. Erasing each returned item instead would take quadratic time.
   std::size_t next_ = 0;
 };
 

@@ -8,7 +8,7 @@
 namespace kelvo {
 
 std::string ToUtf8(std::wstring_view text) {
-  // No UTF-16 code unit takes more bytes.
+  // A UTF-16 code unit becomes at most three bytes of UTF-8.
   constexpr std::size_t kMaxBytesOfUnit = 3;
   constexpr std::size_t kMaxLength = std::numeric_limits<int>::max() / kMaxBytesOfUnit;
   if (text.length() > kMaxLength) {

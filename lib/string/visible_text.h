@@ -5,14 +5,15 @@
 
 namespace kelvo {
 
-// Converts `text` to UTF-8 for a terminal or a log. Whatever would act on a terminal, and what
-// UTF-8 cannot express, becomes its code, such as <U+001B>: control characters, line and paragraph
-// separators, bidirectional formatting characters, the byte order mark, and unpaired surrogates.
-// Throws std::length_error for a string too long for ToUtf8.
+// Converts `text` to UTF-8 for a terminal or a log. Some characters are written as codes, such as
+// <U+001B>: those that would change what a terminal does or shows (control characters, line and
+// paragraph separators, bidirectional formatting characters, the byte order mark), and unpaired
+// surrogates, which UTF-8 cannot express. Throws std::length_error when the text with these codes
+// is too long for ToUtf8.
 std::string ToVisibleUtf8(std::wstring_view text);
 
-// Returns the number of characters (code points) in valid UTF-8. On a terminal that is the number
-// of columns, unless some are wide or combining.
+// Returns the number of characters (code points) in valid UTF-8. On a terminal, the text takes that
+// many columns, unless some characters are wide or combining.
 std::size_t CountCharacters(std::string_view utf8);
 
 }  // namespace kelvo

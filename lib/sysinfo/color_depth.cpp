@@ -6,7 +6,7 @@ namespace kelvo {
 
 namespace {
 
-// A little less than 2 to the power of 32.
+// Slightly less than 2 to the power of 32, the number of colors at 32 bits per pixel.
 constexpr double kMinFullColors = 4294697000.0;
 constexpr double kMaxLowColors = 65536.0;
 
@@ -14,7 +14,7 @@ double CountDeviceColors(HDC device) {
   return std::pow(2.0, GetDeviceCaps(device, PLANES) * GetDeviceCaps(device, BITSPIXEL));
 }
 
-// Returns 0 when the desktop has no device context.
+// For a null `device`, uses the desktop window's device context, and returns 0 when there is none.
 double CountColors(HDC device) {
   if (device != nullptr) {
     return CountDeviceColors(device);

@@ -4,11 +4,11 @@
 
 namespace kelvo {
 
-// The color depth of a device in bits per pixel: its planes times its bits per plane (GetDeviceCaps
-// with PLANES and BITSPIXEL). For a null `device`, both functions use the desktop window's device
-// context and release it; they return false when there is none.
+// Both functions test a device's color depth in bits per pixel: the number of its planes times its
+// bits per pixel in one plane (GetDeviceCaps with PLANES and BITSPIXEL). For a null `device`, both
+// use the desktop window's device context and release it; they return false when there is none.
 
-// Returns true for 32 bits per pixel or more; 24 do not count.
+// Returns true for 32 bits per pixel or more; 24 bits are not enough.
 bool IsFullResolution(HDC device = nullptr);
 
 // Returns true for 16 bits per pixel or fewer.

@@ -9,8 +9,8 @@ namespace kelvo {
 // Returns the NetBIOS name (GetComputerNameW), at most 15 characters. Empty on failure.
 WString GetComputerNetbiosName();
 
-// Returns the fully qualified DNS name (GetComputerNameExW, looked up at run time), or the NetBIOS
-// name when there is none or Windows lacks the function. Empty on failure.
+// Returns the fully qualified DNS name (GetComputerNameExW, looked up at run time). When Windows
+// lacks the function or returns no name, returns the NetBIOS name. Empty when that fails, too.
 WString GetComputerNameFQ();
 
 // Returns the DNS domain that the computer belongs to (GetComputerNameExW, looked up at run time).

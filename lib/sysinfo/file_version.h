@@ -4,14 +4,15 @@
 
 namespace kelvo {
 
-// The version is in the VS_FIXEDFILEINFO block of a file's version resource (GetFileVersionInfoW,
-// VerQueryValueW). A null path, a file without that block, and one whose block is not inside its
-// resource have no version. The block's signature is not checked: in a file from an untrusted
-// source, the numbers may be anything, and it is Windows that parses the resource.
+// These functions read a file's version from the VS_FIXEDFILEINFO block of its version resource
+// (GetFileVersionInfoW, VerQueryValueW). There is no version when the path is null, when the file
+// has no such block, or when the block is not completely inside the resource. The block's signature
+// is not checked, so a file from an untrusted source may contain any numbers. Windows parses the
+// resource; these functions do not check it first.
 
-// Compares a file's version with major.minor.build.revision. Returns 1 when the file's is higher, 0
-// when equal, -1 when lower, and 2 when it has none. When the result is 1 or 0, the memory that
-// holds the resource stays allocated and locked.
+// Compares a file's version with major.minor.build.revision. Returns 1 when the file's version is
+// higher, 0 when it is equal, -1 when it is lower, and 2 when there is no version. When the result
+// is 1 or 0, the memory that holds the resource stays allocated and locked.
 int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int revision);
 
 // Another name for CompareFileVersion.
@@ -21,12 +22,12 @@ int CompareFileVersionNumbers(const wchar_t* path, int major, int minor, int bui
 constexpr std::size_t kFileVersionStringCapacity = 32;
 
 // Writes the version of the file `path` as "major.minor.build.revision" to `text`, which must have
-// room for kFileVersionStringCapacity characters. When there is none, writes "not available" and
-// returns false.
+// room for kFileVersionStringCapacity characters, and returns true. When there is no version,
+// writes "not available" and returns false.
 bool GetFileVersionString(wchar_t* text, const wchar_t* path);
 
-// GetFileVersionString for the file `fileName` in the system directory, except that it always
-// returns true. Overwrites the buffer of GetSystemDirectoryPath.
+// Calls GetFileVersionString for the file `fileName` in the system directory, but always returns
+// true. Overwrites the buffer of GetSystemDirectoryPath.
 bool GetSystemFileVersionString(wchar_t* text, const wchar_t* fileName);
 
 }  // namespace kelvo

@@ -14,7 +14,7 @@ namespace kelvo {
 
 namespace {
 
-// Returns the resource as Windows lays it out, empty when it cannot be read.
+// Returns the resource as GetFileVersionInfoW stores it; empty when it cannot be read.
 std::vector<BYTE> ReadVersionResource(const wchar_t* path) {
   DWORD ignored = 0;
   std::vector<BYTE> resource(GetFileVersionInfoSizeW(path, &ignored));
@@ -25,14 +25,15 @@ std::vector<BYTE> ReadVersionResource(const wchar_t* path) {
   return resource;
 }
 
-// Returns the path of the first translation's string, empty when there is no translation.
+// Returns the path at which VerQueryValueW finds the string "FileVersion" of the first translation;
+// empty when there is no translation.
 WString FileVersionPath(std::span<const BYTE> resource) {
   const std::span<const BYTE> value =
       internal::FindVersionValue(resource, L"\\VarFileInfo\\Translation", sizeof(BYTE));
   if (value.size() < 4) {
     return {};
   }
-  // Language, then code page.
+  // A translation is a language and then a code page, each two bytes with the low byte first.
   return FormatText(L"\\StringFileInfo\\%02x%02x%02x%02x\\FileVersion", value[1], value[0],
                     value[3], value[2]);
 }

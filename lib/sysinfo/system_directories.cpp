@@ -19,7 +19,7 @@ bool EndsInSeparator(const wchar_t* path, std::size_t length) {
 }  // namespace
 
 const wchar_t* GetSystemDirectoryPath() {
-  // Leaves room for the backslash.
+  // Leaves room for a backslash, which is added when there is no separator at the end.
   constexpr UINT kCapacity = std::tuple_size_v<decltype(systemDirectory)> - 1;
   const UINT length = GetSystemDirectoryW(systemDirectory.data(), kCapacity);
   if (length == 0 || length >= kCapacity) {
@@ -44,7 +44,7 @@ WString GetSystemWow64DirectoryPath() {
   return EndsInSeparator(buffer.data(), length) ? path : path + L"\\";
 }
 
-// File system redirection does not apply to a 64-bit process, so there is none to disable.
+// File system redirection does not apply to a 64-bit process, so it need not be disabled.
 WString GetNativeSystemDirectoryPath() { return {GetSystemDirectoryPath()}; }
 
 }  // namespace kelvo

@@ -4,9 +4,10 @@
 
 namespace kelvo {
 
-// The directories of Windows' own libraries. Each path ends in a separator (a backslash is added
-// where Windows returns none) and is empty on failure. The names end in Path because windows.h
-// defines GetSystemDirectory and GetSystemWow64Directory as macros.
+// These functions return directories of Windows' own libraries. Each path ends in a separator: a
+// backslash is added when Windows returns a path without one. On failure, the path is empty. The
+// functions' names end in Path because windows.h defines GetSystemDirectory and
+// GetSystemWow64Directory as macros.
 
 // Returns the system directory (GetSystemDirectoryW), at most 510 characters and the separator;
 // empty when it is longer. The string is in a process-wide buffer, which is overwritten by every
@@ -18,8 +19,8 @@ const wchar_t* GetSystemDirectoryPath();
 // function.
 WString GetSystemWow64DirectoryPath();
 
-// Returns the system directory that 64-bit programs see. In a 64-bit process, that is
-// the path of GetSystemDirectoryPath. Overwrites that function's buffer.
+// Returns the system directory that 64-bit programs see. In a 64-bit process, that is the path that
+// GetSystemDirectoryPath returns. Overwrites that function's buffer.
 WString GetNativeSystemDirectoryPath();
 
 }  // namespace kelvo

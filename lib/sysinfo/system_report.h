@@ -4,17 +4,18 @@
 
 namespace kelvo {
 
-// Replaces the contents of `report` with what this library finds out about the system, the process
-// and the user, for a log or a support dialog:
-//   - First come the same names in the same order on every call. Shell folders come from
-//     SHGetSpecialFolderPathW and are not created.
-//   - Then comes one entry for each environment variable of the user and of the system in the
-//     registry, expanded as by ReadRegistryKeyValues (HKEY_CURRENT_USER "Environment" and
-//     HKEY_LOCAL_MACHINE "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). A key
-//     that does not open adds no entries.
-//   - A query that fails has the value "0", an empty string, or "failed to query " and the name of
-//     a shell folder.
-//   - When it throws, `report` is incomplete.
+// Replaces the contents of `report` with facts about the system, the process and the user, for a
+// log or a support dialog:
+//   - The first entries have the same names in the same order on every call. The paths of shell
+//     folders are read with SHGetSpecialFolderPathW; missing folders are not created.
+//   - The other entries are the environment variables that the registry stores for the user
+//     (HKEY_CURRENT_USER "Environment") and for the system (HKEY_LOCAL_MACHINE
+//     "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). ReadRegistryKeyValues reads
+//     and expands them. A key that does not open adds no entries.
+//   - When the path of a shell folder cannot be read, the value is "failed to query " and the name
+//     of the entry. When any other query fails, the value is what the queried function returns on
+//     failure: for most, "0" (false) or an empty string.
+//   - When the call throws, `report` is incomplete.
 //
 //   NameTextList report;
 //   CollectSystemReport(report);

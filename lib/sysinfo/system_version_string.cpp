@@ -21,8 +21,8 @@ namespace {
 constexpr const wchar_t* kHotfix =
     L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009";
 
-// The structure that GetVersionExW filled: OSVERSIONINFOEXW (284 bytes), or OSVERSIONINFOW (276
-// bytes), which leaves suites and product type zero.
+// The structure that GetVersionExW filled: OSVERSIONINFOEXW (284 bytes), OSVERSIONINFOW (276 bytes,
+// without suites and product type, which stay zero), or none.
 enum class VersionRecord { kExtended, kShort, kNone };
 
 // `version` must be zeroed.
@@ -44,7 +44,7 @@ WORD QueryArchitecture() {
   return system.wProcessorArchitecture;
 }
 
-// Only the low half of the build number: Windows 9x has the version in the high half.
+// Returns the low half of dwBuildNumber: on Windows 9x, the high half contains the version.
 WORD Build(const OSVERSIONINFOEXW& version) { return LOWORD(version.dwBuildNumber); }
 
 WString FormatNumbers(const OSVERSIONINFOEXW& version) {
@@ -73,7 +73,8 @@ void Append9xName(const OSVERSIONINFOEXW& version, WString& text) {
   }
 }
 
-// Appends what OSVERSIONINFOEXW would have contained. Returns false when the line ends here.
+// Reads the product type, which OSVERSIONINFOW does not contain, from the registry, and appends it
+// and the version. On failure, appends a note that ends the line, and returns false.
 bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
   constexpr const wchar_t* kProductOptions = L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions";
   if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductOptions, 0, KEY_QUERY_VALUE, key.Receive()) !=
@@ -82,13 +83,13 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
     return false;
   }
   constexpr DWORD kLength = 100;
-  // One more than the size passed to the registry, for a value stored without a terminator.
+  // One character more than RegQueryValueExW may write: a NUL for a value stored without one.
   std::array<wchar_t, kLength + 1> type{};
   DWORD size = kLength * sizeof(wchar_t);
   if (RegQueryValueExW(key.get(), L"ProductType", nullptr, nullptr,
                        reinterpret_cast<BYTE*>(type.data()), &size) != ERROR_SUCCESS ||
       size > kLength * sizeof(wchar_t)) {
-    // Left open on purpose.
+    // By contract, the key stays open.
     key.release();
     text += L"error obtaining Windows NT4 registry product information";
     return false;
@@ -110,7 +111,8 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
 }
 
 void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
-  // One more, for a NUL. An array, since a structured exception below skips destructors.
+  // One character more than szCSDVersion, for a NUL. This is an array and not a WString, since a
+  // structured exception below would skip the destructor of a WString.
   std::array<wchar_t, std::extent_v<decltype(version.szCSDVersion)> + 1> servicePack{};
   std::ranges::copy(version.szCSDVersion, servicePack.begin());
   if (version.dwMajorVersion == 4 && CompareNoCase(servicePack.data(), L"Service Pack 6") == 0) {
@@ -118,7 +120,7 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
                                          key.Receive()) == ERROR_SUCCESS;
     text += FormatText(L"%s (Build %d)", hasHotfix ? L"Service Pack 6a" : servicePack.data(),
                        Build(version));
-    // Closed inside the guard, like every other call.
+    // Closes the key here, so that GuardedCall also catches an exception in RegCloseKey.
     key.reset();
   } else if (servicePack.front() == L'\0') {
     text += FormatNumbers(version);
@@ -128,7 +130,8 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
   }
 }
 
-// Builds the line in the empty `text`. When an exception ends it, `key` owns the key that is open.
+// Writes the line to `text`, which must be empty. When an exception ends this function, `key` owns
+// the key that is open, if any.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);
@@ -175,7 +178,8 @@ WString GetSystemVersionNumbers() {
       numbers = FormatNumbers(version);
     }
   });
-  // This string fits in the object itself, and the other is moved out: neither allocates memory.
+  // No memory is allocated below: "0.0.0.0" fits in the WString itself, and the result is moved to
+  // the caller, not copied.
   if (numbers.empty()) {
     numbers = L"0.0.0.0";
   }

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-// security.h requires one of its SECURITY_ macros.
+// security.h requires that one of its SECURITY_ macros is defined.
 #ifndef SECURITY_WIN32
 #define SECURITY_WIN32
 #endif
@@ -12,20 +12,20 @@
 
 namespace kelvo {
 
-// The user that the calling thread runs as.
+// These functions return names of the user that the calling thread runs as.
 
-// Returns the name of the user's account, without its domain (GetUserNameW); empty on failure.
+// Returns the name of the user's account, without the domain (GetUserNameW); empty on failure.
 WString GetAccountName();
 
-// Returns the user's name in a format such as NameSamCompatible ("DOMAIN\name"), of any length
-// (GetUserNameExW). Empty for NameUnknown and on failure, as for a local account in every format
-// but NameSamCompatible. Loads "secur32.dll" by name for the call, so the process's search order
-// decides which file that is; without it, the result is empty.
+// Returns the user's name, of any length, in a format such as NameSamCompatible ("DOMAIN\name").
+// Calls GetUserNameExW of "secur32.dll". Loads that library by name for the call, so the process's
+// search order decides which file is loaded. Empty for NameUnknown, when the library does not load
+// or lacks the function, and on failure. For a local account, only NameSamCompatible succeeds.
 WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
 // Returns the user principal name, such as "name@domain" (GetUserNameInFormat with
-// NameUserPrincipal). When there is none, as outside a domain, returns the account name, or an
-// empty string if that has more than 100 characters.
+// NameUserPrincipal). When there is none, as for a user outside a domain, returns the account name,
+// or an empty string when the account name has more than 100 characters.
 WString GetUserNameFQ();
 
 }  // namespace kelvo

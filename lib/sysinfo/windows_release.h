@@ -2,19 +2,20 @@
 
 namespace kelvo {
 
-// Which Windows is running. IsWin95 is true only on Windows 95. Every other function is true on its
-// release and later ones: IsWin98 on Windows 9x, the rest on NT. None distinguishes a workstation
-// from a server, so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
+// These functions report which Windows is running. None distinguishes a workstation from a server,
+// so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
 //
-// Each call queries GetVersionExW and returns false when that fails. On Windows 8.1 and later, that
-// reports 6.2 to a program whose manifest does not name 8.1 or later.
+// Every function except the last two queries GetVersionExW on each call and returns false when
+// GetVersionExW fails. On Windows 8.1 and later, GetVersionExW reports 6.2 to a program whose
+// manifest does not name 8.1 or later.
 
-// Windows 9x with minor version 0.
+// Returns true on Windows 9x with minor version 0, which only Windows 95 has.
 bool IsWin95();
-// Windows 9x with any other minor version, Windows Millennium Edition included.
+// Returns true on Windows 9x with any other minor version, including Windows Millennium Edition.
 bool IsWin98();
 
-// NT of the release in the name, or a later one.
+// Each returns true on the NT release in its name and on every later one; IsWinNT returns true on
+// every NT release.
 bool IsWinNT();
 bool IsWin2000();
 bool IsWinXP();
@@ -22,14 +23,15 @@ bool IsWinVista();
 bool IsWin7();
 bool IsWin8();
 
-// Also true on 64-bit Windows XP, which has the version of Server 2003.
+// Returns true on Windows Server 2003 and later, and on 64-bit Windows XP, which has the same
+// version as Server 2003.
 bool IsWinServer2003();
 
-// The same as IsWinVista and IsWin8.
+// IsWinServer2008 is the same as IsWinVista, and IsWinServer2012 is the same as IsWin8.
 bool IsWinServer2008();
 bool IsWinServer2012();
 
-// The library is built for 64-bit Windows only.
+// Both results are constant, since the library is built for 64-bit Windows only.
 constexpr bool IsWin64Bit() { return true; }
 constexpr bool Is32BitOnWin64() { return false; }
 

@@ -6,8 +6,8 @@
 
 namespace kelvo::internal {
 
-// Writes `text` to `out`, as far as it fits, with each occurrence of `search` replaced. `search`
-// must not be empty. Returns the number of units written.
+// Writes `text` to `out` with each occurrence of `search` replaced, and stops when `out` is full.
+// `search` must not be empty. Returns the number of units written.
 std::size_t WriteReplaced(std::wstring_view text, std::wstring_view search,
                           std::wstring_view replacement, std::span<wchar_t> out);
 

@@ -9,7 +9,7 @@
 
 namespace kelvo::internal {
 
-// Moveable memory from GlobalAlloc, locked as long as it is owned.
+// Moveable memory from GlobalAlloc. It stays locked until it is freed.
 struct LockedGlobalMemory {
   using Handle = HGLOBAL;
   static Handle None() { return nullptr; }
@@ -26,7 +26,8 @@ using FileVersionNumbers = std::array<int, 4>;
 struct FixedFileVersion {
   // Holds the file's whole version resource.
   OwnedLockedGlobalMemory memory;
-  // From its VS_FIXEDFILEINFO block; nothing when the file has none or it cannot be read.
+  // The numbers in the VS_FIXEDFILEINFO block; std::nullopt when the file has no such block or the
+  // block cannot be read.
   std::optional<FileVersionNumbers> numbers;
 };
 

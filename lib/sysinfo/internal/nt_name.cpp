@@ -39,7 +39,7 @@ void AppendServerMode(const OSVERSIONINFOEXW& version, WString& text) {
   }
 }
 
-// Windows Vista to 8.1 and the server releases of the same versions.
+// Handles NT 6: Windows Vista to 8.1 and the server releases of the same versions.
 void AppendNt6Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& text) {
   static constexpr const wchar_t* kWorkstations[] = {L"Windows Vista ", L"Windows 7 ",
                                                      L"Windows 8 ", L"Windows 8.1 "};
@@ -65,7 +65,7 @@ void AppendNt6Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& 
   AppendArchitecture(architecture, text);
 }
 
-// 64-bit Windows XP has the same version and gets no separate name.
+// 64-bit Windows XP has the same version as Windows Server 2003 and gets the same names.
 const wchar_t* Server2003Name(const OSVERSIONINFOEXW& version) {
   if (GetSystemMetrics(SM_SERVERR2) != 0) {
     return L"Microsoft Windows Server 2003 R2 ";
@@ -104,7 +104,7 @@ const wchar_t* XpName(const OSVERSIONINFOEXW& version) {
   if (GetSystemMetrics(SM_STARTER) != 0) {
     return L"Windows XP Starter ";
   }
-  // A Tablet PC gets no separate name.
+  // The Tablet PC edition gets the Media Center edition's name.
   if (GetSystemMetrics(SM_MEDIACENTER) != 0 || GetSystemMetrics(SM_TABLETPC) != 0) {
     return L"Windows XP Media Center ";
   }

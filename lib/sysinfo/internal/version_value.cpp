@@ -11,7 +11,8 @@ std::span<const BYTE> FindVersionValue(std::span<const BYTE> resource, const wch
   if (VerQueryValueW(resource.data(), path, &found, &length) == FALSE) {
     return {};
   }
-  // Subtracts integers: an address before the resource becomes an offset far past its end.
+  // Subtracts unsigned integers: when `found` is before the resource, the offset wraps around to a
+  // number past the resource's end.
   const std::size_t offset =
       reinterpret_cast<ULONG_PTR>(found) - reinterpret_cast<ULONG_PTR>(resource.data());
   if (offset >= resource.size()) {
