@@ -4,12 +4,12 @@
 //   setup_helper grant FILE SID
 //     grants an account read and write access to a file
 //   setup_helper start PROGRAM [ARGUMENTS]
-//     starts a program for the user of the console session, waits until the program ends, and
+//     starts a program as the user of the console session, waits until the program ends, and
 //     returns its exit code
 //   setup_helper ready PROGRAM MUTEX
 //     starts a program and waits until a mutex with the name MUTEX exists
 // read, grant and ready return 0 for success and 1 for failure. start returns 1 if the program
-// cannot be started.
+// cannot be started. A wrong command line also returns 1.
 
 #include <windows.h>
 

@@ -59,9 +59,9 @@ Item QueryInterface() {
   return {kKind, State::kPresent, path, {TextDetail("version", L"version", version.data())}};
 }
 
-// Stores whether the process's token contains the Administrators group. Like IsAdmin, also stores
-// true when the group is deny-only. Unlike IsAdmin, has no limit for the size of the token's
-// groups.
+// Stores whether the process's token contains the Administrators group. Like IsAdmin, ignores the
+// group's attributes: a deny-only group also counts. Unlike IsAdmin, does not fail when the token's
+// groups take more than 1,024 bytes.
 DWORD QueryAdministrator(bool& isAdministrator) {
   OwnedKernelObject token;
   DWORD size = 0;

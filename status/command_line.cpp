@@ -29,8 +29,8 @@ standard output answers by its exit code alone.
 )";
 
 // Encodes an argument for the parser, which takes bytes. A UTF-16 unit outside ASCII becomes three
-// bytes of at least 0x80, which contain 4, 6 and 6 of its bits. FromBytes restores every argument
-// exactly, even one with unpaired surrogates.
+// bytes of at least 0x80, which contain 4, 6 and 6 bits of the unit. FromBytes restores every
+// argument exactly, even one with unpaired surrogates.
 std::string ToBytes(std::wstring_view argument) {
   std::string bytes;
   for (const wchar_t unit : argument) {

@@ -35,7 +35,7 @@ struct CommandLine {
 // Parses the `count` arguments of a command line; the first is the program's own path.
 CommandLine ParseCommandLine(int count, const wchar_t* const* arguments);
 
-// Returns the usage text in ASCII. It also explains the exit codes.
+// Returns the usage text, in ASCII. The text also explains the exit codes.
 std::string UsageText();
 
 }  // namespace kelvo

@@ -30,9 +30,9 @@ struct Detail {
   WString phrase;
 };
 
-// One line of the text report, or one object of the JSON report. `kind` is a stable name in lower
-// case, with "_" for blanks. `name` is the name or path that was asked for or found; it may be
-// empty.
+// One line of the text report, and one object in the array "items" of the JSON report. `kind` is a
+// stable name in lower case, with "_" for blanks. `name` is the name or path that was asked for or
+// found; it may be empty.
 struct Item {
   const char* kind;
   State state;

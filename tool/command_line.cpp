@@ -68,7 +68,7 @@ constexpr std::array kCommandForms = {
 };
 
 // Never change these texts, because setup programs compare them. Do not even add the line breaks
-// that are missing after two of the examples.
+// that are missing after the examples.
 constexpr std::array kUsageTexts = {
     L"invalid arguments\n",
     L"install: Install Certificate, Driver and Register Service, remember dependant application\n",

@@ -8,9 +8,9 @@ namespace kelvo {
 
 // Formats a message with FormatText (lib/string/format_text.h) and writes the text to standard
 // output without buffering: a setup program that reads the pipe sees each line at once, and no line
-// is lost when the process ends early. The bytes do not depend on the locale: CR LF for
-// "\n", one byte for a UTF-16 unit up to U+00FF, "?" for any other unit. A failed write is ignored.
-// Throws std::bad_alloc when memory runs out.
+// is lost when the process ends early. The bytes do not depend on the locale: "\n" becomes CR LF, a
+// UTF-16 unit up to U+00FF becomes one byte, and any other unit becomes "?". A failed write is
+// ignored. Throws std::bad_alloc when memory runs out.
 void Report(const wchar_t* format, ...);
 
 // Returns the system's message for an error code (FormatMessageW): in the user's language, with at

@@ -9,8 +9,8 @@ namespace kelvo {
 
 // The list of applications that use the hands-free service: names separated by ";" in the REG_SZ
 // value ApplicationsValueName of the key ServiceParametersKey, under HKEY_LOCAL_MACHINE. If the
-// value does not exist, the list is empty. Names are not checked: adding the name ";" to an
-// empty list stores an empty value.
+// value does not exist, the list is empty. Names are not checked: adding the name ";" to an empty
+// list stores an empty value.
 //
 // A REG_EXPAND_SZ value is also read, and is expanded. An expansion of 260 characters or more is
 // truncated, and the next change stores the truncated list. If the value has any other type or more

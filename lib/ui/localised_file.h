@@ -6,7 +6,8 @@
 
 namespace kelvo {
 
-// Where the path of a localised file contains its locale name, NAME, such as "de-DE".
+// Where the path of a localised file contains NAME, the locale name of its language, such as
+// "de-DE".
 enum class LocalisedFileForm {
   kFolder,  // FOLDER\resources\NAME\file.ext
   kSuffix,  // FOLDER\file_NAME.ext; the extension begins at the last dot

@@ -10,8 +10,9 @@
 namespace kelvo {
 
 // ReplaceAllInBuffer and ApplyTextSubstitutions rewrite a string in place, in a buffer of
-// `capacity` characters. A result that does not fit is cut off so that it ends in a NUL within the
-// capacity. A buffer without a NUL in its capacity is left unchanged. A null buffer is ignored.
+// `capacity` characters. The result always ends in a NUL within the capacity; text that does
+// not fit is cut off. A buffer without a NUL in its capacity is left unchanged. A null buffer is
+// ignored.
 
 // Replaces every occurrence of `search`, from left to right without overlap; the replacement is not
 // searched again. Returns FALSE and leaves the buffer unchanged when the buffer is null or has no
