@@ -1,6 +1,6 @@
-// Compares the library's string functions with alternatives, and measures how long sorrel.exe takes
-// to start, and its size. Each line has the median of interleaved runs, in milliseconds and as a
-// ratio to the first line of its group. In a comparison, the first line is the library's own
+// Compares the library's string functions with alternatives, and measures the size and start time
+// of sorrel.exe. Each line of the output has the median of interleaved runs, in milliseconds and as
+// a ratio to the first line of its group. In a comparison, the first line is the library's own
 // function. A goal is a limit for a ratio.
 
 #include <windows.h>
@@ -121,7 +121,7 @@ std::function<std::size_t()> WalkOwnInput(const std::wstring& list, bool collaps
 }
 
 void MeasureSplitting(const std::wstring& list) {
-  Measure("split 100,000 items, collapsed (goal: bare loop at least 0.67, both of Boost above 1)",
+  Measure("split 100,000 items, collapsed (goal: bare loop at least 0.67, Boost lines above 1)",
           {{"StringTokenizer", WalkOwnInput(list, true)},
            {"find and substr in a bare loop", [&] { return BareLoop(list, true); }},
            {"views::split into std::wstring",
@@ -194,7 +194,7 @@ void MeasureReplacing(const std::wstring& text) {
   std::wstring buffer = text;
   buffer.resize(text.length() * 2);
   Measure(
-      "replace 50,000 matches (goal: both of Boost above 1)",
+      "replace 50,000 matches (goal: Boost lines above 1)",
       {{"ReplaceAll",
         WithOwnInput(WString(text),
                      [](WString& own) { return kelvo::ReplaceAll(own, L"kite", L"heron"); })},
@@ -212,7 +212,7 @@ void MeasureReplacing(const std::wstring& text) {
         })}});
 }
 
-// Measures whether the work is linear: twice the input should take twice the time.
+// Measures whether the time is linear: twice the input should take about twice as long.
 void MeasureGrowth() {
   const auto growth = [](const char* title, const std::function<std::size_t(int)>& work) {
     Measure(title, {{"100,000", [&] { return work(100'000); }},
@@ -267,7 +267,7 @@ extern "C" int wmain(int /*argc*/, wchar_t** argv) {
   Measure("start a program",
           {{"an empty program", [&] { return Start(folder / "empty_program.exe"); }},
            {"sorrel.exe", [&] { return Start(folder / "sorrel.exe"); }}});
-  std::printf("\nsorrel.exe has %.1f KiB\n",
+  std::printf("\nThe size of sorrel.exe is %.1f KiB\n",
               static_cast<double>(std::filesystem::file_size(folder / "sorrel.exe")) / 1024);
   return 0;
 }

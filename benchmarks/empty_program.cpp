@@ -1,2 +1,2 @@
-// Does nothing: shows how long any process takes to start.
+// Does nothing: its run time is the time that every process takes to start and end.
 extern "C" int wmain() { return 0; }

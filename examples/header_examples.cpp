@@ -1,5 +1,5 @@
-// The examples of the library's headers, each in a function, so that the compiler checks them.
-// Nothing calls these functions.
+// The examples from the comments in the library's headers, each in a function, so that the compiler
+// checks them. Nothing calls these functions.
 
 #define SECURITY_WIN32
 #include <windows.h>
@@ -19,7 +19,7 @@
 #include "lib/trace/trace_sink.h"
 #include "lib/ui/localised_file.h"
 
-// NOLINTBEGIN(misc-use-internal-linkage): with internal linkage, they would count as unused
+// NOLINTBEGIN(misc-use-internal-linkage): unused functions with internal linkage cause warnings
 namespace kelvo::examples {
 
 BOOL RunAsUserExample() {
@@ -86,7 +86,7 @@ void TraceSinkExample() {
       [](const wchar_t* tag, const wchar_t* message) { DebugTrace(L"%s: %s", tag, message); });
 }
 
-// Uses WString like a std::wstring.
+// Shows that a WString can be used like a std::wstring.
 std::size_t WStringExample(const WString& text) {
   std::size_t blanks = 0;
   for (const wchar_t unit : text) {

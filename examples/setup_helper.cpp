@@ -1,15 +1,15 @@
-// Does what setups often need. Each task is a command:
+// Does tasks that setup programs often need. Each task is a command:
 //   setup_helper read HKEY_CURRENT_USER\Software\App\Setting
 //     prints a registry value
 //   setup_helper grant FILE SID
 //     grants an account read and write access to a file
 //   setup_helper start PROGRAM [ARGUMENTS]
-//     starts a program in the console session's user account, waits until it ends, and returns its
-//     exit code
+//     starts a program as the user of the console session, waits until the program ends, and
+//     returns its exit code
 //   setup_helper ready PROGRAM MUTEX
-//     starts a program and waits until the program has created its mutex
-// Otherwise returns 0 for success and 1 for failure; start also returns 1 if it cannot start the
-// program.
+//     starts a program and waits until a mutex with the name MUTEX exists
+// read, grant and ready return 0 for success and 1 for failure. start returns 1 if the program
+// cannot be started. A wrong command line also returns 1.
 
 #include <windows.h>
 

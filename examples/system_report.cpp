@@ -16,7 +16,7 @@ namespace kelvo {
 
 namespace {
 
-// Limits the column: a longer name shifts only its own value to the right, not all values.
+// Limits the width of the name column: a longer name shifts only its own value to the right.
 constexpr std::size_t kWidestColumn = 40;
 
 using Line = std::pair<std::string, std::string>;

@@ -1,5 +1,5 @@
-// Shows the library's functions for strings, long paths and locales. Prints one line for each, in
-// UTF-8.
+// Shows some of the library's functions for strings, long paths and locales. Prints each result as
+// a line of UTF-8.
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-// Simulates the system's Bluetooth control panel library.
+// Simulates bthprops.cpl, the system's Bluetooth control panel library.
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-// Simulates the driver installation interface.
+// Simulates difxapi.dll, the driver installation interface.
 
 #include "tool/difxapi.h"
 
@@ -16,8 +16,9 @@ namespace {
 DIFXAPILOGCALLBACK_W logCallback = nullptr;
 void* logContext = nullptr;
 
-// Passes each event in SORREL_SIMULATOR_DRIVER_LOG to the callback. An event is "level,code,text",
-// and "|" separates events. An event without a second comma has a null text.
+// Passes each event in the environment variable SORREL_SIMULATOR_DRIVER_LOG to the callback. An
+// event is "level,code,text", and "|" separates events. An event without a second comma has a null
+// text.
 void SendLogEvents() {
   const kelvo::WString events = TextFromEnvironment(L"SORREL_SIMULATOR_DRIVER_LOG");
   for (kelvo::StringTokenizer tokens(events, L"|", true); tokens.HasMoreTokens();) {

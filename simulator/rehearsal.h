@@ -6,7 +6,7 @@
 
 namespace kelvo::simulator {
 
-// Returns the number in an environment variable, written as in C (0x for hexadecimal), or 0 when
+// Reads an environment variable as a number in C notation, such as 5 or 0xE0000242. Returns 0 when
 // the variable is not set.
 DWORD NumberFromEnvironment(const wchar_t* name);
 
@@ -17,8 +17,9 @@ WString TextFromEnvironment(const wchar_t* name);
 // Does nothing when the variable is not set.
 void WriteToJournal(const WString& line);
 
-// Writes to the journal that a simulated library was loaded or freed; its DllMain calls this.
-// Writes nothing when the process ends with the library still loaded.
+// The DllMain of each simulated library calls this function, which writes to the journal that the
+// library was loaded or freed. Writes nothing when the process ends with the library still loaded:
+// `processEnds`, DllMain's last parameter, is then not null.
 void JournalLibrary(const wchar_t* name, DWORD reason, const void* processEnds);
 
 }  // namespace kelvo::simulator

@@ -59,8 +59,9 @@ Item QueryInterface() {
   return {kKind, State::kPresent, path, {TextDetail("version", L"version", version.data())}};
 }
 
-// Ignores the attributes of the group, as IsAdmin does. Unlike IsAdmin, reads token groups of any
-// size.
+// Stores whether the process's token contains the Administrators group. Like IsAdmin, ignores the
+// group's attributes: a deny-only group also counts. Unlike IsAdmin, does not fail when the token's
+// groups take more than 1,024 bytes.
 DWORD QueryAdministrator(bool& isAdministrator) {
   OwnedKernelObject token;
   DWORD size = 0;
@@ -83,7 +84,7 @@ DWORD QueryAdministrator(bool& isAdministrator) {
 Item QuerySystem() {
   WString name = GetSystemVersionString();
   if (name.find(L"(") == 0) {
-    // Since Windows 10 the string has only the numbers, without a name.
+    // Since Windows 10, the string has only the numbers, without a name.
     name = L"Windows " + name;
   }
   const WString numbers = GetSystemVersionNumbers();

@@ -2,8 +2,9 @@
 
 namespace kelvo {
 
-// Runs a command line of sorrel_status.exe: checks the items that it names or, if it names no item,
-// everything that needs no file. Writes the report to standard output. Changes nothing on the
+// Runs a command line of sorrel_status.exe. Checks the items that the command line names. If it
+// names no item, checks the list of applications, both certificate stores, bthprops.cpl,
+// difxapi.dll and Windows itself. Writes the report to standard output. Changes nothing on the
 // computer. The first of the `count` arguments is the program's own path.
 //
 // The items are in this order: application, publisher, intermediate, driver package, service,

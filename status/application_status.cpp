@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kApplication = "application";
 
-// The registry value of the list, of any type and size.
+// The registry value that contains the list. It may have any type and size.
 struct StoredList {
   LSTATUS error = ERROR_SUCCESS;  // from opening the key or querying the value
   DWORD type = REG_NONE;

@@ -8,11 +8,12 @@
 namespace kelvo {
 
 // Reads the list of dependent applications (ReadApplicationList in tool/dependent_applications.h)
-// without creating its key. Returns an item for each of `names`: present when the list contains it,
-// as IsSameApplication compares names. If `names` is empty, returns an item for each application in
-// the list, or a single absent item for an empty list. A detail describes the list: whether it
-// exists, and whether sorrel.exe treats it as empty because it cannot read it. All items are
-// unknown when the key or the value cannot be read.
+// without creating its key. Returns an item for each of `names`: present when the list contains the
+// name, regardless of letter case (IsSameApplication). If `names` is empty, returns an item for
+// each application in the list, or a single absent item for an empty list. A detail of each item
+// describes the list: whether the list exists, and whether its type or size makes sorrel.exe treat
+// it as empty. All items are unknown when the key or the value exists but cannot be opened or
+// queried.
 std::vector<Item> QueryApplications(const std::vector<WString>& names);
 
 }  // namespace kelvo

@@ -41,8 +41,8 @@ WString Name(PCCERT_CONTEXT certificate, DWORD flags) {
   return {name.c_str()};
 }
 
-// Returns an empty string when Windows cannot compute the hash; GetLastError then returns the
-// error.
+// Returns an empty string when Windows cannot compute the hash. In that case, GetLastError returns
+// the error code.
 WString Thumbprint(PCCERT_CONTEXT certificate) {
   std::array<BYTE, 20> hash{};  // SHA-1
   DWORD size = sizeof(hash);

@@ -11,12 +11,12 @@ namespace kelvo {
 
 // Reads the certificate in `file` (CryptQueryObject) and returns an item of `kind`: present when
 // the store contains the same certificate (CertFindCertificateInStore with CERT_FIND_EXISTING). The
-// details are its subject, issuer, thumbprint (SHA-1 hash) and end of validity, whether it has
-// expired, and whether the store exists.
+// details are the certificate's subject, issuer, thumbprint (SHA-1 hash) and end of validity,
+// whether it has expired, and whether the store exists.
 //
-// The file contains one certificate in binary, Base64 or hexadecimal form. If it contains several
-// in Base64, such as a PEM file with a chain, only the first is read. If it is a collection (PKCS
-// #7 or a serialized store), the item is unknown with CRYPT_E_NO_MATCH.
+// The file may contain the certificate in binary, Base64 or hexadecimal form. If it contains
+// several certificates in Base64, such as a PEM file with a chain, only the first is read. If the
+// file is a PKCS #7 message or a serialized store, the item is unknown with CRYPT_E_NO_MATCH.
 Item QueryCertificate(const char* kind, const WString& file, const wchar_t* storeName);
 
 // Returns an item with the number of certificates in the store.

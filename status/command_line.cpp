@@ -1,6 +1,6 @@
 #include "status/command_line.h"
 
-// Leaves out the regular expressions of the parser, which would be larger than the rest of the
+// Makes the parser work without std::regex, whose code would be larger than the rest of the
 // program.
 #define CXXOPTS_NO_REGEX
 #include <cxxopts.hpp>
@@ -28,8 +28,9 @@ or not all of the report could be written. A program that is started without a
 standard output answers by its exit code alone.
 )";
 
-// Encodes each UTF-16 unit outside ASCII as three bytes, as in CESU-8, since the parser takes
-// bytes. FromBytes restores every argument exactly, even one with unpaired surrogates.
+// Encodes an argument for the parser, which takes bytes. A UTF-16 unit outside ASCII becomes three
+// bytes of at least 0x80, which contain 4, 6 and 6 bits of the unit. FromBytes restores every
+// argument exactly, even one with unpaired surrogates.
 std::string ToBytes(std::wstring_view argument) {
   std::string bytes;
   for (const wchar_t unit : argument) {

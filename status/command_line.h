@@ -7,7 +7,8 @@
 
 namespace kelvo {
 
-// The items that a command line asks about. Names and paths are unchanged arguments.
+// The items that a command line asks about. Names and paths are copied unchanged from the
+// arguments.
 struct Questions {
   std::vector<WString> applications;
   std::vector<WString> publishers;      // certificate files
@@ -15,7 +16,7 @@ struct Questions {
   std::vector<WString> driverPackages;  // INF files
   bool service = false;
 
-  // Returns whether the command line names no item, which asks for the general report.
+  // Returns whether the command line names no item and so asks for the general report.
   [[nodiscard]] bool IsGeneral() const {
     return !service && applications.empty() && publishers.empty() && intermediates.empty() &&
            driverPackages.empty();
@@ -34,7 +35,7 @@ struct CommandLine {
 // Parses the `count` arguments of a command line; the first is the program's own path.
 CommandLine ParseCommandLine(int count, const wchar_t* const* arguments);
 
-// Returns the usage text, which also explains the exit codes, in ASCII.
+// Returns the usage text, in ASCII. The text also explains the exit codes.
 std::string UsageText();
 
 }  // namespace kelvo

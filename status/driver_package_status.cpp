@@ -48,7 +48,7 @@ DWORD ReadBytes(const WString& path, std::string& bytes) {
 }
 
 bool HasVersionSection(std::string bytes) {
-  // INF files are ANSI or UTF-16: without NULs, both can be searched as ASCII.
+  // INF files are ANSI or UTF-16. Without the NULs, either can be searched as ASCII.
   std::erase(bytes, '\0');
   std::transform(bytes.begin(), bytes.end(), bytes.begin(), [](char byte) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(byte)));
@@ -56,7 +56,8 @@ bool HasVersionSection(std::string bytes) {
   return bytes.find("[version]") != std::string::npos;
 }
 
-// Compares the sizes first: a file of another size cannot match, so it need not be readable.
+// Compares the sizes first. A file of another size cannot match, so there is no error when such a
+// file cannot be read.
 DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) {
   OwnedFile file;
   LARGE_INTEGER size{};
@@ -72,8 +73,8 @@ DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) 
   return error;
 }
 
-// Stores the name of the published file with the same bytes, or leaves `name` empty when there is
-// none.
+// Stores in `name` the name of a published INF file with the bytes `wanted`. Leaves `name` empty
+// when no published file has these bytes.
 DWORD FindPublishedCopy(const std::string& wanted, WString& name) {
   std::array<wchar_t, MAX_PATH> windows{};
   if (GetSystemWindowsDirectoryW(windows.data(), MAX_PATH) == 0) {

@@ -10,7 +10,7 @@
 
 namespace kelvo {
 
-// In order from best to worst; WorstState uses this order.
+// The states in order from best to worst; WorstState uses this order.
 enum class State {
   kInfo,     // a fact that is neither good nor bad
   kPresent,  // the thing is there
@@ -18,7 +18,7 @@ enum class State {
   kUnknown,  // the thing could not be checked
 };
 
-// Returns the stable name of a state, as both forms of the report write it.
+// Returns the stable name of a state, which both the text report and the JSON report use.
 const char* StateName(State state);
 
 // One fact about an item. The JSON report has `value` under the stable name `key`; the text report
@@ -30,8 +30,9 @@ struct Detail {
   WString phrase;
 };
 
-// One line of the report. `kind` is a stable name in lower case, with "_" for blanks. `name` is the
-// name or path that was asked for or found; it may be empty.
+// One line of the text report, and one object in the array "items" of the JSON report. `kind` is a
+// stable name in lower case, with "_" for blanks. `name` is the name or path that was asked for or
+// found; it may be empty.
 struct Item {
   const char* kind;
   State state;
@@ -42,12 +43,13 @@ struct Item {
 // Returns the state of the worst item, or kInfo for no items.
 State WorstState(const std::vector<Item>& items);
 
-// Returns a detail with the phrase "label text", or with an empty phrase when `text` is empty.
+// Returns a detail with the value `text`. Its phrase is `label`, a blank and `text`, or is empty
+// when `text` is empty.
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
-// Adds two details for a Windows error code: `key` + "_code" has eight hexadecimal digits, `key` +
-// "_text" the system's message without its full stop and line break. The phrase consists of
-// `label`, code and message.
+// Adds two details for a Windows error code. The value of `key` + "_code" is the code in eight
+// hexadecimal digits; its phrase is `label`, the code and the message. The value of `key` + "_text"
+// is the system's message without its full stop and line break; it has no phrase.
 void AddError(Item& item, const std::string& key, const WString& label, DWORD error);
 
 // Returns an item for something that could not be checked, with the keys "error_code" and

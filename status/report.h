@@ -7,13 +7,13 @@
 
 namespace kelvo {
 
-// Returns the items as text for a person, in UTF-8: one line for each, with its state, kind, name
-// and details in columns. Characters that would control a terminal are made visible
+// Returns the items as text for a person, in UTF-8: one line for each item, with its state, kind,
+// name and details in columns. Characters that would control a terminal are made visible
 // (ToVisibleUtf8).
 std::string TextReport(const std::vector<Item>& items);
 
-// Returns the items for a script, as one JSON object in ASCII, which a shell can read in any code
-// page:
+// Returns the items for a script, as one JSON object. The text is ASCII, so that a shell can read
+// it in any code page. The object has:
 //   - "schema", a number: later versions may add keys, but the number changes when a key is removed
 //     or changes its meaning
 //   - "version", the version of the program

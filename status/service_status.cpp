@@ -49,13 +49,13 @@ WString ServiceHardwareId() {
                     id.Data4[4], id.Data4[5], id.Data4[6], id.Data4[7]);
 }
 
-// Returns the hardware ids, each with its NUL, and one more NUL after the last. A device without
-// hardware ids has only NULs.
+// Returns the hardware ids of a device, each with its NUL, and one more NUL after the last. For a
+// device without hardware ids, returns only NULs.
 std::vector<wchar_t> ReadHardwareIds(const DeviceFunctions& functions, HDEVINFO devices,
                                      SP_DEVINFO_DATA& device) {
   DWORD size = 0;
   functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr, nullptr, 0, &size);
-  // Adds two NULs, which terminate the list even if the driver did not.
+  // Adds two NULs, which terminate the list even if the stored list has no terminator.
   std::vector<wchar_t> ids((size / sizeof(wchar_t)) + 2);
   if (functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr,
                             reinterpret_cast<BYTE*>(ids.data()), size, nullptr) == FALSE) {
@@ -68,7 +68,7 @@ bool StartsWith(const wchar_t* text, std::wstring_view start) {
   return _wcsnicmp(text, start.data(), start.length()) == 0;
 }
 
-// Returns the rest of each hardware id that begins with ServiceHardwareId.
+// For each hardware id that begins with ServiceHardwareId, returns the rest of the id.
 std::vector<WString> ServiceIdSuffixes(const std::vector<wchar_t>& hardwareIds) {
   const WString wanted = ServiceHardwareId();
   std::vector<WString> suffixes;
@@ -87,7 +87,7 @@ bool IsRemoteSuffix(const WString& suffix) {
           !StartsWith(suffix.c_str() + kMaker.length(), L"0000"));
 }
 
-// Returns the address in a device's instance id, such as the 12 digits in
+// Returns the Bluetooth address in a device's instance id, such as the 12 digits in
 // "...&0&001122334455_C00000000", or nothing when the id has no address.
 std::optional<std::uint64_t> AddressOf(const DeviceFunctions& functions, HDEVINFO devices,
                                        SP_DEVINFO_DATA& device) {
@@ -147,8 +147,8 @@ DWORD QueryServiceDevice(bool& isThere) {
 
 void AddLibrary(Item& item) {
   constexpr const char* kKey = "bluetooth_library";
-  // Loads the library as data, so that none of its code runs, and by its full path, because Wine
-  // ignores SetDefaultDllDirectories when it searches for data files.
+  // Loads the library as data, so that none of its code runs. Uses the full path: when Wine
+  // searches for a library to load as data, it ignores SetDefaultDllDirectories.
   const WString path = LibraryPath(L"bthprops.cpl");
   const OwnedModule library(LoadLibraryExW(
       path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));

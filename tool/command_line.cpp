@@ -28,7 +28,8 @@ DWORD RunInstall(Arguments arguments) {
   return Install(arguments[2], arguments[3], arguments[4], arguments[5]);
 }
 
-// Ignores arguments[2], the INF path, which mirrors install: the driver package stays installed.
+// Leaves the driver package installed, and so ignores its INF path, arguments[2]. The command takes
+// that argument only because install does.
 DWORD RunUninstall(Arguments arguments) {
   EnableLoadDriverPrivilege();
   bool noneLeft = false;
@@ -66,8 +67,8 @@ constexpr std::array kCommandForms = {
     CommandForm{3, L"register", RunRegisterFor}, CommandForm{3, L"unregister", RunUnregisterFor},
 };
 
-// Never change these texts, not even the missing line breaks after some examples: setup programs
-// compare them.
+// Never change these texts, because setup programs compare them. Do not even add the line breaks
+// that are missing after the examples.
 constexpr std::array kUsageTexts = {
     L"invalid arguments\n",
     L"install: Install Certificate, Driver and Register Service, remember dependant application\n",

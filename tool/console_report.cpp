@@ -16,7 +16,7 @@ std::string ToConsoleBytes(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.length() + 1);
   for (const wchar_t unit : text) {
-    // Adds a CR even after the CR that a system message already has.
+    // Adds a CR even after a CR: a system message, which has CR LF at its end, gets CR CR LF.
     if (unit == L'\n') {
       bytes += '\r';
     }
@@ -52,8 +52,8 @@ void Report(const wchar_t* format, ...) {
 WString FormatSystemMessage(DWORD code) {
   constexpr DWORD kMessageLength = 2000;
   WString buffer(kMessageLength, L'\0');
-  // Resizes to 0 when the call fails: it may have written part of a message with inserts, for which
-  // there are no arguments.
+  // For a message with inserts ("%1"), the call fails, since it gets no arguments for them. It then
+  // returns 0, so that resize also drops any part of the message that was already written.
   buffer.resize(FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, code,
                                MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), buffer.data(),
                                kMessageLength, nullptr));

@@ -6,16 +6,17 @@
 
 namespace kelvo {
 
-// Formats a message with FormatText (lib/string/format_text.h) and writes it to standard output
-// before it returns: a setup program that reads the pipe sees each step as soon as it is done, and
-// nothing is lost when the process ends early. The bytes do not depend on the locale: CR LF for
-// "\n", one byte for a unit up to U+00FF, "?" for any other unit. A failing write is ignored.
-// Throws std::bad_alloc when memory runs out.
+// Formats a message with FormatText (lib/string/format_text.h) and writes the text to standard
+// output without buffering: a setup program that reads the pipe sees each line at once, and no line
+// is lost when the process ends early. The bytes do not depend on the locale: "\n" becomes CR LF, a
+// UTF-16 unit up to U+00FF becomes one byte, and any other unit becomes "?". A failed write is
+// ignored. Throws std::bad_alloc when memory runs out.
 void Report(const wchar_t* format, ...);
 
-// Returns the system's message for an error code in the user's language (FormatMessageW), at most
-// 1,999 characters, with its final line break. Returns an empty string when the system has no
-// message for the code, or when the message has inserts ("%1"), for which there are no arguments.
+// Returns the system's message for an error code (FormatMessageW): in the user's language, with at
+// most 1,999 characters, including its final line break. Returns an empty string when the system
+// has no message for the code, or when the message has inserts ("%1"), for which there are no
+// arguments.
 WString FormatSystemMessage(DWORD code);
 
 }  // namespace kelvo

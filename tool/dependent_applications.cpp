@@ -79,7 +79,8 @@ bool RemoveDependentApplication(const wchar_t* name, bool& noneLeft) {
     RegistryDeleteValue(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName);
     Report(L"OK: No more dependant applications\n");
   } else {
-    // Writes the list even when no name was removed: it may have had stray separators.
+    // Writes the list even when no name was removed: the stored list may have superfluous
+    // separators.
     WriteList(list);
     Report(L"OK: Dependant applications exist: %s\n", list.c_str());
   }

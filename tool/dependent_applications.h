@@ -9,13 +9,13 @@ namespace kelvo {
 
 // The list of applications that use the hands-free service: names separated by ";" in the REG_SZ
 // value ApplicationsValueName of the key ServiceParametersKey, under HKEY_LOCAL_MACHINE. If the
-// value does not exist, the list is empty. Names are not checked: adding ";" to an empty list
-// stores an empty value.
+// value does not exist, the list is empty. Names are not checked: adding the name ";" to an empty
+// list stores an empty value.
 //
-// If the value has another type or more than kMaxRegistryStringSize bytes, RegistryReadString
-// (lib/registry/registry_string.h) cannot read it, and the list counts as empty. A REG_EXPAND_SZ
-// value is expanded. An expansion of 260 characters or more is truncated, and the next change
-// stores the truncated list.
+// A REG_EXPAND_SZ value is also read, and is expanded. An expansion of 260 characters or more is
+// truncated, and the next change stores the truncated list. If the value has any other type or more
+// than kMaxRegistryStringSize bytes, RegistryReadString (lib/registry/registry_string.h) cannot
+// read it, and the list counts as empty.
 inline constexpr const wchar_t* ServiceParametersKey =
     L"SYSTEM\\CurrentControlSet\\Services\\Tessalin\\Parameters";
 inline constexpr const wchar_t* ApplicationsValueName = L"applications";
@@ -27,7 +27,7 @@ WString ReadApplicationList();
 std::vector<WString> ApplicationsInList(const WString& list);
 
 // Returns whether `item` and `name` are equal regardless of letter case. ListWithoutApplication
-// removes exactly these items.
+// removes the items for which this function returns true.
 bool IsSameApplication(const WString& item, const wchar_t* name);
 
 // Returns the list with `name` appended, or nothing when the list already contains `name`. The
@@ -39,8 +39,8 @@ std::optional<WString> ListWithApplication(const WString& list, const wchar_t* n
 // keep their order, with one ";" between them. Returns an empty string when no item remains.
 WString ListWithoutApplication(const WString& list, const wchar_t* name);
 
-// Adds `name` to the list in the registry unless the list already contains it, as
-// ListWithApplication defines. Always returns true, even when the write fails.
+// Adds `name` to the list in the registry, unless the list already contains `name` by the rules of
+// ListWithApplication. Always returns true, even when the write fails.
 bool AddDependentApplication(const wchar_t* name);
 
 // Removes `name` from the list in the registry and reports the remaining names in one line. Deletes

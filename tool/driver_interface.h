@@ -8,23 +8,24 @@
 
 namespace kelvo {
 
-// The loaded driver installation interface. Destroying the object frees the library, after which
-// the functions must not be called.
+// The loaded driver installation interface. Destroying the object frees the library; do not call
+// the functions after that.
 struct DriverInterface {
   OwnedModule library;
   decltype(&SetDifxLogCallbackW) setLogCallback = nullptr;
   decltype(&DriverPackageInstallW) installPackage = nullptr;
 };
 
-// Loads "difxapi.dll" from its LibraryPath and gets the addresses of its functions. Returns 0, or
-// an error code when the library or a function is missing; then neither function may be called.
-// Loads the library by its full path because it is a KnownDLL: given the bare name, Windows would
-// always load the system's copy.
+// Loads "difxapi.dll" and gets the addresses of its two functions. Returns 0, or an error code when
+// the library or a function is missing. After an error, neither function may be called. Uses the
+// full path from LibraryPath (tool/library_search.h), so that a copy in the program's folder is
+// preferred. Given the bare name, Windows would always load the system's copy, because the library
+// is a KnownDLL.
 DWORD BindDriverInterface(DriverInterface& driver);
 
-// The interface's log callback: reports the event as one "INFO: " line. A null description counts
-// as empty; `context` is unused. Any thread may call it. It never throws: when memory runs out, it
-// drops the line.
+// The callback for SetDifxLogCallbackW: reports the event as one "INFO: " line. A null description
+// counts as empty; `context` is unused. May be called on any thread. Never throws: when memory runs
+// out, the line is dropped.
 void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description,
                               PVOID context) noexcept;
 

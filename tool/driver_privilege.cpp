@@ -6,11 +6,12 @@
 namespace kelvo {
 
 bool EnableLoadDriverPrivilege() {
-  // AdjustTokenPrivileges also succeeds when the token lacks the privilege; only the last error
-  // shows that.
+  // AdjustTokenPrivileges returns TRUE even when the token lacks the privilege; only the last error
+  // shows that the privilege is missing.
   const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {
-    // The text is the same whichever of the three calls fails; only the code differs.
+    // The text names OpenProcessToken even when LookupPrivilegeValueW or AdjustTokenPrivileges
+    // fails.
     Report(L"ERR: OpenProcessToken failed, err = %08lX\n", error);
   }
   return error == ERROR_SUCCESS;

@@ -3,7 +3,7 @@
 namespace kelvo {
 
 // Enables "SeLoadDriverPrivilege" in the process's token until the process ends. Returns true on
-// success; otherwise reports one "ERR: " line with the code of the call that failed and returns
+// success. On failure, reports one "ERR: " line with the error code of the failed call and returns
 // false.
 bool EnableLoadDriverPrivilege();
 

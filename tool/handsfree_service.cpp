@@ -24,7 +24,7 @@ DWORD SetServiceInfo(HMODULE library, bool enable) {
 DWORD RegisterHandsfreeService(bool enable) {
   const OwnedModule library(LoadLibraryW(L"bthprops.cpl"));
   if (!library) {
-    // A machine without Bluetooth does not make the command fail: the exit code stays 0.
+    // On a machine without Bluetooth, the command does not fail: the exit code stays 0.
     Report(L"ERR: no Bluetooth available, bthprops.cpl missing\n");
     return ERROR_SUCCESS;
   }

@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// The class identifier of the service in the Bluetooth stack.
+// The class identifier of the hands-free service in the Bluetooth stack.
 inline constexpr GUID HandsfreeServiceClassGuid = {
     0x3ABB9028, 0xBEAE, 0x4BF1, {0xAC, 0xD7, 0x5C, 0xD7, 0xD5, 0xE4, 0xE0, 0xCA}};
 

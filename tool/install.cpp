@@ -19,7 +19,7 @@ struct DriverOutcome {
   const wchar_t* text;
 };
 
-// Defined here because SDKs differ in which of these codes they declare.
+// Defined here because not every SDK declares all of these codes.
 constexpr DWORD kNoSuchDeviceInstance = 0xE000020B;
 constexpr DWORD kPackagePreinstalled = 0xE0000301;
 constexpr DWORD kPublisherNotTrusted = 0xE0000242;

@@ -1,6 +1,7 @@
-// Defines the load configuration of a shipped program, which makes Windows 10 1607 and later load
-// its imports from the system directory only. NarrowLibrarySearch cannot do this: it runs in wmain,
-// after Windows has loaded the imports. Visual Studio's linker writes this structure itself.
+// Defines the load configuration of a shipped program. Because of this structure, Windows 10 1607
+// and later load the program's imports only from the system directory. NarrowLibrarySearch cannot
+// do this: it runs in wmain, after Windows has loaded the imports. Not part of a build with Visual
+// Studio, whose linker writes the structure itself (/DEPENDENTLOADFLAG).
 
 #include <windows.h>
 

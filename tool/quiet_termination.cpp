@@ -19,8 +19,8 @@ namespace {
 #ifdef __GLIBCXX__
 namespace __gnu_cxx {
 
-// Replaces libstdc++'s own handler, which would write to standard error and add 45 KiB of name
-// demangling to the program.
+// Replaces libstdc++'s own handler, which would write to standard error and add 45 KiB of code for
+// name demangling to the program.
 // NOLINTNEXTLINE(bugprone-reserved-identifier,cert-*): the name is libstdc++'s
 void __verbose_terminate_handler() { EndProcess(); }
 

@@ -7,13 +7,13 @@
 namespace kelvo {
 
 // Returns the locale name for an LCID, such as "de-CH", or "de" for a neutral locale
-// (LCIDToLocaleName, looked up at run time). Empty for an unknown locale and when Windows lacks
-// that function.
+// (LCIDToLocaleName, looked up at run time). Returns an empty string for an unknown locale and
+// when Windows lacks LCIDToLocaleName.
 WString LocaleNameFromLcid(LCID locale);
 
 // Returns information about a locale as a string (GetLocaleInfoW). `type` is the kind of
-// information, such as LOCALE_SNAME for the locale's name. Empty when Windows has none, and when
-// memory runs out.
+// information, such as LOCALE_SNAME for the locale's name. Returns an empty string when Windows
+// does not have this information, and when memory runs out.
 WString GetLocaleInfoString(LCID locale, LCTYPE type);
 
 }  // namespace kelvo

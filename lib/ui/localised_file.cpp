@@ -39,7 +39,7 @@ bool IsFile(const WString& path) {
 
 bool IsNeutral(LANGID language) { return PRIMARYLANGID(language) == LANG_NEUTRAL; }
 
-// Returns 0 when Windows has no language of that name.
+// Returns 0 when Windows has no language with that name.
 LANGID NumberOf(const WString& name) {
   auto* const getInfo = KELVO_FIND_FUNCTION(GetModuleHandleW(L"kernel32.dll"), GetLocaleInfoEx);
   DWORD number = 0;
@@ -52,9 +52,10 @@ LANGID NumberOf(const WString& name) {
   return PRIMARYLANGID(language) != LANG_INVARIANT ? language : LANGID{0};
 }
 
-// Returns 0 when the name is not a language's. For well-formed names that have no LCID,
-// such as "en-DE" and "old", Windows 10 returns a language whose primary language is LANG_NEUTRAL.
-// The name up to its first "-" then decides: English for "en-DE", 0 for "old".
+// Returns 0 when the name is not that of a language. For well-formed names that have no LCID, such
+// as "en-DE" and "old", Windows 10 gives a LANGID whose primary language is LANG_NEUTRAL. For such
+// a name, uses only the part before its first "-", and so returns English for "en-DE" and 0 for
+// "old".
 LANGID LanguageOf(const WString& name) {
   const LANGID language = NumberOf(name);
   return language == 0 || !IsNeutral(language)
@@ -67,7 +68,7 @@ LANGID Resolved(LANGID language) {
   return IsNeutral(language) ? LanguageOf(GetLocaleInfoString(language, LOCALE_SNAME)) : language;
 }
 
-// Returns how far a language is from the wanted one, 0 for the nearest.
+// Returns how far a language is from the wanted one: 0 for the same primary language, 3 at most.
 int Distance(LANGID language, LANGID wanted) {
   if (PRIMARYLANGID(language) == PRIMARYLANGID(wanted)) {
     return 0;
@@ -78,14 +79,14 @@ int Distance(LANGID language, LANGID wanted) {
   return PRIMARYLANGID(language) == LANG_ENGLISH ? 2 : 3;
 }
 
-// Compares as file systems do.
+// Ignores letter case in the same way as Windows file systems.
 bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
   return CompareStringOrdinal(a.data(), static_cast<int>(a.length()), b.data(),
                               static_cast<int>(b.length()), TRUE) == CSTR_EQUAL;
 }
 
-// Returns the locale name within the name of a file or folder that was found. Empty when that does
-// not fit the pattern, since a search also matches short names.
+// Returns the locale name that the name of a found file or folder contains. Returns an empty string
+// when the found name does not fit the pattern: FindFirstFileW also matches short (8.3) names.
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
     return found;

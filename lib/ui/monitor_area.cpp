@@ -6,7 +6,7 @@ namespace kelvo {
 
 namespace {
 
-// Returns false and leaves `rect` unchanged when the caller is to use the primary monitor.
+// Returns false and leaves `rect` unchanged when the caller must use the primary monitor.
 bool FindNearestArea(POINT point, RECT MONITORINFO::* area, RECT& rect) {
   if (GetSystemMetrics(SM_CMONITORS) <= 1) {
     return false;

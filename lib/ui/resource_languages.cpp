@@ -7,7 +7,8 @@ namespace kelvo {
 
 namespace {
 
-// No exception may leave a callback: running out of memory is reported after the enumeration.
+// No exception may leave the callbacks: when memory runs out, std::bad_alloc is thrown after the
+// enumeration.
 struct Enumeration {
   std::vector<LANGID> languages;
   bool isOutOfMemory = false;
@@ -26,7 +27,8 @@ BOOL CALLBACK AppendLanguage(HMODULE /*module*/, LPCWSTR /*type*/, LPCWSTR /*nam
   }
 }
 
-// Stops after the first name, which is valid only inside the callback.
+// Calls EnumResourceLanguagesW here because `name` is valid only during the callback. Returns FALSE
+// to stop after the first name.
 BOOL CALLBACK AppendLanguagesOfFirst(HMODULE module, LPCWSTR type, LPWSTR name, LONG_PTR context) {
   EnumResourceLanguagesW(module, type, name, AppendLanguage, context);
   return FALSE;

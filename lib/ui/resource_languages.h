@@ -7,13 +7,13 @@
 namespace kelvo {
 
 // Returns the languages of the first string table of `module`, in the order of
-// EnumResourceLanguagesW; empty for a null module and for one without string tables. Other tables
-// are assumed to have the same languages.
+// EnumResourceLanguagesW. The other tables are assumed to have the same languages. Returns an empty
+// list for null and for a module without string tables.
 std::vector<LANGID> GetStringResourceLanguages(HMODULE module);
 
-// Returns the language in which to load resources: `requested` when it is offered; else the first
-// with the same primary language; else the first English one; else the first of the list. 0 when
-// the list is empty.
+// Returns the language in which to load resources: `requested` when `offered` contains it;
+// else the first of `offered` with the same primary language; else the first English one; else the
+// first of all. Returns 0 when `offered` is empty.
 LANGID ChooseResourceLanguage(const std::vector<LANGID>& offered, LANGID requested);
 
 }  // namespace kelvo

@@ -19,7 +19,7 @@ std::string WithCarriageReturns(std::string_view text) {
 }
 
 bool WriteToConsole(HANDLE console, const std::string& utf8) {
-  // Before Windows 10, a console refuses more than 64 KiB at once.
+  // Before Windows 10, a console refuses more than 64 KiB in one call.
   constexpr std::size_t kMostUnits = 0x2000;
   // UTF-16 never has more units than UTF-8 has bytes.
   std::wstring text(utf8.length(), L'\0');
@@ -27,7 +27,7 @@ bool WriteToConsole(HANDLE console, const std::string& utf8) {
   const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text.data(), size);
   for (std::size_t at = 0; at < static_cast<std::size_t>(length);) {
     std::size_t units = std::min(kMostUnits, static_cast<std::size_t>(length) - at);
-    // A surrogate pair is not split.
+    // Does not split a surrogate pair.
     units -= IS_HIGH_SURROGATE(text[at + units - 1]) ? 1 : 0;
     DWORD written = 0;
     if (WriteConsoleW(console, &text[at], static_cast<DWORD>(units), &written, nullptr) == FALSE ||

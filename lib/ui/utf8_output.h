@@ -6,9 +6,9 @@
 
 namespace kelvo {
 
-// Writes UTF-8 with CR LF for each "\n" to a standard device, STD_OUTPUT_HANDLE or
-// STD_ERROR_HANDLE: as characters to a console, whatever its code page, and as bytes to a file or a
-// pipe. Returns false when not all of it was written.
+// Writes UTF-8 text to a standard device, STD_OUTPUT_HANDLE or STD_ERROR_HANDLE. Each "\n" becomes
+// CR LF. A console receives UTF-16 (WriteConsoleW), so that its code page does not matter. A file
+// or a pipe receives the UTF-8 bytes. Returns false when not all of the text was written.
 bool WriteUtf8(DWORD device, std::string_view utf8);
 
 }  // namespace kelvo

@@ -26,7 +26,8 @@ bool IsLabelOrButton(HWND window) {
          std::wcsstr(className.data(), L"button") != nullptr;
 }
 
-// No exception may leave a callback: running out of memory is reported after the enumeration.
+// No exception may leave the callback: when memory runs out, std::bad_alloc is thrown after the
+// enumeration.
 BOOL CALLBACK RewriteChild(HWND child, LPARAM isOutOfMemory) {
   try {
     if (IsLabelOrButton(child)) {
