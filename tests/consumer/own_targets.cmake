@@ -1,5 +1,5 @@
-# Enables tests and adds other targets that a consumer may have: one with a common name, and a program that links the
-# whole library. Its link fails if a Windows import library is missing.
+# Enables tests and adds two targets. `benchmarks` is a common name, which no target of the library may have.
+# `whole_library` links every object file of the library: linking fails if kelvo::kelvo lacks an import library.
 enable_testing()
 add_custom_target(benchmarks)
 add_executable(whole_library main.cpp ${all_headers})
