@@ -1,5 +1,5 @@
-# Enables tests and adds two targets. `benchmarks` is a common name, which no target of the library may have.
-# `whole_library` links every object file of the library: linking fails if kelvo::kelvo lacks an import library.
+# Enables tests and adds two targets, as a consumer may. `benchmarks` is a common name, which the library must not use.
+# `whole_library` links all object files of the library, which fails if kelvo::kelvo omits a Windows import library.
 enable_testing()
 add_custom_target(benchmarks)
 add_executable(whole_library main.cpp ${all_headers})

@@ -37,7 +37,7 @@ constexpr FailingCall kWatched[] = {
 static std::wstring operation, traced;
 
 // In each run of an operation, one call to a function of kWatched fails or throws. As a rule, the
-// operation then fails. It traces the name of a function that failed, but not of one that threw.
+// operation then fails, and traces the name of a function that failed, but not of one that threw.
 // "fails" means that the clean-up traced one more message; "fails at once" means that it did not.
 // For each outcome, failure_messages.txt lists the first call of each function that leads to it.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
@@ -48,7 +48,8 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   const WindowObjects scope;
   const OwnedKernelObject token = OwnToken();
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
-  // Only `many` makes AllowAccessTo... call HeapAlloc. All other calls are also made with `few`.
+  // `many` does not fit in the stack buffer of AllowAccessTo..., so that HeapAlloc is called. `few`
+  // is enough for all other calls.
   const TestAcl many(std::vector<TestAce>(51));
   const TestAcl few(std::vector<TestAce>(3));
   TestAce ace{.mask = 9};

@@ -83,7 +83,7 @@ TEST_CASE("AddFileAccessRights: prints the name of a failing call, leaves the fi
     const ReplacedExport missing("SetSecurityDescriptorControl", nullptr);
     CHECK(Printed() == "");
     CHECK(list != before);
-    // Tries an ACL that extends past its security descriptor, then an ACL with an ACE past its end.
+    // Tries an ACL that extends past its security descriptor, then an ACE past the end of its ACL.
     for (WORD ACL::* const field : {&ACL::AclSize, &ACL::AceCount}) {
       REPLACE(GetSecurityDescriptorDacl,
               [&](auto original, auto from, auto has, ACL** dacl, auto flag) {

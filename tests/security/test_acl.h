@@ -20,8 +20,8 @@ struct TestAce {
   SID sid{SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {19}};
 };
 
-// An ACL that consists of `entries` and `spare` unused bytes. An inaccessible page follows the ACL,
-// so that a read past its end faults. The memory is never freed.
+// An ACL that consists of `entries` and `spare` unused bytes. Directly after the ACL, there is an
+// inaccessible page, so that a read past the ACL's end faults. The memory is never freed.
 struct TestAcl {
   explicit TestAcl(const std::vector<TestAce>& entries, std::size_t spare = 0) {
     constexpr std::size_t kRoom = 0x10000;
@@ -52,11 +52,11 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
   return descriptor;
 }
 
-// The beginning of an ACE, in SDDL, with all access rights of a window station or of a desktop.
+// The beginning of an allow ACE, in SDDL, with all rights of a window station or of a desktop.
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
-// Returns the DACL of an object of any type in SDDL, or "none" if the object has no DACL.
+// Returns, in SDDL, the DACL of an object of any type, or "none" if the object has no DACL.
 inline std::wstring ReadDacl(HANDLE object) {
   std::vector<BYTE> descriptor(0x10000);
   DWORD size = 0x10000;
@@ -83,7 +83,7 @@ struct WindowObjects : DesktopScope {
 
   static constexpr auto kAsKernelObject = [](auto original, HANDLE object, SE_OBJECT_TYPE type,
                                              SECURITY_INFORMATION what, auto... rest) {
-    // Other flags would also change the owner, or protect the DACL from inheritance, for example.
+    // The code under test must read and write only the DACL, and not protect it from inheritance.
     CHECK(what == DACL_SECURITY_INFORMATION);
     return original(object, type == SE_WINDOW_OBJECT ? SE_KERNEL_OBJECT : type, what, rest...);
   };

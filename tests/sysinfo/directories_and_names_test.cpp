@@ -27,7 +27,7 @@ static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
 static WString x(std::size_t count) { return {count, L'x'}; }
 
 TEST_CASE(
-    "GetSystemDirectoryPath, GetSystemWow64DirectoryPath: end in one separator, or are empty") {
+    "GetSystemDirectoryPath, GetSystemWow64DirectoryPath: one final separator; empty if too long") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return GiveDirectory(to...); });
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},

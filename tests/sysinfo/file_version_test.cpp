@@ -31,7 +31,7 @@ TEST_CASE(
   char name[99] = "", from[9] = "";
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
-  UINT length = 0;
+  UINT length = 0;  // which the simulated VerQueryValueW claims for the moved value
   REPLACE(VerQueryValueW, [&](auto original, auto block, auto* path, auto found, auto claimed) {
     const BOOL answer = original(block, path, found, claimed);
     if (std::wcslen(path) == pathLength) {
@@ -80,7 +80,7 @@ TEST_CASE("IsIEVersionAtLeast, GetIEVersionName: use the system directory, keep 
   CHECK(WString(GetIEVersionName(nullptr, {6, 0, 0, 0})) == L"Internet Explorer 5.5");
 }
 
-TEST_CASE("GetComCtlVersion: returns the library's version, or 4.0 without DllGetVersion") {
+TEST_CASE("GetComCtlVersion: returns the library's version, or 4.0 if DllGetVersion is missing") {
   static HRESULT result;
   const auto report = +[](DLLVERSIONINFO* version) -> HRESULT {
     *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};

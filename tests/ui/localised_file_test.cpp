@@ -54,7 +54,7 @@ TEST_CASE("FindLocalisedFile: finds the file for the language, or for the neares
       {L"resources\\en-US\\\u00E9.x", L"resources\\en-US\\\u00E9.x"},
       {L"resources\\de-CH\\\u00E9.x", L"resources\\de-CH\\\u00E9.x"},
       {L"resources\\de-DE\\\u00E9.x", L"resources\\de-DE\\\u00E9.x"}};
-  // As on Windows 10, these two names have no LCID. Below, the user's default language is German.
+  // As on Windows 10, "en-DE" and "old" have no LCID. Below, the user's language is German.
   const auto getNumber = +[](LPCWSTR name, LCTYPE type, LPWSTR number, int size) {
     const bool hasNone = name == std::wstring(L"en-DE") || name == std::wstring(L"old");
     *reinterpret_cast<DWORD*>(number) = LOCALE_CUSTOM_UNSPECIFIED;

@@ -6,7 +6,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("ChooseResourceLanguage: prefers the exact language, then a related one, then English") {
+TEST_CASE("ChooseResourceLanguage: exact language, else related, else English, else the first") {
   using Languages = std::vector<LANGID>;
   const auto languagesOf = [](const wchar_t* library) {
     return GetStringResourceLanguages(LoadLibraryW(ProgramPath(library).c_str()));
@@ -20,7 +20,7 @@ TEST_CASE("ChooseResourceLanguage: prefers the exact language, then a related on
   CHECK(ChooseResourceLanguage({0x040C, 0x0410}, 0x0411) == 0x040C);
 }
 
-TEST_CASE("LocaleNameFromLcid: returns an empty string without LCIDToLocaleName") {
+TEST_CASE("LocaleNameFromLcid: returns an empty string if LCIDToLocaleName is missing") {
   CHECK_BOTH(LocaleNameFromLcid(0x0007) == L"de", LocaleNameFromLcid(0x12345) == L"");
   const ReplacedExport missing("LCIDToLocaleName", nullptr);
   CHECK(LocaleNameFromLcid(0x0007) == L"");
@@ -56,7 +56,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only labels and buttons") {
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
-  // Each substitution is applied once, in the order of the search texts.
+  // Each substitution is applied once, in the alphabetical order of the search texts.
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},
@@ -159,7 +159,7 @@ TEST_CASE("WriteUtf8: a long text reaches a console in pieces of whole character
             seen.append(static_cast<const wchar_t*>(text), length);
             CHECK_FALSE(IS_HIGH_SURROGATE(seen.back()));
             *done = length;
-            // Before Windows 10, a console failed to write more text at once.
+            // Before Windows 10, a console failed to write 0x8000 or more UTF-16 units at once.
             return length < 0x8000;
           });
   std::wstring expected = L"a";
