@@ -1,12 +1,12 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# If `prefix` is set, `source` is in an installed package of the library, and the consumer's find_package must find that
-# package. Otherwise the consumer builds the library from its sources.
+# If `prefix` is set, `source` is a folder in an installed package of the library, and the consumer's find_package must
+# find that package. If `prefix` is not set, the consumer builds the library from its sources.
 
 if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
     -D all_headers=${all_headers})
 else()
-  # Uses a unity build, as a consumer may: it takes a quarter of the time.
+  # Uses a unity build, as a consumer may, because it takes a quarter of the time of a normal build.
   set(library -D CMAKE_DISABLE_FIND_PACKAGE_kelvo=ON -D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=30)
 endif()
 
@@ -26,7 +26,7 @@ execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE log COMMAND ${CMAKE_C
 
 execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_VARIABLE tests COMMAND ${CMAKE_CTEST_COMMAND} --test-dir ${build} -N)
 if(NOT tests MATCHES "Total Tests: 0")
-  message(SEND_ERROR "the library adds tests to the consumer's project:\n${tests}")
+  message(SEND_ERROR "The library adds tests to the consumer's project:\n${tests}")
 endif()
 
 foreach(program consumer whole_library)

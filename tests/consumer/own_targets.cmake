@@ -1,5 +1,5 @@
-# Enables tests and adds other targets that a consumer may have: one with a common name, and a program that links the
-# whole library. Its link fails if a Windows import library is missing.
+# Enables tests and adds two targets, as a consumer may. `benchmarks` is a common name, which the library must not use.
+# `whole_library` links all object files of the library, which fails if kelvo::kelvo omits a Windows import library.
 enable_testing()
 add_custom_target(benchmarks)
 add_executable(whole_library main.cpp ${all_headers})

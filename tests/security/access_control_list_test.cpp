@@ -11,7 +11,7 @@
 #include "tests/security/test_acl.h"
 #include "tests/support/testing.h"
 
-// Deletes the deny ACEs of an object whose DACL is `list` itself, not a copy.
+// Deletes the deny ACEs of `sid` in `list` itself: the simulated GetSecurityInfo makes no copy.
 static void DeleteDenyAces(const TestAcl& list, PSID sid) {
   REPLACE(GetSecurityInfo, [&](auto, auto, auto, auto, auto, auto, ACL** dacl, auto...) {
     *dacl = list.acl;
@@ -20,7 +20,7 @@ static void DeleteDenyAces(const TestAcl& list, PSID sid) {
   DeleteDenyACEofObject(sid, nullptr, SE_WINDOW_OBJECT);
 }
 
-TEST_CASE("FindACEInACL, CopyACL, CalculateACLSize: the last equal ACE, whole copies and sizes") {
+TEST_CASE("FindACEInACL, CopyACL, CalculateACLSize: find the last equal ACE, copy all, add sizes") {
   TestAce wanted{.flags = 2, .mask = 7};
   TestAce other{.flags = 2, .mask = 7, .sid = {SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {18}}};
   const TestAcl list({wanted, wanted, {.type = 1, .flags = 2, .mask = 7}, {.mask = 7}, other});
@@ -37,7 +37,7 @@ TEST_CASE("FindACEInACL, CopyACL, CalculateACLSize: the last equal ACE, whole co
   CHECK(denying.acl->AceCount == 3);
 }
 
-TEST_CASE("GetACEInsertionIndex: puts a new ACE before the first of its rank") {
+TEST_CASE("GetACEInsertionIndex: returns the index of the first ACE of the same or a higher rank") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
   const std::tuple<BYTE, BYTE, DWORD> cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
                                                  {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
@@ -49,8 +49,8 @@ TEST_CASE("GetACEInsertionIndex: puts a new ACE before the first of its rank") {
 }
 
 TEST_CASE(
-    "FindACEInACL, DeleteDenyACEofObject, CopyACL: do not read past the end if sizes are wrong") {
-  // The guards swallow a read past the end, but it would change the messages.
+    "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
+  // The functions catch the fault of a read past the end, but it would change their messages.
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

@@ -30,25 +30,26 @@ constexpr FailingCall kWatched[] = {
     RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
     SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
     SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
-    // Comes last: if it fails to restore the station, the process loses that station.
+    // Must be last: if the call to restore the station fails, RunAsUser closes that station.
     SETS_LAST_ERROR(SetProcessWindowStation)};
 
-// The operation under test, and its trace without the messages of operations that it calls.
+// The operation under test, and its messages without those of the operations that it calls.
 static std::wstring operation, traced;
 
-// Makes each call of an operation to these functions fail, and then throw, one call at a time. As a
-// rule the operation then fails. It names the call if it failed, but not if it threw. Its clean-up
-// adds a last message, unless it fails at once. failure_messages.txt lists each outcome of each
-// operation with the first call of each function that causes it.
+// In each run of an operation, one call to a function of kWatched fails or throws. As a rule, the
+// operation then fails, and traces the name of a function that failed, but not of one that threw.
+// "fails" means that the clean-up traced one more message; "fails at once" means that it did not.
+// For each outcome, failure_messages.txt lists the first call of each function that leads to it.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
-  // Replaces the interactive station, which all programs share.
+  // Uses a new station in place of the interactive one, which all programs share.
   const DesktopScope standIn(L"kelvo stand-in", L"Default");
   REPLACE(OpenWindowStationW,
           [](auto original, auto, auto... rest) { return original(L"kelvo stand-in", rest...); });
   const WindowObjects scope;
   const OwnedKernelObject token = OwnToken();
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
-  // `many` does not fit on the stack; `few` is enough for all calls to be made.
+  // `many` does not fit in the stack buffer of AllowAccessTo..., so that HeapAlloc is called. `few`
+  // is enough for all other calls.
   const TestAcl many(std::vector<TestAce>(51));
   const TestAcl few(std::vector<TestAce>(3));
   TestAce ace{.mask = 9};
@@ -81,21 +82,20 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
        [&] { return allowAll(scope.station, SE_WINDOW_OBJECT, L"WinStat"); }},
       {L"AllowTokenFullAccessToObject",
        [&] { return allowAll(event.get(), SE_KERNEL_OBJECT, L"Desktop"); }},
-      // The object's DACL grows.
       {L"ModifySecurity", [&] { return ModifySecurity(event.get(), 1); }},
       {L"RunAsUser", [&] { return IsOnInteractiveDesktop(); }},
       {L"RunAsUser", [&] { return RunAsUser(command, TRUE, nullptr); }}};
   SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
     const std::wstring text = tag == std::wstring(L"RunAsEx") ? message : L"a wrong tag";
     traced += text.starts_with(operation + L" ") ? L"," + text.substr(operation.length()) : L"";
-    throw 1;  // the operation must not notice
+    throw 1;  // must not affect the operation
   });
-  // The calls that failed and the calls that threw, by operation and outcome.
+  // The calls that failed and the calls that threw, for each operation and each outcome.
   std::map<std::wstring, std::map<std::wstring, std::array<std::wstring, 2>>> outcomes;
   for (const auto& [name, succeeds] : operations) {
     operation = name;
     const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
-      // Restores both, because the operation's call to restore them may have failed.
+      // Restores the station and the desktop, which the previous run may have failed to restore.
       SetProcessWindowStation(scope.station);
       SetThreadDesktop(scope.desktop);
       for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
@@ -131,7 +131,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       }
     }
   }
-  // If no call fails, the token's user gets all rights of desktops on the desktop.
+  // If no call fails, RunAsUser grants this process's user all rights on the interactive desktop.
   WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
   RunAsUser(command, TRUE, nullptr);
   CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);

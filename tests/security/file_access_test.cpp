@@ -9,8 +9,8 @@
 
 static BOOL isWritten = FALSE;
 
-// Runs an action on a simulated file whose ACL is `list`, in SDDL. Of a real file's ACL, Wine keeps
-// only the mode bits.
+// Runs an action with a simulated file whose DACL is `list`, in SDDL. Wine would not store the DACL
+// of a real file, but only convert it to Unix permission bits.
 static void WithFile(std::wstring& list, const std::function<void()>& action) {
   REPLACE(GetFileSecurityW, [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
     const OwnedLocalMemory<void> made = FromSddl(list, size);
@@ -25,7 +25,7 @@ static void WithFile(std::wstring& list, const std::function<void()>& action) {
   action();
 }
 
-// Grants administrators access to that file and returns the printed text.
+// Grants administrators access to the simulated file. Returns the text that was printed.
 static std::string Printed() {
   isWritten = FALSE;
   char printed[4096] = "";
@@ -36,7 +36,7 @@ static std::string Printed() {
   return text;
 }
 
-TEST_CASE("AddFileAccessRights: replaces the account's explicit ACEs, repeatedly") {
+TEST_CASE("AddFileAccessRights: replaces the account's explicit ACEs, also when repeated") {
   for (auto [list, result] :
        {std::pair<std::wstring, std::wstring>{L"none", L"D:(A;;FA;;;BA)"},
         {L"D:(A;;FR;;;BA)(D;;FW;;;BG)(A;ID;FR;;;BA)", L"D:(D;;FW;;;BG)(A;;FA;;;BA)(A;ID;FR;;;BA)"},
@@ -50,14 +50,14 @@ TEST_CASE("AddFileAccessRights: replaces the account's explicit ACEs, repeatedly
   }
 }
 
-TEST_CASE("AddFileAccessRights: names each failing call, leaves the file unchanged") {
+TEST_CASE("AddFileAccessRights: prints the name of a failing call, leaves the file unchanged") {
   constexpr FailingCall kFailing[] = {
       SETS_LAST_ERROR(GetFileSecurityW), SETS_LAST_ERROR(HeapAlloc),
       SETS_LAST_ERROR(GetSecurityDescriptorDacl), SETS_LAST_ERROR(GetAclInformation),
       SETS_LAST_ERROR(InitializeAcl), SETS_LAST_ERROR(GetAce), SETS_LAST_ERROR(AddAce),
       SETS_LAST_ERROR(AddAccessAllowedAce), SETS_LAST_ERROR(SetSecurityDescriptorDacl),
       SETS_LAST_ERROR(SetFileSecurityW),
-      // The messages of these two lack a space.
+      // The messages for these two functions lack the space before "Error".
       SETS_LAST_ERROR(InitializeSecurityDescriptor), SETS_LAST_ERROR(GetSecurityDescriptorControl)};
   const std::wstring before = L"D:AI(A;;FR;;;WD)(A;ID;FR;;;WD)";
   std::wstring list = before;
@@ -83,7 +83,7 @@ TEST_CASE("AddFileAccessRights: names each failing call, leaves the file unchang
     const ReplacedExport missing("SetSecurityDescriptorControl", nullptr);
     CHECK(Printed() == "");
     CHECK(list != before);
-    // Tries an ACL that reaches past its descriptor, and one with an ACE past the ACL's end.
+    // Tries an ACL that extends past its security descriptor, then an ACE past the end of its ACL.
     for (WORD ACL::* const field : {&ACL::AclSize, &ACL::AceCount}) {
       REPLACE(GetSecurityDescriptorDacl,
               [&](auto original, auto from, auto has, ACL** dacl, auto flag) {

@@ -9,7 +9,7 @@
 
 namespace kelvo::test {
 
-// An ACE as an ACL stores it. Its SID is S-1-5-19, which is "LS" in SDDL.
+// An ACE in the layout that it has in an ACL. The default SID is S-1-5-19, which is "LS" in SDDL.
 struct TestAce {
   ACCESS_ALLOWED_ACE* get() { return reinterpret_cast<ACCESS_ALLOWED_ACE*>(this); }
 
@@ -20,8 +20,8 @@ struct TestAce {
   SID sid{SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {19}};
 };
 
-// An ACL of these ACEs and `spare` bytes, directly in front of a guard page: a read past its end is
-// a fault. It is never freed.
+// An ACL that consists of `entries` and `spare` unused bytes. Directly after the ACL, there is an
+// inaccessible page, so that a read past the ACL's end faults. The memory is never freed.
 struct TestAcl {
   explicit TestAcl(const std::vector<TestAce>& entries, std::size_t spare = 0) {
     constexpr std::size_t kRoom = 0x10000;
@@ -38,7 +38,7 @@ struct TestAcl {
   TestAce* aces = nullptr;
 };
 
-// Converts a security descriptor's DACL to SDDL, and back.
+// Converts a security descriptor's DACL to SDDL, and SDDL to a descriptor ("none": without a DACL).
 inline std::wstring ToSddl(PSECURITY_DESCRIPTOR descriptor) {
   OwnedLocalMemory<wchar_t> text;
   ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, 1, DACL_SECURITY_INFORMATION,
@@ -52,11 +52,11 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
   return descriptor;
 }
 
-// The beginning of an ACE that grants all rights to a station or a desktop.
+// The beginning of an allow ACE, in SDDL, with all rights of a window station or of a desktop.
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
-// Returns the DACL of an object of any kind, or "none" if it has no DACL.
+// Returns, in SDDL, the DACL of an object of any type, or "none" if the object has no DACL.
 inline std::wstring ReadDacl(HANDLE object) {
   std::vector<BYTE> descriptor(0x10000);
   DWORD size = 0x10000;
@@ -76,14 +76,14 @@ inline OwnedKernelObject OwnToken() {
   return token;
 }
 
-// A station and a desktop whose ACLs can be read on every Wine. Wine 10 finds no ACL of a window
-// object, but finds it if the same handle is treated as a kernel object.
+// A window station and a desktop whose DACLs can be read on every version of Wine. Wine 10 finds no
+// DACL for SE_WINDOW_OBJECT, but finds it if the same handle is passed with SE_KERNEL_OBJECT.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 
   static constexpr auto kAsKernelObject = [](auto original, HANDLE object, SE_OBJECT_TYPE type,
                                              SECURITY_INFORMATION what, auto... rest) {
-    // The code must read and write only the DACL, and not protect it from inheritance.
+    // The code under test must read and write only the DACL, and not protect it from inheritance.
     CHECK(what == DACL_SECURITY_INFORMATION);
     return original(object, type == SE_WINDOW_OBJECT ? SE_KERNEL_OBJECT : type, what, rest...);
   };

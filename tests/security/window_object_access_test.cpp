@@ -11,8 +11,8 @@ static TestAce localService;
 
 TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: add one explicit ACE to a DACL") {
   const WindowObjects scope;
-  // In this DACL, the right place for the new ACE is the end: Wine's AddAce ignores the index and
-  // appends, so no other place would work here.
+  // In canonical order, the new ACE is the last one in this DACL. Therefore this test also passes
+  // on Wine, whose AddAce ignores the index and always appends.
   const std::wstring before = L"D:(D;;CC;;;LS)(D;;CC;;;WD)";
   WriteDacl(scope.station, before);
   WriteDacl(scope.desktop, before);
@@ -55,7 +55,7 @@ TEST_CASE("AllowAccessToDesktop: uses the heap for ACLs of more than 1,008 bytes
   }
 }
 
-TEST_CASE("DeleteDenyACEofObject: removes all deny ACEs except one at index 0") {
+TEST_CASE("DeleteDenyACEofObject: removes all deny ACEs of the SID, except one at index 0") {
   const WindowObjects scope;
   const wchar_t* const cases[][2] = {
       {L"D:(A;;CC;;;WD)(D;;CC;;;LS)(D;;DC;;;LS)(D;;CC;;;NS)(D;ID;CC;;;LS)(A;;CC;;;LS)",
@@ -71,7 +71,7 @@ TEST_CASE("DeleteDenyACEofObject: removes all deny ACEs except one at index 0") 
   CHECK(DeleteDenyACEofObject(&localService.sid, scope.desktop, SE_WINDOW_OBJECT) == FALSE);
 }
 
-TEST_CASE("AllowTokenFullAccessToObject: chooses the rights by the name of the type") {
+TEST_CASE("AllowTokenFullAccessToObject: grants desktop or station rights by type name") {
   const WindowObjects scope;
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), L"D:");
@@ -96,7 +96,7 @@ TEST_CASE("AllowTokenFullAccessToObject: chooses the rights by the name of the t
   CHECK(ReadDacl(event.get()) == others);
 }
 
-TEST_CASE("CreateTokenPriv: skips names that the system lacks") {
+TEST_CASE("CreateTokenPriv: skips privileges that this system does not support") {
   const LPCWSTR names[] = {L"SeNoSuch", L"SeDebugPrivilege", L"", L"SeTcbPrivilege", nullptr};
   DWORD count = 0;
   const OwnedLocalMemory<TOKEN_PRIVILEGES> set(CreateTokenPriv(&count, names, FALSE));

@@ -5,8 +5,8 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("CompareNoCase: compares lower-case units") {
-  // Below U+0100 only A to Z are folded. Above, the system's mapping to a single unit is used.
+TEST_CASE("CompareNoCase: compares code units after folding them to lower case") {
+  // In locale "C", only A to Z are folded below U+0100. From there, LCMapStringW folds each unit.
   CHECK(CompareNoCase(L"Foo\u0100B", L"fOO\u0101") == L'b');
   CHECK(CompareNoCase(L"a", L"ab") == -L'b');
   CHECK(CompareNoCase(L"Z", L"[") == L'z' - L'[');
@@ -21,7 +21,7 @@ TEST_CASE("CompareNoCase: compares lower-case units") {
   }
 }
 
-TEST_CASE("CompareNoCase: depends on the category LC_CTYPE only") {
+TEST_CASE("CompareNoCase: depends on LC_CTYPE, not on other locale categories") {
   REQUIRE(std::setlocale(LC_NUMERIC, "") != nullptr);
   CHECK(CompareNoCase(L"\u0416", L"\u0436") == 0);
   REQUIRE(std::setlocale(LC_CTYPE, "") != nullptr);

@@ -4,7 +4,7 @@
 #include "lib/string/hex_text.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("SubstringClamped, FormatText, BytesToHex: short results, two digits per byte") {
+TEST_CASE("SubstringClamped, FormatText, BytesToHex: clamp, format, write two digits per byte") {
   CHECK(FormatText(L"%s", L"x") == L"x");
   CHECK(SubstringClamped(L"kite", 1, 2) == L"it");
   CHECK(SubstringClamped(L"kite", 3, 9) == L"e");
@@ -14,7 +14,7 @@ TEST_CASE("SubstringClamped, FormatText, BytesToHex: short results, two digits p
   CHECK(BytesToHex(nullptr, 3) == L"");
 }
 
-TEST_CASE("ReplaceAll: accepts arguments inside the text, throws without memory") {
+TEST_CASE("ReplaceAll: accepts pointers into the text, throws if memory runs out") {
   WString text = L"a-b-ab";
   CHECK(ReplaceAll(text, text.c_str() + 4, text.c_str() + 2) == 1);
   CHECK(text == L"a-b-b-ab");
@@ -24,7 +24,7 @@ TEST_CASE("ReplaceAll: accepts arguments inside the text, throws without memory"
   text = L"aaabaa";
   CHECK(ReplaceAll(text, L"aa", L"cc") == 2);
   CHECK(text == L"ccabcc");
-  // There is no memory for the result.
+  // The allocation of the result fails.
   const WString many(2000, L'x');
   text = many;
   const std::wstring longer(2000, L'y');

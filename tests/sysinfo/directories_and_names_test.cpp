@@ -11,7 +11,7 @@ static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(simulatedText.length()) + (simulatedText.length() < size ? 0 : 1);
 }
 
-// Puts the requested format into the first character. The simulated host name is short.
+// Stores a name that begins with the format's number. For a host name, stores too small a size.
 static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
   const std::size_t length = format == ComputerNameDnsHostname ? 1 : simulatedText.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));
@@ -27,7 +27,7 @@ static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
 static WString x(std::size_t count) { return {count, L'x'}; }
 
 TEST_CASE(
-    "GetSystemDirectoryPath, GetSystemWow64DirectoryPath: end with one separator, fit the buffer") {
+    "GetSystemDirectoryPath, GetSystemWow64DirectoryPath: one final separator; empty if too long") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return GiveDirectory(to...); });
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},
@@ -48,8 +48,8 @@ TEST_CASE(
 }
 
 TEST_CASE(
-    "GetUserNameInFormat, GetUserNameFQ, GetComputerNameFQ: return the format or the plain name") {
-  // Keeps the library loaded: Wine takes long to load it for each name.
+    "GetUserNameInFormat, GetUserNameFQ, GetComputerNameFQ: use the format, else the plain name") {
+  // Keeps the library loaded, because Wine takes a long time to load it again for each call.
   const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
   const auto give = [](auto, wchar_t* name, DWORD* size) {
     return GiveDirectory(name, *size) < *size ? TRUE : FALSE;

@@ -12,11 +12,11 @@
 #include "tests/sysinfo/simulated_cases.h"
 
 TEST_CASE(
-    "CompareFileVersion, GetFileVersionString: valid and hostile files as in file_versions.txt") {
+    "CompareFileVersion, GetFileVersionString: valid and malformed files as in file_versions.txt") {
   int freed = 0;
   COUNT_CALLS(GlobalUnlock, freed);
   COUNT_CALLS(GlobalFree, freed);
-  // Fills the memory in front of the resource with 0x11, and behind it with "!!".
+  // Simulates memory that is not zero at first, and a resource that ends in "!!".
   REPLACE(GlobalLock, [](auto original, auto memory) {
     return std::memset(original(memory), 0x11, GlobalSize(memory));
   });
@@ -27,11 +27,11 @@ TEST_CASE(
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // The file; then the value to move: the length of its path, its new position and claimed length.
+  // A case can move the value at a path of `pathLength` characters to `offset` bytes after `from`.
   char name[99] = "", from[9] = "";
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
-  UINT length = 0;
+  UINT length = 0;  // which the simulated VerQueryValueW claims for the moved value
   REPLACE(VerQueryValueW, [&](auto original, auto block, auto* path, auto found, auto claimed) {
     const BOOL answer = original(block, path, found, claimed);
     if (std::wcslen(path) == pathLength) {
@@ -60,7 +60,7 @@ TEST_CASE(
   });
 }
 
-TEST_CASE("IsIEVersionAtLeast: reads the file in the system directory, restores the name") {
+TEST_CASE("IsIEVersionAtLeast, GetIEVersionName: use the system directory, keep the last name") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
@@ -80,7 +80,7 @@ TEST_CASE("IsIEVersionAtLeast: reads the file in the system directory, restores 
   CHECK(WString(GetIEVersionName(nullptr, {6, 0, 0, 0})) == L"Internet Explorer 5.5");
 }
 
-TEST_CASE("GetComCtlVersion: returns the library's version, or 4.0") {
+TEST_CASE("GetComCtlVersion: returns the library's version, or 4.0 if DllGetVersion is missing") {
   static HRESULT result;
   const auto report = +[](DLLVERSIONINFO* version) -> HRESULT {
     *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};

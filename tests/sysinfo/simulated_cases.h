@@ -6,20 +6,20 @@
 
 namespace kelvo::test {
 
-// The left side of the current case: the simulated system and how it differs from the defaults,
-// such as "5.1, type 2, bits 32", or the name of a file, and what to ask and to change about it.
+// The left side of the current case. Describes a simulated system by its differences from the
+// defaults, such as "5.1, type 2, bits 32", or names a file, a version and changes to the resource.
 inline std::string given;
 inline bool Has(const std::string& word) { return given.find(word) != std::string::npos; }
 
-// Returns the number after a word of the case, or `usual` if the word is missing.
+// Returns the number that follows `word` in the case, or `usual` if the case does not have `word`.
 inline DWORD Number(const std::string& word, DWORD usual) {
   const std::size_t at = given.find(word + " ");
   return at == std::string::npos ? usual
                                  : std::strtoul(given.c_str() + at + word.length(), nullptr, 0);
 }
 
-// For each case in the file, sets `given` and calls `run`, then checks that the results reproduce
-// the file. A case is "given = seen"; lines that start with a space continue it.
+// For each case in the file, sets `given` and calls `run`. Then checks that the results are those
+// in the file. A case is "given = result"; lines that start with a space continue it.
 template <typename Run>
 void RunCases(const std::wstring& file, const Run& run) {
   std::istringstream cases(ReadBytes(ProgramPath(L"expected\\" + file)));

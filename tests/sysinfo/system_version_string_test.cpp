@@ -78,7 +78,7 @@ TEST_CASE("GetSystemVersionString: names each Windows as in windows_names.txt") 
   });
 }
 
-TEST_CASE("GetSystemVersionNumbers: allocates one text, returns zeros without an answer") {
+TEST_CASE("GetSystemVersionNumbers: allocates once, returns zeros if GetVersionExW fails") {
   {
     const auto windows = PretendWindows(2, 10, 0);
     int left = 1;

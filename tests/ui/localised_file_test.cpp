@@ -3,7 +3,7 @@
 #include "lib/ui/locale_table.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("FindLocaleName, FindLocaleId: have the names that Windows has") {
+TEST_CASE("FindLocaleName, FindLocaleId: return the names and LCIDs of Windows") {
   int count = 0;
   for (LCID id = 0; id < 0x10000; ++id) {
     const wchar_t* const name = FindLocaleName(id);
@@ -24,7 +24,7 @@ TEST_CASE("FindLocaleName, FindLocaleId: have the names that Windows has") {
   CHECK_BOTH(FindLocaleId(L"de-C") == 0, FindLocaleId(nullptr) == 0);
 }
 
-TEST_CASE("FindLocalisedFile: finds the exact file, or the nearest") {
+TEST_CASE("FindLocalisedFile: finds the file for the language, or for the nearest language") {
   const ScratchFolder scratch;
   const std::wstring folder = scratch / L"";
   const auto find = [&](LANGID language, LocalisedFileForm form) {
@@ -39,7 +39,7 @@ TEST_CASE("FindLocalisedFile: finds the exact file, or the nearest") {
   CHECK(GetLocalisedFilePath(L"C:\\x", L"a", 0xFFFF, kSuffix) == L"");
   CHECK(GetLocalisedFilePath(L"C:\\x", nullptr, 0x0407, kSuffix) == L"");
   // Each step makes a file, or only a folder if the path ends in a separator. The second column is
-  // the file then found for German (Germany).
+  // the file that is found for German (Germany) after that step.
   const wchar_t* const steps[][2] = {
       {L"\u00E9_old.x", L""},
       {L"\u00E9_de-DE.x\\", L""},
@@ -54,7 +54,7 @@ TEST_CASE("FindLocalisedFile: finds the exact file, or the nearest") {
       {L"resources\\en-US\\\u00E9.x", L"resources\\en-US\\\u00E9.x"},
       {L"resources\\de-CH\\\u00E9.x", L"resources\\de-CH\\\u00E9.x"},
       {L"resources\\de-DE\\\u00E9.x", L"resources\\de-DE\\\u00E9.x"}};
-  // Behaves like Windows 10 for a user whose language is German.
+  // As on Windows 10, "en-DE" and "old" have no LCID. Below, the user's language is German.
   const auto getNumber = +[](LPCWSTR name, LCTYPE type, LPWSTR number, int size) {
     const bool hasNone = name == std::wstring(L"en-DE") || name == std::wstring(L"old");
     *reinterpret_cast<DWORD*>(number) = LOCALE_CUSTOM_UNSPECIFIED;

@@ -6,7 +6,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("ChooseResourceLanguage: chooses the exact language, a related one, English, the first") {
+TEST_CASE("ChooseResourceLanguage: exact language, else related, else English, else the first") {
   using Languages = std::vector<LANGID>;
   const auto languagesOf = [](const wchar_t* library) {
     return GetStringResourceLanguages(LoadLibraryW(ProgramPath(library).c_str()));
@@ -20,14 +20,14 @@ TEST_CASE("ChooseResourceLanguage: chooses the exact language, a related one, En
   CHECK(ChooseResourceLanguage({0x040C, 0x0410}, 0x0411) == 0x040C);
 }
 
-TEST_CASE("LocaleNameFromLcid: returns nothing if Windows has no names") {
+TEST_CASE("LocaleNameFromLcid: returns an empty string if LCIDToLocaleName is missing") {
   CHECK_BOTH(LocaleNameFromLcid(0x0007) == L"de", LocaleNameFromLcid(0x12345) == L"");
   const ReplacedExport missing("LCIDToLocaleName", nullptr);
   CHECK(LocaleNameFromLcid(0x0007) == L"");
 }
 
-TEST_CASE("ReplaceAllInBuffer: replaces all occurrences within eight characters") {
-  // A text, the search text, its replacement, and the result, which is null if nothing may change.
+TEST_CASE("ReplaceAllInBuffer: replaces all occurrences in a buffer of eight characters") {
+  // The text, the search text, the replacement, and the result: null if the text must not change.
   const std::array<const wchar_t*, 4> rows[] = {
       {L"a.b.c", L".", L"--", L"a--b--c"}, {L"aaa", L"aa", L"a", L"aa"},
       {L"abab", L"ab", nullptr, L""},      {L"abc", L"x", L"y", nullptr},
@@ -56,7 +56,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only labels and buttons") {
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
-  // Each pair is applied once, in the order of the keys.
+  // Each substitution is applied once, in the alphabetical order of the search texts.
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},
@@ -84,7 +84,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only labels and buttons") {
 }
 
 TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw only after the enumeration") {
-  // Throws once now, because the runtime allocates memory for the first exception.
+  // Throws once while malloc works: for its first exception, the C++ runtime allocates memory.
   CHECK_THROWS(throw 1);
   bool hasMemory = true, isThrown = false;
   REPLACE(malloc,
@@ -105,7 +105,7 @@ TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw only after the 
   });
   REPLACE(EnumChildWindows,
           [&](auto, auto, auto rewrite, auto context) { return call(rewrite, nullptr, context); });
-  // Makes every window a label with this text.
+  // Makes every window look like a label that has this text.
   REPLACE(GetClassNameW,
           [](auto, auto, auto* name, auto) { return lstrlenW(lstrcpyW(name, L"static")); });
   REPLACE(GetWindowTextW,
@@ -137,7 +137,7 @@ TEST_CASE("WriteUtf8: writes characters to a console, bytes to a file; a short w
   for (const bool isConsole : {true, false}) {
     REPLACE(GetConsoleMode,
             [=](auto, HANDLE asked, auto) -> BOOL { return asked == errors && isConsole; });
-    // Writes characters of two, three and four bytes. The last of them has two UTF-16 units.
+    // Writes characters that have two, three and four bytes in UTF-8. The last is a surrogate pair.
     CHECK(WriteUtf8(STD_ERROR_HANDLE, "\xC3\xA9\n\xE2\x82\xAC\xF0\x9F\x98\x80\n"));
     CHECK(seen == (isConsole ? L"\u00E9\r\n\u20AC\U0001F600\r\n"
                              : L"\xC3\xA9\r\n\xE2\x82\xAC\xF0\x9F\x98\x80\r\n"));
@@ -159,7 +159,7 @@ TEST_CASE("WriteUtf8: a long text reaches a console in pieces of whole character
             seen.append(static_cast<const wchar_t*>(text), length);
             CHECK_FALSE(IS_HIGH_SURROGATE(seen.back()));
             *done = length;
-            // The most units that a console accepted at once before Windows 10.
+            // Before Windows 10, a console failed to write 0x8000 or more UTF-16 units at once.
             return length < 0x8000;
           });
   std::wstring expected = L"a";

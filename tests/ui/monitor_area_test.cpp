@@ -21,7 +21,7 @@ TEST_CASE("GetMonitorArea, GetMonitorWorkArea: choose the nearest monitor, else 
   MONITORINFO primary{40, {}, {}, 0};
   GetMonitorInfoW(MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &primary);
   const MONITORINFO nearest{40, {30, 1, 2, 40}, {30, 11, 12, 13}, 0};
-  // At x = 0 there is no monitor.
+  // At x = 0, the simulated MonitorFromPoint returns null.
   for (const auto& [monitors, x, missing, isNearest] : {std::tuple{2, 5L, "", true},
                                                         {1, 5L, "", false},
                                                         {2, 0L, "", false},

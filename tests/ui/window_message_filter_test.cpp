@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("AllowWindowMessage: works from Windows 7 on") {
+TEST_CASE("AllowWindowMessage: changes the filter only on Windows 7 and later") {
   using Call = std::tuple<HWND, UINT, DWORD, CHANGEFILTERSTRUCT*>;
   static Call seen;
   static BOOL answer;

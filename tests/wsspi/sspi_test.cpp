@@ -2,8 +2,8 @@
 #include "lib/wsspi/sspi_loader.h"
 #include "tests/support/testing.h"
 
-// Runs all steps in one case, because each step starts from the state that the last one left.
-TEST_CASE("SspiInitialize: tries again after each failure, loads once") {
+// Runs all steps in one test case, because each step depends on the state after the previous step.
+TEST_CASE("SspiInitialize: tries again after a failure, but not after a success") {
   int loads = 0;
   bool isMissing = true;
   REPLACE(LoadLibraryW, [&](auto original, LPCWSTR name) {
