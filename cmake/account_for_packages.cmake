@@ -15,8 +15,8 @@ macro(append array kind)
   list(APPEND ${array} "${object}")
 endmacro()
 
-# Files must not contain a private key or the path of the source folder, which debug information can have. The archives
-# must not contain files of tests or key files, which are recognized by their names.
+# Files must not contain a private key or the path of the source folder, which debug information can contain. The
+# archives must not contain files of tests or key files, which are recognized by their names.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")

@@ -1,7 +1,7 @@
 # Defines the components that `cmake --install` installs and `cpack` packs:
 #   tool           the programs that a setup ships
 #   documentation  the pages and sample setups; in the same archive as tool
-#   simulator      the simulator; in a separate archive, since signed programs load its libraries from their own folder
+#   simulator      the simulator; in a separate archive, since signed programs in its folder would load its libraries
 #   sdk            the library, as the CMake package kelvo
 #   symbols        the .pdb files
 

@@ -1,6 +1,7 @@
 @echo off
 rem deploy.cmd          copies the product's files to the product's folder and runs "sorrel.exe install". If a first
-rem                     installation fails, it is undone. If an upgrade fails, the new version's files stay.
+rem                     installation fails, it is undone. If an upgrade fails, nothing is removed: the new version's
+rem                     files stay.
 rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application, and deletes the product's files unless this
 rem                     script runs from the product's folder.
 rem Both return the exit codes of run_sorrel.cmd.
@@ -28,7 +29,8 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before the tool runs: the deployment system's detection rule compares the computer with them.
+rem Copies the files before the tool runs: the detection rule of a deployment system compares the computer with these
+rem copies.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F

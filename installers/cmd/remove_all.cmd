@@ -1,7 +1,7 @@
 @echo off
-rem remove_all.cmd   removes the application from the list. If no application is left, Windows' certutil and pnputil then remove
-rem                  both certificates and the driver package. Returns 0, 3010 when the computer must be restarted,
-rem                  or 1603 when something is still there or could not be checked.
+rem remove_all.cmd   removes the application from the list. If no application is left, Windows' certutil and pnputil
+rem                  then remove both certificates and the driver package. Returns 0, 3010 when the computer must be
+rem                  restarted, or 1603 when something is still there or could not be checked.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
@@ -11,7 +11,8 @@ rem If this folder's name has a percent sign or a caret, call changes it and doe
 if not defined product exit /b 1603
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "answer=%log%.answer"
-rem If a 32-bit program starts this script, Windows redirects System32 to a folder without pnputil, but not Sysnative.
+rem If a 32-bit program starts this script, Windows redirects System32 to a folder without pnputil. Sysnative then leads
+rem to the real System32.
 set "system=%SystemRoot%\System32"
 if exist "%SystemRoot%\Sysnative\cmd.exe" set "system=%SystemRoot%\Sysnative"
 set "code=1603"
@@ -30,7 +31,7 @@ call :ask intermediate "%here%%intermediate%" thumbprint
 if "%state%"=="present" call :windows certutil.exe "-delstore CA %value%"
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "/delete-driver %value% /uninstall"
-rem Tries the other options that pnputil has before Windows 10 1607.
+rem Before Windows 10 1607, pnputil has other options: tries them if the driver package is still there.
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "-d %value%"
 

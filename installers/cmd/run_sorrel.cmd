@@ -15,7 +15,7 @@ rem Renames a large log instead of deleting it, so that the last runs are kept.
 if exist "%log%" for %%F in ("%log%") do if %%~zF gtr 65536 move /y "%log%" "%log%.old" >nul
 >>"%log%" echo === %product%, %date% %time%: sorrel.exe %*
 
-rem Deletes the output of an earlier run, which must not be mistaken for the output of this run.
+rem Deletes the output of another run, which must not be mistaken for the output of this run.
 if exist "%run%" del /f /q "%run%"
 if exist "%run%" exit /b 1603
 "%~dp0sorrel.exe" %* >"%run%"
@@ -25,7 +25,7 @@ if not exist "%run%" exit /b 1603
 rem An empty output is a failure: every run of sorrel.exe writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
 rem Only one failure can be ignored: the radio is missing or off. Its codes are 00000490 and 00000014. "register" also
-rem returns them as its exit code, in decimal 1168 and 20.
+rem returns them as its exit code, in decimal 1168 and 20. The line about a missing bthprops.cpl is not a failure.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
 rem cmd.exe parses a line before it inserts the variables of for, so no output of the tool can act as a command.

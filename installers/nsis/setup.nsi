@@ -72,9 +72,9 @@ UninstPage instfiles
 !insertmacro ProductLine application "${APPLICATION}"
 !insertmacro ProductLine radio_off "${RADIO_OFF}"
 
-; Checks the folder: no page asks for it, but /D= of the setup and _?= of the uninstaller can name any folder. The folder
-; must be in Program Files, where only administrators can write, since programs in it run with an administrator's rights.
-; Its name must not contain a percent sign, since cmd.exe could expand a variable in the name.
+; Checks the folder: no page asks for it, but /D= of the setup and _?= of the uninstaller can name any folder. The
+; folder must be in Program Files, where only administrators can write, since programs in it run with an administrator's
+; rights. Its name must not contain a percent sign, since cmd.exe could expand a variable in the name.
 !macro Begin
   SetRegView 64
   StrCpy $0 "$INSTDIR"
@@ -173,7 +173,8 @@ Section Uninstall
   !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
   ReadRegStr $8 HKLM "${UNINSTALL_KEY}" Uninstaller
   !insertmacro RemoveProduct
-  ; With _?=, the uninstaller runs from this folder and cannot delete itself: Windows deletes it at its next start.
+  ; With _?=, the uninstaller runs from this folder and cannot delete itself: Windows deletes it, and then the empty
+  ; folder, at its next start.
   ${If} ${FileExists} "$INSTDIR\$8"
     Delete /REBOOTOK "$INSTDIR\$8"
     RMDir /REBOOTOK "$INSTDIR"
