@@ -9,26 +9,26 @@ macro(expand kind)
   string(JSON object GET "${templates}" ${kind})
   string(CONFIGURE "${object}" object @ONLY)
 endmacro()
-# append(ARRAY KIND)   expands a template and adds the result to an array of the bill
+# append(ARRAY KIND)   expands a template and adds the result to an array of the bill of materials
 macro(append array kind)
   expand(${kind})
   list(APPEND ${array} "${object}")
 endmacro()
 
-# Files must not contain a private key, nor the path of the source folder, which debug information may contain. File
-# names must not be those of tests or keys.
+# Files must not contain a private key or the path of the source folder, which debug information can contain. The
+# archives must not contain files of tests or key files, which are recognized by their names.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")
 
-# Packs each archive again, and adds it and its files to the bill.
+# Packs each archive again, and adds the archive and its files to the bill of materials.
 set(number 0)
 foreach(archive ${CPACK_PACKAGE_FILES})
   cmake_path(GET archive FILENAME name)
   set(unpacked ${CPACK_TOPLEVEL_DIRECTORY}/unpacked/${name})
   file(ARCHIVE_EXTRACT INPUT ${archive} DESTINATION ${unpacked})
   file(GLOB_RECURSE paths LIST_DIRECTORIES false RELATIVE ${unpacked} ${unpacked}/*)
-  # Packs the files without the name of the user account, which CPack's entries contain.
+  # Packs the files again because CPack's archives contain the name of the user account.
   file(REMOVE ${archive})
   execute_process(COMMAND ${CMAKE_COMMAND} -E env TZ=UTC zip -q -X ${archive} ${paths}
     WORKING_DIRECTORY ${unpacked} COMMAND_ERROR_IS_FATAL ANY)
@@ -69,7 +69,7 @@ function(describe package)
 endfunction()
 
 # Adds the third-party code in our programs. Each entry has a library of the compiler or a header, the name for the
-# bill, the licence, and the programs that contain it.
+# bill of materials, the licence, and the programs that contain it.
 set(all "sorrel;sorrel_status;bthprops;difxapi")
 foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${all}"
     "libmingwex.a;mingw-w64-runtime;ZPL-2.1;${all}" "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT;sorrel_status"

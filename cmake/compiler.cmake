@@ -25,27 +25,28 @@ if(NOT CMAKE_SIZEOF_VOID_P EQUAL 8)
   message(FATAL_ERROR "Only 64-bit Windows is supported.")
 endif()
 
-# The compiler options of all targets of this project. The targets link this privately, so that a consumer does not get
-# the options. Warnings become errors only in our presets (CMAKE_COMPILE_WARNING_AS_ERROR).
+# The compiler options of all targets of this project. The targets link kelvo_build_options privately, so that a
+# consumer's targets do not get the options. Warnings become errors only in our presets
+# (CMAKE_COMPILE_WARNING_AS_ERROR).
 add_library(kelvo_build_options INTERFACE)
 target_compile_definitions(kelvo_build_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 if(MSVC)
-  # C4996: the library has to report the results of GetVersionEx and related functions, which are deprecated.
+  # Disables C4996 (deprecated functions): the library has to report the results of GetVersionEx and related functions.
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Z7)
 else()
-  # Keeps the path of the source folder out of all files.
+  # Keeps the path of the source folder out of the built files.
   target_compile_options(kelvo_build_options INTERFACE $<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
   target_compile_options(kelvo_build_options INTERFACE
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
 endif()
-# Makes the headers declare the functions of Windows 10, even if a consumer's project targets an older Windows; the
-# sources bind them at run time. Uses options, since a compile definition could not undefine the consumer's macro
-# first.
+# Makes Windows' headers declare the functions of Windows 10, even if a consumer's project targets an older Windows; the
+# sources bind these functions at run time. Sets compiler options, since a compile definition could not undefine the
+# consumer's macro first.
 target_compile_options(kelvo_build_options INTERFACE
   "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>")
 
-# Adds debug information for the .pdb file of a shipped program, to the program and to the static libraries in it.
+# Adds debug information to a shipped program and to its static libraries, so that the linker can write a .pdb file.
 add_library(kelvo_debug_information INTERFACE)
 if(NOT MSVC)
   target_compile_options(kelvo_debug_information INTERFACE
@@ -54,9 +55,9 @@ endif()
 
 # The linker options of our programs:
 #   kelvo_program          hardening, a checksum in the header (-release), and reproducible bytes in any build folder.
-#                          There is no control-flow guard, because Debian 12's runtime lacks its dispatch function
-#   kelvo_wide_program     also wmain as the entry point
-#   kelvo_shipped_program  also a .pdb file for debuggers
+#                          There is no control-flow guard, because Debian 12's mingw runtime lacks its dispatch function
+#   kelvo_wide_program     as kelvo_program, with wmain as the entry point
+#   kelvo_shipped_program  as kelvo_wide_program, with a .pdb file for debuggers
 add_library(kelvo_program INTERFACE)
 target_link_libraries(kelvo_program INTERFACE kelvo_build_options)
 add_library(kelvo_wide_program INTERFACE)

@@ -1,7 +1,7 @@
 # Defines the components that `cmake --install` installs and `cpack` packs:
 #   tool           the programs that a setup ships
 #   documentation  the pages and sample setups; in the same archive as tool
-#   simulator      in a separate archive: signed programs would load its libraries if they were in the same folder
+#   simulator      the simulator; in a separate archive, since signed programs in its folder would load its libraries
 #   sdk            the library, as the CMake package kelvo
 #   symbols        the .pdb files
 
@@ -34,7 +34,7 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/kelvo-config.cmake.in ${PROJECT_BINARY_
 install(FILES ${PROJECT_BINARY_DIR}/kelvo-config.cmake ${PROJECT_BINARY_DIR}/kelvo-config-version.cmake
   DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(FILES docs/library.md CHANGELOG.md DESTINATION share/doc/kelvo COMPONENT sdk OPTIONAL)
-# Installs the reference if scripts/docs has made it.
+# Installs the library's reference if scripts/docs has made it.
 install(DIRECTORY build/docs/html/ DESTINATION share/doc/kelvo/reference COMPONENT sdk OPTIONAL)
 install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONENT sdk)
 install(FILES cmake/toolchain_mingw.cmake DESTINATION lib/cmake/kelvo COMPONENT sdk)

@@ -11,8 +11,8 @@ set(CMAKE_AR llvm-ar-19)
 set(CMAKE_RANLIB llvm-ranlib-19)
 
 # Pretends that x86intrin.h is included already. Its vector functions are half of the code that mingw's windows.h
-# includes, so compiling and clang-tidy would take twice as long. A project that uses them must remove these
-# definitions.
+# includes: with them, compiling and clang-tidy take twice as long. A project that uses vector functions must remove
+# these definitions.
 set(CMAKE_C_FLAGS_INIT -D__X86INTRIN_H)
 set(CMAKE_CXX_FLAGS_INIT -D__X86INTRIN_H)
 

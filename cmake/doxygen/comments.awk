@@ -1,5 +1,5 @@
 # Turns the comments of a header into Doxygen comments:
-#   - A comment before a declaration documents it, and all declarations that follow without a blank line.
+#   - A comment before a declaration documents this declaration and those that follow it without a blank line.
 #   - A comment before a blank line documents the header.
 #   - Lines indented by three spaces are an example or a table; lines that begin with "-" are a list.
 

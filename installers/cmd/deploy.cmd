@@ -1,8 +1,9 @@
 @echo off
-rem deploy.cmd          copies the product's files to its folder and prepares the computer. If a first installation fails, it is
-rem                     undone. If an upgrade fails, nothing is removed: the new version's files stay.
-rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application, and deletes the product's files unless this script runs
-rem                     from the product's folder.
+rem deploy.cmd          copies the product's files to the product's folder and runs "sorrel.exe install". If a first
+rem                     installation fails, it is undone. If an upgrade fails, nothing is removed: the new version's
+rem                     files stay.
+rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application, and deletes the product's files unless this
+rem                     script runs from the product's folder.
 rem Both return the exit codes of run_sorrel.cmd.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
@@ -11,7 +12,7 @@ if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
 rem If this folder's name has a percent sign or a caret, call changes it and does not find the file.
 if not defined product exit /b 1603
-rem Not %ProgramFiles%: when a 32-bit program starts this script, that is the folder for 32-bit programs.
+rem Avoids ProgramFiles: if a 32-bit program starts this script, that variable has the folder for 32-bit programs.
 if not defined ProgramW6432 set "ProgramW6432=%ProgramFiles%"
 set "folder=%ProgramW6432%\%product%"
 set files=sorrel.exe sorrel_status.exe run_sorrel.cmd remove_all.cmd deploy.cmd product.cmd "%inf%" "%publisher%" "%intermediate%"
@@ -19,8 +20,8 @@ set "shell=%SystemRoot%\System32\cmd.exe"
 set "code=0"
 if "%~1"=="remove" goto remove
 
-rem It is a first installation only if sorrel_status.exe runs and returns 1 (absent). Windows also returns 1 for a program that
-rem is not allowed to run, so --version is tried first.
+rem This is a first installation only if sorrel_status.exe runs and returns 1 (absent). Windows also returns 1 for a
+rem program that is not allowed to run, so --version is tried first.
 set "first="
 "%here%sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto copy
@@ -28,13 +29,15 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before the tool runs: the deployment system's detection rule compares the computer with these copies.
+rem Copies the files before the tool runs: the detection rule of a deployment system compares the computer with these
+rem copies.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F
 
 :install
-rem The carets escape the outer quotation marks. Only the inner ones then form pairs, so a "&" in the folder's name is quoted.
+rem The carets escape the outer quotation marks. Only the inner quotation marks then form pairs, so a "&" in the folder's
+rem name is quoted.
 if "%code%"=="0" "%shell%" /d /s /c ^""%here%run_sorrel.cmd" install "%here%%inf%" "%here%%publisher%" "%here%%intermediate%" "%application%"^"
 if "%code%"=="0" set "code=%errorlevel%"
 if not "%code%"=="1603" exit /b %code%

@@ -1,13 +1,14 @@
 rem Change these settings. The other batch files of this folder read them.
 
-rem The product, which is also the name of its folder below Program Files.
+rem The product's name, which is also the name of its folder below Program Files.
 set "product=Brindle"
-rem The name under which sorrel.exe records the product on its own list of the applications that use the Bluetooth service. It
+rem The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
 rem must be the same for all versions, and must not be part of another application's name.
 set "application=brindle"
 rem The driver package, its signer's certificate, and the certificate of the authority that issued it.
 set "inf=Tessalin.inf"
 set "publisher=trusted.cer"
 set "intermediate=trusted_i.cer"
-rem What happens when the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is ignored.
+rem What happens if the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is
+rem ignored.
 set "radio_off=fails"

@@ -1,17 +1,18 @@
 @echo off
-rem remove_all.cmd   removes the application from the list. If no application is left, Windows' certutil and pnputil then remove
-rem                  both certificates and the driver package. Returns 0, 3010 when the computer must be restarted, or 1603
-rem                  when something is still there or could not be checked.
+rem remove_all.cmd   removes the application from the list. If no application is left, Windows' certutil and pnputil
+rem                  then remove both certificates and the driver package. Returns 0, 3010 when the computer must be
+rem                  restarted, or 1603 when something is still there or could not be checked.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
 if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
-rem As in deploy.cmd: in a folder with a percent sign or a caret, call does not find the file.
+rem If this folder's name has a percent sign or a caret, call changes it and does not find the file.
 if not defined product exit /b 1603
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "answer=%log%.answer"
-rem A script that a 32-bit program starts sees another System32, without pnputil.
+rem If a 32-bit program starts this script, Windows redirects System32 to a folder without pnputil. Sysnative then leads
+rem to the real System32.
 set "system=%SystemRoot%\System32"
 if exist "%SystemRoot%\Sysnative\cmd.exe" set "system=%SystemRoot%\Sysnative"
 set "code=1603"
@@ -20,7 +21,7 @@ set "restart="
 "%system%\cmd.exe" /d /s /c ^""%here%run_sorrel.cmd" uninstall none "%application%"^"
 call :ask application "%application%" list
 if not "%state%"=="absent" goto end
-rem An application that is still on the list needs the rest.
+rem If other applications are still on the list, they need the certificates and the driver package.
 if "%value%"=="text" set "code=0"
 if not "%value%"=="none" if not "%value%"=="empty" goto end
 
@@ -30,7 +31,7 @@ call :ask intermediate "%here%%intermediate%" thumbprint
 if "%state%"=="present" call :windows certutil.exe "-delstore CA %value%"
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "/delete-driver %value% /uninstall"
-rem Before Windows 10 1607, pnputil has other options.
+rem Before Windows 10 1607, pnputil has other options: tries them if the driver package is still there.
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "-d %value%"
 
@@ -48,8 +49,9 @@ if exist "%answer%" del /f /q "%answer%"
 >>"%log%" echo === remove_all.cmd ends with %code%
 exit /b %code%
 
-rem Runs sorrel_status.exe. "state" is then the item's state, "value" the value of a key; both are empty without a report. An
-rem exit code of 1 would prove nothing: Windows also returns it when the program is not allowed to run.
+rem Runs sorrel_status.exe with an option and its argument, and sets two variables from the report: "state" to the
+rem item's state, and "value" to the value of the key in the third argument. Both are empty if there is no report.
+rem Ignores the exit code: Windows also returns 1 if the program is not allowed to run.
 :ask
 set "state="
 set "value="
@@ -61,7 +63,7 @@ for /f "usebackq tokens=1,2 delims=:, " %%A in ("%answer%") do if "%%~A"=="state
 for /f "usebackq tokens=1,2 delims=:, " %%A in ("%answer%") do if "%%~A"=="%3" set "value=%%~B"
 exit /b
 
-rem Runs a program of Windows, shows its output and adds it to the log.
+rem Runs a program of Windows, shows its output and appends the output to the log.
 :windows
 >"%answer%" "%system%\%1" %~2
 if "%errorlevel%"=="3010" set "restart=1"

@@ -1,8 +1,8 @@
 @echo off
-rem run_sorrel.cmd ARGUMENT...   runs sorrel.exe of this folder with these arguments, shows its output and adds it to the
-rem product's log. Returns 0, 3010 when the computer must be restarted, or 1603 when a step failed.
+rem run_sorrel.cmd ARGUMENT...   runs sorrel.exe of this folder with these arguments, shows its output and appends the
+rem output to the product's log. Returns 0, 3010 when the computer must be restarted, or 1603 when a step failed.
 setlocal EnableExtensions DisableDelayedExpansion
-rem A variable of that name would hide the exit codes of programs.
+rem An environment variable named errorlevel would hide the exit codes of programs.
 set "errorlevel="
 if not exist "%~dp0product.cmd" exit /b 1603
 call "%~dp0product.cmd"
@@ -11,20 +11,21 @@ set "run=%log%.run"
 set "failed="
 set "restart="
 
-rem A log that has become large is renamed, so that the last runs are kept.
+rem Renames a large log instead of deleting it, so that the last runs are kept.
 if exist "%log%" for %%F in ("%log%") do if %%~zF gtr 65536 move /y "%log%" "%log%.old" >nul
 >>"%log%" echo === %product%, %date% %time%: sorrel.exe %*
 
-rem The output of another run must not be mistaken for that of this run.
+rem Deletes the output of another run, which must not be mistaken for the output of this run.
 if exist "%run%" del /f /q "%run%"
 if exist "%run%" exit /b 1603
 "%~dp0sorrel.exe" %* >"%run%"
 set "code=%errorlevel%"
 if not exist "%run%" exit /b 1603
 
-rem Every run of sorrel.exe writes at least one line.
+rem An empty output is a failure: every run of sorrel.exe writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem A missing radio, or one that is off, is the only failure that can be spared: with these codes, which "register" then returns.
+rem Only one failure can be ignored: the radio is missing or off. Its codes are 00000490 and 00000014. "register" also
+rem returns them as its exit code, in decimal 1168 and 20. The line about a missing bthprops.cpl is not a failure.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
 rem cmd.exe parses a line before it inserts the variables of for, so no output of the tool can act as a command.
@@ -34,7 +35,8 @@ for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A"=="ERR" if n
 if not "%code%"=="0" set "failed=1"
 for /f "usebackq delims=" %%L in ("%run%") do if "%%L"=="Reboot required" set "restart=1"
 
-rem The tool writes no line about the name, and does not record a name that is part of another one.
+rem Checks whether the name was recorded: sorrel.exe writes no line about this, and does not record a name that is part
+rem of another name.
 set "name="
 if "%~1"=="install" set "name=%~5"
 if "%~1"=="register" set "name=%~2"

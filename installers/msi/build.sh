@@ -1,30 +1,31 @@
 #!/usr/bin/env bash
-# build.sh FOLDER OUTPUT.msi [NAME=VALUE...]   makes the package of brindle.wxs, with these values in place of those below.
+# build.sh FOLDER OUTPUT.msi [NAME=VALUE...]   makes a package from brindle.wxs. NAME=VALUE replaces a setting below.
 # FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver package and the certificates.
 set -euo pipefail
 # In the POSIX locale, wixl stops at the first letter that is not ASCII.
 export LC_ALL=C.UTF-8 CHARSET=UTF-8
 
-# Only for Brindle: two products with the same GUIDs remove each other.
+# These GUIDs are only for Brindle: two products with the same GUIDs remove each other.
 guids=(6e1c1df6-6f3d-4f0e-9a5b-8b6d1f8a3c21 2f0a1a54-0c3b-4d57-9a53-6f1a3e7f1b11)
 
 # Change these settings.
 declare -A setting=(
-  # The product, which is also the name of its folder below Program Files.
+  # The product's name, which is also the name of its folder below Program Files.
   [PRODUCT]='Brindle'
   [VERSION]='1.0.0'
   [MAKER]='The sorrel authors'
-  # Made by uuidgen, once for all versions.
+  # Made by uuidgen; the same for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
-  # The name under which sorrel.exe records the product on its own list of the applications that use the Bluetooth service.
-  # It must be ASCII, the same for all versions, and must not be part of another application's name.
+  # The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
+  # must be ASCII, the same for all versions, and not part of another application's name.
   [APPLICATION]='brindle'
   # The driver package, its signer's certificate, and the certificate of the authority that issued it.
   [INF]='Tessalin.inf'
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
-  # When the radio is missing or off: with "fails" the installation fails; with "spared" this failure, and no other, is ignored.
+  # What happens if the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is
+  # ignored.
   [RADIO_OFF]='fails'
 )
 
@@ -48,7 +49,7 @@ output=$(realpath -m "$2")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 cp "$here/service.js" "$scratch"
-# The file that run_sorrel.cmd reads.
+# Writes product.cmd, which run_sorrel.cmd reads.
 printf 'set "%s=%s"\r\n' product "${setting[PRODUCT]}" application "${setting[APPLICATION]}" \
   radio_off "${setting[RADIO_OFF]}" >"$scratch/product.cmd"
 rm -f "$output"
@@ -57,22 +58,23 @@ rm -f "$output"
 # wixl 0.101 removes the old version before the transaction begins, so a failed upgrade would not restore it.
 msibuild "$output" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
 
-# wixl cannot write these actions either.
+# Adds an action that wixl cannot write.
 add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
   msibuild "$output" -q "INSERT INTO CustomAction (Action, Type, Source, Target) VALUES ('$1', $2, '$3', '$4')"
   msibuild "$output" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
 }
 
-# Run service.js, deferred, as SYSTEM. Type 3077 is JScript in the package; plus 64 ignores errors, so that a missing radio
-# does not keep the product on the computer. An upgrade leaves the name on the list, since the old version may be restored.
+# These actions run functions of service.js, deferred and as SYSTEM (type 3077: JScript in the package). ReleaseService
+# ignores errors (64 added to the type), so that a missing radio does not keep the product on the computer. It does not
+# run when an upgrade removes the old version: the name must stay on the list, since the old version may be restored.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 
-# Removes the application from the list when a first installation fails. The tool comes from the package, since the installed
-# one may be gone by then. Type 3394: a program in the package, deferred, on rollback, as SYSTEM, errors ignored. Only an
-# administrator starts a first installation.
+# Removes the application from the list when a first installation fails. Runs the copy of sorrel.exe in the package,
+# since the installed copy may be deleted by then. Type 3394: a program in the package, deferred, on rollback, as
+# SYSTEM, errors ignored. It shows a console, which is safe: only an administrator can start a first installation.
 add_action UndoPrepareService 3394 sorrel "uninstall none \"${setting[APPLICATION]}\"" \
   'NOT Installed AND NOT WIX_UPGRADE_DETECTED' 4002
 
-# Runs service.js at the end, errors ignored.
+# Runs a function of service.js at the end, and ignores errors.
 add_action AskForRestart 69 service AskForRestart 'NOT REMOVE="ALL"' 6601

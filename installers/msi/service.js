@@ -1,5 +1,5 @@
-// The deferred actions of the package. Each runs the command line in CustomActionData without a window: an ordinary user may
-// start a repair, and could use a console on his screen to start programs as SYSTEM.
+// PrepareService and ReleaseService are deferred actions of the package. They run the command line in CustomActionData
+// without a window: an ordinary user may start a repair, and could use a console to start programs as SYSTEM.
 
 function run() {
   return new ActiveXObject("WScript.Shell").Run(Session.Property("CustomActionData"), 0, true);
@@ -15,7 +15,7 @@ function ReleaseService() {
   return 1;
 }
 
-// A deferred action cannot ask for a restart, so this action checks the end of the log after all others.
+// A deferred action cannot ask for a restart. This action is not deferred: it runs last, and reads the end of the log.
 function AskForRestart() {
   var path = Session.Property("WindowsFolder") + "Logs\\" + Session.Property("Log");
   var log = new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(path);

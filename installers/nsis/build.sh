@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# build.sh FOLDER OUTPUT.exe [NAME=VALUE...] [-OPTION...]   makes the setup of setup.nsi. The values replace those of its settings
-# to change; the options are those of makensis. FOLDER holds sorrel.exe, sorrel_status.exe,
-# run_sorrel.cmd, the driver package and the certificates.
+# build.sh FOLDER OUTPUT.exe [NAME=VALUE...] [-OPTION...]   makes a setup from setup.nsi. NAME=VALUE replaces a setting
+# in setup.nsi; -OPTION is an option of makensis. FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver
+# package and the certificates.
 set -euo pipefail
 # In the POSIX locale, makensis stops at the first letter that is not ASCII.
 export LC_ALL=C.UTF-8

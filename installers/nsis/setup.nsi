@@ -8,18 +8,19 @@
     !define ${NAME} "${VALUE}"
   !endif
 !macroend
-; The product, which is also the name of its folder below Program Files.
+; The product's name, which is also the name of its folder below Program Files.
 !insertmacro Setting PRODUCT "Brindle"
 !insertmacro Setting VERSION "1.0.0"
 !insertmacro Setting MAKER "The sorrel authors"
-; The name under which sorrel.exe records the product on its own list of the applications that use the Bluetooth service. It
-; must be ASCII, the same for all versions, and must not be part of another application's name.
+; The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
+; must be ASCII, the same for all versions, and not part of another application's name.
 !insertmacro Setting APPLICATION "brindle"
 ; The driver package, its signer's certificate, and the certificate of the authority that issued it.
 !insertmacro Setting INF "Tessalin.inf"
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
-; What happens when the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is ignored.
+; What happens if the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is
+; ignored.
 !insertmacro Setting RADIO_OFF "fails"
 ; Add the driver package's other files here.
 !macro EachFile DO
@@ -62,7 +63,7 @@ Page instfiles
 UninstPage uninstConfirm
 UninstPage instfiles
 
-; The file that run_sorrel.cmd reads.
+; The contents of product.cmd, which run_sorrel.cmd reads.
 !tempfile PRODUCT_CMD
 !macro ProductLine NAME VALUE
   !appendfile "${PRODUCT_CMD}" 'set "${NAME}=${VALUE}"$\r$\n'
@@ -71,8 +72,9 @@ UninstPage instfiles
 !insertmacro ProductLine application "${APPLICATION}"
 !insertmacro ProductLine radio_off "${RADIO_OFF}"
 
-; No page asks for the folder, but /D= of the setup and _?= of the uninstaller can name another one. Only administrators may
-; have write access to it, since its programs run with their rights. Its name must not contain a variable of cmd.exe.
+; Checks the folder: no page asks for it, but /D= of the setup and _?= of the uninstaller can name any folder. The
+; folder must be in Program Files, where only administrators can write, since programs in it run with an administrator's
+; rights. Its name must not contain a percent sign, since cmd.exe could expand a variable in the name.
 !macro Begin
   SetRegView 64
   StrCpy $0 "$INSTDIR"
@@ -96,7 +98,7 @@ Function un.onInit
   !insertmacro Begin
 FunctionEnd
 
-; Runs the tool; the exit code of run_sorrel.cmd is then in $0. run_sorrel.cmd reads the tool's lines from a file, since
+; Runs run_sorrel.cmd and puts its exit code into $0. run_sorrel.cmd reads the tool's lines from a file, since
 ; nsExec::ExecToStack keeps only 1,023 characters.
 !macro RunSorrel WORDS
   nsExec::Exec '"${SYSTEM}\cmd.exe" /d /s /c ""$INSTDIR\run_sorrel.cmd" ${WORDS}"'
@@ -118,7 +120,8 @@ FunctionEnd
 !macroend
 
 Section
-  ; Empty for a first installation, which must not use a name that Windows will delete at its next start after a removal.
+  ; $9 is the file name of the installed uninstaller, or empty in a first installation; $8 is the name for the new one.
+  ; A first installation uses an unused name: after a removal, Windows may still delete the old file at its next start.
   ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
   StrCpy $8 "$9"
   ${If} $9 == ""
@@ -139,7 +142,7 @@ Section
   WriteRegStr HKLM "${UNINSTALL_KEY}" Publisher "${MAKER}"
   WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\$8"'
   WriteRegStr HKLM "${UNINSTALL_KEY}" Uninstaller "$8"
-  ; NSIS wants _?= at the end, without quotation marks. The uninstaller then does not return before it is done.
+  ; NSIS requires _?= at the end, without quotation marks. With _?=, the uninstaller returns only when it is done.
   WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\$8" /S _?=$INSTDIR'
 
   StrCpy $0 1603
@@ -148,7 +151,7 @@ Section
   ${EndIf}
   ${If} $0 <> 0
   ${AndIf} $0 <> 3010
-    ; A product that was there stays, with all that a repair needs.
+    ; If the product was already installed, removes nothing, so that a repair is possible.
     ${If} $9 == ""
       !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
       SetOutPath "$TEMP"
@@ -170,7 +173,8 @@ Section Uninstall
   !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
   ReadRegStr $8 HKLM "${UNINSTALL_KEY}" Uninstaller
   !insertmacro RemoveProduct
-  ; With _?= the removal runs from this folder: Windows deletes what is left of it at its next start.
+  ; With _?=, the uninstaller runs from this folder and cannot delete itself: Windows deletes it, and then the empty
+  ; folder, at its next start.
   ${If} ${FileExists} "$INSTDIR\$8"
     Delete /REBOOTOK "$INSTDIR\$8"
     RMDir /REBOOTOK "$INSTDIR"
