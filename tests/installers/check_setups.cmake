@@ -1,4 +1,4 @@
-# What the samples refuse, warn of, and write into their packages:
+# Checks what the samples' build scripts refuse, what they warn of, and what the packages contain:
 # cmake -D source_folder=... -D setups=... -P check_setups.cmake
 
 cmake_minimum_required(VERSION 3.25)
@@ -6,7 +6,7 @@ set(nsis ${source_folder}/installers/nsis/build.sh good/files made.exe)
 set(msi ${source_folder}/installers/msi/build.sh good/files made.msi)
 file(REMOVE ${setups}/made.exe)
 
-# expect(CODE TEXT COMMAND...)   what a command ends with, and what it writes
+# expect(CODE TEXT COMMAND...)   checks a command's exit code, and that its output matches the regular expression TEXT
 function(expect code text)
   execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${setups}
     RESULT_VARIABLE seen OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -15,7 +15,7 @@ function(expect code text)
   endif()
 endfunction()
 
-# An NSIS that is too old, and one that can make only 32-bit setups.
+# nsis/build.sh warns of an old NSIS. With an NSIS that makes only 32-bit setups, it needs -DX86.
 execute_process(COMMAND makensis -VERSION OUTPUT_VARIABLE version)
 set(warning "^$")
 if(version MATCHES "^v([0-9.]+)" AND CMAKE_MATCH_1 VERSION_LESS 3.11)
@@ -39,11 +39,11 @@ foreach(build nsis msi)
   expect(2 "such a character" ${${build}} APPLICATION=a%b)
 endforeach()
 
-# The last action of an installation reads the log that run_sorrel.cmd writes.
+# The property Log names the log that run_sorrel.cmd writes: the last action of an installation reads that log.
 expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi" Property)
 
-# The package's actions: those that change the computer run as the system (2048 is in their types), and the old version comes
-# back when an upgrade fails.
+# The package's actions that change the computer run as SYSTEM: their types include 2048. The old version is removed
+# within the transaction (at 1501), so that it is restored if an upgrade fails.
 foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\t" "InstallInitialize\t\t1500\n"
     "RemoveExistingProducts\t\t1501\n" "ReleaseService\tREMOVE=\"ALL\" AND NOT UPGRADINGPRODUCTCODE\t3400\n"
     "UndoPrepareService\tNOT Installed AND NOT WIX_UPGRADE_DETECTED\t4002\n")
@@ -51,8 +51,8 @@ foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareServic
     good/setup.msi)
 endforeach()
 
-# A user could have his own commands run by a cmd.exe that is started without /d. A silent setup would wait at a message box
-# that has no default answer (/SD). A console of SYSTEM would be visible to a user who starts a repair.
+# Without /d, cmd.exe also runs the AutoRun commands that a user has set in the registry. A silent setup would wait at a
+# message box that has no default answer (/SD). A user who starts a repair must not see a console that runs as SYSTEM.
 file(GLOB_RECURSE samples ${source_folder}/installers/*)
 foreach(sample ${samples})
   file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|MessageBox [^/]*$|\"CustomActionData\"., [^0]")

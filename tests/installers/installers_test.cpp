@@ -4,14 +4,14 @@
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// In a prefix that is thrown away.
+// Paths in the throw-away Wine prefix.
 static const std::wstring kLogs = L"C:\\windows\\logs\\";
 static const std::wstring kStandIns = kLogs + L"stand_ins";
 static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
-// Copies of this program play Windows' pnputil and certutil, which Wine lacks: each writes down its
-// words, and removes what the test has put in place when they name it. Any copy ends with the
-// variable "ends"; with a failure it does nothing before.
+// Copies of this program simulate pnputil and certutil, which Wine lacks. A copy writes its name
+// and all but its last argument to kStandIns, and removes the test's INF file or certificates if
+// the arguments name them. If its exit code (the variable "ends") is a failure, it does neither.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
@@ -46,7 +46,7 @@ static const bool isStandIn = [] {
   ExitProcess(code);
 }();
 
-// The entries in "Apps". %QUIET% is then the last one's command for a silent removal.
+// Returns the entries in "Apps". Sets QUIET to the last entry's command for a silent removal.
 static std::wstring Apps() {
   HKEY key = nullptr;
   RegCreateKeyW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
@@ -72,8 +72,8 @@ static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
                                                   L"C:\\Program Files\\\u017Dlu\u0165 & Co",
                                                   L"C:\\Program Files\\M\u00F6we Kit"};
 
-// The list, the certificates that are trusted (publisher, intermediate), how many files the folder
-// of each product has, and the entries in "Apps".
+// Returns the list of applications, a letter for each trusted certificate (P: publisher, I:
+// intermediate), the number of files in each product's folder, and the entries in "Apps".
 static std::string State() {
   std::wstring state = Applications() + L" | " +
                        (SubjectsInStore(L"TrustedPublisher").empty() ? L"" : L"P") +
@@ -100,8 +100,8 @@ static std::wstring Expand(const std::wstring& text) {
   return expanded;
 }
 
-// Runs a line of lifecycles.txt: NAME=VALUE for the simulator, or in lower case for a variable as
-// it is, then a command line. Returns the exit code.
+// Runs a line of lifecycles.txt: a command line after any number of NAME=VALUE. A lower-case NAME
+// is an environment variable; other names get the simulator's prefix. Returns the exit code.
 static DWORD Run(std::wstring line) {
   std::vector<std::wstring> names;
   for (std::size_t end = 0; (end = line.find(L'=')) < line.find_first_of(L" \"");) {
@@ -118,7 +118,7 @@ static DWORD Run(std::wstring line) {
   return code;
 }
 
-// The rule for detection in the words of the page for administrators.
+// Returns the detection rule, a command line, from the page for administrators.
 static std::wstring Rule() {
   const std::string page = ReadBytes(ProgramPath(L"installers\\good\\files\\administrators.md"));
   const std::size_t start = page.find("\n\"%ProgramW6432%\\Brindle\\sorrel_status.exe\"") + 1;
@@ -127,7 +127,7 @@ static std::wstring Rule() {
   return Expand({rule.begin(), rule.end()});
 }
 
-// Folders, programs and variables that the lifecycles use.
+// Prepares the folders, programs and variables that lifecycles.txt uses.
 static void PutInPlace(const ScratchFolder& scratch) {
   std::filesystem::remove_all(kLogs);
   std::filesystem::create_directories(kLogs);
@@ -161,10 +161,10 @@ static void PutInPlace(const ScratchFolder& scratch) {
   }
 }
 
-TEST_CASE("lifecycles of products") {
+TEST_CASE("deploy.cmd, remove_all.cmd, setups: lifecycles match lifecycles.txt") {
   const CleanMachine machine;
   const ScratchFolder scratch;
-  // No product of an earlier build may hold on to the files.
+  // Forgets products of an earlier build, for which Windows Installer would keep shared files.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
   PutInPlace(scratch);
