@@ -35,7 +35,7 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   return reinterpret_cast<FARPROC>(row->instead);
 }
 
-// Replaces the original of a watched function by `instead`. Calls of the function can still fail.
+// Replaces a watched function's original by `instead`. The test can still make the function fail.
 #define SIMULATE(function, instead)   \
   interception.originals[#function] = \
       reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
@@ -202,8 +202,8 @@ const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
 const Lines kNoMemory = {"sorrel_status: not enough memory", "= 3"};
 const std::string kNoChange = " no change\r\n";
 
-// Returns the numbers of the lines of `before` that `after` lacks. Then returns the new lines of
-// `after`, each with the number of the line that it follows.
+// Lists the numbers of the lines of `before` that `after` lacks. Then lists the new lines of
+// `after`, each with the number of the line of `before` that it follows.
 static std::string Changes(const Lines& before, const Lines& after) {
   std::string without;
   std::string added;
@@ -226,9 +226,9 @@ static std::string Changes(const Lines& before, const Lines& after) {
   return before == after ? kNoChange : without + "\r\n" + added;
 }
 
-// Checks a run in which malloc failed. The operation has written its first lines, and then an
-// exception has ended it. All other lines are also in the outcome of a complete run, so no handle
-// is left open, for example. Not called for functions that catch the exception and return an error.
+// Checks a run in which malloc failed: it wrote its first lines, then an exception ended it. All
+// other lines are as in a complete run: the list is the old or the new one, and no more is left
+// open. Not called for a library function that returns the same as if another call had failed.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -308,7 +308,7 @@ TEST_CASE("install, uninstall: the next run completes a run that was killed at a
     machine.Run(index, {});
     const auto [calls, expected] = std::pair(machine.calls, machine.reached);
     for (const auto& [function, made] : calls) {
-      // Skips malloc: a thread that ended in malloc would never release the C runtime's locks.
+      // Skips malloc: a thread that ended there would never release the C runtime's locks.
       for (int nth = 1; nth <= made && function != "malloc"; ++nth) {
         INFO(function, "-", nth);
         const Lines ended = machine.Run(index, {function, nth}, Machine::How::kEnds);

@@ -15,8 +15,8 @@
 
 namespace kelvo::test {
 
-// How a function uses handles. kLeftOut means kNone, but calls.txt does not show the arguments:
-// they vary from machine to machine, or the outcome already depends on them.
+// How a function uses handles. kLeftOut means kNone, but calls.txt leaves the calls out: their
+// arguments vary from machine to machine, or the outcome already shows the arguments' effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
 // A row of watched.def: a Windows function and its replacement.
@@ -31,9 +31,9 @@ struct Watched {
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
-  // The distinct calls whose arguments include a string or a number except 0, as text.
+  // The distinct calls, as text. Leaves out calls without a string or a number other than 0.
   std::set<std::string> shown;
-  // The call that fails: its function and number, from 1. If `ends`, the call ends the thread.
+  // The call that fails: its function and number, from 1. If `ends`, the thread ends before it.
   std::pair<std::string, int> chosen;
   bool ends = false;
   // Open handles and memory, each with the function that opened it and the functions that close it.
@@ -100,7 +100,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   return fails ? (Result)failure : result;
 }
 
-// Makes a row for each of some functions: WATCH(failure, handles, closers, function, ...).
+// Makes rows for functions that fail alike: WATCH(failure, handles, closers, function, ...).
 #define WATCH(...) KELVO_64(KELVO_WATCH(__VA_ARGS__))
 #define KELVO_WATCH(failure, handles, closers, function, ...)                                    \
   Watched{                                                                                       \

@@ -21,7 +21,7 @@ static std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   return process;
 }
 
-// Waits for processes to end. Returns the list, which must have no stray separator or name twice.
+// Waits for processes to end. Returns the list, which must have no empty or repeated name.
 static std::wstring ListAfter(const std::vector<std::intptr_t>& processes) {
   for (const std::intptr_t process : processes) {
     int code = -1;

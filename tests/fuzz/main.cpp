@@ -1,6 +1,6 @@
 // fuzz                         lists the targets
 // fuzz TARGET NUMBER SECONDS   tries inputs on a target for SECONDS, starting with input NUMBER
-// Writes results to standard error, because the programs that it starts write to standard output.
+// Writes results to standard error, because the programs that fuzz starts write to standard output.
 
 #include <windows.h>
 

@@ -11,7 +11,7 @@ namespace kelvo::fuzz {
 constexpr const wchar_t* kKey = L"Software\\kelvo fuzz";
 constexpr const wchar_t* kName = L"value";
 
-// Returns the text that the library should read: up to the first NUL. An odd last byte is a unit.
+// Returns the text that the library should read: up to the first NUL. An odd last byte is one unit.
 static std::wstring TextIn(const std::string& data) {
   std::wstring text((data.size() + 1) / 2, L'\0');
   std::memcpy(text.data(), data.data(), data.size());

@@ -42,7 +42,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0, wait and return the
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  // Opens another window station: RunAsUser changes its DACL, and all programs share WinSta0.
+  // Opens another station: RunAsUser changes the DACL of WinSta0, which all programs share.
   REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);
@@ -117,7 +117,7 @@ TEST_CASE("IsOnInteractiveDesktop: ignores letter case, unlike RunAsUser") {
   }
 }
 
-TEST_CASE("LaunchInUserSession: Windows version, session, token and desktop decide how it starts") {
+TEST_CASE("LaunchInUserSession: version, session, token and desktop decide which call it makes") {
   // Each simulated call writes its output handle, even if it fails.
   HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   auto* const session = +[]() -> DWORD { return 5; };

@@ -162,7 +162,7 @@ TEST_CASE("AnswerCommandLine: returns 3 without memory, and writes why to standa
   CHECK(std::string(written) == "sorrel_status: not enough memory\r\n");
 }
 
-TEST_CASE("AnswerCommandLine: reports Windows 10, administrators in many groups, elevation") {
+TEST_CASE("AnswerCommandLine: names Windows 10, searches all 200 groups, reads the elevation") {
   constexpr DWORD kCount = 200;
   struct {
     TOKEN_GROUPS first;

@@ -12,7 +12,7 @@ namespace kelvo::test {
 // The path of a registry key below HKEY_CURRENT_USER that does not exist at first. The key is
 // deleted with everything below it when this object is destroyed.
 //
-// Neither the name nor the deletion comes from the library, which is under test: if its mistake
+// Neither the name nor the deletion comes from the library, which is under test: if a bug in it
 // made the name empty, the user's whole registry would be deleted.
 struct ScratchKey : std::wstring {
   ScratchKey()
@@ -34,7 +34,7 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
 }
 
 // Until this object is destroyed, makes Windows use `key`, which is empty at first, in place of a
-// predefined key such as HKEY_CURRENT_USER. What a test writes or deletes there is in `key`.
+// predefined key such as HKEY_CURRENT_USER. Writing or deleting there changes only `key`.
 struct StandInKey {
   explicit StandInKey(HKEY replaced) : predefined(replaced) {
     HKEY created = nullptr;
