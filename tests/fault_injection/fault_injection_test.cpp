@@ -35,7 +35,7 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   return reinterpret_cast<FARPROC>(row->instead);
 }
 
-// Replaces the original of a watched function by `instead`. Its calls can still be made to fail.
+// Replaces a watched function's original by `instead`. The test can still make the function fail.
 #define SIMULATE(function, instead)   \
   interception.originals[#function] = \
       reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
@@ -69,7 +69,7 @@ static void SimulateMachine() {
     lstrcpyW(*name, L"client");
     return TRUE;
   });
-  // Pretends to start a process that has ended: Wine sometimes fails to start a real one.
+  // Starts no process, since Wine sometimes fails to. Returns handles as if a process had ended.
   static constexpr auto kStart = [](auto... given) -> BOOL {
     *std::get<sizeof...(given) - 1>(std::tuple(given...)) = {
         CreateEventW(nullptr, TRUE, TRUE, nullptr), CreateEventW(nullptr, TRUE, TRUE, nullptr), 1,
@@ -80,7 +80,7 @@ static void SimulateMachine() {
   SIMULATE(CreateProcessAsUserW, kStart);
 }
 
-// Returns the lines that are not empty.
+// Splits a text into lines, without line ends and without empty lines.
 static Lines LinesOf(const std::string& text) {
   Lines lines;
   std::istringstream stream(text);
@@ -99,9 +99,9 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
   return text;
 }
 
-// Prepares the state that an operation starts from: a list of applications, no certificate in
-// either store, and a registry value of each kind that it reads. Loads the simulator's Bluetooth
-// library, so that the operation finds it by name.
+// Prepares the state from which an operation starts: a list of applications, no certificate in
+// either store, and the registry values and files that operations read. Loads the simulator's
+// bthprops.cpl, so that Windows finds that library by its name alone.
 struct Machine : ProgramFolder {
   Machine() : ProgramFolder({{L"versioned_english.dll", L"versioned_english.dll"}}) {
     LoadLibraryW((path / "bthprops.cpl").c_str());
@@ -127,13 +127,13 @@ struct Machine : ProgramFolder {
                L"ProductSuite", REG_MULTI_SZ, std::wstring(L"kelvo suite\0", 13));
   }
 
-  // kFails: the chosen call fails. kEnds: the run ends there, as if the process were killed.
-  // kContinues: no call fails, and the run starts from the state that the previous run left.
+  // kFails: the chosen call fails. kEnds: the run ends before that call, as if the process were
+  // killed. kContinues: no call fails, and the run starts from the state that the last run left.
   enum class How { kFails, kEnds, kContinues };
 
-  // Loads the library anew, runs an operation and returns its outcome: the lines written, the
-  // answer, the list if it changed, the stores, open handles and memory, and the journal. Returns
-  // nothing past the end of the table.
+  // Loads the operations' DLL anew, runs operation `index`, and returns the outcome as lines: the
+  // output, the answer, the list if it changed, the stores, open handles and memory, and the
+  // simulator's journal. Returns no lines if `index` is past the end of the table.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
     const auto* const operation =
@@ -163,7 +163,7 @@ struct Machine : ProgramFolder {
         },
         reinterpret_cast<void*>(operation->run), 0, nullptr));
     WaitForSingleObject(thread.get(), INFINITE);
-    // Copies the counts now, because unloading the library makes more calls.
+    // Copies the counts of calls now, because unloading the DLL will make more calls.
     calls = interception.calls;
     std::string text = Joined("", written, "");
     text = (name.starts_with("sorrel_status") ? Named(text) : text) + "= " + Ascii(answer) + "\n";
@@ -175,7 +175,7 @@ struct Machine : ProgramFolder {
       text += subjects.empty() ? "" : Ascii(store + (L": " + subjects)) + "\n";
     }
     reached = LinesOf(text);
-    // Sorts by name, because the order of handles varies.
+    // Sorts open handles by the function that opened them, because the order of handles varies.
     std::multiset<std::string> open;
     for (const auto& [handle, functions] : interception.open) {
       open.insert("open " + functions.first);
@@ -191,19 +191,19 @@ struct Machine : ProgramFolder {
   Lines reached;
 };
 
-// Appends to the last line, or to a new line if the last would be longer than 120 columns.
+// Appends to the last line, or to a new line if the last line would exceed 120 columns.
 static void Append(std::string& text, const std::string& more) {
   const std::size_t column = text.size() - (text.rfind('\n') + 1);
   text += (column + std::min(more.find('\r'), more.size()) > 120 ? "\r\n " : "") + more;
 }
 
-// If a call to one of these functions fails, the line that it helps to write is missing.
+// If a call of one of these functions fails, the output lacks the line that needed the call.
 const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
 const Lines kNoMemory = {"sorrel_status: not enough memory", "= 3"};
 const std::string kNoChange = " no change\r\n";
 
-// Returns the numbers of the lines that `after` lacks, then its new lines, each with the number of
-// the line that it follows.
+// Lists the numbers of the lines of `before` that `after` lacks. Then lists the new lines of
+// `after`, each with the number of the line of `before` that it follows.
 static std::string Changes(const Lines& before, const Lines& after) {
   std::string without;
   std::string added;
@@ -226,9 +226,9 @@ static std::string Changes(const Lines& before, const Lines& after) {
   return before == after ? kNoChange : without + "\r\n" + added;
 }
 
-// Without memory, an operation writes its first lines and throws. It leaves the old list or the new
-// one and nothing else. If a library function lets no exception escape, it returns the same as when
-// another call fails.
+// Checks a run in which malloc failed: it wrote its first lines, then an exception ended it. All
+// other lines are as in a complete run: the list is the old or the new one, and no more is left
+// open. Not called for a library function that returns the same as if another call had failed.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -249,9 +249,9 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
     const int lineCount = static_cast<int>(written.size());
     const auto calls = machine.calls;
     const bool isReport = machine.name.starts_with("sorrel_status");
-    // Each outcome, with the failing calls that caused it.
+    // The distinct outcomes, each with the failing calls that cause it.
     std::vector<std::pair<Lines, std::string>> outcomes;
-    // Outcomes that lack a line of the driver's log, because the callback lets no exception escape.
+    // Outcomes that lack a line of the driver's log, because DifxLogCallback catches the exception.
     std::set<Lines> withoutLogged;
     for (const auto& [function, made] : calls) {
       for (int nth = 1; nth <= made; ++nth) {
@@ -261,10 +261,10 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
         if (std::ranges::find(kWatched, function, &Watched::name)->closes) {
           CHECK(Changes(undisturbed, outcome) == kNoChange);
         } else if (isReport && function == "malloc") {
-          // The library's guarded calls let no exception escape.
+          // The whole report fails, unless a guarded call of the library catches the exception.
           CHECK((outcome == kNoMemory || outcome.size() == undisturbed.size()));
         } else if (isReport && function.starts_with("_v")) {
-          // Any one of many texts may be missing.
+          // A text may be missing within a line, but no line is missing.
           CHECK(outcome.size() == undisturbed.size());
         } else if (!isReport && kReporting.find(function) != std::string::npos &&
                    nth <= lineCount) {
@@ -302,13 +302,13 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
   CheckAgainstFile(Joined("", shown, "\r\n"), L"calls.txt");
 }
 
-TEST_CASE("install, uninstall: the next run completes a run that ended at any call") {
+TEST_CASE("install, uninstall: the next run completes a run that was killed at any call") {
   Machine machine;
   for (const int index : {0, 2}) {  // install, uninstall
     machine.Run(index, {});
     const auto [calls, expected] = std::pair(machine.calls, machine.reached);
     for (const auto& [function, made] : calls) {
-      // Skips malloc: a run that ended there would never release the C runtime's locks.
+      // Skips malloc: a thread that ended there would never release the C runtime's locks.
       for (int nth = 1; nth <= made && function != "malloc"; ++nth) {
         INFO(function, "-", nth);
         const Lines ended = machine.Run(index, {function, nth}, Machine::How::kEnds);

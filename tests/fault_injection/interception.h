@@ -15,11 +15,11 @@
 
 namespace kelvo::test {
 
-// How a function uses handles. The arguments of a kLeftOut function are not shown, because they
-// vary from machine to machine or their effect shows them.
+// How a function uses handles. kLeftOut means kNone, but calls.txt leaves the calls out: their
+// arguments vary from machine to machine, or the outcome already shows the arguments' effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
-// A row of the table: a Windows function and its replacement.
+// A row of watched.def: a Windows function and its replacement.
 struct Watched {
   const char* name;
   void* instead;
@@ -31,12 +31,12 @@ struct Watched {
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
-  // The distinct calls with their arguments, unless the arguments show nothing.
+  // The distinct calls, as text. Leaves out calls without a string or a number other than 0.
   std::set<std::string> shown;
   // The call that fails: its function and number, from 1. If `ends`, the thread ends before it.
   std::pair<std::string, int> chosen;
   bool ends = false;
-  // Open handles and memory, each with the function that opened it and those that close it.
+  // Open handles and memory, each with the function that opened it and the functions that close it.
   std::map<const void*, std::pair<std::string, std::string_view>> open;
 };
 inline Interception interception;
@@ -63,7 +63,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  // Does not show calls to the C runtime, whose names begin with a small letter or "_".
+  // Does not show C runtime functions, whose names begin with a lower-case letter or "_".
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
   const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {
@@ -77,7 +77,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
     return (Result)failure;
   }
   if (closes) {
-    // Keeps a handle that another function should have closed.
+    // Keeps a handle in `open` if a different function should have closed it.
     std::erase_if(open, [&](const auto& row) {
       return row.second.second.find(name) != std::string_view::npos &&
              ((row.first == (const void*)(ULONG_PTR)given) || ...);
@@ -94,7 +94,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
     open.erase(nullptr);
   }
   if (closes) {
-    // Overwrites the last error: code that needs it must read it before it closes a handle.
+    // Overwrites the last error: code that needs this error must read it before closing a handle.
     SetLastError(fails ? kFailure : ERROR_SUCCESS);
   }
   return fails ? (Result)failure : result;
@@ -109,7 +109,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
       })),                                                                                       \
       (handles) == kCloses} __VA_OPT__(, KELVO_WATCH_NEXT KELVO_NONE(failure, handles, closers,  \
                                                                      __VA_ARGS__))
-// No macro expands within itself, so KELVO_64 scans the list repeatedly; each scan takes one name.
+// No macro expands within itself, so KELVO_64 scans the list repeatedly. Each scan makes one row.
 #define KELVO_WATCH_NEXT() KELVO_WATCH
 #define KELVO_NONE ()
 #define KELVO_64(...) KELVO_16(KELVO_16(KELVO_16(KELVO_16(__VA_ARGS__))))
@@ -117,14 +117,14 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
 #define KELVO_4(...) KELVO_1(KELVO_1(KELVO_1(KELVO_1(__VA_ARGS__))))
 #define KELVO_1(...) __VA_ARGS__
 
-// Redirects a module's imports to the functions in the table.
+// Redirects a module's imports to their replacements in the table.
 template <typename Table>
 void WatchImports(HMODULE module, const Table& table) {
   for (const Watched& watched : table) {
     try {
       interception.originals[watched.name] = SwapImport(watched.name, watched.instead, module);
     } catch (const std::runtime_error&) {
-      // The module gets it from GetProcAddress or does not use it.
+      // The module gets this function from GetProcAddress, or does not use it.
     }
   }
 }

@@ -44,7 +44,7 @@ using namespace kelvo;
 
 namespace {
 
-// Returns the result of `run`, or "an exception" if it throws (a program then ends with 3).
+// Returns the result of `run`, or "an exception" if `run` throws. (A program then exits with 3.)
 template <typename Run>
 std::wstring Answer(Run run) {
   try {
@@ -57,7 +57,7 @@ std::wstring Answer(Run run) {
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
 TOKEN_ELEVATION_TYPE elevation;
-// Hides texts that differ from machine to machine, except the simulated full name.
+// Hides a text, which may differ from machine to machine, unless it is the simulated full name.
 WString IsThere(const WString& text) {
   if (text.empty()) {
     return L"nothing";
@@ -121,7 +121,7 @@ WString WriteAndDelete() {
       return Answer([&] { return Text(RunCommandLine(arguments.size(), arguments.data())); }); \
     }                                                                                          \
   }
-// Runs a command line of sorrel_status.exe, which writes its report in one call.
+// Runs a command line of sorrel_status.exe, which writes its report with one call of WriteFile.
 #define REPORT(...)                                                                               \
   Operation {                                                                                     \
     "sorrel_status " #__VA_ARGS__, L"kite", [] {                                                  \

@@ -3,11 +3,11 @@
 #include <string>
 
 // An operation that fault injection runs. fault_injection_operations.dll exports the table
-// "operations", whose last row has no name. It is loaded anew for each run, so that no state of an
-// earlier run is left.
+// "operations", whose last row has no name. The test loads this DLL anew for each run, so that no
+// state of an earlier run is left.
 struct Operation {
   const char* name;
-  // The applications that are recorded before it runs.
+  // The list of applications in the registry before the operation runs.
   const wchar_t* list;
   // Returns the outcome: an exit code, a value, or "an exception".
   std::wstring (*run)();

@@ -1,5 +1,5 @@
-// Tries malformed ACLs of every kind. No code may read or write beyond their memory, even if their
-// sizes are wrong.
+// Tries valid and malformed ACLs. The library must not read or write beyond the memory of an ACL,
+// even if the ACL's count of ACEs or the sizes of its ACEs are wrong.
 
 #include <algorithm>
 
@@ -41,7 +41,7 @@ static void Corrupt(std::string& list, Input& input) {
   if (input.Number(7) == 1) {
     list.resize(std::max(input.Number(list.size()), sizeof(ACL)) / 4 * 4);
   }
-  // Limits the claimed size to the real size: no code could detect that a list claims more.
+  // Limits AclSize to the real size: no code could detect that a list claims more memory.
   WORD claimed = 0;
   std::memcpy(&claimed, &list[2], sizeof(claimed));
   claimed = std::min(claimed, static_cast<WORD>(list.size()));
@@ -68,7 +68,7 @@ static const Target kAccessLists("access lists", [](Input& input) {
   InitializeAcl(copy.As<ACL>(), size, ACL_REVISION);
   const BOOL copied = CopyACL(copy.As<ACL>(), acl);
   if (isValid) {
-    Expect(copied != FALSE, "a valid list is copied into the size that it needs");
+    Expect(copied != FALSE, "a valid list is copied into an ACL of the calculated size");
     Expect(std::memcmp(copy.As<ACL>() + 1, acl + 1, list.size() - sizeof(ACL)) == 0,
            "the copy has the same entries");
   }

@@ -21,7 +21,7 @@ static std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   return process;
 }
 
-// Waits for processes. The list must then have no stray separator and no name twice. Returns it.
+// Waits for processes to end. Returns the list, which must have no empty or repeated name.
 static std::wstring ListAfter(const std::vector<std::intptr_t>& processes) {
   for (const std::intptr_t process : processes) {
     int code = -1;

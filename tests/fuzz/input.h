@@ -18,7 +18,7 @@ class Input {
  public:
   explicit Input(std::uint64_t seed) : engine_(seed) {}
 
-  // Returns a number from 0 to `most`, the bounds more often than others.
+  // Returns a number from 0 to `most`. Returns 0 and `most` more often than other numbers.
   std::size_t Number(std::size_t most) {
     const std::uint64_t drawn = engine_();
     if (drawn % 8 == 0) {
@@ -29,7 +29,7 @@ class Input {
 
   bool Chance() { return Number(1) == 1; }
 
-  // Returns up to `most` units of `alphabet`, or any units if that is empty.
+  // Returns up to `most` units from `alphabet`, or any UTF-16 units if `alphabet` is empty.
   std::wstring Text(std::size_t most, const std::wstring& alphabet = L"") {
     std::wstring text(Number(most), L'\0');
     for (wchar_t& unit : text) {
@@ -70,7 +70,7 @@ class GuardedMemory {
  private:
   static constexpr std::size_t kPage = 0x1000;
   static constexpr std::size_t kRoom = 0x10000;
-  // Fills the rest of the block. A zero there might end a string.
+  // Fills the unused part of a block. A zero there could hide that a string has no terminator.
   static constexpr int kFiller = 0xA5;
   // Reuses blocks: reserving a block takes longer than most inputs do.
   static inline std::vector<BYTE*> freeBlocks;

@@ -1,6 +1,6 @@
 // fuzz                         lists the targets
 // fuzz TARGET NUMBER SECONDS   tries inputs on a target for SECONDS, starting with input NUMBER
-// It reports on standard error, because the programs that it starts write to standard output.
+// Writes results to standard error, because the programs that fuzz starts write to standard output.
 
 #include <windows.h>
 
@@ -28,7 +28,7 @@ void Expect(bool holds, const char* what) {
 using namespace kelvo;
 using namespace kelvo::fuzz;
 
-// Detects faults before guarded calls swallow them.
+// Reports a fault before a guarded call can catch it.
 static LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
   const DWORD code = exception->ExceptionRecord->ExceptionCode;
   Expect(code != EXCEPTION_ACCESS_VIOLATION && code != EXCEPTION_ILLEGAL_INSTRUCTION &&

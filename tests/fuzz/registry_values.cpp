@@ -1,4 +1,4 @@
-// Reads registry values of any type, size and length with each reader.
+// Reads registry values of any type and size with each of the library's functions that read values.
 
 #include "lib/registry/registry_binary.h"
 #include "lib/registry/registry_number.h"
@@ -11,7 +11,7 @@ namespace kelvo::fuzz {
 constexpr const wchar_t* kKey = L"Software\\kelvo fuzz";
 constexpr const wchar_t* kName = L"value";
 
-// Returns the text that the readers should see: up to the first NUL, an odd last byte as a unit.
+// Returns the text that the library should read: up to the first NUL. An odd last byte is one unit.
 static std::wstring TextIn(const std::string& data) {
   std::wstring text((data.size() + 1) / 2, L'\0');
   std::memcpy(text.data(), data.data(), data.size());
@@ -23,7 +23,7 @@ static std::string AnyData(Input& input) {
   return {reinterpret_cast<const char*>(text.c_str()), (text.length() * 2) + input.Number(2)};
 }
 
-// Leaves no key in the user's registry.
+// Deletes the key when the program ends.
 struct Key {
   ~Key() { RegDeleteTreeW(HKEY_CURRENT_USER, kKey); }
 };
@@ -34,7 +34,7 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   static const Key removedAtTheEnd;
   const DWORD type = kTypes[input.Number(7)];
   const std::string data = AnyData(input);
-  // Appends "##", because Windows would store a NUL that it finds after the data.
+  // Puts "##" after the data, because Windows would also store a NUL that follows the data.
   RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, type, (data + "##").data(),
                   static_cast<DWORD>(data.size()));
 
@@ -43,11 +43,11 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   const bool isExpanded = type == REG_EXPAND_SZ && text.find(L'%') != std::wstring::npos;
   const WString read = RegistryReadString(HKEY_CURRENT_USER, kKey, kName, L"default");
   const bool fits = isText && data.size() <= 2048;
-  // Skips values that are expanded or that might not fit the buffer of an expansion.
+  // Skips a text that is expanded or that may be too long for the buffer of an expansion.
   if (!isExpanded && (type != REG_EXPAND_SZ || text.length() < 259)) {
     Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is the stored text");
   }
-  // Often chooses a buffer that the value just fills.
+  // Often chooses a buffer that the value fills exactly.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
   // For a value of one byte Wine reads in front of the buffer, so no guard page may be there.
   const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());

@@ -1,4 +1,4 @@
-// Text substitution in a buffer, compared with a plain replacement.
+// Compares ReplaceAllInBuffer with a simple replacement in a std::wstring.
 
 #include <algorithm>
 

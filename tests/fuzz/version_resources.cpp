@@ -11,7 +11,7 @@
 
 namespace kelvo::fuzz {
 
-// The resource is the only block of this size, directly in front of or behind a guard page.
+// The version resource, next to a guard page. For this size, operator new returns its memory.
 static std::size_t resourceSize = 0;
 static std::unique_ptr<GuardedMemory> resource;
 

@@ -11,7 +11,7 @@ static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
 // Copies of this program simulate pnputil and certutil, which Wine lacks. A copy writes its name
 // and all but its last argument to kStandIns, and removes the test's INF file or certificates if
-// the arguments name them. If its exit code (the variable "ends") is a failure, it does neither.
+// the arguments name them. A copy whose exit code (the variable "ends") is a failure does neither.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
@@ -46,7 +46,7 @@ static const bool isStandIn = [] {
   ExitProcess(code);
 }();
 
-// Returns the entries in "Apps". Sets QUIET to the last entry's command for a silent removal.
+// Returns the entries in "Apps". Sets %QUIET% to the last entry's command for a silent removal.
 static std::wstring Apps() {
   HKEY key = nullptr;
   RegCreateKeyW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
@@ -164,7 +164,7 @@ static void PutInPlace(const ScratchFolder& scratch) {
 TEST_CASE("deploy.cmd, remove_all.cmd, setups: lifecycles match lifecycles.txt") {
   const CleanMachine machine;
   const ScratchFolder scratch;
-  // Forgets products of an earlier build, for which Windows Installer would keep shared files.
+  // Forgets an earlier build's products: Windows Installer would keep files that they share.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
   PutInPlace(scratch);

@@ -1,7 +1,7 @@
-# Checks which folders include which: cmake -D source_folder=... -P check_includes.cmake
+# Checks that each folder includes only headers of folders below it: cmake -D source_folder=... -P check_includes.cmake
 cmake_minimum_required(VERSION 3.25)
 
-# Collects the folders below each folder by the arrows of the picture, where the arrows of lower folders come first.
+# Collects all folders below each folder from the arrows of the diagram, which lists the arrows of lower folders first.
 file(STRINGS ${source_folder}/docs/development.md arrows REGEX "^ +[a-z]+ --> ")
 foreach(arrow ${arrows})
   string(REGEX MATCHALL "[a-z]+" lower "${arrow}")

@@ -1,9 +1,9 @@
-# Installs into an empty folder and looks at what is there:
+# Installs into an empty folder and checks the installed files:
 # cmake -D project=... -D source_folder=... -D folder=... -D toolchain=... -D wine=... -P check_installed.cmake
 
 cmake_minimum_required(VERSION 3.25)
 
-# install_into(prefix ARGUMENT...)   leaves the list of installed files in `files`
+# install_into(prefix ARGUMENT...)   sets `files` to the list of installed files
 function(install_into prefix)
   file(REMOVE_RECURSE ${prefix})
   execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET
@@ -12,13 +12,13 @@ function(install_into prefix)
   set(files ${found} PARENT_SCOPE)
 endfunction()
 
-# What a component holds, to the file.
+# Each component has exactly these files.
 foreach(component "tool;bin/sorrel.exe;bin/sorrel_status.exe" "symbols;bin/sorrel.pdb;bin/sorrel_status.pdb"
     "simulator;lib/sorrel/simulator/Tessalin.inf;lib/sorrel/simulator/bthprops.cpl;lib/sorrel/simulator/difxapi.dll")
   list(POP_FRONT component name)
   install_into(${folder}/${name} --component ${name})
   if(NOT files STREQUAL component)
-    message(SEND_ERROR "The component ${name} holds ${files}, not ${component}")
+    message(SEND_ERROR "The component ${name} has the files ${files}, not ${component}")
   endif()
 endforeach()
 
@@ -33,17 +33,17 @@ endforeach()
 foreach(file ${files})
   file(STRINGS ${folder}/all/${file} found LIMIT_COUNT 1 REGEX "${source_folder}")
   if(file MATCHES "internal|_test|\\.pdb$" OR found)
-    message(SEND_ERROR "${file} must not be installed, or not as it is: ${found}")
+    message(SEND_ERROR "${file} must not be installed, or must not name the source folder: ${found}")
   endif()
 endforeach()
 
-# Here no compiler is chosen: the library is for none but mingw's.
+# This script has no compiler, so the package must not be found: it accepts only a mingw compiler.
 include(${folder}/all/lib/cmake/kelvo/kelvo-config.cmake)
 if(kelvo_FOUND OR NOT kelvo_NOT_FOUND_MESSAGE MATCHES "built for MINGW")
-  message(SEND_ERROR "The package is found by any compiler: ${kelvo_NOT_FOUND_MESSAGE}")
+  message(SEND_ERROR "The package must accept only a mingw compiler: ${kelvo_NOT_FOUND_MESSAGE}")
 endif()
 
-# A consumer's project, itself from what is installed; its second program includes each public header.
+# Builds the installed sample project with the installed library. Its second program includes each public header.
 list(FILTER files INCLUDE REGEX "\\.h$")
 list(TRANSFORM files REPLACE "include/kelvo/(.*)" "#include \"\\1\"\n")
 string(JOIN "" includes ${files})

@@ -1,4 +1,4 @@
-# Packs what is built, once signed with a throw-away certificate and once as it is, and looks into the archives:
+# Packs the built files twice, signed with a throw-away certificate and unsigned, and checks the archives:
 # cmake -D project=... -D version=... -D folder=... -D osslsigncode=... -D openssl=... -D wine=... -P check_package.cmake
 
 cmake_minimum_required(VERSION 3.25)
@@ -17,7 +17,7 @@ set(ENV{SORREL_SIGN_CERTIFICATE} ${folder}/certificate.pem)
 set(ENV{SORREL_SIGN_KEY} ${folder}/key.pem)
 set(ENV{SORREL_SUMS_KEY} ${folder}/key.pem)
 run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/signed)
-# What must end in a failure: a program that is missing, another certificate's key, other roots.
+# Signing must fail if a program is missing, the key belongs to another certificate, or the roots are not the signer's.
 run(${openssl} req -x509 -newkey rsa:2048 -nodes -keyout ${folder}/other_key.pem -out ${folder}/other.pem -subj "/CN=Other")
 foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${folder}/other.pem)
   file(COPY ${project}/bin/sorrel.exe DESTINATION ${folder}/to_sign/tool)
@@ -27,14 +27,14 @@ foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${fol
   execute_process(COMMAND ${CMAKE_COMMAND} -E env ${fault} ${CMAKE_COMMAND} -D CPACK_TEMPORARY_DIRECTORY=${folder}/to_sign
     -P ${source_folder}/cmake/sign_programs.cmake RESULT_VARIABLE code OUTPUT_QUIET ERROR_QUIET)
   if(code EQUAL 0)
-    message(SEND_ERROR "Signed in spite of ${fault}")
+    message(SEND_ERROR "Signing did not fail. The fault was a missing program, or this setting: ${fault}")
   endif()
 endforeach()
 unset(ENV{SORREL_SIGN_CERTIFICATE})
 unset(ENV{SORREL_SUMS_KEY})
 run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/unsigned)
 
-# SHA256SUMS has the sum of each file, and only the signature makes a difference.
+# SHA256SUMS has each file's sum. Signing changes only the programs' archive and the bill of materials.
 set(base sorrel-${version}-win64)
 foreach(kind signed unsigned)
   file(GLOB made RELATIVE ${folder}/${kind} ${folder}/${kind}/*.json ${folder}/${kind}/*.zip)
@@ -43,7 +43,7 @@ foreach(kind signed unsigned)
   list(SORT summed)
   foreach(files made summed)
     if(NOT ${files} STREQUAL "kelvo-${version}-win64-mingw-sdk.zip;${base}-simulator.zip;${base}-symbols.zip;${base}.spdx.json;${base}.zip")
-      message(SEND_ERROR "${kind}, the files ${files} are ${${files}}")
+      message(SEND_ERROR "Wrong files in ${folder}/${kind} or its SHA256SUMS (${files}): ${${files}}")
     endif()
   endforeach()
   execute_process(COMMAND sha256sum -c SHA256SUMS WORKING_DIRECTORY ${folder}/${kind}
@@ -53,10 +53,10 @@ list(REMOVE_ITEM signed ${unsigned})
 list(TRANSFORM signed REPLACE ".*  " "")
 list(SORT signed)
 if(NOT signed STREQUAL "${base}.spdx.json;${base}.zip")
-  message(SEND_ERROR "Packed twice, once signed, these differ: ${signed}")
+  message(SEND_ERROR "Between the signed and the unsigned packages, these files differ: ${signed}")
 endif()
 
-# Every link of every page leads to a file, and to a heading in it, in the repository and in what is unpacked.
+# Every link leads to an existing file and heading, on every page in the repository and in the unpacked archives.
 file(GLOB archives ${folder}/unsigned/*.zip)
 foreach(archive ${archives})
   cmake_path(GET archive STEM LAST_ONLY name)
@@ -90,16 +90,16 @@ endforeach()
 file(GLOB sdk_page ${folder}/unpacked/*/*/share/doc/kelvo/library.md)
 file(STRINGS "${sdk_page}" links REGEX "include/kelvo/lib/string/wstring.h")
 if(NOT links)
-  message(SEND_ERROR "The library's page does not lead to its headers")
+  message(SEND_ERROR "The library's page in the SDK does not link to the headers")
 endif()
 
-# What the bill of materials says of the program is so, and its signature is good.
+# The bill of materials has the program's checksum. The signatures of the program and of SHA256SUMS are valid.
 file(READ ${folder}/signed/${base}.spdx.json bill)
 file(ARCHIVE_EXTRACT INPUT ${folder}/signed/${base}.zip DESTINATION ${folder})
 execute_process(COMMAND test -x ${folder}/${base}/share/doc/sorrel/installers/msi/build.sh COMMAND_ERROR_IS_FATAL ANY)
 file(GLOB_RECURSE libraries ${folder}/${base}/*.dll ${folder}/${base}/*.cpl)
 if(libraries)
-  message(SEND_ERROR "In the archive that setups ship from: ${libraries}")
+  message(SEND_ERROR "The archive for setups must have no libraries: ${libraries}")
 endif()
 set(program ${folder}/${base}/bin/sorrel.exe)
 file(SHA256 ${program} sum)

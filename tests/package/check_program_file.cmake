@@ -1,4 +1,4 @@
-# What the program's file needs and says:
+# Checks the imports, linker settings, size, checksum and texts of a program's file:
 # cmake -D program=... -D libraries=... -D most_bytes=... -D readobj=... -D osslsigncode=... -D source_folder=... -P check_program_file.cmake
 
 execute_process(COMMAND ${readobj} --coff-imports --file-headers --sections --coff-debug-directory --coff-load-config
@@ -11,47 +11,47 @@ list(REMOVE_DUPLICATES needed)
 list(SORT needed)
 list(JOIN needed "," needed)
 if(NOT needed STREQUAL libraries)
-  message(SEND_ERROR "${program} needs other libraries than these, each of which makes every start slower: ${needed}")
+  message(SEND_ERROR "${program} must import only ${libraries}: each library slows every start. It imports ${needed}")
 endif()
 if(facts MATCHES "\nDelayImport {")
-  message(SEND_ERROR "${program} has a delayed import, which ends the process where it cannot be resolved")
+  message(SEND_ERROR "${program} has a delay-load import, which ends the process if it cannot be resolved")
 endif()
 if(facts MATCHES "MEM_EXECUTE [^\n]*\n *IMAGE_SCN_MEM_READ [^\n]*\n *IMAGE_SCN_MEM_WRITE")
   message(SEND_ERROR "${program} has a section that can be written and executed")
 endif()
-# ASLR over the whole address space, no execution of data, control-flow enforcement's shadow stack; a .pdb without a
-# folder, and no time of the build; imported libraries from the system directory alone, which Wine does not obey.
+# In this order: ASLR, ASLR over the whole address space, DEP, the CET shadow stack, a .pdb name without a folder, a
+# hash instead of the build time, and imports only from the system directory (a setting that Wine ignores).
 foreach(fact "_DYNAMIC_BASE " "_HIGH_ENTROPY_VA " "_NX_COMPAT " "_EX_CET_COMPAT " "PDBFileName: [^/\\\n]+\n" "Type: Repro "
     "DependentLoadFlags: 0x800\n")
   if(NOT facts MATCHES "${fact}")
-    message(SEND_ERROR "${program} is not marked ${fact}")
+    message(SEND_ERROR "The file ${program} lacks ${fact}")
   endif()
 endforeach()
 
 file(SIZE ${program} size)
 if(size GREATER most_bytes)
-  message(SEND_ERROR "${program} has grown to ${size} bytes")
+  message(SEND_ERROR "${program} has ${size} bytes, more than ${most_bytes}")
 endif()
 
-# A checksum that does not fit is shown next to the right one.
+# If the checksum is wrong, osslsigncode shows the right one too, so there are two.
 execute_process(COMMAND ${osslsigncode} verify ${program} OUTPUT_VARIABLE signature ERROR_QUIET)
 string(REGEX MATCHALL "PE checksum *: [0-9A-F]+" checksums "${signature}")
 list(TRANSFORM checksums REPLACE ".* " "")
 list(REMOVE_DUPLICATES checksums)
 if(NOT checksums MATCHES "^[0-9A-F]+$" OR checksums STREQUAL "00000000")
-  message(SEND_ERROR "${program} has not its checksum in the header: ${checksums}")
+  message(SEND_ERROR "The header of ${program} lacks the right checksum: ${checksums}")
 endif()
 
-# The folder that it was built in is private, and would make it another program elsewhere.
+# The path of the source folder is private, and would make the files differ from those of a build in another folder.
 cmake_path(REPLACE_EXTENSION program LAST_ONLY pdb OUTPUT_VARIABLE pdb)
 foreach(file ${program} ${pdb})
   file(STRINGS ${file} found LIMIT_COUNT 1 REGEX "${source_folder}")
   if(found)
-    message(SEND_ERROR "${file} names the folder where it was built: ${found}")
+    message(SEND_ERROR "${file} contains the path of the source folder: ${found}")
   endif()
 endforeach()
 
-# The manifest's texts, and the version resource's.
+# Texts that the manifest or the version resource must have.
 file(STRINGS ${program} manifest REGEX "asInvoker|{.*}")
 file(STRINGS ${program} version ENCODING UTF-16LE REGEX "[Nn]ame|Copyright")
 foreach(text "level=\"asInvoker\"" "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}" "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"

@@ -4,7 +4,7 @@
 #include "tests/support/testing.h"
 #include "tests/support/throw_away_prefix.h"
 
-TEST_CASE("ScheduleFileReplace: uses the system's list, or WININIT.INI on Windows 9x") {
+TEST_CASE("ScheduleFileReplace: calls MoveFileExW, or on Windows 9x writes WININIT.INI") {
   RequireThrowAwayPrefix();
   const ScratchFolder folder;
   const std::wstring source = folder.Write("new long file.txt", "new");

@@ -11,7 +11,7 @@ TEST_CASE("GetLocalServerPath: returns the file that the class registers") {
   const ScratchFolder folder;
   const WString server = folder.Write("the server.exe", "").c_str();
   const WString filling(261 - server.length(), L'/');
-  // The names of the deleted keys do not come from the code under test.
+  // This test deletes keys. Their names do not come from the library, which is under test.
   const std::wstring classKey = L"CLSID\\{6B2C2B6E-0B62-4C5B-9E0A-2F4B0C1D2E3F}";
   WString path;
   CHECK(GetLocalServerPath(L"kelvo.test", path) == 0x80110411);

@@ -11,7 +11,7 @@ TEST_CASE("GuardedCall: returns whether the action completed") {
   CHECK_FALSE(GuardedCall([] { RaiseException(STATUS_INTEGER_DIVIDE_BY_ZERO, 0, 0, nullptr); }));
 }
 
-TEST_CASE("Owned::Receive, FindFunction: empty the object, accept a null module") {
+TEST_CASE("Owned::Receive: empties the object; FindFunction: accepts a null module") {
   OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   CHECK(*event.Receive() == nullptr);
   SetLastError(ERROR_BAD_EXE_FORMAT);

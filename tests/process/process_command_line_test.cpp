@@ -4,7 +4,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("GetProcessCommandLine: reads at the offsets of an old NT") {
+TEST_CASE("GetProcessCommandLine: on NT before Windows 7, reads the PEB at fixed offsets") {
   static const void* block[6] = {};
   const void* parameters[30] = {};
   block[0x18 / 8] = parameters;

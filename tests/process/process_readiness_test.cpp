@@ -13,8 +13,8 @@ TEST_CASE("StartProcessAndWaitForMutex: ends at the mutex, a WM_CLOSE or the tim
     std::get<9>(std::tuple(given...))->hProcess = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     return isStarted;
   });
-  // Each lookup takes a millisecond. Before lookup `mutexAt` the program makes the mutex, and
-  // before lookup `closeAt` this thread gets a WM_CLOSE.
+  // Each search for the mutex takes a millisecond. Before search number `mutexAt`, the program
+  // creates the mutex. Before search number `closeAt`, this thread gets a WM_CLOSE.
   int lookups = 0, mutexAt = 0, closeAt = 0;
   REPLACE(OpenMutexW, [&](auto, auto, auto, LPCWSTR name) {
     CHECK(name == std::wstring(L"Global\\name"));
@@ -26,7 +26,7 @@ TEST_CASE("StartProcessAndWaitForMutex: ends at the mutex, a WM_CLOSE or the tim
     return lookups == mutexAt ? CreateMutexW(nullptr, FALSE, nullptr) : nullptr;
   });
   const auto wait = [&](bool pumps, DWORD timeoutMs) {
-    // Makes the clock wrap soon.
+    // Makes the tick count wrap to 0 soon.
     now = MAXDWORD - 150;
     lookups = 0;
     return StartProcessAndWaitForMutex(L"program", nullptr, pumps, L"name", timeoutMs);

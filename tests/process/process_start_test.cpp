@@ -7,7 +7,7 @@
 
 static std::string calls;
 
-// Notes each call and lets it through. Then sets a last error that the code must not depend on.
+// Notes each call and passes it on. Then sets a last error, which the code under test must not use.
 #define NOTE(function, note)                           \
   REPLACE(function, [](auto original, auto... given) { \
     calls += note;                                     \
@@ -16,14 +16,14 @@ static std::string calls;
     return result;                                     \
   })
 
-// Notes the use of token 1 (the session's) or 2 (its duplicate); returns false for other tokens.
+// Notes a use of token 1 (the session's) or 2 (its duplicate). Returns false for other tokens.
 static bool NoteIfOurs(const char* note, HANDLE token) {
   const auto number = reinterpret_cast<std::uintptr_t>(token) - 0x7700;
   calls += number == 1 || number == 2 ? note + std::to_string(number) : "";
   return number == 1 || number == 2;
 }
 
-TEST_CASE("RunAsUser, LaunchInUserSession: use the desktop, wait, return the handle as asked") {
+TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0, wait and return the handle if asked") {
   const ScratchFolder folder;
   const std::wstring program = folder / L"a child.exe";
   CopyFileW(ProgramPath(L"test_child.exe").c_str(), program.c_str(), TRUE);
@@ -33,7 +33,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: use the desktop, wait, return the han
   const std::wstring arguments = name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
   const std::wstring command = L"\"" + program + L"\" " + arguments;
   // The caller's station and desktop, and RunAsUser's calls before and after its wait. The first
-  // row calls LaunchInUserSession. The 0 in front of an access mask: no child inherits the handle.
+  // row is for LaunchInUserSession. The 0 before an access mask: no child inherits the handle.
   const std::tuple<const wchar_t*, const wchar_t*, std::string, std::string> places[] = {
       {nullptr, nullptr, "", ""},
       {nullptr, nullptr, "create free ", ""},
@@ -42,7 +42,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: use the desktop, wait, return the han
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  // Opens another station, because RunAsUser changes the DACL and all programs share WinSta0.
+  // Opens another station: RunAsUser changes the DACL of WinSta0, which all programs share.
   REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);
@@ -56,7 +56,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: use the desktop, wait, return the han
   NOTE(CloseDesktop, "close ");
   NOTE(CloseWindowStation, "close ");
   for (const auto& [station, desktop, callsBefore, callsAfter] : places) {
-    // Waits come last: a child that is still running would keep the folder from being removed.
+    // Runs that wait come last: the folder cannot be deleted while a child is still running.
     for (const auto& [waits, takesHandle] :
          {std::pair{false, true}, {false, false}, {true, true}, {true, false}}) {
       INFO(callsBefore, "waits: ", waits, ", takes the handle: ", takesHandle);
@@ -117,7 +117,7 @@ TEST_CASE("IsOnInteractiveDesktop: ignores letter case, unlike RunAsUser") {
   }
 }
 
-TEST_CASE("LaunchInUserSession: chooses the call by Windows version, session, token and desktop") {
+TEST_CASE("LaunchInUserSession: version, session, token and desktop decide which call it makes") {
   // Each simulated call writes its output handle, even if it fails.
   HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   auto* const session = +[]() -> DWORD { return 5; };
@@ -144,7 +144,7 @@ TEST_CASE("LaunchInUserSession: chooses the call by Windows version, session, to
     calls += "caller";
     return fail(given...);
   });
-  // RunAsUser leaves its token open.
+  // No "close2" follows "start2" in the last row, where RunAsUser keeps its token open.
   using Path = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
   for (const auto& [minor, ownSession, hasSession, duplicates, desktop, expected] :
        {Path{1, 5, true, true, nullptr, "close1start2close2"},

@@ -7,7 +7,7 @@
 #include "lib/sysinfo/computer_name.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("EnableShutdownPrivilege: fails if the adjustment sets a last error") {
+TEST_CASE("EnableShutdownPrivilege: fails if AdjustTokenPrivileges sets a last error") {
   for (const DWORD error : {0UL, 1300UL}) {
     REPLACE(AdjustTokenPrivileges, [=](auto...) {
       SetLastError(error);
@@ -18,7 +18,7 @@ TEST_CASE("EnableShutdownPrivilege: fails if the adjustment sets a last error") 
 }
 
 TEST_CASE(
-    "GetActiveConsoleSessionId, QueryUserTokenOfSession: find nothing without the functions") {
+    "GetActiveConsoleSessionId, QueryUserTokenOfSession: return 0 if Windows lacks the exports") {
   const ReplacedExport console("WTSGetActiveConsoleSessionId", nullptr);
   const ReplacedExport query("WTSQueryUserToken", nullptr);
   HANDLE token = INVALID_HANDLE_VALUE;
@@ -26,7 +26,7 @@ TEST_CASE(
   CHECK(!token);
 }
 
-TEST_CASE("GetRemoteClientName: accepts any name except this computer's") {
+TEST_CASE("GetRemoteClientName: accepts any name except an empty one and this computer's") {
   static const wchar_t* clientName = nullptr;
   static int textsOut = 0;
   const ReplacedExport query(

@@ -5,11 +5,11 @@
 #include "lib/registry/registry_write_access.h"
 #include "tests/support/testing.h"
 
-// Each case replaces this key by a StandInKey, so that a mistake cannot delete the user's data.
+// Each test case uses a StandInKey for this key, so that a mistake cannot delete the user's data.
 HKEY const kRoot = HKEY_CURRENT_USER;
 
-TEST_CASE("RegistryCanWrite: tries a write, except without elevation on Windows Vista") {
-  // The major version, elevation, whether a write succeeds; the answer, whether a write is tried.
+TEST_CASE("RegistryCanWrite: tries a write, except without elevation on Windows Vista and later") {
+  // Major version, elevation, whether a write succeeds; expected answer, whether a write is tried.
   const DWORD rows[][5] = {
       {5, 0, 1, 0, 1}, {5, 0, 0, 1, 1}, {6, 1, 1, 0, 1}, {6, 1, 0, 1, 1}, {6, 0, 1, 1, 0}};
   for (const auto& [major, elevated, isWritable, answer, tries] : rows) {
@@ -30,7 +30,7 @@ TEST_CASE("RegistryCanWrite: tries a write, except without elevation on Windows 
   }
 }
 
-TEST_CASE("RegistryDeleteKeyTree: deletes everything below, with and without RegDeleteKeyExW") {
+TEST_CASE("RegistryDeleteKeyTree: deletes a key and its subkeys, with or without RegDeleteKeyExW") {
   const StandInKey user(kRoot);
   const auto remove = [](const wchar_t* name) {
     return RegistryDeleteKeyTree(kRoot, L"key", name);
@@ -59,7 +59,7 @@ TEST_CASE("RegistryDeleteKeyTree: deletes any depth without a deep stack") {
   const std::wstring path = L"key\\tree\\" + std::wstring(254, L'n');
   OwnedRegistryKey deepest;
   REQUIRE(CreateRegistryKey(kRoot, path.c_str(), deepest) == 0);
-  // Windows limits a tree to 512 levels, Wine does not.
+  // Windows limits a tree to 512 levels; Wine does not.
   for (int level = 0; level < 1'600; ++level) {
     OwnedRegistryKey below;
     if (CreateRegistryKey(deepest.get(), L"k", below) != 0) {

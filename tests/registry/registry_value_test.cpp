@@ -5,7 +5,7 @@
 #include "lib/registry/registry_number.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("RegistryReadDword, RegistryReadBinary, RegistryDeleteValue: read back, keep the key") {
+TEST_CASE("RegistryReadDword, RegistryReadBinary: read back; RegistryDeleteValue: keeps the key") {
   HKEY const root = HKEY_CURRENT_USER;
   const StandInKey user(root);
   const wchar_t* const key = L"key";
@@ -33,7 +33,7 @@ TEST_CASE("RegistryReadDword, RegistryReadBinary, RegistryDeleteValue: read back
   for (const std::string& stored : {std::string("\0\xFF\0x", 4), std::string()}) {
     REQUIRE(RegistryWriteBinary(root, key, L"n", stored) == 0);
     CHECK(RegistryReadBinary(root, key, L"n", bytes) == 0);
-    CHECK(bytes == std::string("\0\xFF\0x", 4));  // an empty value changes nothing
+    CHECK(bytes == std::string("\0\xFF\0x", 4));  // an empty value leaves `bytes` unchanged
     CHECK(RegistryReadDword(root, key, L"n", 7) == 7);
   }
   CHECK_BOTH(RegistryValueExists(root, key, L"n"), RegistryDeleteValue(root, key, L"n") == 0);

@@ -4,7 +4,7 @@
 #include "tests/support/testing.h"
 
 TEST_CASE(
-    "EnableRegistryReflection, GetRegistryViewAccess: return Windows' result, a view's flag") {
+    "EnableRegistryReflection: returns Windows' result; GetRegistryViewAccess: returns a flag") {
   const auto succeed = +[](HKEY key) { return key == HKEY_USERS ? 0L : 6L; };
   const auto fail = +[](HKEY) { return 5L; };
   for (const auto function : {succeed, fail, decltype(fail){}}) {

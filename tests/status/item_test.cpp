@@ -13,7 +13,7 @@
 #include "tests/support/testing.h"
 #include "tool/dependent_applications.h"
 
-TEST_CASE("QueryApplications: reports a list, and any other value in its place") {
+TEST_CASE("QueryApplications: reports the list, or why sorrel.exe treats the value as empty") {
   struct Row {
     DWORD type;
     std::wstring stored;
@@ -47,7 +47,7 @@ TEST_CASE("QueryApplications: reports a list, and any other value in its place")
   }
 }
 
-TEST_CASE("IsPublishedName: accepts oem, a number and .inf") {
+TEST_CASE("IsPublishedName: accepts only oemNUMBER.inf") {
   CHECK_BOTH(IsPublishedName(L"oem0.inf"), IsPublishedName(L"OEM123.INF"));
   for (const wchar_t* const name : {L"oem.inf", L"oem1.info", L"oem1", L"oem", L"", L"oe1.inf",
                                     L"oem1x.inf", L"xem1.inf", L"oem1.inf.inf"}) {
@@ -55,7 +55,7 @@ TEST_CASE("IsPublishedName: accepts oem, a number and .inf") {
   }
 }
 
-TEST_CASE("QueryService: counts a device unless it certainly belongs to a remote device") {
+TEST_CASE("QueryService: counts a device node unless it clearly belongs to a remote device") {
   const std::wstring id = L"BTHENUM\\{3abb9028-beae-4bf1-acd7-5cd7d5e4e0ca}";
   struct Row {
     std::wstring ids, instanceId;
@@ -99,7 +99,7 @@ TEST_CASE("QueryService: counts a device unless it certainly belongs to a remote
       +[](HDEVINFO, PSP_DEVINFO_DATA, DWORD property, PDWORD, PBYTE out, DWORD size,
           PDWORD needed) -> BOOL {
         CHECK(property == SPDRP_HARDWAREID);
-        // Drivers may forget the terminators.
+        // Returns no terminators, since drivers may forget them.
         const auto bytes = static_cast<DWORD>(row.ids.length() * sizeof(wchar_t));
         if (out == nullptr) {
           return *needed = bytes, FALSE;
@@ -132,7 +132,7 @@ struct Conditions {
   bool hasMemory = true;
 };
 
-// Runs the program with an option and its value.
+// Calls AnswerCommandLine with an option and its value (or null), under the given conditions.
 static int Run(const wchar_t* option, const wchar_t* value, const Conditions& conditions = {}) {
   const wchar_t* const arguments[] = {L"sorrel_status.exe", option, value};
   bool hasMemory = true;
@@ -157,12 +157,12 @@ TEST_CASE("AnswerCommandLine: returns 3 if standard output exists but cannot be 
   CHECK(Run(L"--help", nullptr, {GetCurrentThread(), FALSE}) == 3);
 }
 
-TEST_CASE("AnswerCommandLine: returns 3 without memory, and standard error says why") {
+TEST_CASE("AnswerCommandLine: returns 3 without memory, and writes why to standard error") {
   CHECK(Run(L"--version", nullptr, {GetCurrentThread(), TRUE, false}) == 3);
   CHECK(std::string(written) == "sorrel_status: not enough memory\r\n");
 }
 
-TEST_CASE("AnswerCommandLine: names Windows 10, reads any number of groups and the elevation") {
+TEST_CASE("AnswerCommandLine: names Windows 10, searches all 200 groups, reads the elevation") {
   constexpr DWORD kCount = 200;
   struct {
     TOKEN_GROUPS first;
@@ -187,7 +187,7 @@ TEST_CASE("AnswerCommandLine: names Windows 10, reads any number of groups and t
   const auto windows10 = PretendWindows(VER_PLATFORM_WIN32_NT, 10, 0);
   Run(L"--json", nullptr);
   CHECK(std::strstr(written, "\"administrator\": false"));
-  // Simulates a filtered token, in which the group only denies access.
+  // Simulates a filtered token, in which the Administrators group only denies access.
   token.others[kCount - 2] = {administrators, SE_GROUP_USE_FOR_DENY_ONLY};
   Run(L"--json", nullptr);
   CHECK(std::strstr(written, "\"administrator\": true"));

@@ -17,9 +17,9 @@ static std::wstring FromUtf8(const std::string& text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
 
-// Cleans the machine and makes a new folder the current one. The folder has certificates, INF
-// files, sorrel_status.exe and the simulator's libraries. Its subfolder "versioned" has another
-// sorrel_status.exe, with a difxapi.dll that has a version (a copy of sorrel.exe).
+// Cleans the machine, creates a folder and makes it current. The folder has certificates, INF
+// files, both programs and the simulator's libraries. Its subfolder "versioned" has a second
+// sorrel_status.exe, and a difxapi.dll with a version resource: a copy of sorrel.exe.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -60,7 +60,7 @@ struct Machine : ProgramFolder {
   static inline OwnedFile locked;
 };
 
-// The changes to the machine. A line of lifecycle.txt that starts with "* " says which one to make.
+// Changes to the machine, each with the line of lifecycle.txt at which the test makes the change.
 static const std::map<std::string, std::function<void()>> kChanges = {
     {"* Tessalin.inf is published as oem8.inf, incomplete.inf as oem9.inf; oem7.inf is a folder",
      [] {
@@ -83,8 +83,8 @@ static std::string ShownOnPage(const std::string& kind) {
   return Replaced(page.substr(from, page.find("```", from) - from), "\n", "\r\n");
 }
 
-// Checks that the JSON form is ASCII and says what the text form says, and that the administrators'
-// page lists its keys.
+// Checks that the JSON form is ASCII and has the values of the text form, and that the
+// administrators' page lists every JSON key.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;
   const Json report = Json::parse(json.output);
@@ -102,15 +102,14 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
                                 : value.is_string()
                                     ? ToVisibleUtf8(FromUtf8(value.get<std::string>()))
                                     : "";
-      // The text form words the values of these two keys differently.
+      // For these two keys, the text form has other words than the JSON form.
       CHECK((key == "item" || key == "list" || line.find(shown) != std::string::npos));
     }
   }
 }
 
 TEST_CASE(
-    "sorrel_status.exe: reports as in lifecycle.txt, in both forms, and runs no simulated "
-    "library") {
+    "sorrel_status.exe: text and JSON reports match lifecycle.txt, and no simulated library runs") {
   const Machine machine;
   std::istringstream lifecycle(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
   std::string seen;
@@ -143,8 +142,7 @@ TEST_CASE(
 }
 
 TEST_CASE(
-    "sorrel_status.exe: for a wrong command line, writes the usage to standard error, exits with "
-    "2") {
+    "sorrel_status.exe: for a wrong command line, writes the usage to standard error, returns 2") {
   const Machine machine;
   const ChildResult run = ProgramFolder::Run(L"sorrel_status.exe --json --nothing");
   CHECK_BOTH(run.exitCode == 2, run.output == "");
@@ -155,7 +153,7 @@ TEST_CASE(
   CHECK(run.errors == "Option 'nothing' does not exist\r\n\r\n" + help.output);
 }
 
-TEST_CASE("sorrel_status.exe: a certificate expires after its last moment") {
+TEST_CASE("sorrel_status.exe: reports a certificate as expired only after its last valid moment") {
   const Machine machine;
   constexpr DWORD kLast = 0xA9CF5280;
   REPLACE(CryptQueryObject, [](auto original, auto... given) {

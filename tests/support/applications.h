@@ -29,7 +29,7 @@ inline std::string Replaced(const std::string& text, const std::string& pattern,
   return std::regex_replace(text, std::regex(pattern), by);
 }
 
-// Replaces the texts in a report of sorrel_status.exe that differ from run to run by names.
+// Replaces parts of a sorrel_status.exe report that vary by run with placeholders such as TIME.
 inline std::string Named(std::string report) {
   report = Replaced(report, "[0-9A-F]{40}", "THUMBPRINT");
   report = Replaced(report, "\\d{4}-[-0-9T:]{14}Z", "TIME");
@@ -40,7 +40,7 @@ inline std::string Named(std::string report) {
 // The folder in which Windows publishes the INF files of the driver store.
 inline const std::wstring kInfFolder = L"C:\\windows\\inf\\";
 
-// Removes recorded applications and certificates in both stores when constructed and destroyed.
+// Removes the list of applications and all test certificates, when constructed and when destroyed.
 struct CleanMachine {
   CleanMachine() { Clear(); }
   CleanMachine(const CleanMachine&) = delete;
@@ -52,9 +52,9 @@ struct CleanMachine {
   }
 };
 
-// Makes a folder with sorrel.exe, the simulator's libraries and certificates on a clean machine. It
-// is the current folder until this object is destroyed. `further` lists other files to copy: the
-// path in this program's folder, then the path in the new folder.
+// Cleans the machine. Creates a folder with certificates, sorrel.exe and the simulator's libraries.
+// This folder is the current one until this object is destroyed. `further` lists more files to
+// copy, each with its path in this program's folder and its path in the new folder.
 struct ProgramFolder : CleanMachine, ScratchFolder {
   ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {
     for (const wchar_t* const file :

@@ -6,10 +6,10 @@
 
 namespace kelvo::test {
 
-// Converts each unit to a byte. A unit outside ASCII keeps only its low byte.
+// Converts each UTF-16 code unit to a byte: its low byte if the unit is not ASCII.
 inline std::string Ascii(std::wstring_view text) {
-  // A std::string made of wide iterators would narrow inside the standard library, where no cast is
-  // possible.
+  // Does not construct the string from wide iterators: the standard library would then narrow
+  // without a cast, and the compiler would warn.
   std::string bytes(text.size(), '\0');
   std::ranges::transform(text, bytes.begin(), [](wchar_t unit) { return static_cast<char>(unit); });
   return bytes;

@@ -15,9 +15,9 @@ struct ChildResult {
   std::string output, errors;
 };
 
-// Runs a command line to its end. Returns the exit code and the output, byte for byte. If `program`
-// is given, runs that path instead of the first argument, which Windows would search for in this
-// test program's folder before the current folder. The child's output handles have `access`.
+// Runs a command line, waits for its end, and returns the exit code and all output bytes. Runs the
+// file `program` if given. Otherwise Windows searches for the first argument, in this test
+// program's folder first. `access` is the access mask of the child's output handles.
 inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = nullptr,
                             DWORD access = GENERIC_WRITE) {
   const ScratchFolder folder;
@@ -34,7 +34,7 @@ inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = n
   startup.hStdOutput = output.get();
   startup.hStdError = errors.get();
   PROCESS_INFORMATION started{};
-  // Under load a start sometimes fails on Wine, with ERROR_INTERNAL_ERROR.
+  // Retries: under load, Wine sometimes fails to start a process (ERROR_INTERNAL_ERROR).
   for (DWORD pause = 0; CreateProcessW(program, commandLine.data(), nullptr, nullptr, TRUE, 0,
                                        nullptr, nullptr, &startup, &started) == FALSE;
        Sleep(pause += 50)) {

@@ -8,18 +8,18 @@
 
 namespace kelvo::test {
 
-// The error of every call that is made to fail.
+// The error code with which a call fails.
 constexpr DWORD kFailure = 1234;
 
-// A function whose calls can be made to fail. `run(nth, throws, action)` runs `action` and makes
-// the nth call to the function fail or throw. Returns whether there was an nth call.
+// A function that a test can make fail. `run(nth, throws, action)` runs `action`, in which the nth
+// call of the function fails, or throws if `throws` is true. It returns whether that call was made.
 struct FailingCall {
   const char* function;
   bool (*run)(int nth, bool throws, const std::function<void()>& action);
 };
 
-// Rows of a table. A function reports failure by a null or FALSE result and the last error, or it
-// returns the error:
+// Rows of a table. SETS_LAST_ERROR is for a function that returns null or FALSE and sets the last
+// error when it fails. RETURNS_ERROR is for a function that returns the error code:
 //   constexpr FailingCall kFailing[] = {SETS_LAST_ERROR(GetAce), RETURNS_ERROR(GetSecurityInfo)};
 #define SETS_LAST_ERROR(called) KELVO_FAILING_CALL(called, SetLastError(kFailure), 0)
 #define RETURNS_ERROR(called) KELVO_FAILING_CALL(called, void(), kFailure)

@@ -14,7 +14,7 @@ namespace kelvo::test {
 
 // A new folder, deleted with all its contents when this object is destroyed.
 struct ScratchFolder {
-  // Takes the next free number: other tests, and tests that crashed, leave folders.
+  // Skips the numbers of existing folders, which belong to running or crashed tests.
   ScratchFolder() {
     do {
       path = std::filesystem::temp_directory_path() / (L"kelvo test " + std::to_wstring(++made));
@@ -44,15 +44,15 @@ inline std::string ReadBytes(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// Returns the path of one of the project's programs, which are all in one folder.
+// Returns the path of a file in this test program's folder, which has all programs and test files.
 inline std::wstring ProgramPath(const std::wstring& name) {
   std::wstring self(32768, L'\0');
   GetModuleFileNameW(nullptr, self.data(), 32768);
   return std::filesystem::path(self.c_str()).replace_filename(name);
 }
 
-// Compares `seen` byte by byte with a file that the test lists under EXPECTED. If they differ,
-// shows the first difference and writes `seen` to FILE.seen, in the folder of that file's copy.
+// Compares `seen` byte by byte with a file that kelvo_add_test got as EXPECTED. If they differ,
+// shows the first difference and writes `seen` to FILE.seen, next to the file's copy in the build.
 inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);
   const std::string expected = ReadBytes(path);

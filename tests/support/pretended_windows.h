@@ -6,7 +6,7 @@
 
 namespace kelvo::test {
 
-// Makes GetVersionExW report this Windows, build 1381, until the returned object is destroyed:
+// Makes GetVersionExW report this version, with build 1381, until the returned object is destroyed:
 //   const auto vista = PretendWindows(VER_PLATFORM_WIN32_NT, 6, 0);
 inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
                            const wchar_t* servicePack = L"") {
@@ -14,7 +14,7 @@ inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
     const DWORD size = record->dwOSVersionInfoSize;
     *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
     lstrcpyW(record->szCSDVersion, servicePack);
-    // NT 4.0 does not support the extended record.
+    // NT 4.0 accepts only the shorter structure, OSVERSIONINFOW.
     return major != 4 || size == sizeof(*record);
   };
   return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", report);

@@ -12,8 +12,8 @@
 //
 // Replaces an imported function by a lambda that takes the original function and the arguments:
 //   REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
-// Replaces a result of GetProcAddress by a function of the same type, or by null to simulate a
-// Windows without it:
+// Replaces the function that GetProcAddress finds by another function of the same type. Null
+// simulates a Windows that lacks the function:
 //   const ReplacedExport native("GetNativeSystemInfo", nullptr);
 
 namespace kelvo::test {
@@ -29,7 +29,7 @@ void VisitImports(HMODULE module, Visit visit) {
       image + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
   for (; library->Name != 0; ++library) {
     for (DWORD at = 0;; at += sizeof(ULONG_PTR)) {
-      // Copies pointers in and out, because mingw's import libraries align them at only 4 bytes.
+      // Copies pointers with memcpy: mingw's import libraries align them to only 4 bytes.
       ULONG_PTR name = 0;
       std::memcpy(&name, image + library->OriginalFirstThunk + at, sizeof(name));
       if (name == 0) {
@@ -63,8 +63,8 @@ inline void* SwapImport(const std::string& function, void* target,
                              : throw std::runtime_error("this module does not import " + function);
 }
 
-// Calls `replacement` in place of an imported function until this object is destroyed. Passes it
-// the original function and then the arguments of the call.
+// Calls `replacement` in place of an imported function until this object is destroyed. The
+// arguments of `replacement` are the original function and then the arguments of the call.
 template <typename Function, typename Replacement>
 struct ReplacedImport;
 
@@ -100,15 +100,15 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
   const auto replaced##function = \
       ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)
 
-// Counts the calls of an imported function and lets them through.
+// Counts the calls of an imported function. Each call still reaches the original function.
 #define COUNT_CALLS(function, count)                         \
   REPLACE(function, [&](auto original, auto... parameters) { \
     ++(count);                                               \
     return original(parameters...);                          \
   })
 
-// Makes GetProcAddress return `function` for the export `name` of any module until this object is
-// destroyed. Null simulates a Windows that lacks the export.
+// Until this object is destroyed, makes GetProcAddress return `function` for the name `exported`,
+// in any module. Null simulates a Windows that lacks the export.
 struct ReplacedExport {
   ReplacedExport(const char* exported, void* function) : name(exported) {
     replaced[name] = reinterpret_cast<FARPROC>(function);

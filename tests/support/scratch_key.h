@@ -12,8 +12,8 @@ namespace kelvo::test {
 // The path of a registry key below HKEY_CURRENT_USER that does not exist at first. The key is
 // deleted with everything below it when this object is destroyed.
 //
-// The library neither makes the name nor deletes the key, because it is under test: with an empty
-// name, the deleted tree would be the user's whole registry.
+// Neither the name nor the deletion comes from the library, which is under test: if a bug in it
+// made the name empty, the user's whole registry would be deleted.
 struct ScratchKey : std::wstring {
   ScratchKey()
       : std::wstring(L"Software\\kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " +
@@ -24,8 +24,8 @@ struct ScratchKey : std::wstring {
   static inline int made = 0;
 };
 
-// Stores `units`, without their last `cutBytes` bytes, as a value. Puts "#" after them, because
-// Windows would store a NUL that it finds there.
+// Stores `units`, without their last `cutBytes` bytes, as a value. In memory, puts "#" after the
+// units: Windows would also store a NUL that it finds after the given bytes.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);
@@ -33,8 +33,8 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
   REQUIRE(RegSetKeyValueW(root, subkey, name, type, units.data(), size) == ERROR_SUCCESS);
 }
 
-// Replaces one of Windows' predefined keys by `key`, which is empty at first, until this object is
-// destroyed. Tests write and delete through `key`, never through the predefined key.
+// Until this object is destroyed, makes Windows use `key`, which is empty at first, in place of a
+// predefined key such as HKEY_CURRENT_USER. Writing or deleting there changes only `key`.
 struct StandInKey {
   explicit StandInKey(HKEY replaced) : predefined(replaced) {
     HKEY created = nullptr;

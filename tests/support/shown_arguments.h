@@ -10,12 +10,12 @@
 
 namespace kelvo::test {
 
-// Returns what a test can compare: a number, a constant string without its folder, or a few fields
-// of a record. For other pointers and handles, returns whether they are null.
+// Returns an argument as text for comparison: a number, a constant string (a full path without its
+// folder), or a few fields of a structure. Other pointers give "0" if null, otherwise "given".
 template <typename Argument>
 std::string Shown(Argument argument) {
   if constexpr (std::is_same_v<Argument, SIZE_T>) {
-    return "size";  // such as that of a token's groups, which differs between machines
+    return "size";  // a size, such as that of a token's groups, differs between machines
   } else if constexpr (std::is_integral_v<Argument> || std::is_enum_v<Argument>) {
     return std::to_string(static_cast<long long>(argument));
   } else if constexpr (std::is_same_v<Argument, LPCSTR> || std::is_same_v<Argument, LPCWSTR>) {

@@ -20,7 +20,7 @@
 #include "tests/support/replaced_import.h"
 #include "tests/support/scratch_key.h"
 
-// Checks two related facts. A failure shows which of them is false.
+// Checks two related conditions. A failure shows which of them is false.
 #define CHECK_BOTH(first, second) \
   CHECK(first);                   \
   CHECK(second)

@@ -6,9 +6,9 @@
 
 namespace kelvo::test {
 
-// Ends this program unless it runs in a throw-away Wine prefix, which scripts/wine marks. Tests
-// that change HKEY_LOCAL_MACHINE, a certificate store, Windows' folder or WinSta0 call this first,
-// because a person may start any test program on a computer that matters.
+// Ends this program unless it runs in a throw-away Wine prefix, which scripts/wine marks with a
+// file. Tests that change HKEY_LOCAL_MACHINE, a certificate store, Windows' folder or WinSta0 call
+// this first, in case somebody starts the test program on a real computer.
 inline void RequireThrowAwayPrefix() {
   static const bool isThrownAway =
       GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr &&

@@ -5,10 +5,10 @@
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// Cleans the machine and makes a new folder the current one, with certificates and these programs:
-//   sorrel.exe, with the simulator's libraries
-//   alone\sorrel.exe, without them
-//   swapped\sorrel.exe, with their names swapped, so that each lacks the expected functions
+// Cleans the machine, creates a folder with certificates and these programs, and makes it current:
+//   sorrel.exe, with the simulator's two libraries
+//   alone\sorrel.exe, without these libraries
+//   swapped\sorrel.exe, with the libraries' names swapped: each lacks the expected functions
 //   without_security.exe and without_crypt32.exe, copies of sorrel.exe for which Wine loads no
 //   security.dll or no crypt32.dll
 struct Rehearsal : ProgramFolder {
@@ -25,14 +25,14 @@ struct Rehearsal : ProgramFolder {
       RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), library.c_str(), REG_SZ, L"", 2);
     }
     Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
-    // Avoids a file of 0 bytes, for which Wine 8 would import data from its stack.
+    // Avoids a file of 0 bytes, for which Wine 8 would import uninitialised data from its stack.
     Write("empty.cer", "\n");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
 
-  // Runs a command line, for which NAME=value in front of the program sets an environment variable.
+  // Runs a command line. NAME=value before the program sets an environment variable for this run.
   // Returns the output, the exit code, the list of applications, the certificates in each store,
-  // and the journal.
+  // and the simulator's journal.
   static std::string Run(std::wstring line) {
     std::filesystem::remove("journal");
     std::vector<std::wstring> variables;
@@ -56,7 +56,7 @@ struct Rehearsal : ProgramFolder {
 
 TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt") {
   const Rehearsal machine;
-  // Accepts the line ends of any editor.
+  // Accepts CRLF and LF, whichever the editor has written.
   std::string bytes = ReadBytes(ProgramPath(L"expected\\transcript.txt"));
   std::erase(bytes, '\r');
   std::istringstream transcript(bytes);
@@ -121,7 +121,7 @@ TEST_CASE("register: adds to a stored list, replaces any other value") {
     Rehearsal::Run(L"LATER=b sorrel.exe register kite");
     CHECK(Applications() == list);
   }
-  // sorrel.exe writes each unit of a name as one byte: a question mark if it does not fit.
+  // sorrel.exe writes each UTF-16 unit of a name as one byte, and "?" if a unit does not fit.
   CHECK(Rehearsal::Run(L"sorrel.exe unregister KITE")
             .starts_with("OK: Dependant applications exist: ?ofie \xFF??\r\n"));
 }

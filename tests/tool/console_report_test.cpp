@@ -6,7 +6,7 @@
 TEST_CASE("FormatSystemMessage: returns the whole text, or none if the call fails") {
   DWORD answer = 0;
   REPLACE(FormatMessageW, [&](auto, auto, auto, auto, auto, LPWSTR buffer, auto, auto) {
-    // A failing call also leaves this behind.
+    // Writes a text even when the call fails.
     lstrcpyW(buffer, L"half a text");
     return answer;
   });

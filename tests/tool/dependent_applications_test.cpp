@@ -2,11 +2,11 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("ListWithApplication, ListWithoutApplication: find a name, also in another case") {
+TEST_CASE("ListWithApplication: is case-sensitive; ListWithoutApplication: ignores letter case") {
   struct Row {
     WString list, name, result;
   };
-  // "-" means that nothing is written.
+  // "-" means that there is no new list to write.
   const Row added[] = {{L"", L"brindle", L"brindle"}, {L"brindle", L"rind", L"-"},
                        {L"brindle", L"", L"-"},       {L"", L"", L"-"},
                        {L"a", L"A", L"a;A"},          {L"a;;b;", L"c", L"a;;b;;c"},

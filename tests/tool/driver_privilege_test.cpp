@@ -3,7 +3,7 @@
 #include "tests/support/shown_arguments.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("EnableLoadDriverPrivilege: depends on the last error after the adjustment") {
+TEST_CASE("EnableLoadDriverPrivilege: fails if AdjustTokenPrivileges sets a last error") {
   struct Row {
     DWORD error;
     bool isEnabled;

@@ -3,7 +3,7 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("NarrowLibrarySearch: searches only the program's folder and the system's") {
+TEST_CASE("NarrowLibrarySearch: keeps program and system folders, or only drops the current one") {
   static DWORD directories;
   static BOOL isSupported;
   const auto set = +[](DWORD given) { return directories = given, isSupported; };
