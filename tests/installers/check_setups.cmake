@@ -33,10 +33,14 @@ endif()
 
 # Settings that build.sh refuses, because the package would not be the intended one.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
-expect(2 "see uuidgen" ${msi} PRODUCT=Kite)
+foreach(changed UPGRADE_CODE COMPONENT)
+  expect(2 "see uuidgen" ${msi} PRODUCT=Kite ${changed}=0b9e8a52-5a35-4c5c-8e5f-8b8ad9b5b0a1)
+endforeach()
 expect(2 "these names" ${msi} PRODUKT=Kite)
-foreach(build nsis msi)
-  expect(2 "such a character" ${${build}} APPLICATION=a%b)
+foreach(character ' $ % & < > | ^ ! / "\\" "\"" "\;")
+  foreach(build nsis msi)
+    expect(2 "such a character" ${${build}} "APPLICATION=a${character}b")
+  endforeach()
 endforeach()
 
 # The property Log names the log that run_sorrel.cmd writes: the last action of an installation reads that log.
@@ -44,7 +48,7 @@ expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi"
 
 # The package's actions that change the computer run as SYSTEM: their types include 2048. The old version is removed
 # within the transaction (at 1501), so that it is restored if an upgrade fails.
-foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\t" "InstallInitialize\t\t1500\n"
+foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\tsorrel\tuninstall none \"brindle\"\t" "InstallInitialize\t\t1500\n"
     "RemoveExistingProducts\t\t1501\n" "ReleaseService\tREMOVE=\"ALL\" AND NOT UPGRADINGPRODUCTCODE\t3400\n"
     "UndoPrepareService\tNOT Installed AND NOT WIX_UPGRADE_DETECTED\t4002\n")
   expect(0 "\n${row}" sh -c "(msiinfo export $0 CustomAction && msiinfo export $0 InstallExecuteSequence) | tr -d '\\r'"
@@ -55,7 +59,7 @@ endforeach()
 # message box that has no default answer (/SD). A user who starts a repair must not see a console that runs as SYSTEM.
 file(GLOB_RECURSE samples ${source_folder}/installers/*)
 foreach(sample ${samples})
-  file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|MessageBox [^/]*$|\"CustomActionData\"., [^0]")
+  file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|[\"=]cmd|MessageBox [^/]*$|\"CustomActionData\"., [^0]")
   if(wrong)
     message(SEND_ERROR "${sample} starts cmd.exe without /d, asks in a silent setup, or shows a console: ${wrong}")
   endif()

@@ -1,3 +1,4 @@
+#include <set>
 #include <sstream>
 
 #include "lib/string/utf8.h"
@@ -46,13 +47,40 @@ static const bool isStandIn = [] {
   ExitProcess(code);
 }();
 
-// Returns the entries in "Apps". Sets %QUIET% to the last entry's command for a silent removal.
+// Simulates a person who presses "OK" or "Cancel", whatever is enabled, in every window of a setup.
+// Writes the window's title and its message, or else the button's text, to kStandIns.
+[[noreturn]] static DWORD WINAPI PressButtons(void*) {
+  for (;; Sleep(20)) {
+    for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr;) {
+      for (const int id : {IDOK, IDCANCEL}) {
+        const HWND button = GetDlgItem(box, id);
+        if (!IsWindowEnabled(box) || !IsWindowVisible(button) || !IsWindowEnabled(button)) {
+          continue;
+        }
+        // Waits until the program has finished what enabled the button, such as a new title.
+        SendMessageTimeoutW(box, WM_NULL, 0, 0, 0, 5000, nullptr);
+        const HWND message = GetDlgItem(box, 0xFFFF);
+        wchar_t title[256];
+        wchar_t text[1024];
+        GetWindowTextW(box, title, 256);
+        GetWindowTextW(message != nullptr ? message : button, text, 1024);
+        std::ofstream(std::filesystem::path(kStandIns), std::ios::app | std::ios::binary)
+            << "  " << ToUtf8(title) << ": " << Replaced(ToUtf8(text), "\r?\n", " / ") << "\n";
+        SendMessageTimeoutW(button, BM_CLICK, 0, 0, 0, 5000, nullptr);
+        break;
+      }
+    }
+  }
+}
+
+// Returns the entries in "Apps", sorted. Sets %QUIET% to the last entry's command for a silent
+// removal.
 static std::wstring Apps() {
   HKEY key = nullptr;
   RegCreateKeyW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
                 &key);
   const OwnedRegistryKey owned(key);
-  std::wstring apps;
+  std::set<std::pair<std::wstring, std::wstring>> apps;
   wchar_t name[256];
   for (DWORD i = 0; RegEnumKeyW(key, i, name, 256) == ERROR_SUCCESS; ++i) {
     const auto value = [&](const wchar_t* of) {
@@ -61,11 +89,17 @@ static std::wstring Apps() {
       RegGetValueW(key, name, of, RRF_RT_REG_SZ, nullptr, text, &size);
       return std::wstring(text);
     };
-    apps += L" " + value(L"DisplayName") + L" " + value(L"DisplayVersion") + L" by " +
-            value(L"Publisher");
-    SetEnvironmentVariableW(L"QUIET", value(L"QuietUninstallString").c_str());
+    apps.emplace(L" " + value(L"DisplayName") + L" " + value(L"DisplayVersion") + L" by " +
+                     value(L"Publisher") +
+                     (value(L"UninstallString").starts_with(L"C:") ? L" unquoted" : L""),
+                 value(L"QuietUninstallString"));
   }
-  return apps;
+  std::wstring all;
+  for (const auto& [app, quiet] : apps) {
+    all += app;
+    SetEnvironmentVariableW(L"QUIET", quiet.c_str());
+  }
+  return all;
 }
 
 static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
@@ -73,7 +107,8 @@ static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
                                                   L"C:\\Program Files\\M\u00F6we Kit"};
 
 // Returns the list of applications, a letter for each trusted certificate (P: publisher, I:
-// intermediate), the number of files in each product's folder, and the entries in "Apps".
+// intermediate), the number of files in each product's folder, the entries in "Apps", and the files
+// that are not logs in the folder of the logs.
 static std::string State() {
   std::wstring state = Applications() + L" | " +
                        (SubjectsInStore(L"TrustedPublisher").empty() ? L"" : L"P") +
@@ -85,13 +120,19 @@ static std::string State() {
                std::to_wstring(std::distance(begin(files), end(files)));
     }
   }
-  return "  " + ToUtf8(state + L" |" + Apps()) + "\n";
+  state += L" |" + Apps();
+  for (const auto& file : std::filesystem::directory_iterator(kLogs)) {
+    state += file.path().extension() == ".log" ? L"" : L" | " + file.path().filename().wstring();
+  }
+  return "  " + ToUtf8(state) + "\n";
 }
 
 static void Reset() {
   RegSetKeyValueW(HKEY_LOCAL_MACHINE, ServiceParametersKey, L"applications", REG_SZ, L"kite", 10);
   RemoveTestCertificates();
   std::filesystem::remove(kPublishedInf);
+  std::filesystem::remove_all(kLogs);
+  std::filesystem::create_directories(kLogs);
 }
 
 static std::wstring Expand(const std::wstring& text) {
@@ -129,13 +170,14 @@ static std::wstring Rule() {
 
 // Prepares the folders, programs and variables that lifecycles.txt uses.
 static void PutInPlace(const ScratchFolder& scratch) {
-  std::filesystem::remove_all(kLogs);
-  std::filesystem::create_directories(kLogs);
   for (const std::filesystem::path& folder : kProducts) {
     std::filesystem::remove_all(folder);
   }
+  std::filesystem::remove_all(L"C:\\windows\\sysnative");
+  // Lets programs have windows without a display.
+  RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", L"Graphics", REG_SZ, L"null", 10);
   const std::wstring installers = ProgramPath(L"installers\\");
-  std::filesystem::copy(installers + L"good\\files", scratch / L"A & \u017D");
+  std::filesystem::copy(installers + L"good\\files", scratch / L"A & \u017D!");
   std::filesystem::copy(installers + L"bad\\files", scratch / L"newer");
   for (const auto& [name, source] : {std::pair(L"pnputil.exe", L"installers_tests.exe"),
                                      {L"certutil.exe", L"installers_tests.exe"},
@@ -152,7 +194,7 @@ static void PutInPlace(const ScratchFolder& scratch) {
         {L"GOOD", installers + L"good"},
         {L"BAD", installers + L"bad"},
         {L"OTHER", installers + L"f\u00FCr andere"},
-        {L"FROM", scratch / L"A & \u017D"},
+        {L"FROM", scratch / L"A & \u017D!"},
         {L"FOLDER", L"C:\\Program Files\\\u017Dlu\u0165 & Co"},
         {L"NEWER", scratch / L"newer"},
         {L"EVENTS", L"1,0,ERR: Reboot required by none|1,0," + std::wstring(1002, L'x') +
@@ -168,6 +210,7 @@ TEST_CASE("deploy.cmd, remove_all.cmd, setups: lifecycles match lifecycles.txt")
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
   PutInPlace(scratch);
+  CloseHandle(CreateThread(nullptr, 0, PressButtons, nullptr, 0, nullptr));
   std::istringstream lines(ReadBytes(ProgramPath(L"expected\\lifecycles.txt")));
   std::string seen;
   std::string before;
