@@ -12,20 +12,19 @@ namespace kelvo {
 namespace {
 
 constexpr const char* kNotes = R"(
-Without options: everything that needs no file. That is the list of
-applications, the number of certificates in each store, bthprops.cpl,
-difxapi.dll and Windows itself. No driver package, device or certificate of
-the service is checked.
+Without options, reports the list of applications, the number of certificates
+in each store, bthprops.cpl, difxapi.dll and Windows itself, but checks no
+driver package, no device and no certificate of the service.
 
-With --service: devices that Windows made for paired remote devices do not
-count. Windows removes the service's device while the radio is off or unplugged,
-and may add it a moment after the registration: "absent" then proves nothing.
-None of this has been seen on a real radio yet.
+With --service, ignores the devices that Windows makes for paired remote
+devices. Windows removes the service's device while the radio is off or
+unplugged, and may add it only some time after the registration: in these
+cases "absent" proves nothing. None of this has been seen on a real radio yet.
 
-Exit code: 0 everything asked for is present, 1 something is absent, 2 wrong
-command line, 3 something could not be checked (even if something is absent)
-or not all of the report could be written. A program that is started without a
-standard output answers by its exit code alone.
+Exit code: 0 if everything asked for is present, 1 if something is absent, 2 if
+the command line is wrong, 3 if something could not be checked (even if
+something is absent) or the report could not be written completely. A program
+that is started without a standard output only returns the exit code.
 )";
 
 // Encodes an argument for the parser, which takes bytes. A UTF-16 unit outside ASCII becomes three
