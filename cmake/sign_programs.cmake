@@ -1,4 +1,4 @@
-# Signs the programs if scripts/package has set these environment variables. CPack runs this script before it packs.
+# Signs the programs if scripts/package has set SORREL_SIGN_CERTIFICATE. CPack runs this script before it packs.
 
 if(NOT DEFINED ENV{SORREL_SIGN_CERTIFICATE})
   return()
@@ -10,7 +10,7 @@ endif()
 if(DEFINED ENV{SORREL_SIGN_TIME_SERVER})
   list(APPEND options -ts $ENV{SORREL_SIGN_TIME_SERVER})
 else()
-  message(WARNING "Without a time server, the signatures are valid only until the certificate expires.")
+  message(WARNING "Without a timestamp server, the signatures are valid only until the certificate expires.")
 endif()
 
 file(GLOB_RECURSE programs ${CPACK_TEMPORARY_DIRECTORY}/tool/*.exe)

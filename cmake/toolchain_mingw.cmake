@@ -10,9 +10,9 @@ set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_AR llvm-ar-19)
 set(CMAKE_RANLIB llvm-ranlib-19)
 
-# Pretends that x86intrin.h is included already. Its vector functions are half of the code that mingw's windows.h
-# includes: with them, compiling and clang-tidy take twice as long. A project that uses vector functions must remove
-# these definitions.
+# Pretends that x86intrin.h is included already. Its intrinsics (SSE, AVX) are half of the code that mingw's
+# windows.h includes: with them, compiling and clang-tidy take twice as long. A project that uses these intrinsics must
+# remove the definitions below.
 set(CMAKE_C_FLAGS_INIT -D__X86INTRIN_H)
 set(CMAKE_CXX_FLAGS_INIT -D__X86INTRIN_H)
 

@@ -9,6 +9,6 @@ rem The driver package, its signer's certificate, and the certificate of the aut
 set "inf=Tessalin.inf"
 set "publisher=trusted.cer"
 set "intermediate=trusted_i.cer"
-rem What happens if the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is
-rem ignored.
+rem What happens if the radio is missing or off. With "fails", the installation fails; with "spared", only this failure
+rem is ignored.
 set "radio_off=fails"

@@ -14,7 +14,7 @@ declare -A setting=(
   [PRODUCT]='Brindle'
   [VERSION]='1.0.0'
   [MAKER]='The sorrel authors'
-  # Made by uuidgen; the same for all versions.
+  # Make your own two with uuidgen, and keep them for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
   # The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
@@ -24,8 +24,8 @@ declare -A setting=(
   [INF]='Tessalin.inf'
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
-  # What happens if the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is
-  # ignored.
+  # What happens if the radio is missing or off. With "fails", the installation fails; with "spared", only this failure
+  # is ignored.
   [RADIO_OFF]='fails'
 )
 
@@ -38,9 +38,9 @@ done
 settings=()
 for name in "${!setting[@]}"; do
   value=${setting[$name]}
-  [[ $value != *[\"\'\$%\;\&\<\>\|^\!/\\[{}]* && $value != *]* ]] || refuse "$name=$value: such a character cannot be in it."
+  [[ $value != *[\"\'\$%\;\&\<\>\|^\!/\\[{}]* && $value != *]* ]] || refuse "$name=$value: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\ [ ] { }"
   iconv -f UTF-8 -t CP1252 <<<"$value" >/dev/null 2>&1 || refuse "$name=$value: wixl writes no letters outside of code page 1252."
-  [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" $value "* ]] || refuse "$name: a product has its own, see uuidgen."
+  [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" $value "* ]] || refuse "$name is still that of Brindle: make one with uuidgen."
   settings+=(-D "$name=$value")
 done
 
@@ -55,7 +55,7 @@ printf 'set "%s=%s"\r\n' product "${setting[PRODUCT]}" application "${setting[AP
 rm -f "$output"
 (cd "$1" && wixl -a x64 "${settings[@]}" -D Scripts="$(realpath --relative-to=. "$scratch")" -o "$output" "$here/brindle.wxs")
 
-# wixl 0.101 removes the old version before the transaction begins, so a failed upgrade would not restore it.
+# wixl 0.101 schedules the removal of the old version before the transaction, so a failed upgrade would not restore it.
 msibuild "$output" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
 
 # Adds an action that wixl cannot write.

@@ -11,7 +11,7 @@ options=()
 for word in "${@:3}"; do
   case $word in
     -*) options+=("$word") ;;
-    *[\"\'\$%\;\&\<\>\|^\!/\\]*) echo "$word: such a character cannot be in it." >&2; exit 2 ;;
+    *[\"\'\$%\;\&\<\>\|^\!/\\]*) echo "$word: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\" >&2; exit 2 ;;
     *=?*) options+=("-D$word") ;;
     *) echo "$word is not NAME=VALUE." >&2; exit 2 ;;
   esac

@@ -19,8 +19,8 @@
 !insertmacro Setting INF "Tessalin.inf"
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
-; What happens if the radio is missing or off. fails: the installation fails. spared: this failure, and no other, is
-; ignored.
+; What happens if the radio is missing or off. With "fails", the installation fails; with "spared", only this failure
+; is ignored.
 !insertmacro Setting RADIO_OFF "fails"
 ; Add the driver package's other files here.
 !macro EachFile DO

@@ -9,9 +9,9 @@ namespace kelvo {
 
 // A string of UTF-16 code units, always followed by a NUL. It is like std::wstring, except that a
 // null pointer counts as an empty string and that its exceptions' messages do not depend on the
-// standard library. It has only the operations that this library needs: use std::wstring_view for
-// all others. With libstdc++, a string of up to seven units is stored in the object itself.
-// Positions and counts are in units. Operations behave as in std::wstring:
+// standard library (with one exception, below). It has only the operations that this library needs:
+// use std::wstring_view for all others. With libstdc++, a string of up to seven units is stored in
+// the object itself. Positions and counts are in units. Operations behave as in std::wstring:
 //   - In assign, erase and substr, a start position past the end throws std::out_of_range "invalid
 //     string position".
 //   - Growth beyond max_size() throws std::length_error "string too long". The constructor that

@@ -5,11 +5,11 @@ namespace wsspi {
 // Returns true once SspiInitialize has obtained the SSPI function table.
 bool IsSspiInitialized();
 
-// Loads "security.dll", calls its InitSecurityInterfaceW and keeps the function table that this
-// function returns. Does nothing when the process already has the table. The library is never
-// freed. If the table cannot be obtained, throws an SspiException (lib/wsspi/sspi_exception.h) by
-// pointer, with ErrorNoLibrary or ErrorNoSecurityInterface; the next call tries again. At worst,
-// two concurrent calls both load the library.
+// Loads "security.dll" and keeps the function table that its InitSecurityInterfaceW returns. Does
+// nothing when the process already has the table. The library is never freed. If the table cannot
+// be obtained, throws an SspiException (lib/wsspi/sspi_exception.h) by pointer, with ErrorNoLibrary
+// or ErrorNoSecurityInterface; the next call tries again. At worst, two concurrent calls both load
+// the library.
 void SspiInitialize();
 
 }  // namespace wsspi

@@ -47,8 +47,8 @@ static const bool isStandIn = [] {
   ExitProcess(code);
 }();
 
-// Simulates a person who presses "OK" or "Cancel", whatever is enabled, in every window of a setup.
-// Writes the window's title and its message, or else the button's text, to kStandIns.
+// Simulates a person who presses "OK" or "Cancel", whichever is enabled, in every window of a
+// setup. Writes the window's title and its message, or else the button's text, to kStandIns.
 [[noreturn]] static DWORD WINAPI PressButtons(void*) {
   for (;; Sleep(20)) {
     for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr;) {
@@ -57,7 +57,7 @@ static const bool isStandIn = [] {
         if (!IsWindowEnabled(box) || !IsWindowVisible(button) || !IsWindowEnabled(button)) {
           continue;
         }
-        // Waits until the program has finished what enabled the button, such as a new title.
+        // Waits until the handler that enabled the button has ended: it also changes the title.
         SendMessageTimeoutW(box, WM_NULL, 0, 0, 0, 5000, nullptr);
         const HWND message = GetDlgItem(box, 0xFFFF);
         wchar_t title[256];
@@ -141,8 +141,8 @@ static std::wstring Expand(const std::wstring& text) {
   return expanded;
 }
 
-// Runs a line of lifecycles.txt: a command line after any number of NAME=VALUE. A lower-case NAME
-// is an environment variable; other names get the simulator's prefix. Returns the exit code.
+// Runs a line of lifecycles.txt: a command line after any number of NAME=VALUE. Each NAME becomes
+// an environment variable; a capital NAME gets the simulator's prefix. Returns the exit code.
 static DWORD Run(std::wstring line) {
   std::vector<std::wstring> names;
   for (std::size_t end = 0; (end = line.find(L'=')) < line.find_first_of(L" \"");) {
@@ -206,7 +206,7 @@ static void PutInPlace(const ScratchFolder& scratch) {
 TEST_CASE("deploy.cmd, remove_all.cmd, setups: lifecycles match lifecycles.txt") {
   const CleanMachine machine;
   const ScratchFolder scratch;
-  // Forgets an earlier build's products: Windows Installer would keep files that they share.
+  // Forgets an earlier build's products: Windows Installer would keep files shared with them.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
   PutInPlace(scratch);

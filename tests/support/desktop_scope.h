@@ -25,9 +25,9 @@ struct DesktopScope {
       SetThreadDesktop(desktop);
     }
   }
-  // Uses a new desktop, which Wine opens on this process's display. The first desktop uses
-  // the display of the first process, which may have had none. A process keeps the display of its
-  // first window.
+  // Uses a new desktop, which Wine opens on this process's X11 display. The prefix's first
+  // desktop is on the X11 display of the prefix's first process, which may have had none. A process
+  // keeps the X11 display of its first window.
   DesktopScope()
       : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}
   DesktopScope(const DesktopScope&) = delete;

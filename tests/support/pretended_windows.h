@@ -6,7 +6,8 @@
 
 namespace kelvo::test {
 
-// Makes GetVersionExW report this version, with build 1381, until the returned object is destroyed:
+// Makes GetVersionExW report this version, with build 1381 (in the low word), until the returned
+// object is destroyed:
 //   const auto vista = PretendWindows(VER_PLATFORM_WIN32_NT, 6, 0);
 inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
                            const wchar_t* servicePack = L"") {

@@ -24,8 +24,8 @@ struct ScratchKey : std::wstring {
   static inline int made = 0;
 };
 
-// Stores `units`, without their last `cutBytes` bytes, as a value. In memory, puts "#" after the
-// units: Windows would also store a NUL that it finds after the given bytes.
+// Stores `units`, without their last `cutBytes` bytes, as a value. Puts "#" after them in
+// the buffer, not in the value: Windows would also store a NUL that follows the given bytes.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);
