@@ -15,10 +15,10 @@ namespace {
 // headers add types to it.
 constexpr DWORD kContentTypes = 0x3FFE;
 
-// The functions of crypt32.dll, which are looked up at run time. A program that imports no
-// certificate therefore starts without the library, and a missing function becomes an error code.
+// The functions of crypt32.dll that this file calls. They are looked up at run time, so a program
+// can start without the library, and a missing function becomes an error code.
 struct Crypt32 {
-  // Returns false and sets the last error when the library or one of its functions is missing.
+  // Returns false and sets the last error when the library or one of these functions is missing.
   // Never frees the library, since a store that AddFromFile leaves open still needs it.
   bool Bind() {
     const HMODULE library = LoadSystemLibrary(L"crypt32.dll").release();

@@ -17,7 +17,8 @@ namespace kelvo {
 // functions (before any change), CertOpenStore, CryptQueryObject, or
 // CertAddCertificateContextToStore. When the file cannot be read, the system store stays open.
 // "crypt32.dll" always stays loaded. Before these steps, calls wsspi::SspiInitialize
-// (lib/wsspi/sspi_loader.h) and does not catch the wsspi::SspiException* that it may throw.
+// (lib/wsspi/sspi_loader.h), and does not catch the wsspi::SspiException* that SspiInitialize may
+// throw.
 DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName);
 
 // Windows' names for the stores that the two functions below use.

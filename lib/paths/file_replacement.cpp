@@ -16,15 +16,14 @@ namespace {
 // Copies a file to the temporary folder and returns the copy's path, or an empty string on failure.
 WString CopyToTemporaryFile(const wchar_t* source) {
   std::array<wchar_t, MAX_PATH> folder{};
-  // Allocated before the file is created, so that running out of memory leaves no file behind.
+  // The string is allocated before the file is created: if this fails, no file is left behind.
   WString copy(MAX_PATH, L'\0');
   if (GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()) == 0 ||
       GetTempFileNameW(folder.data(), L"wqr", 0, copy.data()) == 0) {
     return {};
   }
   if (CopyFileW(source, copy.data(), FALSE) == FALSE) {
-    // GetTempFileNameW has already created an empty file with this name, which must not replace the
-    // target.
+    // GetTempFileNameW has already created an empty file with this name.
     DeleteFileW(copy.data());
     return {};
   }
@@ -67,7 +66,7 @@ bool ScheduleFileReplace(const void* /*unused*/, const wchar_t* source, const wc
     return true;
   }
   if (!Schedule(from.c_str(), target) && copyFirst) {
-    // The caller could not delete the copy, because it does not know the copy's name.
+    // The caller cannot delete the copy, because only this function knows the copy's name.
     DeleteFileW(from.c_str());
   }
   return true;

@@ -54,8 +54,8 @@ LSTATUS ReadServer(const WString& classKey, WString& server) {
     return status;
   }
   constexpr DWORD kCapacity = 522;
-  // Has one character more than the size passed to RegQueryValueExW, so that a NUL follows even
-  // a string that is stored without one.
+  // The buffer has one character more than RegQueryValueExW may write, so that a NUL follows even a
+  // string that is stored without a NUL.
   std::array<wchar_t, (kCapacity / sizeof(wchar_t)) + 1> text{};
   DWORD size = kCapacity;
   status = RegQueryValueExW(key.get(), nullptr, nullptr, nullptr,

@@ -14,7 +14,7 @@ namespace kelvo {
 // and does not expand environment variables in it. A string that does not fit in `out` with the
 // backslash counts as empty.
 //
-// When none of the keys has such a string, writes the result of GetModuleDirectory(module)
+// When every string is missing or counts as empty, writes the result of GetModuleDirectory(module)
 // (lib/paths/module_directory.h) to `out`. Returns true if this result is not empty, otherwise
 // false.
 bool GetShellFolderPath(const HMODULE* module, std::span<wchar_t, MAX_PATH> out,

@@ -37,7 +37,7 @@ class Owned {
   // Returns the handle, which this object continues to own.
   [[nodiscard]] Handle get() const { return handle_; }
 
-  // Closes the handle and returns the address at which a Windows function stores a new one.
+  // Closes the handle and returns the address at which a Windows function can store a new handle.
   [[nodiscard]] Handle* Receive() {
     reset();
     return &handle_;
@@ -56,8 +56,8 @@ class Owned {
   // Returns the handle, which this object no longer owns.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 
-  // Closes the present handle, if there is one, and takes ownership of `handle`. Without an
-  // argument, the object then has no handle.
+  // Closes the present handle, if there is one, and takes ownership of `handle`. When called
+  // without an argument, leaves the object without a handle.
   void reset(Handle handle = Kind::None()) {
     const Handle old = std::exchange(handle_, handle);
     if (old != Kind::None()) {

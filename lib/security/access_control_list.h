@@ -5,8 +5,7 @@
 namespace kelvo {
 
 // These functions treat an ACL as unreadable when one of its ACEs extends past the end of the ACL.
-// They trace every failure (lib/trace/trace_sink.h). An exception counts as a failure but is not
-// traced.
+// They trace every failure (lib/trace/trace_sink.h) except one that is caused by an exception.
 
 // Means "no index". When AddAce receives this value as the index, it appends the ACE.
 constexpr DWORD kNoAceIndex = MAXDWORD;
@@ -15,10 +14,10 @@ constexpr DWORD kNoAceIndex = MAXDWORD;
 // or the ACL is unreadable.
 DWORD FindACEInACL(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 
-// Appends all ACEs of `source`, in their order, to `destination`, an initialized ACL with room for
-// them. Returns FALSE when either ACL is unreadable or AddAce fails, for example because an ACE
-// does not fit; ACEs that were appended before the failure stay. If `source` has no ACEs, returns
-// TRUE even when `destination` is null or unreadable.
+// Appends all ACEs of `source`, in their order, to `destination`, which must be an initialized ACL
+// with enough room. If `source` is readable and has no ACEs, returns TRUE, even when `destination`
+// is null or unreadable. Otherwise, returns FALSE when either ACL is unreadable or AddAce fails,
+// for example because an ACE does not fit; ACEs that were appended before the failure stay.
 BOOL CopyACL(ACL* destination, const ACL* source);
 
 // Returns the size in bytes of a new ACL that holds the ACEs of `acl` (which may be null), an allow

@@ -15,7 +15,7 @@ std::optional<DWORD> CanonicalRank(const ACE_HEADER& ace);
 // index of the first ACE with the same or a higher rank or, if there is none, the number of ACEs.
 // Returns kNoAceIndex (access_control_list.h) when the ACL cannot be read, or when `ace` or an ACE
 // before that index has no rank. When GetAce fails, returns the index at which it failed. Traces
-// these failures. If an exception occurs, returns kNoAceIndex without a trace.
+// these failures. If an exception occurs, returns kNoAceIndex and traces nothing.
 DWORD GetACEInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 
 }  // namespace kelvo

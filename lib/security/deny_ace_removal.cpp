@@ -15,8 +15,8 @@ bool IsDeny(const void* ace) {
   return type == ACCESS_DENIED_ACE_TYPE || type == ACCESS_DENIED_OBJECT_ACE_TYPE;
 }
 
-// Never examines the ACE at index 0. For an empty DACL, the first index is MAXDWORD, for which
-// GetAce fails.
+// Never examines the ACE at index 0. For an empty DACL, the loop begins at index MAXDWORD, for
+// which GetAce fails.
 bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
   for (DWORD index = aceCount - 1; index > 0; --index) {
     const void* const ace = internal::AceAt(dacl, index);

@@ -13,9 +13,9 @@ namespace kelvo {
 // window station, until its session ends.
 //
 // Object ACEs stay: the SID is read right after the mask, where an object ACE has other data.
-// Callback ACEs stay too. An ACE that DeleteAce fails to delete also stays, without a trace.
-// Returns TRUE when the DACL was written back or the object has none. Returns FALSE, traces why and
-// leaves the DACL unchanged in these cases:
+// Callback ACEs stay too. If DeleteAce fails for an ACE, that ACE also stays; the failure is not
+// traced. Returns TRUE when the DACL was written back or the object has no DACL. Returns FALSE,
+// traces why and leaves the DACL unchanged in these cases:
 //   - The DACL cannot be read or written.
 //   - The DACL has no ACEs.
 //   - After index 0, a deny ACE or an object deny ACE is too short for its SID.

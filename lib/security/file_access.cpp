@@ -47,8 +47,8 @@ bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
                L"GetFileSecurity() failed. Error %d\n");
 }
 
-// If the DACL extends past the descriptor or an ACE extends past the DACL, sets ERROR_INVALID_ACL
-// and returns false. Otherwise calls GetAclInformation.
+// If the DACL extends past the descriptor or an ACE extends past the DACL, sets the last error to
+// ERROR_INVALID_ACL and returns false. Otherwise calls GetAclInformation.
 bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFORMATION& size) {
   const auto offset = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(dacl) -
                                                static_cast<const BYTE*>(descriptor.memory.get()));
@@ -94,7 +94,7 @@ bool IsOfAccount(const void* ace, PSID account) {
   return sid != nullptr && EqualSid(sid, account) != FALSE;
 }
 
-// `oldDacl` may be null when `count` is 0. Adds these ACEs to the empty `newDacl`:
+// Adds these ACEs to the empty `newDacl` (when `count` is 0, `oldDacl` may be null):
 //   1. The ACEs before the first inherited ACE of `oldDacl`, except those of `account`.
 //   2. The new ACE.
 //   3. The first inherited ACE and all ACEs after it, including those of `account`.
@@ -149,7 +149,7 @@ bool CarryInheritanceOver(PSECURITY_DESCRIPTOR from, PSECURITY_DESCRIPTOR to) {
   auto* const setControl =
       KELVO_FIND_FUNCTION(GetModuleHandleW(L"advapi32.dll"), SetSecurityDescriptorControl);
   if (setControl == nullptr) {
-    return true;  // Windows NT 4.0, which has no inheritance flags
+    return true;  // Windows NT 4.0, whose DACLs are never auto-inherited or protected
   }
   SECURITY_DESCRIPTOR_CONTROL old = 0;
   DWORD revision = 0;

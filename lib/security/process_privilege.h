@@ -5,8 +5,8 @@
 namespace kelvo {
 
 // Both functions change a privilege in this process's token (OpenProcessToken,
-// LookupPrivilegeValueW on this system, AdjustTokenPrivileges). The change lasts until the process
-// exits. `name` is Windows' name of the privilege, such as "SeShutdownPrivilege".
+// LookupPrivilegeValueW on the local computer, AdjustTokenPrivileges). The change lasts until the
+// process exits. `name` is Windows' name of the privilege, such as "SeShutdownPrivilege".
 
 // Enables or disables a privilege. Returns the result of AdjustTokenPrivileges, which is TRUE even
 // for a privilege that the token does not hold. Returns FALSE when an earlier step fails or an

@@ -6,19 +6,18 @@
 
 namespace kelvo {
 
-// Gives a token's user full access to a window station or a desktop. First removes the deny ACEs
-// for the user and for each of the token's groups (DeleteDenyACEofObject). Then, if `typeName`
-// contains "desk" in any letter case, grants the user the rights of a desktop
-// (AllowAccessToDesktop), otherwise those of a window station (AllowAccessToWinSta). Both sets of
-// rights include WRITE_DAC and WRITE_OWNER. Removing a group's deny ACEs affects every member of
-// that group; the rights are granted to the user only. The changes last until the object is
-// deleted: for a window station and its desktops, at the latest when the session ends. A null
-// `typeName` counts as empty. The token handle needs TOKEN_QUERY; the object handle needs
-// READ_CONTROL and WRITE_DAC.
+// Gives a token's user full access to a window station or a desktop. First removes deny ACEs for
+// the user and for each of the token's groups (DeleteDenyACEofObject). Then, if `typeName` contains
+// "desk" in any letter case, grants the user the rights of a desktop (AllowAccessToDesktop),
+// otherwise those of a window station (AllowAccessToWinSta). Both sets of rights include WRITE_DAC
+// and WRITE_OWNER. Removing a group's deny ACEs affects every member of that group; the rights are
+// granted to the user only. The changes last until the object is deleted: for a window station and
+// its desktops, at the latest when the session ends. A null `typeName` counts as empty. The token
+// handle needs TOKEN_QUERY; the object handle needs READ_CONTROL and WRITE_DAC.
 //
 // Returns FALSE, and traces why, when a step fails. Earlier steps are not undone: a `type` other
-// than SE_WINDOW_OBJECT is refused only after the deny ACEs have been removed. Returns FALSE
-// without a trace for a null token or object.
+// than SE_WINDOW_OBJECT is refused only after deny ACEs have been removed. If the token or the
+// object is null, returns FALSE and traces nothing.
 BOOL AllowTokenFullAccessToObject(HANDLE token, HANDLE object, SE_OBJECT_TYPE type,
                                   const wchar_t* typeName);
 

@@ -8,9 +8,9 @@ namespace kelvo {
 // Each privilege is marked as enabled and as enabled by default. The set is one memory block: 4
 // bytes, plus 12 bytes for each privilege. The caller frees the block with LocalFree. `names` is an
 // array that ends with a null pointer; a null `names` counts as an empty array. If `useBuiltIn` is
-// true, `names` is ignored and the library's own list is used: 25 names, three of them listed
-// twice. `count` receives the number of privileges in the set and must not be null. Returns null,
-// and traces why, when memory runs out.
+// true, `names` is ignored and a built-in list is used: 25 names, three of them listed twice.
+// `count` receives the number of privileges in the set and must not be null. When memory runs out,
+// returns null; the message that is then traced mentions an exception, not memory.
 TOKEN_PRIVILEGES* CreateTokenPriv(DWORD* count, const wchar_t* const* names, BOOL useBuiltIn);
 
 }  // namespace kelvo

@@ -51,7 +51,7 @@ constexpr WindowObjectKind kDesktop = {
     .cleanUp = L"AllowAccessToDesktop exception caught in __finally"};
 
 // A DACL of up to this size is built on the stack, a larger one on the heap. The limit is that of
-// _malloca on x64: 1,024 bytes, of which 16 are for its marker.
+// _malloca on x64: 1,024 bytes, of which _malloca uses 16 for a marker.
 constexpr std::size_t kStackSize = 1024 - 16;
 
 bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,
@@ -73,7 +73,7 @@ bool ReplaceDacl(const WindowObjectKind& kind, HANDLE object, const ACL* dacl,
   // The ACL structure needs an alignment of only 2 bytes, but the ACEs in it need 4.
   alignas(DWORD) std::array<std::byte, kStackSize> stack{};
   const DWORD size = CalculateACLSize(dacl, nullptr, 0, &ace, 1);
-  // If this memory comes from the heap, it is never freed, as the header says.
+  // Memory from the heap is never freed, as window_object_access.h says.
   void* const scratch =
       size <= stack.size() ? stack.data() : HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, size);
   if (!internal::Check(scratch != nullptr, kind.allocationFailed)) {
@@ -97,7 +97,7 @@ bool AllowInDacl(const WindowObjectKind& kind, PSID sid, HANDLE object,
           kind.readFailed)) {
     return false;
   }
-  // The ACE is never freed, as the header says.
+  // The ACE is never freed, as window_object_access.h says.
   ACCESS_ALLOWED_ACE* const ace = AllocateACE(ACCESS_ALLOWED_ACE_TYPE, 0, kind.mask, sid);
   if (dacl == nullptr) {
     return true;

@@ -2,8 +2,8 @@
 
 namespace kelvo {
 
-// Receives the arguments of TraceMessage. TraceMessage swallows a C++ or structured exception that
-// leaves the sink.
+// A sink: a function that receives the arguments of TraceMessage. TraceMessage swallows a C++ or
+// structured exception that leaves the sink.
 using TraceSink = void (*)(const wchar_t* tag, const wchar_t* message);
 
 // Sets the function that receives all messages traced in this process, on any thread. Messages are

@@ -43,19 +43,19 @@ inline constexpr std::array<const wchar_t*, 14> kSspiErrorTexts = {
     L"ErrorUnknown: unknown error",
 };
 
-// Thrown when the security support provider interface (SSPI) fails. The exception is allocated with
-// new and thrown as a pointer; the code that catches the pointer must delete it.
+// The exception for a failure of the security support provider interface (SSPI). It is allocated
+// with new and thrown as a pointer; the code that catches the pointer must delete the exception.
 struct SspiException {
   // A null `atFile` is stored as an empty string. An `errorCode` above 16 is stored as 16; any
-  // other is stored unchanged.
+  // other code is stored unchanged.
   SspiException(const wchar_t* atFile, std::uint32_t atLine, std::int32_t errorCode,
                 std::uint32_t errorDetail);
 
   // The source file and line that are reported as the place of the failure.
   kelvo::WString file;
   std::uint32_t line;
-  // The `errorCode` that was given, or 16 when that was above 16. Only codes from 0 to 13 have a
-  // text: check the code before you use it as an index into kSspiErrorTexts.
+  // The constructor's `errorCode`, or 16 if `errorCode` was above 16. Only codes from 0 to 13 have
+  // a text: check the code before you use it as an index into kSspiErrorTexts.
   std::int32_t code;
   // The error code of the call that failed, or 0.
   std::uint32_t detail;

@@ -12,7 +12,7 @@ namespace kelvo::internal {
 // with the layout of ACCESS_ALLOWED_ACE: header, mask, SID. An ACE may be at any address, even an
 // unaligned one, since the ACE before it may have any size.
 
-// The offset of the SID in an ACE, after header and mask.
+// The offset of the SID in an ACE, after the header and the mask.
 constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
 
 // Returns true when all ACEs, each of AceSize bytes, are inside the AclSize bytes of the ACL.
@@ -25,15 +25,15 @@ bool AreAcesInsideAcl(const ACL* acl);
 // ERROR_INVALID_ACL) or GetAclInformation fails.
 bool QueryAclSize(const ACL* acl, ACL_SIZE_INFORMATION& size);
 
-// Returns the ACE at `index` (GetAce), or null when there is none. QueryAclSize must have returned
-// true for `acl` before.
+// Returns the ACE at `index` (GetAce), or null when there is none. Call this function only after
+// QueryAclSize has returned true for `acl`.
 void* AceAt(const ACL* acl, DWORD index);
 
 // Returns an ACE's header.
 ACE_HEADER HeaderOfAce(const void* ace);
 
 // Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. The SID
-// may be invalid: an object ACE has other data at this offset, which equals no SID.
+// may be invalid: at kSidOffset, an object ACE has other data, which equals no SID.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal

@@ -6,8 +6,7 @@
 
 namespace kelvo::internal {
 
-// Returns `succeeded`. If it is false, first traces `message` with the tag that all operations on
-// ACLs, tokens and the interactive desktop share.
+// Returns `succeeded`. If it is false, first traces `message` with the tag "RunAsEx".
 bool Check(bool succeeded, const wchar_t* message);
 
 // Runs `steps`, which returns whether the operation succeeded, and then always runs `cleanUp`. A
