@@ -8,8 +8,8 @@
 //     returns its exit code
 //   setup_helper ready PROGRAM MUTEX
 //     starts a program and waits until a mutex with the name MUTEX exists
-// read, grant and ready return 0 for success and 1 for failure. start returns 1 if the program
-// cannot be started. A wrong command line also returns 1.
+// The commands read, grant and ready return 0 for success and 1 for failure. The command start
+// returns 1 if the program cannot be started. For a wrong command line, the exit code is also 1.
 
 #include <windows.h>
 

@@ -16,7 +16,8 @@ namespace kelvo {
 
 namespace {
 
-// Limits the width of the name column: a longer name shifts only its own value to the right.
+// Limits the width of the name column. A name that is wider than the column moves only the value on
+// the same line to the right.
 constexpr std::size_t kWidestColumn = 40;
 
 using Line = std::pair<std::string, std::string>;

@@ -86,7 +86,7 @@ void CleanUp(Launch& launch, BOOL wait, HANDLE* process) {
     SetProcessWindowStation(launch.keptStation.get());
   }
   if (launch.keptDesktop) {
-    // Sets the desktop that the thread already has.
+    // This call changes nothing, because the thread has not left this desktop.
     SetThreadDesktop(launch.keptDesktop.get());
   }
   if (launch.started.process) {

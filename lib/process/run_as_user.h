@@ -15,8 +15,9 @@ namespace kelvo {
 //   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());
 //
 //   - If this process is not on the window station "WinSta0" (the comparison is case-sensitive), it
-//     is moved there for the duration of the call. The token's user also gets full access to the
-//     station and its desktop until the session ends (AllowTokenFullAccessToObject).
+//     is moved there to start the new process, and is moved back before the call waits or returns.
+//     In this case, the token's user also gets full access to "WinSta0" and its desktop "Default"
+//     until the session ends (AllowTokenFullAccessToObject).
 //   - Windows must support SeTakeOwnershipPrivilege; this process need not hold it. This process
 //     needs SeAssignPrimaryTokenPrivilege, unless Windows lets it assign the token without this
 //     privilege.

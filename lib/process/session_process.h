@@ -17,9 +17,10 @@ namespace kelvo {
 //     by RunAsUser (lib/process/run_as_user.h) when the caller is in the console session but not on
 //     the interactive desktop, and by CreateProcessW otherwise.
 //   - The program inherits the caller's environment and current directory, but no handles. Put no
-//     secret in the environment, because the user's program can read it.
-//   - A service must not let the program run in the service's account: it must first call
-//     QueryUserTokenOfSession, and must not call this function if that fails.
+//     secret in the environment, because the started program can read the environment.
+//   - A service must not let the program run in the service's account. The service must therefore
+//     call QueryUserTokenOfSession first. If that call fails, the service must not call this
+//     function.
 //
 // With `wait`, returns only after the program has ended. When `processHandle` is not null,
 // `*processHandle` receives the process's handle, which the caller closes. On failure,

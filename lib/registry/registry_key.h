@@ -16,7 +16,7 @@ namespace kelvo {
 //     unless the function's comment names another number, such as -1.
 
 // Flags for every call in this folder that opens, creates or deletes a key: they are ORed into the
-// access mask, and passed to RegDeleteKeyExW. To use another registry view, set this variable to
+// access mask, and passed to RegDeleteKeyExW. To choose a registry view, set this variable to
 // KEY_WOW64_64KEY or KEY_WOW64_32KEY before other threads use the registry.
 extern REGSAM RegistryAccessFlags;
 

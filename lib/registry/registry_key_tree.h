@@ -12,11 +12,11 @@ namespace kelvo {
 // before that step stays deleted. When `parentPath` or `keyName` is null or empty, returns
 // ERROR_ACCESS_DENIED and changes nothing.
 //
-// The path of a key in the tree may have up to 32,767 characters, the limit of the registry
-// functions. When the tree has a key with a longer path, or a subkey whose name has 255 characters,
-// only a part of the tree is deleted. The function then returns the error code of deleting a key
-// that still has subkeys. Keys are deleted with RegDeleteKeyExW. Where Windows lacks this function,
-// they are deleted with RegDeleteKeyW, which ignores the registry view.
+// When a path in the tree has more than 32,767 characters (the limit of the registry functions), or
+// the name of a subkey has 255 characters, only a part of the tree is deleted. The function then
+// returns the error code of deleting a key that still has subkeys. Keys are deleted with
+// RegDeleteKeyExW. Where Windows lacks this function, they are deleted with RegDeleteKeyW, which
+// ignores the registry view.
 LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_t* keyName);
 
 }  // namespace kelvo

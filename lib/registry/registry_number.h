@@ -13,7 +13,7 @@ DWORD RegistryReadDword(HKEY root, const wchar_t* subkey, const wchar_t* valueNa
                         DWORD defaultNumber);
 
 // Returns true for a REG_DWORD value other than 0, false for 0, and `defaultAnswer` when
-// RegistryReadDword would return its default.
+// RegistryReadDword would return `defaultNumber`.
 bool RegistryReadBoolean(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                          bool defaultAnswer);
 

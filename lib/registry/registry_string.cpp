@@ -39,8 +39,8 @@ bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expans
   // The string may have been stored without a terminator.
   buffer.back() = L'\0';
   if (type == REG_EXPAND_SZ && expansion == Expansion::kWhereTypeSays) {
-    // Has one character more than the size passed to ExpandEnvironmentStringsW, which may fill that
-    // size completely, without a NUL, when the result is longer.
+    // The array is one character longer than the size passed to ExpandEnvironmentStringsW: when the
+    // result does not fit, that function may write MAX_PATH characters without a NUL.
     std::array<wchar_t, MAX_PATH + 1> expanded{};
     if (ExpandEnvironmentStringsW(buffer.data(), expanded.data(), MAX_PATH) != 0) {
       lstrcpynW(buffer.data(), expanded.data(), static_cast<int>(capacity));
@@ -75,8 +75,8 @@ LSTATUS WriteText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, DW
 
 WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            const wchar_t* defaultText) {
-  // Has one character more than the size passed to RegQueryValueExW, so that a value of 2,048 bytes
-  // without a terminator is followed by a NUL.
+  // The buffer is one character longer than the size passed to RegQueryValueExW, so that a value of
+  // 2,048 bytes without a terminator is followed by a NUL.
   std::array<wchar_t, kReadLength + 1> buffer{};
   const bool found =
       ReadText(root, subkey, valueName, Expansion::kWhereTypeSays, buffer, kReadLength);

@@ -42,11 +42,11 @@ std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wch
 std::size_t RegistryReadStoredString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length);
 
-// RegistryWriteString writes `text` with its NUL as a REG_SZ value, RegistryWriteExpandString as a
-// REG_EXPAND_SZ value (RegSetValueExW). Both create the key and all missing keys on its path. A
-// null `text` counts as empty. Both return 0 or the error code of the write. They return -1 when
-// the key cannot be created or opened for KEY_WRITE, and ERROR_INVALID_PARAMETER when the size of
-// the string in bytes does not fit in a DWORD.
+// Both functions write `text` with its NUL (RegSetValueExW): RegistryWriteString writes a REG_SZ
+// value, and RegistryWriteExpandString writes a REG_EXPAND_SZ value. Both create the key and all
+// missing keys on its path. A null `text` counts as empty. Both return 0 or the error code of the
+// write. They return -1 when the key cannot be created or opened for KEY_WRITE, and
+// ERROR_INVALID_PARAMETER when the size of the string in bytes does not fit in a DWORD.
 LSTATUS RegistryWriteString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const wchar_t* text);
 LSTATUS RegistryWriteExpandString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,

@@ -6,7 +6,7 @@ namespace kelvo {
 
 // See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
 
-// Returns true when the key can be opened for KEY_READ and has a value of this name and any type
+// Returns true when the key can be opened for KEY_READ and has the value `valueName`, of any type
 // (RegQueryValueExW).
 bool RegistryValueExists(HKEY root, const wchar_t* subkey, const wchar_t* valueName);
 

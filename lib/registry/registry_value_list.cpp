@@ -21,8 +21,8 @@ class ValueReader {
     nameLength_ = kBufferLength;
     size_ = kBufferLength * sizeof(wchar_t);
     name_.front() = L'\0';
-    // Clears only the first character: the string of a REG_DWORD value may continue with the data
-    // that earlier values left in this buffer, as documented at ReadRegistryKeyValues.
+    // Only the first character is cleared. By design, the string of a REG_DWORD value may continue
+    // with data that earlier values left in this buffer, as documented at ReadRegistryKeyValues.
     data_.front() = L'\0';
     return RegEnumValueW(key_, index, name_.data(), &nameLength_, nullptr, &type_,
                          reinterpret_cast<BYTE*>(data_.data()), &size_) == ERROR_SUCCESS;

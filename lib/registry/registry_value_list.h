@@ -20,11 +20,12 @@ using NameTextList = std::vector<std::pair<WString, WString>>;
 // data has more than 16,383 characters (32,766 bytes). The string of a value depends on its type:
 //   - REG_SZ: the data up to its first NUL or, when there is no NUL, all the data. If the number of
 //     bytes is odd, the last byte becomes one more character.
-//   - REG_EXPAND_SZ: the same string, expanded with ExpandEnvironmentStringsW. When the expansion
-//     fails or its result, with the NUL, is longer than 260 characters: the string as stored.
+//   - REG_EXPAND_SZ: the string as for REG_SZ, but expanded with ExpandEnvironmentStringsW. When
+//     the expansion fails or its result, with the NUL, is longer than 260 characters: the string
+//     without expansion.
 //   - REG_DWORD: the number's bytes read as UTF-16 characters, up to the first NUL. The number is
-//     not converted to digits. When neither half of the number is 0, the string continues with data
-//     that earlier values left in the buffer.
+//     not converted to digits. All values are read into the same buffer. When neither 16-bit half
+//     of the number is 0, the string continues with data of earlier values in that buffer.
 NameTextList ReadRegistryKeyValues(HKEY root, const wchar_t* subkey);
 
 }  // namespace kelvo

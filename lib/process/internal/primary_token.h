@@ -10,8 +10,9 @@ namespace kelvo::internal {
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token);
 
 // Enables, in this process's token, the privileges that help to start a process with another token.
-// When enabling SeTakeOwnershipPrivilege fails, traces the failure and returns false. Ignores
-// failures to enable the other privileges.
+// When EnablePrivilege fails for SeTakeOwnershipPrivilege, traces the failure and returns false.
+// Ignores its failures for the other privileges. EnablePrivilege does not fail for a privilege that
+// the token does not hold.
 bool EnableStartPrivileges();
 
 }  // namespace kelvo::internal
