@@ -16,8 +16,8 @@ namespace {
 using Table = std::array<wchar_t, 0x10000>;
 
 // Maps all units in one call, because a call to Windows costs far more than mapping one unit. The
-// units are in order, so the only surrogate pair among them is U+DBFF U+DC00, which encodes a
-// character without case.
+// array contains the units in order, so its only surrogate pair is U+DBFF U+DC00: a private-use
+// character, which has no case.
 Table MakeTable() {
   Table units;
   const auto fill = [&] { std::iota(units.begin(), units.end(), L'\0'); };
@@ -51,7 +51,8 @@ bool AreCasesOfLetter(unsigned a, unsigned b) {
 template <typename Fold>
 std::int32_t Compare(const wchar_t* a, const wchar_t* b, bool foldsLetters, Fold fold) {
   const auto folded = [fold](wchar_t unit) { return unit == 0xFFFF ? unit : fold(unit); };
-  // Folds last, since nearly all pairs of units are equal or differ only in the case of a letter.
+  // Calls `fold` only when needed: nearly all pairs of units are equal or differ only in the case
+  // of a letter.
   for (; *a == *b || (foldsLetters && AreCasesOfLetter(*a, *b)) || folded(*a) == folded(*b);
        ++a, ++b) {
     if (*a == L'\0') {

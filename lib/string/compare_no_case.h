@@ -4,14 +4,15 @@
 
 namespace kelvo {
 
-// Compares two NUL-terminated strings, neither of them null, ignoring case. Folds each UTF-16 code
-// unit to lower case. Returns 0 when the folded strings are equal. Otherwise returns the folded
-// unit of `a` minus that of `b` where they first differ: negative when `a` sorts first.
+// Compares two NUL-terminated strings, ignoring case. Neither pointer may be null. Folds each
+// UTF-16 code unit to lower case. Returns 0 when the folded strings are equal. Otherwise, at their
+// first difference, returns the folded unit of `a` minus the folded unit of `b`: a negative number
+// when `a` sorts first.
 //
 // Folding depends on the C runtime's LC_CTYPE locale (setlocale), read once per call. In the
 // default locale "C", A to Z become a to z, other units below U+0100 stay as they are, and
-// LCMapStringW with LCMAP_LOWERCASE folds the rest. In any other locale, towlower folds the units.
-// In every locale, U+FFFF stays as it is.
+// LCMapStringW with LCMAP_LOWERCASE folds the units from U+0100 up. In any other locale, towlower
+// folds the units. In every locale, U+FFFF stays as it is.
 std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b);
 
 }  // namespace kelvo

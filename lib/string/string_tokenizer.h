@@ -26,15 +26,17 @@ class StringTokenizer {
   WString NextToken();
 
  private:
-  // CollapseRuns replaces each run of delimiters in the string with one delimiter. A delimiter of
-  // one unit cannot overlap itself, so its runs stay: SkipRun skips the run after each item.
+  // CollapseRuns replaces each run of delimiters in the string with one delimiter. For a delimiter
+  // of one unit, which cannot overlap itself, the runs stay in the string: SkipRun skips the run at
+  // the start and the run after each item.
   void CollapseRuns();
   void SkipRun();
 
   WString text_;
   WString delimiter_;
   bool skipsRuns_ = false;
-  // The position of the next item. Erasing each returned item instead would take quadratic time.
+  // The position of the next item. Erasing each returned item from the string would take quadratic
+  // time.
   std::size_t next_ = 0;
 };
 

@@ -6,8 +6,8 @@
 
 namespace kelvo {
 
-// A string is a WString or a pointer to NUL-terminated units; a null pointer counts as an empty
-// string. Positions and lengths are in UTF-16 code units.
+// Each string argument is a WString or a pointer to NUL-terminated units; a null pointer counts as
+// an empty string. Positions and lengths are in UTF-16 code units.
 
 // Returns `count` units from `start` on, or all units up to the end when there are fewer. Returns
 // an empty string when `start` is at the end or past it.

@@ -7,23 +7,24 @@
 
 namespace kelvo {
 
-// A string of UTF-16 code units, always followed by a NUL. It is like std::wstring, except that a
-// null pointer counts as an empty string and that its exceptions' messages do not depend on the
-// standard library (with one exception, below). It has only the operations that this library needs:
-// use std::wstring_view for all others. With libstdc++, a string of up to seven units is stored in
-// the object itself. Positions and counts are in units. Operations behave as in std::wstring:
+// A string of UTF-16 code units, always followed by a NUL. Unlike std::wstring, it accepts a null
+// pointer, which counts as an empty string. Except in one case below, the messages of the
+// std::out_of_range and std::length_error that it throws do not depend on the standard library. It
+// has only the operations that this library needs: use std::wstring_view for all others. With
+// libstdc++, a string of up to seven units is stored in the object itself. Positions and counts are
+// in units. Operations behave as in std::wstring:
 //   - In assign, erase and substr, a start position past the end throws std::out_of_range "invalid
 //     string position".
 //   - Growth beyond max_size() throws std::length_error "string too long". The constructor that
 //     takes a view throws it with the standard library's own message.
 //   - A count that reaches past the end means all units up to the end.
 //   - When memory runs out, std::bad_alloc is thrown. Every other operation of this library that
-//     makes a string also throws it, unless its header says what it returns in that case.
+//     makes a string also throws it, unless its header says what the operation then returns.
 //
 // When an operation throws, the string is unchanged.
 class WString {
  public:
-  // Returned by a search that finds nothing: all bits set.
+  // The result of a search that finds nothing: all bits set.
   static constexpr std::size_t npos = std::wstring::npos;
 
   WString() = default;
@@ -61,7 +62,8 @@ class WString {
   [[nodiscard]] std::size_t find(std::wstring_view text, std::size_t start = 0) const {
     return text_.find(text, start);
   }
-  // Finds the last occurrence of `text` beginning at or before `start`, which may be past the end.
+  // Finds the last occurrence of `text` that begins at or before `start`. `start` may be past the
+  // end.
   [[nodiscard]] std::size_t rfind(std::wstring_view text, std::size_t start = npos) const {
     return text_.rfind(text, start);
   }
@@ -90,7 +92,7 @@ class WString {
   // NOLINTNEXTLINE(google-explicit-constructor): the conversion loses nothing
   operator std::wstring_view() const { return text_; }
 
-  // == and <=> compare unit by unit; + concatenates.
+  // The operators == and <=> compare unit by unit, and + concatenates.
   friend bool operator==(const WString&, const WString&) = default;
   friend auto operator<=>(const WString&, const WString&) = default;
   friend WString operator+(WString left, const WString& right) {

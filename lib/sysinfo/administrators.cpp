@@ -21,7 +21,8 @@ struct AllocatedSid {
 };
 using OwnedSid = Owned<AllocatedSid>;
 
-// Returns the calling thread's impersonation token or, when it has none, the process's token.
+// Returns the calling thread's impersonation token or, when the thread has none, the process's
+// token.
 OwnedKernelObject OpenEffectiveToken() {
   OwnedKernelObject token;
   if (!token.KeepIf(OpenThreadToken(GetCurrentThread(), TOKEN_QUERY, TRUE, token.Receive()) !=

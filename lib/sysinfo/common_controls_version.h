@@ -6,10 +6,11 @@ namespace kelvo {
 
 // Stores the version of the common controls: the version that DllGetVersion of "comctl32.dll"
 // reports, or 4.0 when that library does not export DllGetVersion. Loads the library by name for
-// the call, so the process's manifest and search order decide which copy is loaded: on the same
-// Windows, the version is 6.x in a program whose manifest asks for version 6, and 5.x in any other
-// program. Returns one of these, and stores nothing on failure:
-//   - the success code that DllGetVersion returned; S_OK when the library does not export it
+// the duration of the call, so the process's manifest and search order decide which copy is loaded:
+// on the same Windows, the version is 6.x in a program whose manifest asks for version 6, and 5.x
+// in any other program. Returns one of these, and stores nothing on failure:
+//   - the success code that DllGetVersion returned, or S_OK when the library does not export
+//     that function
 //   - E_INVALIDARG when a pointer is null or cannot be written to (IsBadWritePtr)
 //   - E_FAIL when the library does not load or DllGetVersion fails
 HRESULT GetComCtlVersion(DWORD* major, DWORD* minor);

@@ -10,7 +10,8 @@ namespace kelvo {
 WString GetComputerNetbiosName();
 
 // Returns the fully qualified DNS name (GetComputerNameExW, looked up at run time). When Windows
-// lacks the function or returns no name, returns the NetBIOS name. Empty when that fails, too.
+// lacks the function or returns no name, returns the NetBIOS name. Empty when GetComputerNameW
+// fails, too.
 WString GetComputerNameFQ();
 
 // Returns the DNS domain that the computer belongs to (GetComputerNameExW, looked up at run time).

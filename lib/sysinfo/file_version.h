@@ -7,7 +7,7 @@ namespace kelvo {
 // These functions read a file's version from the VS_FIXEDFILEINFO block of its version resource
 // (GetFileVersionInfoW, VerQueryValueW). There is no version when the path is null, when the file
 // has no such block, or when the block is not completely inside the resource. The block's signature
-// is not checked, so a file from an untrusted source may contain any numbers. Windows parses the
+// is not checked, so the numbers from an untrusted file may be arbitrary. Windows parses the
 // resource; these functions do not check it first.
 
 // Compares a file's version with major.minor.build.revision. Returns 1 when the file's version is

@@ -4,9 +4,9 @@
 
 namespace kelvo {
 
-// These functions return directories of Windows' own libraries. Each path ends in a separator: a
-// backslash is added when Windows returns a path without one. On failure, the path is empty. The
-// functions' names end in Path because windows.h defines GetSystemDirectory and
+// These functions return directories that contain Windows' own libraries. Each path ends in a
+// separator: a backslash is added when Windows returns a path without one. On failure, the path is
+// empty. The functions' names end in Path because windows.h defines GetSystemDirectory and
 // GetSystemWow64Directory as macros.
 
 // Returns the system directory (GetSystemDirectoryW), at most 510 characters and the separator;
@@ -20,7 +20,7 @@ const wchar_t* GetSystemDirectoryPath();
 WString GetSystemWow64DirectoryPath();
 
 // Returns the system directory that 64-bit programs see. In a 64-bit process, that is the path that
-// GetSystemDirectoryPath returns. Overwrites that function's buffer.
+// GetSystemDirectoryPath returns. Overwrites the buffer of GetSystemDirectoryPath.
 WString GetNativeSystemDirectoryPath();
 
 }  // namespace kelvo

@@ -6,15 +6,15 @@ namespace kelvo {
 
 // Replaces the contents of `report` with facts about the system, the process and the user, for a
 // log or a support dialog:
-//   - The first entries have the same names in the same order on every call. The paths of shell
-//     folders are read with SHGetSpecialFolderPathW; missing folders are not created.
+//   - The first entries have the same names in the same order on every call. Among them are the
+//     paths of shell folders, read with SHGetSpecialFolderPathW; missing folders are not created.
 //   - The other entries are the environment variables that the registry stores for the user
 //     (HKEY_CURRENT_USER "Environment") and for the system (HKEY_LOCAL_MACHINE
 //     "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). ReadRegistryKeyValues reads
 //     and expands them. A key that does not open adds no entries.
 //   - When the path of a shell folder cannot be read, the value is "failed to query " and the name
 //     of the entry. When any other query fails, the value is what the queried function returns on
-//     failure: for most, "0" (false) or an empty string.
+//     failure: for most functions, "0" (false) or an empty string.
 //   - When the call throws, `report` is incomplete.
 //
 //   NameTextList report;

@@ -25,7 +25,7 @@ constexpr const wchar_t* kHotfix =
 // without suites and product type, which stay zero), or none.
 enum class VersionRecord { kExtended, kShort, kNone };
 
-// `version` must be zeroed.
+// The caller must have zeroed `version`.
 VersionRecord QueryVersionRecord(OSVERSIONINFOEXW& version) {
   auto* const record = reinterpret_cast<OSVERSIONINFOW*>(&version);
   version.dwOSVersionInfoSize = sizeof(OSVERSIONINFOEXW);

@@ -4,13 +4,13 @@
 
 namespace kelvo {
 
-// Returns one line that names the running Windows with its edition and numbers, such as "Windows 7
-// Professional x64 (6.1.7601 Service Pack 1)"; empty for a platform other than Win32s, Windows 9x
-// and NT.
+// Returns one line that names the running Windows with its edition and version numbers, such as
+// "Windows 7 Professional x64 (6.1.7601 Service Pack 1)"; empty for a platform other than Win32s,
+// Windows 9x and NT.
 //   - The version comes from GetVersionExW. On Windows 8.1 and later, GetVersionExW reports 6.2 to
 //     a program whose manifest does not name 8.1 or later: the line then says "Windows 8" or
 //     "Windows Server 2012". On Windows 10 and later, in a program whose manifest names Windows 10,
-//     the line has only the numbers, without a name.
+//     the line has only the version numbers, without a name.
 //   - For the processor architecture, calls GetNativeSystemInfo (looked up at run time) or, when
 //     Windows lacks that function, GetSystemInfo. Also calls GetSystemMetrics on NT 5.1 and 5.2,
 //     and GetProductInfo (looked up at run time) on NT 6.
@@ -22,9 +22,9 @@ namespace kelvo {
 //     "SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009" opens. Both keys are opened
 //     for KEY_QUERY_VALUE.
 //   - The line has a note when GetVersionExW fails, when the product type cannot be read, and when
-//     an exception ends a query. When any other query fails, or Windows lacks its function, only
-//     the part from that query is missing. Throws only when there is no memory for the note about
-//     an exception.
+//     an exception ends a query. When any other query fails, or when Windows lacks the function
+//     that the query calls, only the result of that query is missing from the line. Throws only
+//     when there is no memory for the note about an exception.
 WString GetSystemVersionString();
 
 // Returns the version of the running Windows as "(major.minor.build)", with the low 16 bits of the

@@ -25,7 +25,7 @@ bool HasTerminalSuite() {
   return verifyVersion(&wanted, VER_SUITENAME, setCondition(0, VER_SUITENAME, VER_AND)) != FALSE;
 }
 
-// `list` must end in two NULs.
+// The list must end in two NULs.
 bool ListContains(const wchar_t* list, const wchar_t* text) {
   for (; *list != L'\0'; list += std::wcslen(list) + 1) {
     if (lstrcmpW(list, text) == 0) {

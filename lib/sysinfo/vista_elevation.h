@@ -5,7 +5,8 @@
 namespace kelvo {
 
 // These functions query the elevation of this process's token (GetTokenInformation). All return
-// false before NT 6.0, and when the token cannot be opened for TOKEN_QUERY or cannot be read.
+// false on Windows before NT 6.0, and when the token cannot be opened for TOKEN_QUERY or cannot be
+// read.
 
 // Returns true when the token is elevated (TokenElevation).
 bool IsVistaProcessElevated();
@@ -14,9 +15,9 @@ bool IsVistaProcessElevated();
 // false and leaves `type` unchanged.
 bool GetVistaProcessElevationType(TOKEN_ELEVATION_TYPE& type);
 
-// Each returns true when the elevation type is the one in its name: TokenElevationTypeDefault (no
-// linked token), TokenElevationTypeFull (the elevated one of two linked tokens) or
-// TokenElevationTypeLimited (the other of the two).
+// Each of these functions returns true when the elevation type is the one in its name:
+// TokenElevationTypeDefault (no linked token), TokenElevationTypeFull (the elevated one of two
+// linked tokens) or TokenElevationTypeLimited (the other of the two).
 bool IsVistaProcessElevationTypeDefault();
 bool IsVistaProcessElevationTypeFull();
 bool IsVistaProcessElevationTypeLimited();

@@ -5,13 +5,14 @@ namespace kelvo {
 // These functions report which Windows is running. None distinguishes a workstation from a server,
 // so IsWinServer2008 is true on Windows Vista and IsWinServer2012 on Windows 8.
 //
-// Every function except the last two queries GetVersionExW on each call and returns false when
-// GetVersionExW fails. On Windows 8.1 and later, GetVersionExW reports 6.2 to a program whose
-// manifest does not name 8.1 or later.
+// Every function except IsWin64Bit and Is32BitOnWin64 calls GetVersionExW each time and returns
+// false when GetVersionExW fails. On Windows 8.1 and later, GetVersionExW reports 6.2 to a program
+// whose manifest does not name 8.1 or later.
 
 // Returns true on Windows 9x with minor version 0, which only Windows 95 has.
 bool IsWin95();
-// Returns true on Windows 9x with any other minor version, including Windows Millennium Edition.
+// Returns true on every Windows 9x with another minor version, including Windows Millennium
+// Edition.
 bool IsWin98();
 
 // Each returns true on the NT release in its name and on every later one; IsWinNT returns true on

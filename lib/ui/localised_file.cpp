@@ -68,7 +68,7 @@ LANGID Resolved(LANGID language) {
   return IsNeutral(language) ? LanguageOf(GetLocaleInfoString(language, LOCALE_SNAME)) : language;
 }
 
-// Returns how far a language is from the wanted one: 0 for the same primary language, 3 at most.
+// Returns how poorly `language` matches `wanted`: 0 for the same primary language, 3 at most.
 int Distance(LANGID language, LANGID wanted) {
   if (PRIMARYLANGID(language) == PRIMARYLANGID(wanted)) {
     return 0;
@@ -85,8 +85,8 @@ bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
                               static_cast<int>(b.length()), TRUE) == CSTR_EQUAL;
 }
 
-// Returns the locale name that the name of a found file or folder contains. Returns an empty string
-// when the found name does not fit the pattern: FindFirstFileW also matches short (8.3) names.
+// Returns the locale name in `found`, the name of a file or folder. Returns an empty string when
+// `found` does not fit the pattern: FindFirstFileW also matches short (8.3) names.
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
     return found;

@@ -6,14 +6,15 @@
 
 namespace kelvo {
 
-// Where the path of a localised file contains NAME, the locale name of its language, such as
+// The form of the path of a localised file. NAME is the locale name of the file's language, such as
 // "de-DE".
 enum class LocalisedFileForm {
   kFolder,  // FOLDER\resources\NAME\file.ext
   kSuffix,  // FOLDER\file_NAME.ext; the extension begins at the last dot
 };
 
-// For both functions, null strings count as empty, and `folder` may or may not end in a backslash.
+// For both functions, a null string counts as empty, and a backslash at the end of `folder` is
+// optional.
 
 // Returns the path of a file for one language, whether or not the file exists. GetLocaleInfoW
 // (LOCALE_SNAME) gives the locale name for `language`. Returns an empty string for a language
@@ -25,9 +26,9 @@ WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LAN
                              LocalisedFileForm form);
 
 // Returns the path of the file for `language`. If that file does not exist, returns the path of an
-// existing file in the best other language, in this order: same primary language, English (United
-// States), another English, any language. Among languages that are equally good, the locale name
-// that sorts first is used. Returns an empty string when there is no such file. GetLocaleInfoEx
+// existing file in another language, chosen in this order: same primary language, English (United
+// States), another variety of English, any language. Among equally good files, chooses the file
+// whose locale name sorts first. Returns an empty string when no file is found. GetLocaleInfoEx
 // (looked up at run time) gives the language for a locale name; when Windows lacks GetLocaleInfoEx,
 // only the file for `language` itself is found. If Windows has no LCID for a locale name, such as
 // "en-DE", the part before the first "-" gives the language. LANG_NEUTRAL, LOCALE_USER_DEFAULT and

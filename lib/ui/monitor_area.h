@@ -4,18 +4,19 @@
 
 namespace kelvo {
 
-// Both functions find the monitor nearest to `point`, store an area of that monitor in `rect`, in
-// screen coordinates, and always return true. Regardless of `point`, they use the primary monitor
+// Both functions store an area of a monitor in `rect`, in screen coordinates, and always return
+// true. The monitor is the one nearest to `point`. Both functions fall back to the primary monitor
 // when there is only one monitor, when MonitorFromPoint or GetMonitorInfoA (both looked up at run
 // time) is missing, and when MonitorFromPoint finds no monitor. When GetMonitorInfoA fails, `rect`
-// becomes all zeros. When SystemParametersInfoW fails, `rect` is unchanged.
+// becomes all zeros.
 
-// Stores the area without the taskbar: rcWork from GetMonitorInfoA or, for the primary monitor, the
-// result of SystemParametersInfoW with SPI_GETWORKAREA.
+// Stores the area without the taskbar: rcWork from GetMonitorInfoA or, in the fallback, the result
+// of SystemParametersInfoW with SPI_GETWORKAREA. When SystemParametersInfoW fails, `rect` is
+// unchanged.
 bool GetMonitorWorkArea(POINT point, RECT& rect);
 
-// Stores the full area: rcMonitor from GetMonitorInfoA or, for the primary monitor, the rectangle
-// from (0, 0) to (SM_CXSCREEN, SM_CYSCREEN).
+// Stores the full area: rcMonitor from GetMonitorInfoA or, in the fallback, the rectangle from
+// (0, 0) to (SM_CXSCREEN, SM_CYSCREEN).
 bool GetMonitorArea(POINT point, RECT& rect);
 
 }  // namespace kelvo

@@ -12,8 +12,8 @@ namespace kelvo {
 std::vector<LANGID> GetStringResourceLanguages(HMODULE module);
 
 // Returns the language in which to load resources: `requested` when `offered` contains it;
-// else the first of `offered` with the same primary language; else the first English one; else the
-// first of all. Returns 0 when `offered` is empty.
+// otherwise the first language of `offered` with the primary language of `requested`; otherwise the
+// first English language; otherwise the first language. Returns 0 when `offered` is empty.
 LANGID ChooseResourceLanguage(const std::vector<LANGID>& offered, LANGID requested);
 
 }  // namespace kelvo

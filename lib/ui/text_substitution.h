@@ -10,9 +10,9 @@
 namespace kelvo {
 
 // ReplaceAllInBuffer and ApplyTextSubstitutions rewrite a string in place, in a buffer of
-// `capacity` characters. The result always ends in a NUL within the capacity; text that does
-// not fit is cut off. A buffer without a NUL in its capacity is left unchanged. A null buffer is
-// ignored.
+// `capacity` characters. A null buffer is ignored, and a buffer without a NUL in its capacity is
+// left unchanged. In every other buffer, the result ends in a NUL within the capacity; text that
+// does not fit is cut off.
 
 // Replaces every occurrence of `search`, from left to right without overlap; the replacement is not
 // searched again. Returns FALSE and leaves the buffer unchanged when the buffer is null or has no
@@ -23,12 +23,12 @@ BOOL ReplaceAllInBuffer(wchar_t* buffer, std::size_t capacity, const wchar_t* se
 
 // Returns the map of the program's own replacements, from search string to replacement.
 // ApplyTextSubstitutions applies them in the order of the keys, after replacing the maker's name.
-// The program must fill the map before its other threads rewrite strings; the library only reads
-// it.
+// The program must fill the map before other threads call ApplyTextSubstitutions or
+// RewriteWindowTexts; the library only reads the map.
 std::map<WString, WString>& TextSubstitutions();
 
 // Replaces the maker's name, "KELVO" or "Kelvo", with its lower-case form, "kelvo". Then applies
-// the pairs of TextSubstitutions(), each to the result of the pair before. Returns `buffer`.
+// each pair of TextSubstitutions() to the result of the pair before it. Returns `buffer`.
 wchar_t* ApplyTextSubstitutions(wchar_t* buffer, std::size_t capacity);
 
 }  // namespace kelvo
