@@ -3,7 +3,7 @@
 #include "lib/registry/registry_string.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("GetShellFolderPath: returns the first stored path, else the module's folder") {
+TEST_CASE("GetShellFolderPath: returns the first usable stored path, else the module's folder") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   const StandInKey user(HKEY_CURRENT_USER);
   wchar_t out[MAX_PATH];

@@ -3,7 +3,7 @@
 #include "lib/process/waiting_messages.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("StartProcessAndWaitForMutex: ends at the mutex, a WM_CLOSE or the time-out") {
+TEST_CASE("StartProcessAndWaitForMutex: waits for the mutex, a WM_CLOSE or the time-out") {
   const auto windows2000 = PretendWindows(2, 5, 0);
   DWORD now = 0;
   REPLACE(GetTickCount, [&](auto) { return now; });
@@ -13,8 +13,8 @@ TEST_CASE("StartProcessAndWaitForMutex: ends at the mutex, a WM_CLOSE or the tim
     std::get<9>(std::tuple(given...))->hProcess = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     return isStarted;
   });
-  // Each search for the mutex takes a millisecond. Before search number `mutexAt`, the program
-  // creates the mutex. Before search number `closeAt`, this thread gets a WM_CLOSE.
+  // Each search for the mutex takes a millisecond. Search number `mutexAt` finds the mutex. During
+  // search number `closeAt`, this thread gets a WM_CLOSE.
   int lookups = 0, mutexAt = 0, closeAt = 0;
   REPLACE(OpenMutexW, [&](auto, auto, auto, LPCWSTR name) {
     CHECK(name == std::wstring(L"Global\\name"));
@@ -44,7 +44,7 @@ TEST_CASE("StartProcessAndWaitForMutex: ends at the mutex, a WM_CLOSE or the tim
   CHECK_BOTH(wait(false, 303) == 0, lookups == 1);
 }
 
-TEST_CASE("PumpWaitingMessages: dispatches all waiting messages, or those up to a WM_CLOSE") {
+TEST_CASE("PumpWaitingMessages: dispatches all waiting messages, but stops after a WM_CLOSE") {
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
   std::string calls;

@@ -7,7 +7,8 @@
 
 static std::string calls;
 
-// Notes each call and passes it on. Then sets a last error, which the code under test must not use.
+// Notes each call and passes it on. Then sets a last error, which RunAsUser must clear before it
+// calls OpenDesktopW or CreateProcessAsUserW.
 #define NOTE(function, note)                           \
   REPLACE(function, [](auto original, auto... given) { \
     calls += note;                                     \
@@ -23,7 +24,7 @@ static bool NoteIfOurs(const char* note, HANDLE token) {
   return number == 1 || number == 2;
 }
 
-TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0, wait and return the handle if asked") {
+TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0; wait or return the handle if asked") {
   const ScratchFolder folder;
   const std::wstring program = folder / L"a child.exe";
   CopyFileW(ProgramPath(L"test_child.exe").c_str(), program.c_str(), TRUE);
@@ -33,7 +34,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0, wait and return the
   const std::wstring arguments = name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
   const std::wstring command = L"\"" + program + L"\" " + arguments;
   // The caller's station and desktop, and RunAsUser's calls before and after its wait. The first
-  // row is for LaunchInUserSession. The 0 before an access mask: no child inherits the handle.
+  // row is for LaunchInUserSession. The 0 before an access mask prevents handle inheritance.
   const std::tuple<const wchar_t*, const wchar_t*, std::string, std::string> places[] = {
       {nullptr, nullptr, "", ""},
       {nullptr, nullptr, "create free ", ""},
@@ -42,7 +43,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0, wait and return the
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  // Opens another station: RunAsUser changes the DACL of WinSta0, which all programs share.
+  // Opens another station instead: RunAsUser would change WinSta0, which all programs share.
   REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);
@@ -144,7 +145,7 @@ TEST_CASE("LaunchInUserSession: version, session, token and desktop decide which
     calls += "caller";
     return fail(given...);
   });
-  // No "close2" follows "start2" in the last row, where RunAsUser keeps its token open.
+  // In the last row, no "close2" follows "start2", because RunAsUser keeps its token open.
   using Path = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
   for (const auto& [minor, ownSession, hasSession, duplicates, desktop, expected] :
        {Path{1, 5, true, true, nullptr, "close1start2close2"},

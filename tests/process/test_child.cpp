@@ -3,9 +3,9 @@
 #include "tests/support/ascii.h"
 #include "tests/support/desktop_scope.h"
 
-// The first thread notes its desktop and ends at once. The second thread waits for the event that
-// the first argument names. Then the second thread writes the command line and the desktop into a
-// file next to the program, sets the event "..._done" and ends the program with exit code 7.
+// The first thread notes its desktop, starts a second thread and ends. The second thread waits for
+// the event NAME, the first argument. Then the second thread writes the command line and the noted
+// desktop into a file next to the program, sets the event NAME_done and ends with exit code 7.
 static std::wstring desktop;
 
 static DWORD WINAPI Work(void* arguments) {

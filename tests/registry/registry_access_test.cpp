@@ -54,7 +54,7 @@ TEST_CASE("RegistryDeleteKeyTree: deletes a key and its subkeys, with or without
   }
 }
 
-TEST_CASE("RegistryDeleteKeyTree: deletes any depth without a deep stack") {
+TEST_CASE("RegistryDeleteKeyTree: deletes a tree of any depth without recursion") {
   const StandInKey user(kRoot);
   const std::wstring path = L"key\\tree\\" + std::wstring(254, L'n');
   OwnedRegistryKey deepest;

@@ -3,8 +3,7 @@
 #include "lib/registry/mui_cache_key.h"
 #include "tests/support/testing.h"
 
-TEST_CASE(
-    "EnableRegistryReflection: returns Windows' result; GetRegistryViewAccess: returns a flag") {
+TEST_CASE("EnableRegistryReflection, GetRegistryViewAccess: return success and an access flag") {
   const auto succeed = +[](HKEY key) { return key == HKEY_USERS ? 0L : 6L; };
   const auto fail = +[](HKEY) { return 5L; };
   for (const auto function : {succeed, fail, decltype(fail){}}) {
@@ -18,7 +17,7 @@ TEST_CASE(
   CHECK_BOTH(GetRegistryViewAccess(0) == 0, GetRegistryViewAccess(3) == 0);
 }
 
-TEST_CASE("GetMuiCacheKeyName: returns another key from Windows Vista on, none before XP") {
+TEST_CASE("GetMuiCacheKeyName: returns one name for XP, another from Vista on, none before XP") {
   const std::tuple<DWORD, DWORD, WString> rows[] = {
       {6, 0, L"Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"},
       {5, 2, L"Software\\Microsoft\\Windows\\ShellNoRoam\\MUICache"},

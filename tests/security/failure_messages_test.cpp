@@ -30,7 +30,7 @@ constexpr FailingCall kWatched[] = {
     RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
     SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
     SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
-    // Must be last: if the call to restore the station fails, RunAsUser closes that station.
+    // Must be last: if restoring the station fails, RunAsUser closes it: no later run can use it.
     SETS_LAST_ERROR(SetProcessWindowStation)};
 
 // The operation under test, and its messages without those of the operations that it calls.
@@ -38,8 +38,8 @@ static std::wstring operation, traced;
 
 // In each run of an operation, one call to a function of kWatched fails or throws. As a rule, the
 // operation then fails, and traces the name of a function that failed, but not of one that threw.
-// "fails" means that the clean-up traced one more message; "fails at once" means that it did not.
-// For each outcome, failure_messages.txt lists the first call of each function that leads to it.
+// With "fails", the last message was "exception caught in __finally"; with "fails at once", not.
+// failure_messages.txt lists, for each outcome and function, the first call with that outcome.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new station in place of the interactive one, which all programs share.
   const DesktopScope standIn(L"kelvo stand-in", L"Default");
@@ -49,7 +49,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   const OwnedKernelObject token = OwnToken();
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   // `many` does not fit in the stack buffer of AllowAccessTo..., so that HeapAlloc is called. `few`
-  // is enough for all other calls.
+  // is enough for all other operations.
   const TestAcl many(std::vector<TestAce>(51));
   const TestAcl few(std::vector<TestAce>(3));
   TestAce ace{.mask = 9};

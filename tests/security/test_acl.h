@@ -38,7 +38,7 @@ struct TestAcl {
   TestAce* aces = nullptr;
 };
 
-// Converts a security descriptor's DACL to SDDL, and SDDL to a descriptor ("none": without a DACL).
+// Convert a descriptor's DACL to SDDL, and SDDL (or "none", which means no DACL) to a descriptor.
 inline std::wstring ToSddl(PSECURITY_DESCRIPTOR descriptor) {
   OwnedLocalMemory<wchar_t> text;
   ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, 1, DACL_SECURITY_INFORMATION,
@@ -52,7 +52,7 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
   return descriptor;
 }
 
-// The beginning of an allow ACE, in SDDL, with all rights of a window station or of a desktop.
+// The beginning, in SDDL, of an ACE that grants all rights to a window station or to a desktop.
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
@@ -76,8 +76,8 @@ inline OwnedKernelObject OwnToken() {
   return token;
 }
 
-// A window station and a desktop whose DACLs can be read on every version of Wine. Wine 10 finds no
-// DACL for SE_WINDOW_OBJECT, but finds it if the same handle is passed with SE_KERNEL_OBJECT.
+// A window station and a desktop whose DACLs can be read on every version of Wine. With the type
+// SE_WINDOW_OBJECT, Wine 10 finds no DACL; with SE_KERNEL_OBJECT, it finds the same handle's DACL.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 

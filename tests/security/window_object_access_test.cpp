@@ -71,7 +71,7 @@ TEST_CASE("DeleteDenyACEofObject: removes all deny ACEs of the SID, except one a
   CHECK(DeleteDenyACEofObject(&localService.sid, scope.desktop, SE_WINDOW_OBJECT) == FALSE);
 }
 
-TEST_CASE("AllowTokenFullAccessToObject: grants desktop or station rights by type name") {
+TEST_CASE("AllowTokenFullAccessToObject: the type name selects desktop or station rights") {
   const WindowObjects scope;
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   WriteDacl(event.get(), L"D:");

@@ -24,7 +24,7 @@ TEST_CASE("ReplaceAll: accepts pointers into the text, throws if memory runs out
   text = L"aaabaa";
   CHECK(ReplaceAll(text, L"aa", L"cc") == 2);
   CHECK(text == L"ccabcc");
-  // The allocation of the result fails.
+  // Makes the allocation of the result fail.
   const WString many(2000, L'x');
   text = many;
   const std::wstring longer(2000, L'y');

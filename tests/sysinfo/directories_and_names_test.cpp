@@ -11,7 +11,8 @@ static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(simulatedText.length()) + (simulatedText.length() < size ? 0 : 1);
 }
 
-// Stores a name that begins with the format's number. For a host name, stores too small a size.
+// Stores a name that begins with the format's number. For a host name, stores a size that is too
+// small for all other names, so that the tests fail if the code asks for the wrong name's size.
 static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
   const std::size_t length = format == ComputerNameDnsHostname ? 1 : simulatedText.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));
@@ -26,8 +27,7 @@ static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
 
 static WString x(std::size_t count) { return {count, L'x'}; }
 
-TEST_CASE(
-    "GetSystemDirectoryPath, GetSystemWow64DirectoryPath: one final separator; empty if too long") {
+TEST_CASE("GetSystemDirectoryPath, GetSystemWow64DirectoryPath: end in a separator, or are empty") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return GiveDirectory(to...); });
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},
@@ -49,7 +49,7 @@ TEST_CASE(
 
 TEST_CASE(
     "GetUserNameInFormat, GetUserNameFQ, GetComputerNameFQ: use the format, else the plain name") {
-  // Keeps the library loaded, because Wine takes a long time to load it again for each call.
+  // Keeps secur32.dll loaded, because Wine takes a long time to load it again for each call.
   const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
   const auto give = [](auto, wchar_t* name, DWORD* size) {
     return GiveDirectory(name, *size) < *size ? TRUE : FALSE;

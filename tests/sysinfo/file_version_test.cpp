@@ -27,11 +27,11 @@ TEST_CASE(
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // A case can move the value at a path of `pathLength` characters to `offset` bytes after `from`.
+  // For a path of `pathLength` units, a case can make VerQueryValueW return `from` plus `offset`.
   char name[99] = "", from[9] = "";
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
-  UINT length = 0;  // which the simulated VerQueryValueW claims for the moved value
+  UINT length = 0;  // the length that VerQueryValueW then returns
   REPLACE(VerQueryValueW, [&](auto original, auto block, auto* path, auto found, auto claimed) {
     const BOOL answer = original(block, path, found, claimed);
     if (std::wcslen(path) == pathLength) {
@@ -60,7 +60,7 @@ TEST_CASE(
   });
 }
 
-TEST_CASE("IsIEVersionAtLeast, GetIEVersionName: use the system directory, keep the last name") {
+TEST_CASE("IsIEVersionAtLeast: reads the system directory; GetIEVersionName: keeps the last name") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));

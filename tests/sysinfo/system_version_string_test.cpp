@@ -22,7 +22,7 @@ static BOOL WINAPI ReportProduct(DWORD major, DWORD, DWORD pack, DWORD packMinor
   return TRUE;
 }
 
-TEST_CASE("GetSystemVersionString: names each Windows as in windows_names.txt") {
+TEST_CASE("GetSystemVersionString: names each Windows version as in windows_names.txt") {
   OSVERSIONINFOEXW version;
   REPLACE(GetVersionExW, [&](auto, OSVERSIONINFOW* record) {
     const DWORD size = record->dwOSVersionInfoSize;

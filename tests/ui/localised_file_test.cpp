@@ -3,7 +3,7 @@
 #include "lib/ui/locale_table.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("FindLocaleName, FindLocaleId: return the names and LCIDs of Windows") {
+TEST_CASE("FindLocaleName, FindLocaleId: return the same names and LCIDs as Windows") {
   int count = 0;
   for (LCID id = 0; id < 0x10000; ++id) {
     const wchar_t* const name = FindLocaleName(id);
@@ -54,7 +54,7 @@ TEST_CASE("FindLocalisedFile: finds the file for the language, or for the neares
       {L"resources\\en-US\\\u00E9.x", L"resources\\en-US\\\u00E9.x"},
       {L"resources\\de-CH\\\u00E9.x", L"resources\\de-CH\\\u00E9.x"},
       {L"resources\\de-DE\\\u00E9.x", L"resources\\de-DE\\\u00E9.x"}};
-  // As on Windows 10, "en-DE" and "old" have no LCID. Below, the user's language is German.
+  // As on Windows 10, "en-DE" and "old" have no LCID. The user's language (0x0400) is German.
   const auto getNumber = +[](LPCWSTR name, LCTYPE type, LPWSTR number, int size) {
     const bool hasNone = name == std::wstring(L"en-DE") || name == std::wstring(L"old");
     *reinterpret_cast<DWORD*>(number) = LOCALE_CUSTOM_UNSPECIFIED;

@@ -27,7 +27,7 @@ TEST_CASE("LocaleNameFromLcid: returns an empty string if LCIDToLocaleName is mi
 }
 
 TEST_CASE("ReplaceAllInBuffer: replaces all occurrences in a buffer of eight characters") {
-  // The text, the search text, the replacement, and the result: null if the text must not change.
+  // The text, the search text, the replacement, and the result (null if the text stays the same).
   const std::array<const wchar_t*, 4> rows[] = {
       {L"a.b.c", L".", L"--", L"a--b--c"}, {L"aaa", L"aa", L"a", L"aa"},
       {L"abab", L"ab", nullptr, L""},      {L"abc", L"x", L"y", nullptr},
@@ -44,7 +44,7 @@ TEST_CASE("ReplaceAllInBuffer: replaces all occurrences in a buffer of eight cha
   }
 }
 
-TEST_CASE("RewriteWindowTexts: rewrites only labels and buttons") {
+TEST_CASE("RewriteWindowTexts: rewrites the window's text, labels and buttons, nothing else") {
   const DesktopScope scope;
   const auto make = [](const std::wstring& kind, const std::wstring& text, HWND parent) {
     return CreateWindowExW(0, kind.c_str(), text.c_str(), parent == nullptr ? 0 : WS_CHILD, 0, 0, 9,
@@ -105,7 +105,7 @@ TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw only after the 
   });
   REPLACE(EnumChildWindows,
           [&](auto, auto, auto rewrite, auto context) { return call(rewrite, nullptr, context); });
-  // Makes every window look like a label that has this text.
+  // Makes every window look like a label with the text "Kelvo, Kelvo".
   REPLACE(GetClassNameW,
           [](auto, auto, auto* name, auto) { return lstrlenW(lstrcpyW(name, L"static")); });
   REPLACE(GetWindowTextW,
@@ -137,7 +137,7 @@ TEST_CASE("WriteUtf8: writes characters to a console, bytes to a file; a short w
   for (const bool isConsole : {true, false}) {
     REPLACE(GetConsoleMode,
             [=](auto, HANDLE asked, auto) -> BOOL { return asked == errors && isConsole; });
-    // Writes characters that have two, three and four bytes in UTF-8. The last is a surrogate pair.
+    // Writes characters of two, three and four UTF-8 bytes. The last one is a surrogate pair.
     CHECK(WriteUtf8(STD_ERROR_HANDLE, "\xC3\xA9\n\xE2\x82\xAC\xF0\x9F\x98\x80\n"));
     CHECK(seen == (isConsole ? L"\u00E9\r\n\u20AC\U0001F600\r\n"
                              : L"\xC3\xA9\r\n\xE2\x82\xAC\xF0\x9F\x98\x80\r\n"));
