@@ -1,7 +1,7 @@
 // Compares the library's string functions with alternatives, and measures the size and start time
-// of sorrel.exe. Each line of the output has the median of interleaved runs, in milliseconds and as
-// a ratio to the first line of its group. In a comparison, the first line is the library's own
-// function. A goal is a limit for a ratio.
+// of sorrel.exe. The output is in groups. Each line of a group has the median of interleaved runs,
+// in milliseconds and as a ratio to the first line of the group. In a group that compares
+// functions, the first line is the library's function. A goal is a limit for a ratio.
 
 #include <windows.h>
 
@@ -105,7 +105,8 @@ std::size_t BoostSplit(const std::wstring& list, boost::algorithm::token_compres
 }
 
 // Gives each run its own copy of the input, for work that changes its input. Makes all copies in
-// advance and frees none until the end: allocating while the clock runs would distort the times.
+// advance and frees none until the end: allocating or freeing a copy while the clock runs would
+// distort the times.
 template <typename Input, typename Work>
 std::function<std::size_t()> WithOwnInput(const Input& input, Work work) {
   return [work, inputs = std::make_shared<std::vector<Input>>(kRuns, input), run = 0U]() mutable {
@@ -121,7 +122,7 @@ std::function<std::size_t()> WalkOwnInput(const std::wstring& list, bool collaps
 }
 
 void MeasureSplitting(const std::wstring& list) {
-  Measure("split 100,000 items, collapsed (goal: bare loop at least 0.67, Boost lines above 1)",
+  Measure("split 100,000 items with collapse (goal: bare loop at least 0.67, Boost lines above 1)",
           {{"StringTokenizer", WalkOwnInput(list, true)},
            {"find and substr in a bare loop", [&] { return BareLoop(list, true); }},
            {"views::split into std::wstring",
@@ -145,7 +146,7 @@ void MeasureSplitting(const std::wstring& list) {
               return units;
             }},
            {"boost::split", [&] { return BoostSplit(list, boost::token_compress_on); }}});
-  Measure("split 100,000 items, not collapsed",
+  Measure("split 100,000 items without collapse",
           {{"StringTokenizer", WalkOwnInput(list, false)},
            {"find and substr in a bare loop", [&] { return BareLoop(list, false); }},
            {"boost::split", [&] { return BoostSplit(list, boost::token_compress_off); }}});
@@ -184,7 +185,7 @@ void MeasureShortNames() {
       return sum;
     };
   };
-  Measure("compare a short name 100,000 times (goal: _wcsicmp, for A to Z only, at least 1)",
+  Measure("compare a short name 100,000 times (goal: at least 1 for the ASCII-only _wcsicmp)",
           {{"CompareNoCase", repeat(kelvo::CompareNoCase)},
            {"_wcsicmp", repeat([](auto a, auto b) { return _wcsicmp(a, b); })},
            {"lstrcmpiW", repeat([](auto a, auto b) { return lstrcmpiW(a, b); })}});
@@ -212,7 +213,7 @@ void MeasureReplacing(const std::wstring& text) {
         })}});
 }
 
-// Measures whether the time is linear: twice the input should take about twice as long.
+// Measures whether the time grows linearly: twice the input should take about twice as long.
 void MeasureGrowth() {
   const auto growth = [](const char* title, const std::function<std::size_t(int)>& work) {
     Measure(title, {{"100,000", [&] { return work(100'000); }},

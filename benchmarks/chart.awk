@@ -1,5 +1,5 @@
-# Makes a bar chart (SVG) from the output of benchmarks.exe. Each bar is the ratio to the first line of its group, on a
-# logarithmic scale.
+# Makes a bar chart (SVG) from the output of benchmarks.exe. Each bar shows the ratio of a line to the first line of
+# its group, on a logarithmic scale.
 
 function text(x, y, weight, content) {
   gsub(/&/, "\\&amp;", content); gsub(/</, "\\&lt;", content)
@@ -28,5 +28,5 @@ BEGIN { y = 10; left = 330; doubling = 50 }
 END {
   printf "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"960\" height=\"%d\" font-family=\"sans-serif\" font-size=\"12\">\n", y + 40
   printf "<rect width=\"100%%\" height=\"100%%\" fill=\"white\"/>\n%s", rows
-  printf "<text x=\"10\" y=\"%d\">Ratios to the first line of each group (the dark mark), on a logarithmic scale. To the right: slower. To the left: faster.</text>\n</svg>\n", y + 28
+  printf "<text x=\"10\" y=\"%d\">Ratios to the first line of each group (the dark mark), on a logarithmic scale. A bar to the right means slower, a bar to the left means faster.</text>\n</svg>\n", y + 28
 }

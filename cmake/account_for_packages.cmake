@@ -16,7 +16,7 @@ macro(append array kind)
 endmacro()
 
 # Files must not contain a private key or the path of the source folder, which debug information can contain. The
-# archives must not contain files of tests or key files, which are recognized by their names.
+# archives must not contain key files or the tests' files: both are recognized by their names.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")
@@ -36,7 +36,7 @@ foreach(archive ${CPACK_PACKAGE_FILES})
   foreach(file ${paths})
     file(STRINGS ${unpacked}/${file} secrets LIMIT_COUNT 1 REGEX "${secret}")
     if(secrets OR file MATCHES "${secret_file}")
-      message(FATAL_ERROR "${file} in ${name} must not leave this computer: ${secrets}")
+      message(FATAL_ERROR "${file} in ${name} must not be published: ${secrets}")
     endif()
     math(EXPR number "${number} + 1")
     file(SHA1 ${unpacked}/${file} sha1)
@@ -68,8 +68,8 @@ function(describe package)
   set(purl ${purl} PARENT_SCOPE)
 endfunction()
 
-# Adds the third-party code in our programs. Each entry has a library of the compiler or a header, the name for the
-# bill of materials, the licence, and the programs that contain it.
+# Adds the third-party code in our programs and simulated libraries. Each entry has a library of the compiler or a
+# header, the name for the bill of materials, the licence, and the programs and libraries that contain this code.
 set(all "sorrel;sorrel_status;bthprops;difxapi")
 foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${all}"
     "libmingwex.a;mingw-w64-runtime;ZPL-2.1;${all}" "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT;sorrel_status"

@@ -15,7 +15,7 @@ namespace kelvo {
 // whether it has expired, and whether the store exists.
 //
 // The file may contain the certificate in binary, Base64 or hexadecimal form. If it contains
-// several certificates in Base64, such as a PEM file with a chain, only the first is read. If the
+// several certificates in Base64, as a PEM file with a chain does, only the first is read. If the
 // file is a PKCS #7 message or a serialized store, the item is unknown with CRYPT_E_NO_MATCH.
 Item QueryCertificate(const char* kind, const WString& file, const wchar_t* storeName);
 

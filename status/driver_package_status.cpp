@@ -56,8 +56,8 @@ bool HasVersionSection(std::string bytes) {
   return bytes.find("[version]") != std::string::npos;
 }
 
-// Compares the sizes first. A file of another size cannot match, so there is no error when such a
-// file cannot be read.
+// Compares the sizes first. A file of another size cannot match and is not read, so it causes no
+// error even if it cannot be read.
 DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) {
   OwnedFile file;
   LARGE_INTEGER size{};
@@ -130,7 +130,8 @@ DWORD ReadEntry(const SetupFunctions& functions, HINF inf, const wchar_t* key, W
   return ERROR_SUCCESS;
 }
 
-// Reads both entries, even when one is missing. Returns the first error code, or ERROR_SUCCESS.
+// Reads the entries Provider and DriverVer, each even when the other is missing. Returns the first
+// error code, or ERROR_SUCCESS.
 DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVersion) {
   const SetupFunctions functions;
   if (!functions) {
@@ -170,7 +171,7 @@ Item QueryDriverPackage(const WString& infPath) {
   WString provider;
   WString driverVersion;
   // Reads the given file: opening the published copy could make Windows write a .pnf file next to
-  // it.
+  // that copy.
   error = ReadVersion(infPath, provider, driverVersion);
   Item item{kKind,
             State::kPresent,

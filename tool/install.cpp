@@ -19,7 +19,7 @@ struct DriverOutcome {
   const wchar_t* text;
 };
 
-// Defined here because not every SDK declares all of these codes.
+// These codes are defined here because not every SDK declares all of them.
 constexpr DWORD kNoSuchDeviceInstance = 0xE000020B;
 constexpr DWORD kPackagePreinstalled = 0xE0000301;
 constexpr DWORD kPublisherNotTrusted = 0xE0000242;

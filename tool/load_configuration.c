@@ -1,7 +1,7 @@
 // Defines the load configuration of a shipped program. Because of this structure, Windows 10 1607
 // and later load the program's imports only from the system directory. NarrowLibrarySearch cannot
-// do this: it runs in wmain, after Windows has loaded the imports. Not part of a build with Visual
-// Studio, whose linker writes the structure itself (/DEPENDENTLOADFLAG).
+// do this: it runs in wmain, after Windows has loaded the imports. A build with Visual Studio
+// leaves out this file, because Visual Studio's linker writes the structure (/DEPENDENTLOADFLAG).
 
 #include <windows.h>
 

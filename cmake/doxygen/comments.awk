@@ -1,7 +1,7 @@
 # Turns the comments of a header into Doxygen comments:
 #   - A comment before a declaration documents this declaration and those that follow it without a blank line.
 #   - A comment before a blank line documents the header.
-#   - Lines indented by three spaces are an example or a table; lines that begin with "-" are a list.
+#   - Lines indented by three spaces are a list if they begin with "-", otherwise an example or a table.
 
 function print_block(mark,   i, line, literal) {
   for (i = 1; i <= count; ++i) {
