@@ -1,7 +1,7 @@
 @echo off
 rem deploy.cmd          copies the product's files to the product's folder and runs "sorrel.exe install". If a first
-rem                     installation fails, it is undone. If an upgrade fails, nothing is removed: the new version's
-rem                     files stay.
+rem                     installation fails, runs "sorrel.exe uninstall" and deletes the files. If an upgrade fails,
+rem                     removes nothing: the new version's files stay.
 rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application, and deletes the product's files unless this
 rem                     script runs from the product's folder.
 rem Both return the exit codes of run_sorrel.cmd.
@@ -10,7 +10,7 @@ set "errorlevel="
 set "here=%~dp0"
 if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
-rem If this folder's name has a percent sign or a caret, call changes it and does not find the file.
+rem If this folder's name has a percent sign or a caret, the command "call" changes the name and finds no product.cmd.
 if not defined product exit /b 1603
 rem Avoids ProgramFiles: if a 32-bit program starts this script, that variable has the folder for 32-bit programs.
 if not defined ProgramW6432 set "ProgramW6432=%ProgramFiles%"

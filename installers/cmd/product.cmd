@@ -5,7 +5,7 @@ set "product=Brindle"
 rem The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
 rem must be the same for all versions, and must not be part of another application's name.
 set "application=brindle"
-rem The driver package, its signer's certificate, and the certificate of the authority that issued it.
+rem The driver package's INF file, the certificate of the package's signer, and that of the issuing authority.
 set "inf=Tessalin.inf"
 set "publisher=trusted.cer"
 set "intermediate=trusted_i.cer"

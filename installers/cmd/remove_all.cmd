@@ -7,7 +7,7 @@ set "errorlevel="
 set "here=%~dp0"
 if not exist "%here%product.cmd" exit /b 1603
 call "%here%product.cmd"
-rem If this folder's name has a percent sign or a caret, call changes it and does not find the file.
+rem If this folder's name has a percent sign or a caret, the command "call" changes the name and finds no product.cmd.
 if not defined product exit /b 1603
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "answer=%log%.answer"

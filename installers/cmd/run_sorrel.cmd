@@ -15,7 +15,7 @@ rem Renames a large log instead of deleting it, so that the last runs are kept.
 if exist "%log%" for %%F in ("%log%") do if %%~zF gtr 65536 move /y "%log%" "%log%.old" >nul
 >>"%log%" echo === %product%, %date% %time%: sorrel.exe %*
 
-rem Deletes the output of another run, which must not be mistaken for the output of this run.
+rem Deletes the output of an earlier run, which must not be mistaken for the output of this run.
 if exist "%run%" del /f /q "%run%"
 if exist "%run%" exit /b 1603
 "%~dp0sorrel.exe" %* >"%run%"
@@ -28,7 +28,7 @@ rem Only one failure can be ignored: the radio is missing or off. Its codes are 
 rem returns them as its exit code, in decimal 1168 and 20. The line about a missing bthprops.cpl is not a failure.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
-rem cmd.exe parses a line before it inserts the variables of for, so no output of the tool can act as a command.
+rem cmd.exe parses a line before it inserts the variables of "for", so no output of the tool can act as a command.
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000490 1168" set "code=0"
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000014 20" set "code=0"
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A"=="ERR" if not "%%B %%C %%D"=="%spared% 00000490" if not "%%B %%C %%D"=="%spared% 00000014" if not "%%B %%C %%D %%E"=="no Bluetooth available, bthprops.cpl missing" set "failed=1"

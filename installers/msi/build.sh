@@ -14,13 +14,13 @@ declare -A setting=(
   [PRODUCT]='Brindle'
   [VERSION]='1.0.0'
   [MAKER]='The sorrel authors'
-  # Make your own two with uuidgen, and keep them for all versions.
+  # Make your own two GUIDs with uuidgen, and keep them for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
   # The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
   # must be ASCII, the same for all versions, and not part of another application's name.
   [APPLICATION]='brindle'
-  # The driver package, its signer's certificate, and the certificate of the authority that issued it.
+  # The driver package's INF file, the certificate of the package's signer, and that of the issuing authority.
   [INF]='Tessalin.inf'
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
@@ -40,7 +40,7 @@ for name in "${!setting[@]}"; do
   value=${setting[$name]}
   [[ $value != *[\"\'\$%\;\&\<\>\|^\!/\\[{}]* && $value != *]* ]] || refuse "$name=$value: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\ [ ] { }"
   iconv -f UTF-8 -t CP1252 <<<"$value" >/dev/null 2>&1 || refuse "$name=$value: wixl writes no letters outside of code page 1252."
-  [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" $value "* ]] || refuse "$name is still that of Brindle: make one with uuidgen."
+  [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" $value "* ]] || refuse "$name is still the GUID of Brindle: make another with uuidgen."
   settings+=(-D "$name=$value")
 done
 

@@ -15,7 +15,7 @@
 ; The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
 ; must be ASCII, the same for all versions, and not part of another application's name.
 !insertmacro Setting APPLICATION "brindle"
-; The driver package, its signer's certificate, and the certificate of the authority that issued it.
+; The driver package's INF file, the certificate of the package's signer, and that of the issuing authority.
 !insertmacro Setting INF "Tessalin.inf"
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
@@ -32,7 +32,7 @@
   !insertmacro ${DO} "${INTERMEDIATE}"
 !macroend
 
-; CVE-2025-43715: setups of an older NSIS run programs from a folder in which a user could have put another program.
+; CVE-2025-43715: setups made by an older NSIS run programs from a folder in which a user could have put a program.
 !ifndef OLD_NSIS_ACCEPTED
   !if ${NSIS_PACKEDVERSION} < 0x03011000
     !warning "NSIS ${NSIS_VERSION} lets a user of the computer gain the setup's rights (CVE-2025-43715): use 3.11 or later."
@@ -45,7 +45,7 @@ Unicode true
   !define SYSTEM "$WINDIR\Sysnative"
 !else
   !if ! /FileExists "${NSISDIR}/Stubs/zlib-amd64-unicode"
-    !error "This NSIS makes no 64-bit setups: give -DX86 for one of 32 bits."
+    !error "This NSIS makes no 64-bit setups: give -DX86 to make a 32-bit setup."
   !endif
   Target amd64-unicode
   !define SYSTEM "$SYSDIR"
@@ -120,7 +120,7 @@ FunctionEnd
 !macroend
 
 Section
-  ; $9 is the file name of the installed uninstaller, or empty in a first installation; $8 is the name for the new one.
+  ; $9 is the file name of the installed uninstaller (empty in a first installation), $8 that of the new uninstaller.
   ; A first installation uses an unused name: after a removal, Windows may still delete the old file at its next start.
   ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
   StrCpy $8 "$9"
