@@ -149,8 +149,9 @@ Section
   ${IfNot} ${Errors}
     !insertmacro RunSorrel 'install "$INSTDIR\${INF}" "$INSTDIR\${PUBLISHER}" "$INSTDIR\${INTERMEDIATE}" "${APPLICATION}"'
   ${EndIf}
-  ${If} $0 <> 0
-  ${AndIf} $0 <> 3010
+  ; Compares texts: if nsExec cannot start cmd.exe, $0 is "error".
+  ${If} $0 != 0
+  ${AndIf} $0 != 3010
     ; If the product was already installed, removes nothing, so that a repair is possible.
     ${If} $9 == ""
       !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'

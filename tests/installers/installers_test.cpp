@@ -106,13 +106,16 @@ static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
                                                   L"C:\\Program Files\\\u017Dlu\u0165 & Co",
                                                   L"C:\\Program Files\\M\u00F6we Kit"};
 
-// Returns the list of applications, a letter for each trusted certificate (P: publisher, I:
-// intermediate), the number of files in each product's folder, the entries in "Apps", and the files
+// Returns the list of applications, a letter for each trusted certificate (P: publisher, A:
+// authority), the number of files in each product's folder, the entries in "Apps", and the files
 // that are not logs in the folder of the logs.
 static std::string State() {
-  std::wstring state = Applications() + L" | " +
-                       (SubjectsInStore(L"TrustedPublisher").empty() ? L"" : L"P") +
-                       (SubjectsInStore(L"CA").empty() ? L"" : L"I") + L" |";
+  std::wstring state = Applications() + L" | ";
+  for (const wchar_t* store : {L"TrustedPublisher", L"CA"}) {
+    const std::wstring subject = SubjectsInStore(store);
+    state += subject.substr(subject.rfind(L' ') + 1, 1);
+  }
+  state += L" |";
   for (const std::filesystem::path& product : kProducts) {
     if (exists(product)) {
       const auto files = std::filesystem::directory_iterator(product);
