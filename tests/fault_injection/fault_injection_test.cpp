@@ -35,7 +35,7 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   return reinterpret_cast<FARPROC>(row->instead);
 }
 
-// Replaces a watched function's original by `instead`. The test can still make the function fail.
+// Replaces a watched function's original with `instead`. The test can still make the function fail.
 #define SIMULATE(function, instead)   \
   interception.originals[#function] = \
       reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
@@ -69,7 +69,7 @@ static void SimulateMachine() {
     lstrcpyW(*name, L"client");
     return TRUE;
   });
-  // Starts no process, since Wine sometimes fails to. Returns handles as if a process had ended.
+  // Simulates a process that has ended, because Wine sometimes fails to start a real process.
   static constexpr auto kStart = [](auto... given) -> BOOL {
     *std::get<sizeof...(given) - 1>(std::tuple(given...)) = {
         CreateEventW(nullptr, TRUE, TRUE, nullptr), CreateEventW(nullptr, TRUE, TRUE, nullptr), 1,
@@ -99,8 +99,8 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
   return text;
 }
 
-// Prepares the state from which an operation starts: a list of applications, no certificate in
-// either store, and the registry values and files that operations read. Loads the simulator's
+// Prepares the state from which an operation starts: a list of applications, the stores without
+// certificates, and the registry values and files that operations read. Loads the simulator's
 // bthprops.cpl, so that Windows finds that library by its name alone.
 struct Machine : ProgramFolder {
   Machine() : ProgramFolder({{L"versioned_english.dll", L"versioned_english.dll"}}) {
@@ -128,11 +128,11 @@ struct Machine : ProgramFolder {
   }
 
   // kFails: the chosen call fails. kEnds: the run ends before that call, as if the process were
-  // killed. kContinues: no call fails, and the run starts from the state that the last run left.
+  // killed. kContinues: no call fails, and the run starts from the previous run's final state.
   enum class How { kFails, kEnds, kContinues };
 
   // Loads the operations' DLL anew, runs operation `index`, and returns the outcome as lines: the
-  // output, the answer, the list if it changed, the stores, open handles and memory, and the
+  // output, the result, the list if it changed, the stores, open handles and memory, and the
   // simulator's journal. Returns no lines if `index` is past the end of the table.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
@@ -187,11 +187,11 @@ struct Machine : ProgramFolder {
   OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo faults")};
   std::string name;
   std::map<std::string, int> calls;
-  // The outcome without open handles and the journal.
+  // The outcome, but neither the open handles nor the journal.
   Lines reached;
 };
 
-// Appends to the last line, or to a new line if the last line would exceed 120 columns.
+// Appends `more` to the last line, or to a new line if the last line would exceed 120 columns.
 static void Append(std::string& text, const std::string& more) {
   const std::size_t column = text.size() - (text.rfind('\n') + 1);
   text += (column + std::min(more.find('\r'), more.size()) > 120 ? "\r\n " : "") + more;
@@ -226,9 +226,9 @@ static std::string Changes(const Lines& before, const Lines& after) {
   return before == after ? kNoChange : without + "\r\n" + added;
 }
 
-// Checks a run in which malloc failed: it wrote its first lines, then an exception ended it. All
-// other lines are as in a complete run: the list is the old or the new one, and no more is left
-// open. Not called for a library function that returns the same as if another call had failed.
+// Checks a run in which malloc failed: after its first lines, an exception ended it. All other
+// lines occur in a complete run: the list is the old or the new one, and no further handle is open.
+// Not called if a library function returns the same as when another function fails.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -251,7 +251,8 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
     const bool isReport = machine.name.starts_with("sorrel_status");
     // The distinct outcomes, each with the failing calls that cause it.
     std::vector<std::pair<Lines, std::string>> outcomes;
-    // Outcomes that lack a line of the driver's log, because DifxLogCallback catches the exception.
+    // Outcomes that lack a line of the driver's log. If malloc fails, the outcome can be the same,
+    // because DifxLogCallback catches the exception.
     std::set<Lines> withoutLogged;
     for (const auto& [function, made] : calls) {
       for (int nth = 1; nth <= made; ++nth) {
@@ -302,7 +303,7 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
   CheckAgainstFile(Joined("", shown, "\r\n"), L"calls.txt");
 }
 
-TEST_CASE("install, uninstall: the next run completes a run that was killed at any call") {
+TEST_CASE("install, uninstall: if a run is killed at any call, the next run completes the work") {
   Machine machine;
   for (const int index : {0, 2}) {  // install, uninstall
     machine.Run(index, {});
@@ -313,7 +314,7 @@ TEST_CASE("install, uninstall: the next run completes a run that was killed at a
         INFO(function, "-", nth);
         const Lines ended = machine.Run(index, {function, nth}, Machine::How::kEnds);
         REQUIRE(std::ranges::count(ended, "= ended") == 1);
-        // The service is set only after the application is recorded.
+        // The Bluetooth service is set only after the application has been added to the list.
         const bool isServiceSet = ended.back().starts_with("BluetoothSetLocalServiceInfo ");
         CHECK((!isServiceSet || std::ranges::count(ended, "list: kite;brindle") == 1));
         machine.Run(index, {}, Machine::How::kContinues);
@@ -324,7 +325,7 @@ TEST_CASE("install, uninstall: the next run completes a run that was killed at a
 }
 
 #ifdef KELVO_CHECKS_ALL_IMPORTS
-TEST_CASE("imported functions: each is made to fail, or spared.txt says why not") {
+TEST_CASE("imported Windows functions: each is made to fail, or spared.txt says why not") {
   const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
   std::string known = ReadBytes(ProgramPath(L"expected\\spared.txt"));
   for (const Watched& watched : kWatched) {

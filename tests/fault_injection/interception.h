@@ -15,25 +15,25 @@
 
 namespace kelvo::test {
 
-// How a function uses handles. kLeftOut means kNone, but calls.txt leaves the calls out: their
-// arguments vary from machine to machine, or the outcome already shows the arguments' effect.
+// How a function uses handles. kLeftOut is like kNone, but calls.txt omits the function's calls:
+// their arguments vary from machine to machine, or the outcome already shows the arguments' effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
-// A row of watched.def: a Windows function and its replacement.
+// A function of watched.def and its replacement.
 struct Watched {
   const char* name;
   void* instead;
   bool closes;
 };
 
-// Intercepts a module's calls to Windows: counts the calls of each function in a table, makes one
-// call fail, and records open handles and memory.
+// Intercepts a module's calls of the functions in watched.def: counts the calls of each function,
+// makes one call fail, and records open handles and memory.
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
-  // The distinct calls, as text. Leaves out calls without a string or a number other than 0.
+  // The distinct calls, as text. Omits a call if no argument is a string or a nonzero number.
   std::set<std::string> shown;
-  // The call that fails: its function and number, from 1. If `ends`, the thread ends before it.
+  // The call that fails: function and number, from 1. If `ends`, the thread ends before the call.
   std::pair<std::string, int> chosen;
   bool ends = false;
   // Open handles and memory, each with the function that opened it and the functions that close it.
@@ -54,8 +54,8 @@ inline std::vector<const void*> HandlesAt(PROCESS_INFORMATION* started) {
   return {started->hProcess, started->hThread};
 }
 
-// `failure` is the function's result when it fails, or kFailure if the function returns an error
-// code. `closers` names the functions that close the handles that it opens.
+// `failure` is what the function returns when it fails, or kFailure if it returns an error code. If
+// the function opens handles, `closers` names the functions that close these handles.
 template <typename Function, typename... Given>
 auto Intercept(const char* name, long long failure, Handles handles, std::string_view closers,
                Given... given) {
@@ -63,7 +63,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  // Does not show C runtime functions, whose names begin with a lower-case letter or "_".
+  // Does not show calls of C runtime functions, whose names begin with a lower-case letter or "_".
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
   const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {
@@ -94,7 +94,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
     open.erase(nullptr);
   }
   if (closes) {
-    // Overwrites the last error: code that needs this error must read it before closing a handle.
+    // Overwrites the last error: code that needs it must read it before closing a handle.
     SetLastError(fails ? kFailure : ERROR_SUCCESS);
   }
   return fails ? (Result)failure : result;

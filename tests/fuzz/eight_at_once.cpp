@@ -1,4 +1,4 @@
-// Runs eight processes at the same time: the last writer wins, but the list stays well-formed.
+// Runs eight sorrel.exe at once: the last writer wins, but the application list stays well-formed.
 
 #include <process.h>
 

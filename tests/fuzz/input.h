@@ -44,7 +44,7 @@ class Input {
 };
 
 // Memory of at most 0x10000 bytes with a guard page behind it or, if `atStart` is true, in front of
-// it. An access one byte too far is an access violation.
+// it. An access one byte beyond that end is an access violation.
 class GuardedMemory {
  public:
   GuardedMemory(std::size_t size, bool atStart)
@@ -72,7 +72,7 @@ class GuardedMemory {
   static constexpr std::size_t kRoom = 0x10000;
   // Fills the unused part of a block. A zero there could hide that a string has no terminator.
   static constexpr int kFiller = 0xA5;
-  // Reuses blocks: reserving a block takes longer than most inputs do.
+  // Reuses blocks: reserving a block takes longer than trying most inputs.
   static inline std::vector<BYTE*> freeBlocks;
 
   static BYTE* TakeBlock() {

@@ -1,6 +1,6 @@
 // fuzz                         lists the targets
 // fuzz TARGET NUMBER SECONDS   tries inputs on a target for SECONDS, starting with input NUMBER
-// Writes results to standard error, because the programs that fuzz starts write to standard output.
+// Writes results to standard error: sorrel.exe, which a target runs, writes to standard output.
 
 #include <windows.h>
 
@@ -17,7 +17,7 @@ static std::uint64_t currentInput = 0;
 
 void Expect(bool holds, const char* what) {
   if (!holds) {
-    std::cerr << "FAILED: this does not hold: " << what << "\nRepeat it with: scripts/fuzz \""
+    std::cerr << "FAILED: this does not hold: " << what << "\nRepeat with: scripts/fuzz \""
               << currentTarget->name << "\" " << currentInput << "\n";
     TerminateProcess(GetCurrentProcess(), 1);
   }

@@ -1,4 +1,4 @@
-// Reads registry values of any type and size with each of the library's functions that read values.
+// Reads registry values of any type and size with the library's functions that read values.
 
 #include "lib/registry/registry_binary.h"
 #include "lib/registry/registry_number.h"
@@ -23,7 +23,6 @@ static std::string AnyData(Input& input) {
   return {reinterpret_cast<const char*>(text.c_str()), (text.length() * 2) + input.Number(2)};
 }
 
-// Deletes the key when the program ends.
 struct Key {
   ~Key() { RegDeleteTreeW(HKEY_CURRENT_USER, kKey); }
 };
@@ -43,13 +42,13 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   const bool isExpanded = type == REG_EXPAND_SZ && text.find(L'%') != std::wstring::npos;
   const WString read = RegistryReadString(HKEY_CURRENT_USER, kKey, kName, L"default");
   const bool fits = isText && data.size() <= 2048;
-  // Skips a text that is expanded or that may be too long for the buffer of an expansion.
+  // Does not check a text that is expanded or may be too long for the buffer of an expansion.
   if (!isExpanded && (type != REG_EXPAND_SZ || text.length() < 259)) {
     Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is the stored text");
   }
   // Often chooses a buffer that the value fills exactly.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
-  // For a value of one byte Wine reads in front of the buffer, so no guard page may be there.
+  // For a value of one byte Wine reads in front of the buffer, so there must be no guard page.
   const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());
   const std::size_t stays =
       RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);

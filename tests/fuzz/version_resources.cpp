@@ -11,7 +11,7 @@
 
 namespace kelvo::fuzz {
 
-// The version resource, next to a guard page. For this size, operator new returns its memory.
+// The version resource, next to a guard page. For `resourceSize` bytes, new returns its memory.
 static std::size_t resourceSize = 0;
 static std::unique_ptr<GuardedMemory> resource;
 

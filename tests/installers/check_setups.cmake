@@ -6,7 +6,7 @@ set(nsis ${source_folder}/installers/nsis/build.sh good/files made.exe)
 set(msi ${source_folder}/installers/msi/build.sh good/files made.msi)
 file(REMOVE ${setups}/made.exe)
 
-# expect(CODE TEXT COMMAND...)   checks a command's exit code, and that its output matches the regular expression TEXT
+# expect(CODE TEXT COMMAND...)   checks that a command exits with CODE and that its output matches the regex TEXT
 function(expect code text)
   execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${setups}
     RESULT_VARIABLE seen OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -15,7 +15,7 @@ function(expect code text)
   endif()
 endfunction()
 
-# nsis/build.sh warns of an old NSIS. With an NSIS that makes only 32-bit setups, it needs -DX86.
+# nsis/build.sh warns of an old NSIS, and needs -DX86 if NSIS can make only 32-bit setups.
 execute_process(COMMAND makensis -VERSION OUTPUT_VARIABLE version)
 set(warning "^$")
 if(version MATCHES "^v([0-9.]+)" AND CMAKE_MATCH_1 VERSION_LESS 3.11)
@@ -31,7 +31,7 @@ if(NOT manifest)
   message(SEND_ERROR "The setup does not ask for an administrator's rights")
 endif()
 
-# Settings that build.sh refuses, because the package would not be the intended one.
+# Settings that a build.sh refuses, because it would make a wrong package from them.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
 foreach(changed UPGRADE_CODE COMPONENT)
   expect(2 "with uuidgen" ${msi} PRODUCT=Kite ${changed}=0b9e8a52-5a35-4c5c-8e5f-8b8ad9b5b0a1)
@@ -43,11 +43,11 @@ foreach(character ' $ % & < > | ^ ! / "\\" "\"" "\;")
   endforeach()
 endforeach()
 
-# The property Log names the log that run_sorrel.cmd writes: the last action of an installation reads that log.
+# The property Log must name the log that run_sorrel.cmd writes, because the last action of an installation reads it.
 expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi" Property)
 
-# The package's actions that change the computer run as SYSTEM: their types include 2048. The old version is removed
-# within the transaction (at 1501), so that it is restored if an upgrade fails.
+# The package's actions that change the computer run as SYSTEM: their types include 2048. An upgrade removes the old
+# version within the transaction (sequence number 1501), so that a failed upgrade restores the old version.
 foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\tsorrel\tuninstall none \"brindle\"\t" "InstallInitialize\t\t1500\n"
     "RemoveExistingProducts\t\t1501\n" "ReleaseService\tREMOVE=\"ALL\" AND NOT UPGRADINGPRODUCTCODE\t3400\n"
     "UndoPrepareService\tNOT Installed AND NOT WIX_UPGRADE_DETECTED\t4002\n")

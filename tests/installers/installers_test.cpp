@@ -12,7 +12,7 @@ static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
 // Copies of this program simulate pnputil and certutil, which Wine lacks. A copy writes its name
 // and all but its last argument to kStandIns, and removes the test's INF file or certificates if
-// the arguments name them. A copy whose exit code (the variable "ends") is a failure does neither.
+// the arguments name them. It does neither if its exit code (the variable "ends") is a failure.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
@@ -47,8 +47,8 @@ static const bool isStandIn = [] {
   ExitProcess(code);
 }();
 
-// Simulates a person who presses "OK" or "Cancel", whichever is enabled, in every window of a
-// setup. Writes the window's title and its message, or else the button's text, to kStandIns.
+// Simulates a person who presses "OK", or "Cancel" if "OK" is disabled, in every window of a setup.
+// Writes the window's title and message (or, without a message, the button's text) to kStandIns.
 [[noreturn]] static DWORD WINAPI PressButtons(void*) {
   for (;; Sleep(20)) {
     for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr;) {
@@ -57,7 +57,7 @@ static const bool isStandIn = [] {
         if (!IsWindowEnabled(box) || !IsWindowVisible(button) || !IsWindowEnabled(button)) {
           continue;
         }
-        // Waits until the handler that enabled the button has ended: it also changes the title.
+        // Waits for the end of the handler that enabled the button and also changes the title.
         SendMessageTimeoutW(box, WM_NULL, 0, 0, 0, 5000, nullptr);
         const HWND message = GetDlgItem(box, 0xFFFF);
         wchar_t title[256];
@@ -73,8 +73,8 @@ static const bool isStandIn = [] {
   }
 }
 
-// Returns the entries in "Apps", sorted. Sets %QUIET% to the last entry's command for a silent
-// removal.
+// Returns the products in "Apps", sorted. Sets %QUIET% to the last product's silent removal
+// command.
 static std::wstring Apps() {
   HKEY key = nullptr;
   RegCreateKeyW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
@@ -107,8 +107,8 @@ static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
                                                   L"C:\\Program Files\\M\u00F6we Kit"};
 
 // Returns the list of applications, a letter for each trusted certificate (P: publisher, A:
-// authority), the number of files in each product's folder, the entries in "Apps", and the files
-// that are not logs in the folder of the logs.
+// authority), the number of files in each product's folder, the products in "Apps", and the
+// files in the folder of the logs that are not logs.
 static std::string State() {
   std::wstring state = Applications() + L" | ";
   for (const wchar_t* store : {L"TrustedPublisher", L"CA"}) {
@@ -145,7 +145,7 @@ static std::wstring Expand(const std::wstring& text) {
 }
 
 // Runs a line of lifecycles.txt: a command line after any number of NAME=VALUE. Each NAME becomes
-// an environment variable; a capital NAME gets the simulator's prefix. Returns the exit code.
+// an environment variable; SORREL_SIMULATOR_ precedes a capital NAME. Returns the exit code.
 static DWORD Run(std::wstring line) {
   std::vector<std::wstring> names;
   for (std::size_t end = 0; (end = line.find(L'=')) < line.find_first_of(L" \"");) {
@@ -171,13 +171,13 @@ static std::wstring Rule() {
   return Expand({rule.begin(), rule.end()});
 }
 
-// Prepares the folders, programs and variables that lifecycles.txt uses.
+// Prepares the folders, programs and environment variables that lifecycles.txt uses.
 static void PutInPlace(const ScratchFolder& scratch) {
   for (const std::filesystem::path& folder : kProducts) {
     std::filesystem::remove_all(folder);
   }
   std::filesystem::remove_all(L"C:\\windows\\sysnative");
-  // Lets programs have windows without a display.
+  // Lets programs have windows without an X11 display.
   RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", L"Graphics", REG_SZ, L"null", 10);
   const std::wstring installers = ProgramPath(L"installers\\");
   std::filesystem::copy(installers + L"good\\files", scratch / L"A & \u017D!");
@@ -209,7 +209,7 @@ static void PutInPlace(const ScratchFolder& scratch) {
 TEST_CASE("deploy.cmd, remove_all.cmd, setups: lifecycles match lifecycles.txt") {
   const CleanMachine machine;
   const ScratchFolder scratch;
-  // Forgets an earlier build's products: Windows Installer would keep files shared with them.
+  // Unregisters an earlier build's products: Windows Installer would keep files shared with them.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
   PutInPlace(scratch);

@@ -1,7 +1,7 @@
-# Checks that each folder includes only headers of folders below it: cmake -D source_folder=... -P check_includes.cmake
+# cmake -D source_folder=... -P check_includes.cmake   checks #include lines against the diagram in docs/development.md
 cmake_minimum_required(VERSION 3.25)
 
-# Collects all folders below each folder from the arrows of the diagram, which lists the arrows of lower folders first.
+# Collects, for each folder, all folders to which arrows lead. The diagram lists the arrows of lower folders first.
 file(STRINGS ${source_folder}/docs/development.md arrows REGEX "^ +[a-z]+ --> ")
 foreach(arrow ${arrows})
   string(REGEX MATCHALL "[a-z]+" lower "${arrow}")
@@ -42,7 +42,7 @@ foreach(file ${files})
   endforeach()
 endforeach()
 
-# Checks that the library's page lists each public header once and no other file.
+# Checks that docs/library.md lists each public header once and no other file of lib/.
 file(STRINGS ${source_folder}/docs/library.md rows REGEX "\\(\\.\\./lib/")
 list(TRANSFORM rows REPLACE ".*\\(\\.\\./(lib/[^)]*)\\).*" "\\1")
 list(FILTER files INCLUDE REGEX "^lib/[a-z]+/[a-z0-9_]+[.]h$")

@@ -1,9 +1,9 @@
-# Installs into an empty folder and checks the installed files:
+# Installs into empty folders and checks the installed files:
 # cmake -D project=... -D source_folder=... -D folder=... -D toolchain=... -D wine=... -P check_installed.cmake
 
 cmake_minimum_required(VERSION 3.25)
 
-# install_into(prefix ARGUMENT...)   sets `files` to the list of installed files
+# install_into(PREFIX ARGUMENT...)   installs into the folder PREFIX and sets `files` to the list of installed files
 function(install_into prefix)
   file(REMOVE_RECURSE ${prefix})
   execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET
@@ -37,13 +37,13 @@ foreach(file ${files})
   endif()
 endforeach()
 
-# This script has no compiler, so the package must not be found: it accepts only a mingw compiler.
+# The package accepts only a mingw compiler. This script has no compiler, so it must not find the package.
 include(${folder}/all/lib/cmake/kelvo/kelvo-config.cmake)
 if(kelvo_FOUND OR NOT kelvo_NOT_FOUND_MESSAGE MATCHES "built for MINGW")
   message(SEND_ERROR "The package must accept only a mingw compiler: ${kelvo_NOT_FOUND_MESSAGE}")
 endif()
 
-# Builds the installed sample project with the installed library. Its second program includes each public header.
+# Builds the installed sample project with the installed library. The program whole_library includes each header.
 list(FILTER files INCLUDE REGEX "\\.h$")
 list(TRANSFORM files REPLACE "include/kelvo/(.*)" "#include \"\\1\"\n")
 string(JOIN "" includes ${files})

@@ -1,4 +1,4 @@
-# Packs the built files twice, signed with a throw-away certificate and unsigned, and checks the archives:
+# Packs the built files twice, once signed with a throw-away certificate and once unsigned. Checks the archives:
 # cmake -D project=... -D version=... -D folder=... -D osslsigncode=... -D openssl=... -D wine=... -P check_package.cmake
 
 cmake_minimum_required(VERSION 3.25)
@@ -17,7 +17,7 @@ set(ENV{SORREL_SIGN_CERTIFICATE} ${folder}/certificate.pem)
 set(ENV{SORREL_SIGN_KEY} ${folder}/key.pem)
 set(ENV{SORREL_SUMS_KEY} ${folder}/key.pem)
 run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/signed)
-# Signing must fail if a program is missing, the key belongs to another certificate, or the roots are not the signer's.
+# Signing must fail if a program is missing, the key is another certificate's, or the roots lack the signer's root.
 run(${openssl} req -x509 -newkey rsa:2048 -nodes -keyout ${folder}/other_key.pem -out ${folder}/other.pem -subj "/CN=Other")
 foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${folder}/other.pem)
   file(COPY ${project}/bin/sorrel.exe DESTINATION ${folder}/to_sign/tool)
@@ -27,14 +27,14 @@ foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${fol
   execute_process(COMMAND ${CMAKE_COMMAND} -E env ${fault} ${CMAKE_COMMAND} -D CPACK_TEMPORARY_DIRECTORY=${folder}/to_sign
     -P ${source_folder}/cmake/sign_programs.cmake RESULT_VARIABLE code OUTPUT_QUIET ERROR_QUIET)
   if(code EQUAL 0)
-    message(SEND_ERROR "Signing did not fail. The fault was a missing program, or this setting: ${fault}")
+    message(SEND_ERROR "Signing must fail but did not, with \"${fault}\" (if empty: with a missing program)")
   endif()
 endforeach()
 unset(ENV{SORREL_SIGN_CERTIFICATE})
 unset(ENV{SORREL_SUMS_KEY})
 run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/unsigned)
 
-# SHA256SUMS has each file's sum. Signing changes only the programs' archive and the bill of materials.
+# SHA256SUMS has each file's checksum. Signing changes only the programs' archive and the bill of materials.
 set(base sorrel-${version}-win64)
 foreach(kind signed unsigned)
   file(GLOB made RELATIVE ${folder}/${kind} ${folder}/${kind}/*.json ${folder}/${kind}/*.zip)
@@ -43,7 +43,7 @@ foreach(kind signed unsigned)
   list(SORT summed)
   foreach(files made summed)
     if(NOT ${files} STREQUAL "kelvo-${version}-win64-mingw-sdk.zip;${base}-simulator.zip;${base}-symbols.zip;${base}.spdx.json;${base}.zip")
-      message(SEND_ERROR "Wrong files in ${folder}/${kind} or its SHA256SUMS (${files}): ${${files}}")
+      message(SEND_ERROR "Wrong files in ${folder}/${kind} (made) or in SHA256SUMS (summed). ${files}: ${${files}}")
     endif()
   endforeach()
   execute_process(COMMAND sha256sum -c SHA256SUMS WORKING_DIRECTORY ${folder}/${kind}
@@ -53,7 +53,7 @@ list(REMOVE_ITEM signed ${unsigned})
 list(TRANSFORM signed REPLACE ".*  " "")
 list(SORT signed)
 if(NOT signed STREQUAL "${base}.spdx.json;${base}.zip")
-  message(SEND_ERROR "Between the signed and the unsigned packages, these files differ: ${signed}")
+  message(SEND_ERROR "Signing must change only ${base}.spdx.json and ${base}.zip, but changed: ${signed}")
 endif()
 
 # Every link leads to an existing file and heading, on every page in the repository and in the unpacked archives.
@@ -93,7 +93,7 @@ if(NOT links)
   message(SEND_ERROR "The library's page in the SDK does not link to the headers")
 endif()
 
-# The bill of materials has the program's checksum. The signatures of the program and of SHA256SUMS are valid.
+# The bill of materials has the checksum of sorrel.exe. The signatures of sorrel.exe and of SHA256SUMS are valid.
 file(READ ${folder}/signed/${base}.spdx.json bill)
 file(ARCHIVE_EXTRACT INPUT ${folder}/signed/${base}.zip DESTINATION ${folder})
 execute_process(COMMAND test -x ${folder}/${base}/share/doc/sorrel/installers/msi/build.sh COMMAND_ERROR_IS_FATAL ANY)
@@ -105,7 +105,7 @@ set(program ${folder}/${base}/bin/sorrel.exe)
 file(SHA256 ${program} sum)
 string(FIND "${bill}" "\"checksumValue\" : \"${sum}\"" place)
 if(place LESS 0)
-  message(SEND_ERROR "The bill of materials does not list ${program}")
+  message(SEND_ERROR "The bill of materials lacks the checksum of ${program}")
 endif()
 run(${openssl} x509 -in ${folder}/certificate.pem -pubkey -noout -out ${folder}/public.pem)
 run(${openssl} dgst -sha256 -verify ${folder}/public.pem -signature ${folder}/signed/SHA256SUMS.sig
@@ -113,5 +113,5 @@ run(${openssl} dgst -sha256 -verify ${folder}/public.pem -signature ${folder}/si
 run(${osslsigncode} verify -CAfile ${folder}/certificate.pem ${program})
 execute_process(COMMAND ${wine} ${program} RESULT_VARIABLE code OUTPUT_VARIABLE output)
 if(NOT code EQUAL 2 OR NOT output MATCHES "^invalid arguments")
-  message(SEND_ERROR "The signed program ended with ${code} and wrote ${output}")
+  message(SEND_ERROR "The signed program: expected exit code 2 and \"invalid arguments\", got ${code} and: ${output}")
 endif()

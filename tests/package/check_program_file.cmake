@@ -19,8 +19,8 @@ endif()
 if(facts MATCHES "MEM_EXECUTE [^\n]*\n *IMAGE_SCN_MEM_READ [^\n]*\n *IMAGE_SCN_MEM_WRITE")
   message(SEND_ERROR "${program} has a section that can be written and executed")
 endif()
-# In this order: ASLR, ASLR over the whole address space, DEP, the CET shadow stack, a .pdb name without a folder, a
-# hash instead of the build time, and imports only from the system directory (a setting that Wine ignores).
+# The facts mean, in this order: ASLR, ASLR over the whole address space, DEP, the CET shadow stack, a .pdb name without
+# a folder, a hash instead of the build time, and imports only from the system directory (a setting that Wine ignores).
 foreach(fact "_DYNAMIC_BASE " "_HIGH_ENTROPY_VA " "_NX_COMPAT " "_EX_CET_COMPAT " "PDBFileName: [^/\\\n]+\n" "Type: Repro "
     "DependentLoadFlags: 0x800\n")
   if(NOT facts MATCHES "${fact}")
@@ -33,7 +33,7 @@ if(size GREATER most_bytes)
   message(SEND_ERROR "${program} has ${size} bytes, more than ${most_bytes}")
 endif()
 
-# If the checksum is wrong, osslsigncode shows the right one too, so there are two.
+# If the header has a wrong checksum, osslsigncode shows this checksum and the right one, so the list has two.
 execute_process(COMMAND ${osslsigncode} verify ${program} OUTPUT_VARIABLE signature ERROR_QUIET)
 string(REGEX MATCHALL "PE checksum *: [0-9A-F]+" checksums "${signature}")
 list(TRANSFORM checksums REPLACE ".* " "")

@@ -99,7 +99,7 @@ TEST_CASE("QueryService: counts a device node unless it clearly belongs to a rem
       +[](HDEVINFO, PSP_DEVINFO_DATA, DWORD property, PDWORD, PBYTE out, DWORD size,
           PDWORD needed) -> BOOL {
         CHECK(property == SPDRP_HARDWAREID);
-        // Returns no terminators, since drivers may forget them.
+        // Returns no NULs at the end, since drivers may omit them.
         const auto bytes = static_cast<DWORD>(row.ids.length() * sizeof(wchar_t));
         if (out == nullptr) {
           return *needed = bytes, FALSE;
@@ -132,7 +132,7 @@ struct Conditions {
   bool hasMemory = true;
 };
 
-// Calls AnswerCommandLine with an option and its value (or null), under the given conditions.
+// Calls AnswerCommandLine with an option and its value, or null if the option has no value.
 static int Run(const wchar_t* option, const wchar_t* value, const Conditions& conditions = {}) {
   const wchar_t* const arguments[] = {L"sorrel_status.exe", option, value};
   bool hasMemory = true;
@@ -157,12 +157,12 @@ TEST_CASE("AnswerCommandLine: returns 3 if standard output exists but cannot be 
   CHECK(Run(L"--help", nullptr, {GetCurrentThread(), FALSE}) == 3);
 }
 
-TEST_CASE("AnswerCommandLine: returns 3 without memory, and writes why to standard error") {
+TEST_CASE("AnswerCommandLine: returns 3 if there is no memory, and writes the reason") {
   CHECK(Run(L"--version", nullptr, {GetCurrentThread(), TRUE, false}) == 3);
   CHECK(std::string(written) == "sorrel_status: not enough memory\r\n");
 }
 
-TEST_CASE("AnswerCommandLine: names Windows 10, searches all 200 groups, reads the elevation") {
+TEST_CASE("AnswerCommandLine: names Windows 10, searches 200 token groups, reads the elevation") {
   constexpr DWORD kCount = 200;
   struct {
     TOKEN_GROUPS first;

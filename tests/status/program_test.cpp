@@ -17,9 +17,9 @@ static std::wstring FromUtf8(const std::string& text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
 
-// Cleans the machine, creates a folder and makes it current. The folder has certificates, INF
-// files, both programs and the simulator's libraries. Its subfolder "versioned" has a second
-// sorrel_status.exe, and a difxapi.dll with a version resource: a copy of sorrel.exe.
+// Cleans the machine, and creates and enters a folder. This folder has certificates, INF files,
+// both programs and the simulator's libraries. Its subfolder "versioned" has a second
+// sorrel_status.exe and, as a difxapi.dll that has a version resource, a copy of sorrel.exe.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -49,7 +49,7 @@ struct Machine : ProgramFolder {
     }
   }
 
-  // Publishes a file as oem6.inf and locks it, so that no program can read it.
+  // Publishes a file as oem6.inf, and locks oem6.inf so that no program can read it.
   static void PublishLocked(const wchar_t* file) {
     locked.reset();
     const std::wstring published = kInfFolder + L"oem6.inf";
@@ -83,7 +83,7 @@ static std::string ShownOnPage(const std::string& kind) {
   return Replaced(page.substr(from, page.find("```", from) - from), "\n", "\r\n");
 }
 
-// Checks that the JSON form is ASCII and has the values of the text form, and that the
+// Checks that the JSON form is ASCII, that the text form has its values, and that the
 // administrators' page lists every JSON key.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;
@@ -102,14 +102,14 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
                                 : value.is_string()
                                     ? ToVisibleUtf8(FromUtf8(value.get<std::string>()))
                                     : "";
-      // For these two keys, the text form has other words than the JSON form.
+      // For these two keys, the two forms use different words.
       CHECK((key == "item" || key == "list" || line.find(shown) != std::string::npos));
     }
   }
 }
 
 TEST_CASE(
-    "sorrel_status.exe: text and JSON reports match lifecycle.txt, and no simulated library runs") {
+    "sorrel_status.exe: reports match lifecycle.txt and the JSON form, load no simulated library") {
   const Machine machine;
   std::istringstream lifecycle(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
   std::string seen;
@@ -123,7 +123,7 @@ TEST_CASE(
       ProgramFolder::Run(FromUtf8(line.substr(2)));
       seen += line + "\r\n\r\n";
     } else if (line.starts_with("> ")) {
-      // If the line in the file has --json, the JSON form must be the page's example.
+      // If the line in lifecycle.txt ends with --json, the JSON form must be the page's example.
       const std::wstring command = FromUtf8(Replaced(line.substr(2), " --json$", ""));
       std::filesystem::remove("journal");
       const ChildResult text = ProgramFolder::Run(command);

@@ -15,7 +15,7 @@
 
 namespace kelvo::test {
 
-// Returns the list of dependent applications in the registry, or "none" if there is no such value.
+// Returns the list of dependent applications in the registry, or "none" if that value is missing.
 inline std::wstring Applications() {
   wchar_t list[2048];
   DWORD size = sizeof(list);
@@ -29,7 +29,7 @@ inline std::string Replaced(const std::string& text, const std::string& pattern,
   return std::regex_replace(text, std::regex(pattern), by);
 }
 
-// Replaces parts of a sorrel_status.exe report that vary by run with placeholders such as TIME.
+// Puts placeholders such as TIME where the texts of a sorrel_status.exe report vary by run.
 inline std::string Named(std::string report) {
   report = Replaced(report, "[0-9A-F]{40}", "THUMBPRINT");
   report = Replaced(report, "\\d{4}-[-0-9T:]{14}Z", "TIME");
@@ -53,8 +53,8 @@ struct CleanMachine {
 };
 
 // Cleans the machine. Creates a folder with certificates, sorrel.exe and the simulator's libraries.
-// This folder is the current one until this object is destroyed. `further` lists more files to
-// copy, each with its path in this program's folder and its path in the new folder.
+// The folder is current until this object is destroyed. `further` lists more files to copy, each
+// with its path in the test program's folder and its path in the new folder.
 struct ProgramFolder : CleanMachine, ScratchFolder {
   ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {
     for (const wchar_t* const file :
@@ -70,7 +70,7 @@ struct ProgramFolder : CleanMachine, ScratchFolder {
   }
   ~ProgramFolder() { std::filesystem::current_path(ProgramPath(L"")); }
 
-  // Runs a command line whose first word is a program in this folder.
+  // Runs a command line that begins with a program's path, relative to this folder.
   static ChildResult Run(const std::wstring& commandLine) {
     const std::filesystem::path program = commandLine.substr(0, commandLine.find(L' '));
     return RunChild(commandLine, absolute(program).c_str());

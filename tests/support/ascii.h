@@ -6,7 +6,7 @@
 
 namespace kelvo::test {
 
-// Converts each UTF-16 code unit to a byte: its low byte if the unit is not ASCII.
+// Converts each UTF-16 code unit to its low byte, so that ASCII text stays the same.
 inline std::string Ascii(std::wstring_view text) {
   // Does not construct the string from wide iterators: the standard library would then narrow
   // without a cast, and the compiler would warn.

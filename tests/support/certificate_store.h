@@ -27,9 +27,9 @@ inline std::wstring SubjectsInStore(const wchar_t* name) {
   return subjects;
 }
 
-// Empties the two stores that sorrel.exe writes to, and creates a missing store. In a throw-away
-// prefix, the stores have only test certificates. Deletes their registry keys, because Wine's
-// CertDeleteCertificateFromStore does not delete a certificate permanently.
+// Empties the two stores that sorrel.exe writes to, and creates them if they are missing. In a
+// throw-away prefix, these stores have only test certificates. Deletes registry keys, because
+// Wine's CertDeleteCertificateFromStore does not delete a certificate permanently.
 inline void RemoveTestCertificates() {
   RequireThrowAwayPrefix();
   for (const std::wstring name : {L"TrustedPublisher", L"CA"}) {

@@ -7,12 +7,12 @@
 namespace kelvo::test {
 
 // Moves this process to a window station and this thread to a desktop until this object is
-// destroyed. Creates a station or desktop that does not exist. A null name changes nothing.
+// destroyed. Creates a missing station or desktop. A null name keeps the present one.
 struct DesktopScope {
   DesktopScope(const wchar_t* stationName, const wchar_t* desktopName) {
     constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
-    // Keeps a thread on the first desktop, since Wine removes a desktop one second after its last
-    // thread has left it.
+    // Keeps a thread on the process's initial desktop, since Wine removes a desktop one second
+    // after its last thread has left it.
     constexpr auto sleep = [](void*) -> DWORD { return SleepEx(INFINITE, FALSE); };
     [[maybe_unused]] static const HANDLE stays =
         CreateThread(nullptr, 0, sleep, nullptr, 0, nullptr);
@@ -25,9 +25,9 @@ struct DesktopScope {
       SetThreadDesktop(desktop);
     }
   }
-  // Uses a new desktop, which Wine opens on this process's X11 display. The prefix's first
-  // desktop is on the X11 display of the prefix's first process, which may have had none. A process
-  // keeps the X11 display of its first window.
+  // Uses a new desktop, because Wine opens it on this process's X11 display. The prefix's first
+  // desktop uses the X11 display of the prefix's first process, or none if that process had none. A
+  // process keeps the X11 display of its first window.
   DesktopScope()
       : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}
   DesktopScope(const DesktopScope&) = delete;

@@ -8,18 +8,18 @@
 
 namespace kelvo::test {
 
-// The error code with which a call fails.
+// The error code of a call that a test makes fail.
 constexpr DWORD kFailure = 1234;
 
 // A function that a test can make fail. `run(nth, throws, action)` runs `action`, in which the nth
-// call of the function fails, or throws if `throws` is true. It returns whether that call was made.
+// call of the function fails, or throws if `throws` is true. Returns whether there was an nth call.
 struct FailingCall {
   const char* function;
   bool (*run)(int nth, bool throws, const std::function<void()>& action);
 };
 
-// Rows of a table. SETS_LAST_ERROR is for a function that returns null or FALSE and sets the last
-// error when it fails. RETURNS_ERROR is for a function that returns the error code:
+// Macros for rows of a table. SETS_LAST_ERROR is for a function that, on failure, returns null or
+// FALSE and sets the last error. RETURNS_ERROR is for a function that returns the error code:
 //   constexpr FailingCall kFailing[] = {SETS_LAST_ERROR(GetAce), RETURNS_ERROR(GetSecurityInfo)};
 #define SETS_LAST_ERROR(called) KELVO_FAILING_CALL(called, SetLastError(kFailure), 0)
 #define RETURNS_ERROR(called) KELVO_FAILING_CALL(called, void(), kFailure)

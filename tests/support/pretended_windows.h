@@ -6,8 +6,8 @@
 
 namespace kelvo::test {
 
-// Makes GetVersionExW report this version, with build 1381 (in the low word), until the returned
-// object is destroyed:
+// Until the returned object is destroyed, makes GetVersionExW report the given version, and 1381 in
+// the low word of the build number:
 //   const auto vista = PretendWindows(VER_PLATFORM_WIN32_NT, 6, 0);
 inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
                            const wchar_t* servicePack = L"") {
@@ -15,7 +15,7 @@ inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
     const DWORD size = record->dwOSVersionInfoSize;
     *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
     lstrcpyW(record->szCSDVersion, servicePack);
-    // NT 4.0 accepts only the shorter structure, OSVERSIONINFOW.
+    // Like NT 4.0, any version 4.x accepts only the shorter structure, OSVERSIONINFOW.
     return major != 4 || size == sizeof(*record);
   };
   return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", report);

@@ -10,10 +10,10 @@
 
 // Replaces Windows functions for the code under test until the end of a block.
 //
-// Replaces an imported function by a lambda that takes the original function and the arguments:
+// Replaces an imported function with a lambda that takes the original function and the arguments:
 //   REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
-// Replaces the function that GetProcAddress finds by another function of the same type. Null
-// simulates a Windows that lacks the function:
+// Makes GetProcAddress return another function of the same type, or null to simulate a Windows that
+// lacks the function:
 //   const ReplacedExport native("GetNativeSystemInfo", nullptr);
 
 namespace kelvo::test {
@@ -84,7 +84,7 @@ struct ReplacedImport<Result(Parameters...), Replacement> {
                                parameters...);
   }
 
-  // Each lambda has a different type, and therefore a separate `active`.
+  // Each lambda has a different type, so each replacement has a separate `active`.
   static inline ReplacedImport* active = nullptr;
   const char* function;
   Replacement replacement;

@@ -9,11 +9,11 @@
 
 namespace kelvo::test {
 
-// The path of a registry key below HKEY_CURRENT_USER that does not exist at first. The key is
+// The path, below HKEY_CURRENT_USER, of a registry key that does not exist at first. The key is
 // deleted with everything below it when this object is destroyed.
 //
-// Neither the name nor the deletion comes from the library, which is under test: if a bug in it
-// made the name empty, the user's whole registry would be deleted.
+// Makes the name and deletes the key without the library under test: if a bug in the library made
+// the name empty, the user's whole registry would be deleted.
 struct ScratchKey : std::wstring {
   ScratchKey()
       : std::wstring(L"Software\\kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " +
@@ -24,8 +24,8 @@ struct ScratchKey : std::wstring {
   static inline int made = 0;
 };
 
-// Stores `units`, without their last `cutBytes` bytes, as a value. Puts "#" after them in
-// the buffer, not in the value: Windows would also store a NUL that follows the given bytes.
+// Stores `units`, without their last `cutBytes` bytes, as a value. In the buffer, "#" follows
+// `units`: if a NUL followed the bytes to store, Windows would store that NUL too.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);
@@ -34,7 +34,7 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
 }
 
 // Until this object is destroyed, makes Windows use `key`, which is empty at first, in place of a
-// predefined key such as HKEY_CURRENT_USER. Writing or deleting there changes only `key`.
+// predefined key such as HKEY_CURRENT_USER. Changes to the predefined key then affect only `key`.
 struct StandInKey {
   explicit StandInKey(HKEY replaced) : predefined(replaced) {
     HKEY created = nullptr;

@@ -5,12 +5,12 @@
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// Cleans the machine, creates a folder with certificates and these programs, and makes it current:
+// Cleans the machine, and creates and enters a folder with certificates and these programs:
 //   sorrel.exe, with the simulator's two libraries
 //   alone\sorrel.exe, without these libraries
 //   swapped\sorrel.exe, with the libraries' names swapped: each lacks the expected functions
 //   without_security.exe and without_crypt32.exe, copies of sorrel.exe for which Wine loads no
-//   security.dll or no crypt32.dll
+//   security.dll and no crypt32.dll, respectively
 struct Rehearsal : ProgramFolder {
   Rehearsal()
       : ProgramFolder({{L"sorrel.exe", L"alone\\sorrel.exe"},
@@ -56,7 +56,7 @@ struct Rehearsal : ProgramFolder {
 
 TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt") {
   const Rehearsal machine;
-  // Accepts CRLF and LF, whichever the editor has written.
+  // Accepts CRLF and LF, since an editor may write either.
   std::string bytes = ReadBytes(ProgramPath(L"expected\\transcript.txt"));
   std::erase(bytes, '\r');
   std::istringstream transcript(bytes);
@@ -77,7 +77,7 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt")
       seen += line + "\r\n" + text + "\r\n";
     } else if (line.starts_with("> ")) {
       std::string outcome = Rehearsal::Run({line.begin() + 2, line.end()});
-      // A program that writes "@NAME" must not pass for one that writes the lines of that block.
+      // An "@NAME" that the program writes must not be taken for the lines of that block.
       CHECK(outcome.find('@') == std::string::npos);
       for (const auto& [text, name] : named) {
         for (std::size_t at = 0; (at = outcome.find(text)) != std::string::npos;) {
@@ -121,7 +121,7 @@ TEST_CASE("register: adds to a stored list, replaces any other value") {
     Rehearsal::Run(L"LATER=b sorrel.exe register kite");
     CHECK(Applications() == list);
   }
-  // sorrel.exe writes each UTF-16 unit of a name as one byte, and "?" if a unit does not fit.
+  // sorrel.exe writes each UTF-16 unit of a name as one byte, or as "?" if the unit does not fit.
   CHECK(Rehearsal::Run(L"sorrel.exe unregister KITE")
             .starts_with("OK: Dependant applications exist: ?ofie \xFF??\r\n"));
 }

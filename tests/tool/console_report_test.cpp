@@ -3,10 +3,10 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("FormatSystemMessage: returns the whole text, or none if the call fails") {
+TEST_CASE("FormatSystemMessage: returns the whole text, or an empty text if FormatMessageW fails") {
   DWORD answer = 0;
   REPLACE(FormatMessageW, [&](auto, auto, auto, auto, auto, LPWSTR buffer, auto, auto) {
-    // Writes a text even when the call fails.
+    // Fills the buffer even when the call fails.
     lstrcpyW(buffer, L"half a text");
     return answer;
   });

@@ -3,7 +3,7 @@
 #include "tests/support/shown_arguments.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("EnableLoadDriverPrivilege: fails if AdjustTokenPrivileges sets a last error") {
+TEST_CASE("EnableLoadDriverPrivilege: fails if AdjustTokenPrivileges sets ERROR_NOT_ALL_ASSIGNED") {
   struct Row {
     DWORD error;
     bool isEnabled;
@@ -18,7 +18,7 @@ TEST_CASE("EnableLoadDriverPrivilege: fails if AdjustTokenPrivileges sets a last
       SetLastError(error);
       return TRUE;
     });
-    // Closing the token must not hide the last error of the adjustment.
+    // Closing the token must not hide the last error of AdjustTokenPrivileges.
     REPLACE(CloseHandle, [&](auto original, HANDLE handle) {
       original(handle);
       SetLastError(ERROR_INVALID_HANDLE);

@@ -3,7 +3,7 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("NarrowLibrarySearch: keeps program and system folders, or only drops the current one") {
+TEST_CASE("NarrowLibrarySearch: keeps program and system folders, or drops the current folder") {
   static DWORD directories;
   static BOOL isSupported;
   const auto set = +[](DWORD given) { return directories = given, isSupported; };
@@ -54,7 +54,7 @@ TEST_CASE("BindDriverInterface: loads by path, from the program's folder first")
   const std::wstring ownCopy = folder.Write("difxapi.dll", "");
   BindDriverInterface(driver);
   CHECK(asked == ownCopy);
-  // The current folder must not be mistaken for the program's.
+  // If the program's folder is unknown, the current folder must not be searched instead.
   std::filesystem::current_path(folder.path);
   isPathKnown = false;
   BindDriverInterface(driver);
