@@ -8,7 +8,7 @@ rem Both return the exit codes of run_sorrel.cmd.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
-if not exist "%here%product.cmd" exit /b 1603
+set "product="
 call "%here%product.cmd"
 rem If this folder's name has a percent sign or a caret, the command "call" changes the name and finds no product.cmd.
 if not defined product exit /b 1603

@@ -2,7 +2,7 @@ rem Change these settings. The other batch files of this folder read them.
 
 rem The product's name, which is also the name of its folder below Program Files.
 set "product=Brindle"
-rem The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
+rem The product's name on the list in which sorrel.exe records the applications that use the hands-free service. The name
 rem must be the same for all versions, and must not be part of another application's name.
 set "application=brindle"
 rem The driver package's INF file, the certificate of the package's signer, and that of the issuing authority.

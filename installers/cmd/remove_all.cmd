@@ -5,7 +5,7 @@ rem                  restarted, or 1603 when something is still there or could n
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
-if not exist "%here%product.cmd" exit /b 1603
+set "product="
 call "%here%product.cmd"
 rem If this folder's name has a percent sign or a caret, the command "call" changes the name and finds no product.cmd.
 if not defined product exit /b 1603

@@ -4,8 +4,9 @@ rem output to the product's log. Returns 0, 3010 when the computer must be resta
 setlocal EnableExtensions DisableDelayedExpansion
 rem An environment variable named errorlevel would hide the exit codes of programs.
 set "errorlevel="
-if not exist "%~dp0product.cmd" exit /b 1603
+set "product="
 call "%~dp0product.cmd"
+if not defined product exit /b 1603
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "run=%log%.run"
 set "failed="
@@ -41,7 +42,9 @@ set "name="
 if "%~1"=="install" set "name=%~5"
 if "%~1"=="register" set "name=%~2"
 if not defined name goto end
-if not exist "%~dp0sorrel_status.exe" goto end
+rem Windows also returns 1 for a program that may not run: then nothing is known about the name.
+"%~dp0sorrel_status.exe" --version >nul 2>&1
+if not "%errorlevel%"=="0" goto end
 "%~dp0sorrel_status.exe" --application "%name%" >>"%run%"
 if "%errorlevel%"=="1" set "failed=1"
 

@@ -17,7 +17,7 @@ declare -A setting=(
   # Make your own two GUIDs with uuidgen, and keep them for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
-  # The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
+  # The product's name on the list in which sorrel.exe records the applications that use the hands-free service. The name
   # must be ASCII, the same for all versions, and not part of another application's name.
   [APPLICATION]='brindle'
   # The driver package's INF file, the certificate of the package's signer, and that of the issuing authority.
@@ -40,6 +40,7 @@ for name in "${!setting[@]}"; do
   value=${setting[$name]}
   [[ $value != *[\"\'\$%\;\&\<\>\|^\!/\\[{}]* && $value != *]* ]] || refuse "$name=$value: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\ [ ] { }"
   iconv -f UTF-8 -t CP1252 <<<"$value" >/dev/null 2>&1 || refuse "$name=$value: wixl writes no letters outside of code page 1252."
+  [[ $name != APPLICATION || $value != *[^\ -~]* ]] || refuse "$name=$value: the name must be ASCII."
   [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" $value "* ]] || refuse "$name is still the GUID of Brindle: make another with uuidgen."
   settings+=(-D "$name=$value")
 done
@@ -52,16 +53,16 @@ cp "$here/service.js" "$scratch"
 # Writes product.cmd, which run_sorrel.cmd reads.
 printf 'set "%s=%s"\r\n' product "${setting[PRODUCT]}" application "${setting[APPLICATION]}" \
   radio_off "${setting[RADIO_OFF]}" >"$scratch/product.cmd"
-rm -f "$output"
-(cd "$1" && wixl -a x64 "${settings[@]}" -D Scripts="$(realpath --relative-to=. "$scratch")" -o "$output" "$here/brindle.wxs")
+package=$scratch/package.msi
+(cd "$1" && wixl -a x64 "${settings[@]}" -D Scripts="$(realpath --relative-to=. "$scratch")" -o "$package" "$here/brindle.wxs")
 
 # wixl 0.101 schedules the removal of the old version before the transaction, so a failed upgrade would not restore it.
-msibuild "$output" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
+msibuild "$package" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
 
 # Adds an action that wixl cannot write.
 add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
-  msibuild "$output" -q "INSERT INTO CustomAction (Action, Type, Source, Target) VALUES ('$1', $2, '$3', '$4')"
-  msibuild "$output" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
+  msibuild "$package" -q "INSERT INTO CustomAction (Action, Type, Source, Target) VALUES ('$1', $2, '$3', '$4')"
+  msibuild "$package" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
 }
 
 # These actions run functions of service.js, deferred and as SYSTEM (type 3077: JScript in the package). ReleaseService
@@ -72,9 +73,11 @@ add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGR
 
 # Removes the application from the list when a first installation fails. Runs the copy of sorrel.exe in the package,
 # since the installed copy may be deleted by then. Type 3394: a program in the package, deferred, on rollback, as
-# SYSTEM, errors ignored. It shows a console, which is safe: only an administrator can start a first installation.
+# SYSTEM, errors ignored. Its console runs as SYSTEM, which is safe: only an administrator can start a first installation.
 add_action UndoPrepareService 3394 sorrel "uninstall none \"${setting[APPLICATION]}\"" \
   'NOT Installed AND NOT WIX_UPGRADE_DETECTED' 4002
 
 # Runs a function of service.js at the end, and ignores errors.
 add_action AskForRestart 69 service AskForRestart 'NOT REMOVE="ALL"' 6601
+
+mv "$package" "$output"

@@ -7,13 +7,19 @@ set -euo pipefail
 export LC_ALL=C.UTF-8
 files=$(realpath "$1")
 output=$(realpath -m "$2")
+names=$(sed -n 's/^!insertmacro Setting \([A-Z_]*\) .*/\1/p' "$(dirname "$0")/setup.nsi" | tr '\n' ' ')
 options=()
 for word in "${@:3}"; do
   case $word in
     -*) options+=("$word") ;;
     *[\"\'\$%\;\&\<\>\|^\!/\\]*) echo "$word: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\" >&2; exit 2 ;;
-    *=?*) options+=("-D$word") ;;
-    *) echo "$word is not NAME=VALUE." >&2; exit 2 ;;
+    APPLICATION=*[^\ -~]*) echo "$word: the name must be ASCII." >&2; exit 2 ;;
+    *)
+      [[ $word == *=?* && " $names" == *" ${word%%=*} "* ]] || {
+        echo "$word is not NAME=VALUE with one of these names: $names" >&2
+        exit 2
+      }
+      options+=("-D$word") ;;
   esac
 done
 makensis -V2 "${options[@]}" -DFILES="$files" -DOUTPUT="$output" "$(dirname "$0")/setup.nsi"

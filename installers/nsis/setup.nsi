@@ -12,7 +12,7 @@
 !insertmacro Setting PRODUCT "Brindle"
 !insertmacro Setting VERSION "1.0.0"
 !insertmacro Setting MAKER "The sorrel authors"
-; The product's name on the list in which sorrel.exe records the applications that use the Bluetooth service. The name
+; The product's name on the list in which sorrel.exe records the applications that use the hands-free service. The name
 ; must be ASCII, the same for all versions, and not part of another application's name.
 !insertmacro Setting APPLICATION "brindle"
 ; The driver package's INF file, the certificate of the package's signer, and that of the issuing authority.
@@ -91,6 +91,12 @@ UninstPage instfiles
 !macroend
 
 Function .onInit
+  ; A repair or an upgrade uses the folder of the installed product.
+  SetRegView 64
+  ReadRegStr $0 HKLM "${UNINSTALL_KEY}" InstallLocation
+  ${If} $0 != ""
+    StrCpy $INSTDIR "$0"
+  ${EndIf}
   !insertmacro Begin
 FunctionEnd
 
@@ -98,8 +104,8 @@ Function un.onInit
   !insertmacro Begin
 FunctionEnd
 
-; Runs run_sorrel.cmd and puts its exit code into $0. run_sorrel.cmd reads the tool's lines from a file, since
-; nsExec::ExecToStack keeps only 1,023 characters.
+; Runs run_sorrel.cmd and puts its exit code into $0. The setup does not read the tool's output itself, because
+; nsExec::ExecToStack keeps only 1,023 characters of it.
 !macro RunSorrel WORDS
   nsExec::Exec '"${SYSTEM}\cmd.exe" /d /s /c ""$INSTDIR\run_sorrel.cmd" ${WORDS}"'
   Pop $0
@@ -114,7 +120,7 @@ FunctionEnd
 !macro RemoveProduct
   !insertmacro EachFile Remove
   !insertmacro Remove "product.cmd"
-  !insertmacro Remove "uninstall*.exe"
+  !insertmacro Remove "$8"
   RMDir "$INSTDIR"
   DeleteRegKey HKLM "${UNINSTALL_KEY}"
 !macroend
@@ -140,6 +146,7 @@ Section
   WriteUninstaller "$INSTDIR\$8"
   WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayName "${PRODUCT}"
   WriteRegStr HKLM "${UNINSTALL_KEY}" Publisher "${MAKER}"
+  WriteRegStr HKLM "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
   WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\$8"'
   WriteRegStr HKLM "${UNINSTALL_KEY}" Uninstaller "$8"
   ; NSIS requires _?= at the end, without quotation marks. With _?=, the uninstaller returns only when it is done.

@@ -8,10 +8,10 @@ namespace kelvo {
 // certificate, replaces it. Both strings are NUL-terminated. `storeName` is Windows' name for the
 // store, such as "CA". The store must exist; changing it needs administrative rights.
 //
-// The file may hold the certificate in binary (DER), Base64 or hexadecimal form. A PFX file or a
-// collection (a PKCS #7 message or a serialized store) is accepted, but nothing is added. Do not
-// pass a certificate revocation list (CRL) or a certificate trust list (CTL): its CRL_CONTEXT or
-// CTL_CONTEXT would be used as a CERT_CONTEXT.
+// The file may hold the certificate in binary (DER), Base64 or hexadecimal form. For a PFX
+// file or a collection (a PKCS #7 message or a serialized store), adds nothing and returns 0. Do
+// not pass a certificate revocation list (CRL) or a certificate trust list (CTL): its CRL_CONTEXT
+// or CTL_CONTEXT would be used as a CERT_CONTEXT.
 //
 // Returns 0 or the error code of the step that failed: loading "crypt32.dll" and looking up its
 // functions (before any change), CertOpenStore, CryptQueryObject, or

@@ -34,7 +34,7 @@ static_assert(sizeof(ProcessParameters) == 240);
 static_assert(sizeof(PROCESS_BASIC_INFORMATION) == 48 &&
               offsetof(PROCESS_BASIC_INFORMATION, PebBaseAddress) == 8);
 
-// Every call of GetProcessCommandLine looks up this function again.
+// Looked up anew by each call of GetProcessCommandLine that passes the check of the version.
 decltype(&::NtQueryInformationProcess) queryProcess = nullptr;
 
 // Returns the number of bytes read, or 0 on failure.

@@ -2,9 +2,9 @@
 
 #include <string>
 
-// An operation that the test of failing calls runs. fault_injection_operations.dll exports the
-// table "operations", whose last row has no name. The test loads this DLL anew for each run, so
-// that no state of an earlier run is left.
+// An operation. The test makes the calls of an operation fail. fault_injection_operations.dll
+// exports the table "operations", whose last row has no name. The test loads this DLL anew for each
+// run, so that no state of an earlier run is left.
 struct Operation {
   const char* name;
   // The list of applications in the registry before the operation runs.

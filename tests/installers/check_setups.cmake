@@ -2,9 +2,11 @@
 # cmake -D source_folder=... -D setups=... -P check_setups.cmake
 
 cmake_minimum_required(VERSION 3.25)
-set(nsis ${source_folder}/installers/nsis/build.sh good/files made.exe)
-set(msi ${source_folder}/installers/msi/build.sh good/files made.msi)
-file(REMOVE ${setups}/made.exe)
+file(COPY ${source_folder}/installers DESTINATION "${setups}/a b")
+set(nsis "a b/installers/nsis/build.sh" good/files made.exe)
+set(msi ${CMAKE_COMMAND} -E env TMPDIR=${setups}/scratch "a b/installers/msi/build.sh" good/files made.msi)
+file(REMOVE_RECURSE ${setups}/made.exe ${setups}/made.msi ${setups}/scratch)
+file(MAKE_DIRECTORY ${setups}/scratch)
 
 # expect(CODE TEXT COMMAND...)   checks that a command exits with CODE and that its output matches the regex TEXT
 function(expect code text)
@@ -15,20 +17,17 @@ function(expect code text)
   endif()
 endfunction()
 
-# nsis/build.sh warns of an old NSIS, and needs -DX86 if NSIS can make only 32-bit setups.
-execute_process(COMMAND makensis -VERSION OUTPUT_VARIABLE version)
-set(warning "^$")
-if(version MATCHES "^v([0-9.]+)" AND CMAKE_MATCH_1 VERSION_LESS 3.11)
-  set(warning "CVE-2025-43715")
-endif()
-expect(0 ${warning} ${nsis})
+# nsis/build.sh warns of an NSIS before 3.11, and needs -DX86 if NSIS can make only 32-bit setups.
+expect(0 "CVE-2025-43715" ${nsis} "-X!define /redef NSIS_PACKEDVERSION 0x03010000")
+expect(0 "^$" ${nsis} -WX "-X!define /redef NSIS_PACKEDVERSION 0x03011000")
 file(GLOB stubs /usr/share/nsis/Stubs/zlib-x86-* /usr/share/nsis/Stubs/uninst)
 file(COPY ${stubs} DESTINATION ${setups}/nsis/Stubs)
 expect(1 "give -DX86" ${CMAKE_COMMAND} -E env NSISDIR=${setups}/nsis ${nsis} -DOLD_NSIS_ACCEPTED)
 expect(0 "\nName: \"Brindle\".*: Exec \"[$]WINDIR.Sysnative.cmd.exe\" /d" ${nsis} -DOLD_NSIS_ACCEPTED -WX -DX86 -V4)
 file(STRINGS ${setups}/made.exe manifest REGEX "requireAdministrator")
-if(NOT manifest)
-  message(SEND_ERROR "The setup does not ask for an administrator's rights")
+file(READ ${setups}/made.exe start LIMIT 1024 HEX)
+if(NOT manifest OR NOT start MATCHES "504500004c01")
+  message(SEND_ERROR "The setup does not ask for an administrator's rights, or is not a 32-bit program")
 endif()
 
 # Settings that a build.sh refuses, because it would make a wrong package from them.
@@ -36,19 +35,36 @@ expect(2 "code page 1252" ${msi} MAKER=Žluť)
 foreach(changed UPGRADE_CODE COMPONENT)
   expect(2 "with uuidgen" ${msi} PRODUCT=Kite ${changed}=0b9e8a52-5a35-4c5c-8e5f-8b8ad9b5b0a1)
 endforeach()
-expect(2 "these names" ${msi} PRODUKT=Kite)
+foreach(character [ ] { })
+  expect(2 "must contain none of" ${msi} "APPLICATION=a${character}b")
+endforeach()
+foreach(build nsis msi)
+  expect(2 "these names: .*VERSION" ${${build}} PRODUKT=Kite)
+  expect(2 "is not NAME=VALUE" ${${build}} MAKER=)
+  expect(2 "must be ASCII" ${${build}} APPLICATION=kité)
+endforeach()
 foreach(character ' $ % & < > | ^ ! / "\\" "\"" "\;")
   foreach(build nsis msi)
     expect(2 "must contain none of" ${${build}} "APPLICATION=a${character}b")
   endforeach()
 endforeach()
 
+# msi/build.sh makes a package silently, or none if a file is missing, and leaves no temporary files.
+expect(0 "^$" ${msi})
+file(REMOVE ${setups}/made.msi)
+expect(1 "absent.inf" ${msi} INF=absent.inf)
+file(GLOB left ${setups}/made.msi ${setups}/scratch/*)
+if(left)
+  message(SEND_ERROR "A build that failed has left: ${left}")
+endif()
+
 # The property Log must name the log that run_sorrel.cmd writes, because the last action of an installation reads it.
 expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi" Property)
 
 # The package's actions that change the computer run as SYSTEM: their types include 2048. An upgrade removes the old
 # version within the transaction (sequence number 1501), so that a failed upgrade restores the old version.
-foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\tsorrel\tuninstall none \"brindle\"\t" "InstallInitialize\t\t1500\n"
+foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\tsorrel\tuninstall none \"brindle\"\t"
+    "PrepareService\tNOT REMOVE=\"ALL\"\t4003\n" "AskForRestart\tNOT REMOVE=\"ALL\"\t6601\n"
     "RemoveExistingProducts\t\t1501\n" "ReleaseService\tREMOVE=\"ALL\" AND NOT UPGRADINGPRODUCTCODE\t3400\n"
     "UndoPrepareService\tNOT Installed AND NOT WIX_UPGRADE_DETECTED\t4002\n")
   expect(0 "\n${row}" sh -c "(msiinfo export $0 CustomAction && msiinfo export $0 InstallExecuteSequence) | tr -d '\\r'"

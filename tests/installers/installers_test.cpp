@@ -57,7 +57,7 @@ static const bool isStandIn = [] {
         if (!IsWindowEnabled(box) || !IsWindowVisible(button) || !IsWindowEnabled(button)) {
           continue;
         }
-        // Waits for the end of the handler that enabled the button and also changes the title.
+        // Waits until the handler that enabled the button has ended, since it also sets the title.
         SendMessageTimeoutW(box, WM_NULL, 0, 0, 0, 5000, nullptr);
         const HWND message = GetDlgItem(box, 0xFFFF);
         wchar_t title[256];
@@ -89,10 +89,12 @@ static std::wstring Apps() {
       RegGetValueW(key, name, of, RRF_RT_REG_SZ, nullptr, text, &size);
       return std::wstring(text);
     };
+    // A package has no command for a silent removal.
+    const std::wstring quiet = value(L"QuietUninstallString");
+    CHECK((quiet.empty() || quiet.starts_with(value(L"UninstallString") + L" /S ")));
     apps.emplace(L" " + value(L"DisplayName") + L" " + value(L"DisplayVersion") + L" by " +
-                     value(L"Publisher") +
-                     (value(L"UninstallString").starts_with(L"C:") ? L" unquoted" : L""),
-                 value(L"QuietUninstallString"));
+                     value(L"Publisher"),
+                 quiet);
   }
   std::wstring all;
   for (const auto& [app, quiet] : apps) {
@@ -145,7 +147,8 @@ static std::wstring Expand(const std::wstring& text) {
 }
 
 // Runs a line of lifecycles.txt: a command line after any number of NAME=VALUE. Each NAME becomes
-// an environment variable; SORREL_SIMULATOR_ precedes a capital NAME. Returns the exit code.
+// an environment variable; an upper-case NAME gets the prefix SORREL_SIMULATOR_. Returns the exit
+// code.
 static DWORD Run(std::wstring line) {
   std::vector<std::wstring> names;
   for (std::size_t end = 0; (end = line.find(L'=')) < line.find_first_of(L" \"");) {
@@ -155,7 +158,8 @@ static DWORD Run(std::wstring line) {
                             Expand(line.substr(end + 1, blank - end - 1)).c_str());
     line.erase(0, blank + 1);
   }
-  const DWORD code = RunChild(Expand(line)).exitCode;
+  const auto [code, output, errors] = RunChild(Expand(line));
+  CHECK(output.find(">set ") == std::string::npos);  // "echo off" hides the commands of a script
   for (const std::wstring& name : names) {
     SetEnvironmentVariableW(name.c_str(), nullptr);
   }

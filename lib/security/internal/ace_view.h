@@ -32,8 +32,8 @@ void* AceAt(const ACL* acl, DWORD index);
 // Returns an ACE's header.
 ACE_HEADER HeaderOfAce(const void* ace);
 
-// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. The SID
-// may be invalid: at kSidOffset, an object ACE has other data, which equals no SID.
+// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. The
+// result may not be a SID: an object ACE has other data at kSidOffset.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal
