@@ -31,7 +31,8 @@ bool KeepPlace(HWINSTA station, HDESK desktop, Launch& launch) {
   if (!ReadDesktopNames(station, desktop, names)) {
     return false;
   }
-  // Both comparisons are case-sensitive, unlike those in IsOnInteractiveDesktop.
+  // Both comparisons are case-sensitive, unlike those in the function
+  // IsOnInteractiveDesktop().
   launch.isOnInteractiveStation = lstrcmpW(names.station.data(), kInteractiveStation) == 0;
   const bool isOnInteractiveDesktop =
       launch.isOnInteractiveStation && lstrcmpW(names.desktop.data(), kInteractiveDesktop) == 0;

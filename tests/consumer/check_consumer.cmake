@@ -6,7 +6,7 @@ if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
     -D all_headers=${all_headers})
 else()
-  # Uses a unity build, as a consumer may, because it takes a quarter of the time of a normal build.
+  # A consumer may use a unity build, too. It takes a quarter of the time of a normal build.
   set(library -D CMAKE_DISABLE_FIND_PACKAGE_kelvo=ON -D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=30)
 endif()
 

@@ -1,4 +1,4 @@
-// Tries version resources whose values claim random positions and lengths.
+// Makes VerQueryValueW return random positions and lengths in and around a version resource.
 
 #include <cstdlib>
 #include <memory>
@@ -11,7 +11,8 @@
 
 namespace kelvo::fuzz {
 
-// The version resource, next to a guard page. For `resourceSize` bytes, new returns its memory.
+// The version resource, next to a guard page. A request for exactly
+// `resourceSize` bytes gets this memory from the operator new below.
 static std::size_t resourceSize = 0;
 static std::unique_ptr<GuardedMemory> resource;
 

@@ -11,7 +11,7 @@ static TestAce localService;
 
 TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: add one explicit ACE to a DACL") {
   const WindowObjects scope;
-  // In canonical order, the new ACE is the last one in this DACL. Therefore this test also passes
+  // In canonical order, the new ACE is the last one in this DACL. Therefore the result is the same
   // on Wine, whose AddAce ignores the index and always appends.
   const std::wstring before = L"D:(D;;CC;;;LS)(D;;CC;;;WD)";
   WriteDacl(scope.station, before);

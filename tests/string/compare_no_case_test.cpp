@@ -6,7 +6,7 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("CompareNoCase: compares code units after folding them to lower case") {
-  // In locale "C", only A to Z are folded below U+0100. LCMapStringW folds U+0100 and above.
+  // Of the units below U+0100, only A to Z are folded (locale "C"). LCMapStringW folds the others.
   CHECK(CompareNoCase(L"Foo\u0100B", L"fOO\u0101") == L'b');
   CHECK(CompareNoCase(L"a", L"ab") == -L'b');
   CHECK(CompareNoCase(L"Z", L"[") == L'z' - L'[');

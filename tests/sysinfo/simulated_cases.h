@@ -6,8 +6,8 @@
 
 namespace kelvo::test {
 
-// The left side of the current case. Describes a simulated system by its differences from the
-// defaults, such as "5.1, type 2, bits 32", or names a file, a version and changes to the resource.
+// The left side of the current case ("given = result"). Lists a system's differences from the
+// defaults, such as "5.1, type 2, bits 32", or a file, a version and changes to its resource.
 inline std::string given;
 inline bool Has(const std::string& word) { return given.find(word) != std::string::npos; }
 
