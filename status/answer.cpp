@@ -84,7 +84,7 @@ DWORD QueryAdministrator(bool& isAdministrator) {
 Item QuerySystem() {
   WString name = GetSystemVersionString();
   if (name.find(L"(") == 0) {
-    // Since Windows 10, the string has only the numbers, without a name.
+    // On Windows 10 and later, the string has only the numbers, without a name.
     name = L"Windows " + name;
   }
   const WString numbers = GetSystemVersionNumbers();
@@ -117,7 +117,7 @@ std::vector<Item> AnswerInGeneral() {
   std::vector<Item> items = QueryApplications({});
   items.push_back(QueryStore(kPublisher.kind, kPublisher.storeName));
   items.push_back(QueryStore(kIntermediate.kind, kIntermediate.storeName));
-  // Skips the device: listing devices loads setupapi.dll, which slows a run without options.
+  // Skips the device, because listing devices loads setupapi.dll, which is slow.
   items.push_back(QueryService(DeviceSearch::kNone));
   items.push_back(QueryInterface());
   items.push_back(QuerySystem());

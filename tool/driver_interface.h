@@ -17,10 +17,10 @@ struct DriverInterface {
 };
 
 // Loads "difxapi.dll" and gets the addresses of its two functions. Returns 0, or an error code when
-// the library or a function is missing. After an error, neither function may be called. Uses the
-// full path from LibraryPath (tool/library_search.h), so that a copy in the program's folder is
-// preferred. Given the bare name, Windows would always load the system's copy, because the library
-// is a KnownDLL.
+// the library cannot be loaded or lacks a function. After an error, neither function may be called.
+// Uses the full path from LibraryPath (tool/library_search.h), so that a copy in the program's
+// folder is preferred. Given the bare name, Windows would always load the system's copy, because
+// the library is a KnownDLL.
 DWORD BindDriverInterface(DriverInterface& driver);
 
 // The callback for SetDifxLogCallbackW: reports the event as one "INFO: " line. A null description

@@ -11,7 +11,7 @@ namespace kelvo {
 //     backslashes between the key names. `valueName` is a value's name; null or an empty string
 //     means the key's default value. All strings are NUL-terminated.
 //   - Keys are opened with RegistryAccessFlags. Only OpenRegistryKey and CreateRegistryKey leave a
-//     key open; before any other function returns, it closes the keys that it opened.
+//     key open; every other function closes the keys that it opened.
 //   - An LSTATUS is 0 on success. On failure, it is the Windows error code of the failed call,
 //     unless the function's comment names another number, such as -1.
 

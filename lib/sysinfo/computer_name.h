@@ -4,8 +4,6 @@
 
 namespace kelvo {
 
-// The names of this computer.
-
 // Returns the NetBIOS name (GetComputerNameW), at most 15 characters. Empty on failure.
 WString GetComputerNetbiosName();
 

@@ -132,7 +132,7 @@ struct Conditions {
   bool hasMemory = true;
 };
 
-// Calls AnswerCommandLine with an option and its value, or null if the option has no value.
+// Calls AnswerCommandLine with an option and, unless `value` is null, its value.
 static int Run(const wchar_t* option, const wchar_t* value, const Conditions& conditions = {}) {
   const wchar_t* const arguments[] = {L"sorrel_status.exe", option, value};
   bool hasMemory = true;

@@ -5,7 +5,7 @@
 namespace kelvo::internal {
 
 // Appends a backslash to the NUL-terminated string in `buffer`, unless the string ends in one.
-// Returns false and leaves the string unchanged when the buffer has no room for another character.
+// Returns false and leaves the string unchanged when the backslash does not fit.
 bool EnsureTrailingBackslash(std::span<wchar_t> buffer);
 
 }  // namespace kelvo::internal
