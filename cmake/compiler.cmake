@@ -31,7 +31,7 @@ endif()
 add_library(kelvo_build_options INTERFACE)
 target_compile_definitions(kelvo_build_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 if(MSVC)
-  # Disables C4996 (deprecated functions): the library has to report the results of GetVersionEx and related functions.
+  # Disables C4996 (deprecated functions): the library reports what GetVersionEx and related functions return.
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Z7)
 else()
@@ -41,8 +41,8 @@ else()
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
 endif()
 # Makes Windows' headers declare the functions of Windows 10, even if a consumer's project targets an older Windows.
-# This is safe, since the sources bind these functions at run time. Sets compiler options: unlike compile definitions,
-# they can first undefine the macros that the consumer's project defines.
+# This is safe, since the sources bind newer functions at run time. These are compiler options, not compile definitions,
+# so that they can first undefine the macros that the consumer's project defines.
 target_compile_options(kelvo_build_options INTERFACE
   "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>")
 
@@ -55,7 +55,7 @@ endif()
 
 # The linker options of our programs:
 #   kelvo_program          hardening, a checksum in the header (-release), and the same bytes in every build folder.
-#                          Control Flow Guard is off, because Debian 12's mingw runtime lacks its dispatch function
+#                          Control Flow Guard is off: Debian 12's mingw runtime lacks the guard's dispatch function
 #   kelvo_wide_program     as kelvo_program, with wmain as the entry point
 #   kelvo_shipped_program  as kelvo_wide_program, with a .pdb file for debuggers
 add_library(kelvo_program INTERFACE)
@@ -64,8 +64,8 @@ add_library(kelvo_wide_program INTERFACE)
 target_link_libraries(kelvo_wide_program INTERFACE kelvo_program)
 add_library(kelvo_shipped_program INTERFACE)
 target_link_libraries(kelvo_shipped_program INTERFACE kelvo_wide_program kelvo_debug_information)
-# Makes Windows load the imports of a shipped program only from the system directory (LOAD_LIBRARY_SEARCH_SYSTEM32), if
-# the version of Windows supports this.
+# Where Windows supports it, the imports of a shipped program are loaded only from the system directory
+# (LOAD_LIBRARY_SEARCH_SYSTEM32).
 if(MSVC)
   target_link_options(kelvo_shipped_program INTERFACE /DEPENDENTLOADFLAG:0x800)
   target_link_options(kelvo_program INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG /CETCOMPAT /RELEASE /Brepro /PDBALTPATH:%_PDB%)

@@ -1,7 +1,7 @@
 # Defines the components that `cmake --install` installs and `cpack` packs:
 #   tool           the programs that a setup ships
 #   documentation  the pages and sample setups; in the same archive as tool
-#   simulator      the simulated libraries; in a separate archive, since signed programs in their folder would load them
+#   simulator      the simulated libraries; in a separate archive, since even a signed program next to them loads them
 #   sdk            the library, as the CMake package kelvo
 #   symbols        the .pdb files
 
@@ -40,8 +40,8 @@ install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONE
 install(FILES cmake/toolchain_mingw.cmake DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(SCRIPT cmake/link_pages.cmake COMPONENT sdk)
 
-# Makes four archives, which all unpack into the same folder. In a cross build, sign_programs.cmake runs before packing,
-# and account_for_packages.cmake runs afterwards.
+# Makes four archives, which all unpack into the same top folder. In a cross build, sign_programs.cmake runs before
+# packing, and account_for_packages.cmake runs afterwards.
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)

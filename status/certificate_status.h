@@ -10,7 +10,7 @@ namespace kelvo {
 // Both functions open a system store of the local machine read-only (CertOpenStore).
 
 // Reads the certificate in `file` (CryptQueryObject) and returns an item of `kind`: present when
-// the store contains the same certificate (CertFindCertificateInStore with CERT_FIND_EXISTING). The
+// the store contains that certificate (CertFindCertificateInStore with CERT_FIND_EXISTING). The
 // details are the certificate's subject, issuer, thumbprint (SHA-1 hash) and end of validity,
 // whether it has expired, and whether the store exists.
 //

@@ -20,7 +20,7 @@ namespace {
 // Far larger than any INF file.
 constexpr LONGLONG kMostBytes = LONGLONG{4} * 1024 * 1024;
 
-// Opens a file and gets its size. If the path is another process's pipe, SECURITY_ANONYMOUS
+// Opens a file and gets its size. If the path names another process's pipe, SECURITY_ANONYMOUS
 // prevents that process from impersonating the caller.
 DWORD OpenFile(const WString& path, DWORD access, OwnedFile& file, LARGE_INTEGER& size) {
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;

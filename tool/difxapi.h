@@ -29,7 +29,7 @@ inline constexpr DWORD DRIVER_PACKAGE_SILENT = 0x00000002;
 // Sets the callback for log events; null removes it.
 void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);
 
-// Installs the driver package of an INF file. `infPath` is a fully qualified path. Stores in
+// Installs the driver package of the INF file at `infPath`, a fully qualified path. Stores in
 // `needReboot` whether the installation needs a restart. Returns 0 or a Win32 or SetupAPI error
 // code.
 DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,

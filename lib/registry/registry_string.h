@@ -44,9 +44,9 @@ std::size_t RegistryReadStoredString(HKEY root, const wchar_t* subkey, const wch
 
 // Both functions write `text` with its NUL (RegSetValueExW): RegistryWriteString writes a REG_SZ
 // value, and RegistryWriteExpandString writes a REG_EXPAND_SZ value. Both create the key and all
-// missing keys on its path. A null `text` counts as empty. Both return 0 or the error code of the
-// write. They return -1 when the key cannot be created or opened for KEY_WRITE, and
-// ERROR_INVALID_PARAMETER when the size of the string in bytes does not fit in a DWORD.
+// missing keys on its path. A null `text` counts as empty. Both return -1 when the key cannot be
+// created or opened for KEY_WRITE, ERROR_INVALID_PARAMETER when the size of the string in bytes
+// does not fit in a DWORD, and otherwise 0 or the error code of the write.
 LSTATUS RegistryWriteString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const wchar_t* text);
 LSTATUS RegistryWriteExpandString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,

@@ -53,7 +53,7 @@ void StringTokenizer::SkipRun() {
 WString StringTokenizer::NextToken() {
   const std::wstring_view text = text_;
   const std::size_t start = next_;
-  // Searching for a single unit is faster than searching for a string of one unit.
+  // Searching for a wchar_t is faster than searching for a string of one wchar_t.
   const std::size_t end =
       delimiter_.length() == 1 ? text.find(delimiter_[0], start) : text.find(delimiter_, start);
   if (end == std::wstring_view::npos) {

@@ -18,7 +18,7 @@ struct BrowserRelease {
   const wchar_t* name;
 };
 
-// The names are spelled as their vendor spelled them, including stray spaces.
+// The names keep the vendor's spelling, including stray spaces.
 constexpr BrowserRelease kBrowserReleases[] = {
     {L"4.70.1155.0", L"Internet Explorer 3.0"},
     {L"4.70.1158.0", L"Internet Explorer 3.0 (OSR2)"},

@@ -69,7 +69,7 @@ static void SimulateMachine() {
     lstrcpyW(*name, L"client");
     return TRUE;
   });
-  // Simulates a process that has ended, because Wine sometimes fails to start a real process.
+  // Simulates an ended process, since Wine sometimes fails to start a real one.
   static constexpr auto kStart = [](auto... given) -> BOOL {
     *std::get<sizeof...(given) - 1>(std::tuple(given...)) = {
         CreateEventW(nullptr, TRUE, TRUE, nullptr), CreateEventW(nullptr, TRUE, TRUE, nullptr), 1,
@@ -99,7 +99,7 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
   return text;
 }
 
-// Prepares the state from which an operation starts: a list of applications, the stores without
+// Prepares the state in which an operation starts: a list of applications, stores without test
 // certificates, and the registry values and files that operations read. Loads the simulator's
 // bthprops.cpl, so that Windows finds that library by its name alone.
 struct Machine : ProgramFolder {
@@ -226,9 +226,9 @@ static std::string Changes(const Lines& before, const Lines& after) {
   return before == after ? kNoChange : without + "\r\n" + added;
 }
 
-// Checks a run in which malloc failed: after its first lines, an exception ended it. All other
-// lines occur in a complete run: the list is the old or the new one, and no further handle is open.
-// Not called if a library function returns the same as when another function fails.
+// Checks a run that ended with an exception because malloc failed. All lines except the exception
+// occur in a complete run: the list is the old or the new one, and no further handle is open.
+// Not called if another function's failure has the same outcome.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -251,8 +251,8 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
     const bool isReport = machine.name.starts_with("sorrel_status");
     // The distinct outcomes, each with the failing calls that cause it.
     std::vector<std::pair<Lines, std::string>> outcomes;
-    // Outcomes that lack a line of the driver's log. If malloc fails, the outcome can be the same,
-    // because DifxLogCallback catches the exception.
+    // Outcomes that lack a line of the driver's log. A failed malloc can cause them, too, because
+    // DifxLogCallback catches the exception.
     std::set<Lines> withoutLogged;
     for (const auto& [function, made] : calls) {
       for (int nth = 1; nth <= made; ++nth) {

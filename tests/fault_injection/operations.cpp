@@ -44,7 +44,7 @@ using namespace kelvo;
 
 namespace {
 
-// Returns the result of `run`, or "an exception" if `run` throws. (sorrel.exe then exits with 3.)
+// Returns the result of `run`, or "an exception" if `run` throws: sorrel.exe would exit with 3.
 template <typename Run>
 std::wstring Answer(Run run) {
   try {

@@ -6,7 +6,7 @@
 
 namespace kelvo::internal {
 
-// Types that own the handles of window stations and desktops. They may also own a handle from
+// Types that own the handles of window stations and desktops. They may even own a handle from
 // GetProcessWindowStation or GetThreadDesktop: closing it does no harm, because Windows refuses to
 // close a handle that the process or a thread is using.
 struct WindowStationTraits {
