@@ -1,7 +1,8 @@
 // Compares the library's string functions with alternatives, and measures the size and start time
 // of sorrel.exe. The output is in groups. Each line of a group has the median of interleaved runs,
 // in milliseconds and as a ratio to the first line of the group. In a group that compares
-// functions, the first line is the library's function. A goal is a limit for a ratio.
+// functions, the first line is the library's function. A goal in a group's title is a limit for the
+// ratio of a line.
 
 #include <windows.h>
 

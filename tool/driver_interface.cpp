@@ -24,7 +24,7 @@ void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description
   try {
     Report(L"INFO: %d - %08lX - %s\n", event, error, description != nullptr ? description : L"");
   } catch (...) {
-    // An exception would unwind through the code of difxapi.dll and abort the installation.
+    // Drops the line: an exception that left this noexcept function would end the process.
     return;
   }
 }

@@ -1,7 +1,8 @@
 @echo off
-rem remove_all.cmd   removes the application from the list. If no application is left, Windows' certutil and pnputil
-rem                  then remove both certificates and the driver package. Returns 0, 3010 when the computer must be
-rem                  restarted, or 1603 when something is still there or could not be checked.
+rem remove_all.cmd   removes the application from sorrel.exe's list. If no application is left there, Windows' certutil
+rem                  and pnputil then remove the two certificates and the driver package. Returns 0, 3010 when the
+rem                  computer must be restarted, or 1603 when something that had to be removed is still there or could
+rem                  not be checked.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
@@ -31,7 +32,7 @@ call :ask intermediate "%here%%intermediate%" thumbprint
 if "%state%"=="present" call :windows certutil.exe "-delstore CA %value%"
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "/delete-driver %value% /uninstall"
-rem Before Windows 10 1607, pnputil has other options: tries them if the driver package is still there.
+rem An older pnputil, from before Windows 10 1607, has other options. Tries them if the driver package is still there.
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "-d %value%"
 
@@ -51,7 +52,7 @@ exit /b %code%
 
 rem Runs sorrel_status.exe with an option and its argument, and sets two variables from the report: "state" to the
 rem item's state, and "value" to the value of the key in the third argument. Both are empty if there is no report.
-rem Ignores the exit code: Windows also returns 1 if the program is not allowed to run.
+rem Ignores the exit code: 1 means absent, but Windows also returns 1 if the program is not allowed to run.
 :ask
 set "state="
 set "value="

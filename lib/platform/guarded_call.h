@@ -9,8 +9,7 @@ bool RunGuarded(void (*run)(const void* context), const void* context);
 // Calls `action`. Returns true when `action` returns. When a C++ or structured exception (such as
 // an access violation) leaves `action`, swallows the exception and returns false. After a
 // structured exception, the destructors of local objects in `action` and in the functions that it
-// calls do not run: an object that owns a resource must be created outside `action`, which may only
-// use the object.
+// calls do not run: an object that owns a resource must be created outside `action`.
 template <typename Action>
 bool GuardedCall(const Action& action) {
   return internal::RunGuarded([](const void* context) { (*static_cast<const Action*>(context))(); },

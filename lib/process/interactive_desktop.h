@@ -12,7 +12,7 @@ inline constexpr const wchar_t* kInteractiveDesktop = L"Default";
 
 // The names of a window station and of a desktop on it.
 struct DesktopNames {
-  // Room for a name of up to 520 bytes, with its NUL.
+  // Room for a name of up to 259 characters and its NUL.
   using Name = std::array<wchar_t, 260>;
 
   // A name that was not read is empty.
@@ -26,8 +26,8 @@ struct DesktopNames {
 bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names);
 
 // Returns TRUE when this process's window station is "WinSta0" and the calling thread's desktop is
-// "Default". Both comparisons ignore ASCII letter case. Otherwise returns FALSE. When a name cannot
-// be read, returns FALSE and traces the failure.
+// "Default", regardless of ASCII letter case. Otherwise, or when a name cannot be read, returns
+// FALSE. Traces a failure to read a name.
 BOOL IsOnInteractiveDesktop();
 
 }  // namespace kelvo

@@ -6,9 +6,9 @@ namespace kelvo {
 
 // Grants an account the rights in `accessMask` by adding an ACE to the DACL of a file or directory.
 // `sid` is the account's SID in any form that ConvertStringSidToSidW accepts.
-//   - The new DACL has the explicit ACEs of other accounts, then the new ACE, then the first
-//     inherited ACE and all ACEs after it. The account's explicit ACEs before the first inherited
-//     ACE are dropped, including deny ACEs.
+//   - The new ACE is inserted before the first inherited ACE, or at the end if none is inherited.
+//     The account's old ACEs before this place are dropped, including deny ACEs. All other ACEs
+//     stay, in their order.
 //   - A file without a DACL gets a DACL that contains only the new ACE.
 //   - An auto-inherited DACL stays auto-inherited. A protected DACL stays protected, unless it is
 //     also auto-inherited ("D:PAI"): it then loses its protection and inherits the ACEs of the
@@ -17,9 +17,9 @@ namespace kelvo {
 //
 // Needs READ_CONTROL and WRITE_DAC (GetFileSecurityW, SetFileSecurityW). Returns TRUE when the new
 // DACL was set, which is done in one call. On failure, returns FALSE and leaves the file unchanged.
-// Except in the two cases below, also prints one line to the C runtime's standard output: the name
-// of the call that failed and the last error. If the DACL extends past its descriptor, or an ACE
-// past the DACL, the line names GetAclInformation. Throws nothing. Prints nothing in these cases:
+// Throws nothing. A failure prints one line to the C runtime's standard output: the name of the
+// call that failed and the last error. If the DACL extends past its descriptor, or an ACE past the
+// DACL, the line names GetAclInformation. Only two kinds of failure print nothing:
 //   - `sid` is null or invalid.
 //   - The file has no descriptor. GetFileSecurityW then succeeds when it is asked for the size, so
 //     there is no error to print.

@@ -27,8 +27,8 @@ class StringTokenizer {
 
  private:
   // CollapseRuns replaces each run of delimiters in the string with one delimiter. For a delimiter
-  // of one unit, which cannot overlap itself, the runs stay in the string: SkipRun skips the run at
-  // the start and the run after each item.
+  // of one unit, which cannot overlap itself, SkipRun instead skips the run at the start and the
+  // run after each item.
   void CollapseRuns();
   void SkipRun();
 

@@ -89,7 +89,7 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
   if (RegQueryValueExW(key.get(), L"ProductType", nullptr, nullptr,
                        reinterpret_cast<BYTE*>(type.data()), &size) != ERROR_SUCCESS ||
       size > kLength * sizeof(wchar_t)) {
-    // By contract, the key stays open.
+    // As the header says, the key stays open.
     key.release();
     text += L"error obtaining Windows NT4 registry product information";
     return false;

@@ -19,9 +19,9 @@ WString GetAccountName();
 
 // Returns the user's name, of any length, in a format such as NameSamCompatible ("DOMAIN\name").
 // Calls GetUserNameExW of "secur32.dll". Loads that library by name for the duration of the call,
-// so the process's search order decides which file is loaded. Empty for NameUnknown, when the
-// library does not load or lacks the function, and on failure. For a local account, only
-// NameSamCompatible succeeds.
+// so the process's search order decides which file is loaded. Returns an empty string for
+// NameUnknown, when the library does not load or lacks GetUserNameExW, and when GetUserNameExW
+// fails. For a local account, only NameSamCompatible succeeds.
 WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
 // Returns the user principal name, such as "name@domain" (GetUserNameInFormat with

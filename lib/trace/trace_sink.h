@@ -6,8 +6,8 @@ namespace kelvo {
 // structured exception that leaves the sink.
 using TraceSink = void (*)(const wchar_t* tag, const wchar_t* message);
 
-// Sets the function that receives all messages traced in this process, on any thread. Messages are
-// discarded while the sink is null, as it is initially.
+// Sets the sink for the messages of all threads of this process. Messages are discarded while the
+// sink is null, as it is initially.
 //   SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
 //     DebugTrace(L"%s: %s", tag, message);  // lib/trace/debug_trace.h
 //   });

@@ -33,7 +33,7 @@ struct Interception {
   std::map<std::string, int> calls;
   // The distinct calls, as text. Omits a call if no argument is a string or a nonzero number.
   std::set<std::string> shown;
-  // The call that fails: function and number, from 1. If `ends`, the thread ends before the call.
+  // The call that fails: its function and number (from 1). If `ends`, the thread ends instead.
   std::pair<std::string, int> chosen;
   bool ends = false;
   // Open handles and memory, each with the function that opened it and the functions that close it.
