@@ -8,13 +8,13 @@
 namespace kelvo {
 
 // Returns the item for the driver package of an INF file: present when Windows' INF folder has a
-// published INF file with the same bytes. Windows publishes the INF file of each package in the
-// driver store: it copies the file to the INF folder under a name such as oem12.inf. Two packages
+// published INF file with the same bytes. For each package in the driver store, Windows publishes
+// the INF file: it copies the file to the INF folder under a name such as oem12.inf. Two packages
 // that differ only in their catalogs count as the same package here, but not in Windows.
-//   - The item is unknown when the file cannot be read, is larger than 4 MiB or has no section
-//     [Version] (ERROR_SECTION_NOT_FOUND). It is also unknown when no published file matches,
-//     and at least one published file cannot be compared: that file cannot be opened, or it has the
-//     same size and cannot be read.
+//   - The item is unknown when the file `infPath` cannot be read, is larger than 4 MiB or has no
+//     section [Version] (ERROR_SECTION_NOT_FOUND). It is also unknown when no published file
+//     matches, and at least one published file cannot be compared: that file cannot be opened, or
+//     it has the same size and cannot be read.
 //   - A present item has the provider and the version from the section [Version], with %string%
 //     tokens expanded (SetupGetLineTextW). To read both, loads setupapi.dll and frees it.
 Item QueryDriverPackage(const WString& infPath);

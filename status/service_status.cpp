@@ -68,7 +68,7 @@ bool StartsWith(const wchar_t* text, std::wstring_view start) {
   return _wcsnicmp(text, start.data(), start.length()) == 0;
 }
 
-// For each hardware id that begins with ServiceHardwareId(), returns the part of the id after that.
+// For each hardware id that begins with ServiceHardwareId(), returns the rest of the id.
 std::vector<WString> ServiceIdSuffixes(const std::vector<wchar_t>& hardwareIds) {
   const WString wanted = ServiceHardwareId();
   std::vector<WString> suffixes;

@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-// The layout of IMAGE_LOAD_CONFIG_DIRECTORY64, which older mingw-w64 headers declare without
+// The start of IMAGE_LOAD_CONFIG_DIRECTORY64, which older mingw-w64 headers declare without
 // DependentLoadFlags.
 struct LoadConfiguration {
   DWORD size;

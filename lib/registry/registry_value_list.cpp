@@ -50,7 +50,7 @@ class ValueReader {
   }
 
   // Returns the string in this value's data, which may lack a terminator or end in half a
-  // character. Ignores the data of earlier values that follows in the buffer.
+  // character. Ignores the rest of the buffer, which has data of earlier values.
   [[nodiscard]] WString StoredText() const {
     WString text(std::wstring_view(data_.data(), (size_ + 1) / sizeof(wchar_t)));
     if (size_ % sizeof(wchar_t) != 0) {
@@ -67,8 +67,8 @@ class ValueReader {
   }
 
   HKEY key_;
-  // Each buffer has one character more than the size passed to RegEnumValueW, so that even a string
-  // of that size is followed by a NUL.
+  // Each buffer has one character more than RegEnumValueW may write, so that a NUL follows even the
+  // longest string.
   std::vector<wchar_t> name_ = std::vector<wchar_t>(kBufferLength + 1);
   std::vector<wchar_t> data_ = std::vector<wchar_t>(kBufferLength + 1);
   DWORD nameLength_ = 0;

@@ -15,8 +15,8 @@ WString SubstringClamped(const WString& text, std::size_t start, std::size_t cou
 
 // Replaces every occurrence of `search` in `text`, from left to right without overlap, and returns
 // the number of occurrences. The replacement is not searched again. An empty `search` has no
-// occurrences. Both pointers may point into `text`. Throws std::length_error when the result would
-// be too long. When ReplaceAll throws, `text` is unchanged.
+// occurrences. `search` and `replacement` may point into `text`. Throws std::length_error when the
+// result would be too long. When ReplaceAll throws, `text` is unchanged.
 std::size_t ReplaceAll(WString& text, const wchar_t* search, const wchar_t* replacement);
 
 // Returns the number of items that a StringTokenizer with the same arguments would return. With an

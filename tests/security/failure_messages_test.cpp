@@ -30,7 +30,7 @@ constexpr FailingCall kWatched[] = {
     RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
     SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
     SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
-    // Must be last: if restoring the station fails, RunAsUser closes it: no later run can use it.
+    // Must be last: RunAsUser closes a station that it cannot restore, so later runs lack it.
     SETS_LAST_ERROR(SetProcessWindowStation)};
 
 // The operation under test, and its messages without those of the operations that it calls.
@@ -38,7 +38,7 @@ static std::wstring operation, traced;
 
 // In each run of an operation, one call to a function of kWatched fails or throws. As a rule, the
 // operation then fails, and traces the name of a function that failed, but not of one that threw.
-// With "fails", the last message was "exception caught in __finally"; with "fails at once", not.
+// Outcome "fails" ends with the message "exception caught in __finally", "fails at once" does not.
 // failure_messages.txt lists, for each outcome and function, the first call with that outcome.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new station in place of the interactive one, which all programs share.
