@@ -7,9 +7,9 @@
 //     starts a program as the user of the console session, waits until the program ends, and
 //     returns its exit code
 //   setup_helper ready PROGRAM MUTEX
-//     starts a program and waits until a mutex with the name MUTEX exists
-// The commands read, grant and ready return 0 for success and 1 for failure. The command start
-// returns 1 if the program cannot be started. For a wrong command line, the exit code is also 1.
+//     starts a program and waits at most ten seconds until a mutex with the name MUTEX exists
+// "read", "grant" and "ready" return 0 for success and 1 for failure. "start" returns 1 if the
+// program cannot be started. For a wrong command line, the exit code is also 1.
 
 #include <windows.h>
 

@@ -18,11 +18,12 @@ enum class DeviceSearch { kNone, kBluetoothBus };
 //     address, no hardware id may continue after "BTHENUM\{CLASS}" with "_VID", or with
 //     "_LOCALMFG&" and a number other than 0000.
 //   - It is certain that the bus also has devices for services of paired remote devices, and that
-//     the instance ids of those devices contain the remote device's address. The ids of the device
-//     for the service itself have never been seen with a real radio. The devices of other local
-//     services (incoming serial ports) have "_LOCALMFG&0000" and an address of zero in their ids.
-//   - Windows removes the service's device while the radio is off or unplugged, and may add it a
-//     moment after the registration. In both cases, "absent" proves nothing.
+//     each of these bus devices has the remote device's address in its instance id. The ids of the
+//     device for the service itself have never been seen with a real radio. The devices of other
+//     local services (incoming serial ports) have "_LOCALMFG&0000" and an address of zero in their
+//     ids.
+//   - The bus has no device for the service while the radio is off or unplugged, and perhaps for a
+//     moment after the service is registered. In both cases, "absent" proves nothing.
 Item QueryService(DeviceSearch search);
 
 }  // namespace kelvo

@@ -8,7 +8,7 @@ namespace kelvo {
 // In such a path, Windows does not treat "/" as a separator and does not resolve "." and "..". All
 // functions below treat a null path as an empty path.
 
-// Resolves `path` with GetFullPathNameW and adds the prefix: "C:\x" becomes "\\?\C:\x",
+// Resolves `path` with GetFullPathNameW and adds the prefix: "C:\x" becomes "\\?\C:\x";
 // "\\server\share\x" and "//server/share/x" become "\\?\UNC\server\share\x". Returns `path`
 // unchanged when it is empty, begins with "\\?\", "\\.\" or "\??\", is not fully qualified ("C:x",
 // "\x", "x"), names a device ("C:\NUL"), cannot be resolved, or would be too long with the prefix.

@@ -8,9 +8,9 @@ namespace kelvo {
 
 // See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
 
-// Reads a REG_BINARY value into `bytes`. Returns 0 or the error code of opening the key or querying
-// the value (RegQueryValueExW). On failure, leaves `bytes` unchanged. When the value is empty or
-// has another type, also leaves `bytes` unchanged, but returns 0.
+// Reads a REG_BINARY value into `bytes`. Returns 0, or the error code when the key cannot be
+// opened or the value cannot be queried (RegQueryValueExW). On failure, leaves `bytes` unchanged.
+// When the value is empty or has another type, also leaves `bytes` unchanged, but returns 0.
 LSTATUS RegistryReadBinary(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            std::string& bytes);
 

@@ -16,8 +16,8 @@ constexpr REGSAM kDeleteSubkeys =
 constexpr REGSAM kDeleteValues = kDeleteSubkeys | KEY_QUERY_VALUE;
 constexpr DWORD kNameLength = 255;
 
-// Subkeys and values are always enumerated at index 0: the entry with this index is deleted before
-// its key is enumerated again, and another entry then has index 0.
+// Subkeys and values are always enumerated at index 0: a found entry is deleted before the key that
+// contains it is enumerated again, and another entry then has index 0.
 
 // Returns an empty string when the key has no subkey, cannot be opened or cannot be enumerated.
 WString FirstSubkey(HKEY root, const WString& path) {

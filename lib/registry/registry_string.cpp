@@ -76,7 +76,7 @@ LSTATUS WriteText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, DW
 WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            const wchar_t* defaultText) {
   // The buffer is one character longer than the size passed to RegQueryValueExW, so that a value of
-  // 2,048 bytes without a terminator is followed by a NUL.
+  // kMaxRegistryStringSize bytes without a terminator is followed by a NUL.
   std::array<wchar_t, kReadLength + 1> buffer{};
   const bool found =
       ReadText(root, subkey, valueName, Expansion::kWhereTypeSays, buffer, kReadLength);

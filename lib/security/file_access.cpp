@@ -47,8 +47,9 @@ bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
                L"GetFileSecurity() failed. Error %d\n");
 }
 
-// If the DACL extends past the descriptor or an ACE extends past the DACL, sets the last error to
-// ERROR_INVALID_ACL and returns false. Otherwise calls GetAclInformation.
+// If the DACL extends past the descriptor, or if an ACE extends past the DACL or is smaller than an
+// ACE_HEADER, sets the last error to ERROR_INVALID_ACL and returns false. Otherwise calls
+// GetAclInformation.
 bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFORMATION& size) {
   const auto offset = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(dacl) -
                                                static_cast<const BYTE*>(descriptor.memory.get()));
@@ -60,8 +61,8 @@ bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFOR
   return internal::QueryAclSize(dacl, size);
 }
 
-// Finds the descriptor's DACL and its size. If there is no DACL, stores null and the size of an
-// empty DACL.
+// Finds the descriptor's DACL and its size. If the DACL is absent or null, stores null and the size
+// of an empty DACL.
 bool FindDacl(const Descriptor& descriptor, ACL*& dacl, ACL_SIZE_INFORMATION& size) {
   BOOL isPresent = FALSE;
   BOOL isDefaulted = FALSE;
@@ -95,9 +96,9 @@ bool IsOfAccount(const void* ace, PSID account) {
 }
 
 // Adds these ACEs to the empty `newDacl` (when `count` is 0, `oldDacl` may be null):
-//   1. The ACEs before the first inherited ACE of `oldDacl`, except those of `account`.
+//   1. The ACEs of `oldDacl` before its first inherited ACE, except those of `account`.
 //   2. The new ACE.
-//   3. The first inherited ACE and all ACEs after it, including those of `account`.
+//   3. That inherited ACE and all ACEs after it, including those of `account`.
 bool FillDacl(const ACL* oldDacl, DWORD count, PSID account, DWORD accessMask, ACL* newDacl) {
   void* ace = nullptr;
   DWORD index = 0;

@@ -1,4 +1,4 @@
-# Enables tests and adds two targets, as a consumer may. `benchmarks` is a common name, which the library must not use.
+# Enables tests and adds two targets, as a consumer may. `benchmarks` is a common name: the library must not use it.
 # `whole_library` links all object files of the library, which fails if kelvo::kelvo omits a Windows import library.
 enable_testing()
 add_custom_target(benchmarks)

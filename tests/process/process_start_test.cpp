@@ -43,7 +43,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0; wait or return the 
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  // Opens another station instead: RunAsUser would change WinSta0, which all programs share.
+  // Opens a stand-in: RunAsUser would change the real WinSta0, which all programs share.
   REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);

@@ -34,7 +34,7 @@ FixedFileVersion ReadFixedFileVersion(const wchar_t* path) {
   if (resource == nullptr) {
     return version;
   }
-  // Zeroes the memory first, since GetFileVersionInfoW can leave part of it unwritten.
+  // Zeroes the memory first, because GetFileVersionInfoW can leave part of it unwritten.
   std::memset(resource, 0, size);
   if (GetFileVersionInfoW(path, 0, size, resource) != FALSE) {
     version.numbers = FindNumbers({static_cast<const BYTE*>(resource), size});
