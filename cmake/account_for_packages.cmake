@@ -15,8 +15,8 @@ macro(append array kind)
   list(APPEND ${array} "${object}")
 endmacro()
 
-# Files must not contain a private key or the path of the source folder, which debug information can contain. The
-# archives must not contain key files or the tests' files: both are recognized by their names.
+# A packed file must contain neither a private key nor the path of the source folder, which can come from debug
+# information. Key files and files of the tests, recognized by their paths, must not be packed.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")
@@ -28,7 +28,7 @@ foreach(archive ${CPACK_PACKAGE_FILES})
   set(unpacked ${CPACK_TOPLEVEL_DIRECTORY}/unpacked/${name})
   file(ARCHIVE_EXTRACT INPUT ${archive} DESTINATION ${unpacked})
   file(GLOB_RECURSE paths LIST_DIRECTORIES false RELATIVE ${unpacked} ${unpacked}/*)
-  # Packs the files again because CPack's archives contain the name of the user account.
+  # Packs the files again because CPack's archives contain the user id and group id of the account.
   file(REMOVE ${archive})
   execute_process(COMMAND ${CMAKE_COMMAND} -E env TZ=UTC zip -q -X ${archive} ${paths}
     WORKING_DIRECTORY ${unpacked} COMMAND_ERROR_IS_FATAL ANY)
@@ -68,8 +68,8 @@ function(describe package)
   set(purl ${purl} PARENT_SCOPE)
 endfunction()
 
-# Adds the third-party code in our programs and simulated libraries. Each entry has a library of the compiler or a
-# header, the name for the bill of materials, the licence, and the programs and libraries that contain this code.
+# Adds the third-party code in our programs and simulated libraries. Each entry has a header or one of the compiler's
+# libraries, the name for the bill of materials, the licence, and the programs and libraries that contain this code.
 set(all "sorrel;sorrel_status;bthprops;difxapi")
 foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${all}"
     "libmingwex.a;mingw-w64-runtime;ZPL-2.1;${all}" "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT;sorrel_status"
@@ -88,7 +88,7 @@ foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${
   endforeach()
 endforeach()
 
-# Adds the tools that built the programs.
+# Adds the tools that made the programs and the archives.
 foreach(package clang-19 lld-19 llvm-19 binutils-mingw-w64-x86-64 cmake ninja-build zip)
   describe(${package})
   append(packages tool)

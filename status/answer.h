@@ -7,15 +7,15 @@ namespace kelvo {
 // difxapi.dll and Windows itself. Writes the report to standard output. Changes nothing on the
 // computer. The first of the `count` arguments is the program's own path.
 //
-// The items are in this order: application, publisher, intermediate, driver package, service,
-// interface, system. Items of the same kind are in the order of the command line.
+// The report has the items in this order: application, publisher, intermediate, driver package,
+// service, interface, system. Items of the same kind are in the order of the command line.
 //
 // Returns the exit code:
 //   0  everything asked for is present
 //   1  something is absent
 //   2  the command line is wrong; standard error has the reason and the usage text
 //   3  something could not be checked, even if something else is absent; or part of the report
-//      could not be written; or memory ran out, which standard error reports
+//      could not be written; or memory ran out (standard error then says so)
 // Without a standard output, the exit code is the only result.
 int AnswerCommandLine(int count, const wchar_t* const* arguments);
 

@@ -1,10 +1,10 @@
 @echo off
 rem deploy.cmd          copies the product's files to the product's folder and runs "sorrel.exe install". If a first
-rem                     installation fails, runs "sorrel.exe uninstall" and deletes the files. If an upgrade fails,
+rem                     installation fails, runs "sorrel.exe uninstall" and deletes the copies. If an upgrade fails,
 rem                     removes nothing: the new version's files stay.
 rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application, and deletes the product's files unless this
 rem                     script runs from the product's folder.
-rem Both return the exit codes of run_sorrel.cmd.
+rem Both commands return the exit codes of run_sorrel.cmd.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
@@ -12,7 +12,7 @@ set "product="
 call "%here%product.cmd"
 rem If this folder's name has a percent sign or a caret, the command "call" changes the name and finds no product.cmd.
 if not defined product exit /b 1603
-rem Avoids ProgramFiles: if a 32-bit program starts this script, that variable has the folder for 32-bit programs.
+rem Prefers ProgramW6432: if a 32-bit program starts this script, ProgramFiles is the folder for 32-bit programs.
 if not defined ProgramW6432 set "ProgramW6432=%ProgramFiles%"
 set "folder=%ProgramW6432%\%product%"
 set files=sorrel.exe sorrel_status.exe run_sorrel.cmd remove_all.cmd deploy.cmd product.cmd "%inf%" "%publisher%" "%intermediate%"
@@ -29,8 +29,8 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before the tool runs: the detection rule of a deployment system compares the computer with these
-rem copies.
+rem Copies the files before the tool runs: if an upgrade fails, the detection rule of a deployment system then compares
+rem the computer with the new version's files.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F

@@ -26,8 +26,8 @@ bool BeginsWithDrive(std::wstring_view path) {
          IsSeparator(path[2]);
 }
 
-// Returns true when `path`, the part of a path after "\\", begins with a server name. "." and "?"
-// are not server names, because paths that begin with "\\.\" or "\\?\" are device paths.
+// Returns true when `path`, the text after "\\" or "\\?\UNC\", begins with a server name. "." and
+// "?" are not server names, because paths that begin with "\\.\" or "\\?\" are device paths.
 bool BeginsWithName(std::wstring_view path) {
   const std::wstring_view name = path.substr(0, path.find_first_of(L"\\/"));
   return !name.empty() && name != L"." && name != L"?";

@@ -15,7 +15,7 @@ bool IsVistaProcessElevated();
 // false and leaves `type` unchanged.
 bool GetVistaProcessElevationType(TOKEN_ELEVATION_TYPE& type);
 
-// Each of these functions returns true when the elevation type is the one in its name:
+// Each function below returns true when the elevation type is the one in its name:
 // TokenElevationTypeDefault (no linked token), TokenElevationTypeFull (the elevated one of two
 // linked tokens) or TokenElevationTypeLimited (the other of the two).
 bool IsVistaProcessElevationTypeDefault();

@@ -20,8 +20,8 @@ struct TestAce {
   SID sid{SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {19}};
 };
 
-// An ACL that consists of `entries` and `spare` unused bytes. Directly after the ACL, there is an
-// inaccessible page, so that a read past the ACL's end faults. The memory is never freed.
+// An ACL that consists of `entries` and `spare` unused bytes. An inaccessible page follows the ACL:
+// a read past the ACL's end is an access violation. The memory is never freed.
 struct TestAcl {
   explicit TestAcl(const std::vector<TestAce>& entries, std::size_t spare = 0) {
     constexpr std::size_t kRoom = 0x10000;
@@ -56,7 +56,7 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
-// Returns, in SDDL, the DACL of an object of any type, or "none" if the object has no DACL.
+// Returns, in SDDL, the DACL of an object of any type, or "none" for a missing or null DACL.
 inline std::wstring ReadDacl(HANDLE object) {
   std::vector<BYTE> descriptor(0x10000);
   DWORD size = 0x10000;

@@ -19,7 +19,7 @@ static std::wstring FromUtf8(const std::string& text) {
 
 // Cleans the machine, and creates and enters a folder. This folder has certificates, INF files,
 // both programs and the simulator's libraries. Its subfolder "versioned" has a second
-// sorrel_status.exe and, as a difxapi.dll that has a version resource, a copy of sorrel.exe.
+// sorrel_status.exe, and a copy of sorrel.exe as a difxapi.dll with a version resource.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -109,7 +109,7 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
 }
 
 TEST_CASE(
-    "sorrel_status.exe: reports match lifecycle.txt and the JSON form, load no simulated library") {
+    "sorrel_status.exe: writes lifecycle.txt's reports, also as JSON, loads no simulated library") {
   const Machine machine;
   std::istringstream lifecycle(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
   std::string seen;

@@ -51,8 +51,8 @@ inline std::wstring ProgramPath(const std::wstring& name) {
   return std::filesystem::path(self.c_str()).replace_filename(name);
 }
 
-// Compares `seen` byte by byte with a file that EXPECTED of kelvo_add_test lists. If they differ,
-// shows the first difference and writes `seen` to FILE.seen in the build's folder "expected".
+// Compares `seen` byte by byte with one of kelvo_add_test's EXPECTED files. When they differ, shows
+// the first difference and writes `seen` to FILE.seen in the build's folder "expected".
 inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);
   const std::string expected = ReadBytes(path);

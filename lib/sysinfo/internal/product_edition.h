@@ -4,8 +4,8 @@
 
 namespace kelvo::internal {
 
-// Returns the edition name for a product type from GetProductInfo, or an empty string for a type
-// that this function does not know.
+// Returns the edition name for a product type from GetProductInfo, or an empty string when
+// ProductEditionText has no name for the type.
 const wchar_t* ProductEditionText(DWORD productType);
 
 }  // namespace kelvo::internal
