@@ -34,7 +34,7 @@ bool IsInStore(HCERTSTORE store, PCCERT_CONTEXT certificate) {
 
 WString Name(PCCERT_CONTEXT certificate, DWORD flags) {
   constexpr DWORD kType = CERT_NAME_SIMPLE_DISPLAY_TYPE;
-  // Both lengths include the terminator.
+  // CertGetNameStringW counts the terminator in its result and in its last argument.
   const DWORD length = CertGetNameStringW(certificate, kType, flags, nullptr, nullptr, 0);
   WString name(length, L'\0');
   CertGetNameStringW(certificate, kType, flags, nullptr, name.data(), length);
@@ -102,7 +102,7 @@ Item QueryStore(const char* kind, const wchar_t* storeName) {
     return UnknownItem(kind, storeName, error);
   }
   DWORD count = 0;
-  // Each call frees the context that was passed in.
+  // CertEnumCertificatesInStore frees the context that is passed to it.
   PCCERT_CONTEXT certificate = nullptr;
   while (store &&
          (certificate = CertEnumCertificatesInStore(store.get(), certificate)) != nullptr) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# build.sh FOLDER OUTPUT.exe [NAME=VALUE...] [-OPTION...]   makes a setup from setup.nsi. NAME=VALUE replaces a setting
-# in setup.nsi; -OPTION is an option of makensis. FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver
+# build.sh FOLDER OUTPUT.exe [NAME=VALUE...] [-OPTION...]   makes a setup from setup.nsi. NAME=VALUE overrides a setting
+# of setup.nsi; -OPTION is an option of makensis. FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver
 # package and the certificates.
 set -euo pipefail
 # In the POSIX locale, makensis stops at the first letter that is not ASCII.

@@ -19,8 +19,8 @@ namespace kelvo {
 //     "SYSTEM\CurrentControlSet\Control\ProductOptions". When the value cannot be read, the key
 //     stays open.
 //   - On NT 4.0 with Service Pack 6, the line says "Service Pack 6a" when HKEY_LOCAL_MACHINE
-//     "SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009" opens. Both keys are opened
-//     for KEY_QUERY_VALUE.
+//     "SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009" opens. This key and that of
+//     "ProductType" are opened for KEY_QUERY_VALUE.
 //   - The line has a note when GetVersionExW fails, when the product type cannot be read, and when
 //     an exception ends a query. When any other query fails, or when Windows lacks the function
 //     that the query calls, only the result of that query is missing from the line. Throws only

@@ -1,5 +1,5 @@
-# Packs the built files twice, once signed with a throw-away certificate and once unsigned. Checks the archives:
-# cmake -D project=... -D version=... -D folder=... -D osslsigncode=... -D openssl=... -D wine=... -P check_package.cmake
+# Packs the built files signed with a throw-away certificate, then unsigned, and checks the archives. Set with -D:
+# source_folder, project, version, folder, osslsigncode, openssl, wine
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -56,7 +56,7 @@ if(NOT signed STREQUAL "${base}.spdx.json;${base}.zip")
   message(SEND_ERROR "Signing must change only ${base}.spdx.json and ${base}.zip, but changed: ${signed}")
 endif()
 
-# Every link leads to an existing file and heading, on every page in the repository and in the unpacked archives.
+# Every local link leads to an existing file and heading, on the pages below and in the unpacked archives.
 file(GLOB archives ${folder}/unsigned/*.zip)
 foreach(archive ${archives})
   cmake_path(GET archive STEM LAST_ONLY name)

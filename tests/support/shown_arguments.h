@@ -10,8 +10,8 @@
 
 namespace kelvo::test {
 
-// Returns an argument as text to compare: a number, a constant string (a full path without its
-// folder), a key, or a few fields of a structure. Other pointers give "0" if null, or "given".
+// Returns an argument as text to compare: a number, a constant string (without the folder if it
+// is a full path), a key, or fields of a structure. Null gives "0", any other pointer "given".
 template <typename Argument>
 std::string Shown(Argument argument) {
   if constexpr (std::is_same_v<Argument, SIZE_T>) {
