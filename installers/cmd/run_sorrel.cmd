@@ -1,6 +1,6 @@
 @echo off
 rem run_sorrel.cmd ARGUMENT...   runs sorrel.exe of this folder with these arguments, shows its output and appends the
-rem output to the product's log. Returns 0, 3010 when the computer must be restarted, or 1603 when a step failed.
+rem output to the product's log. Returns 1603 if a step failed, otherwise 3010 if a restart is needed, otherwise 0.
 setlocal EnableExtensions DisableDelayedExpansion
 rem An environment variable named errorlevel would hide the exit codes of programs.
 set "errorlevel="
@@ -25,8 +25,8 @@ if not exist "%run%" exit /b 1603
 
 rem An empty output is a failure: every run of sorrel.exe writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem Only one failure can be ignored: the radio is missing or off. Its codes are 00000490 and 00000014. "register" also
-rem returns them as its exit code, in decimal 1168 and 20. The line about a missing bthprops.cpl is not a failure.
+rem Only one failure can be ignored: the radio is missing or off. Its codes are 00000490 and 00000014. "register" and
+rem "unregister" also exit with this code, in decimal 1168 or 20. A missing bthprops.cpl is not a failure.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
 rem cmd.exe parses a line before it inserts the variables of "for", so no output of the tool can act as a command.
@@ -36,13 +36,13 @@ for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A"=="ERR" if n
 if not "%code%"=="0" set "failed=1"
 for /f "usebackq delims=" %%L in ("%run%") do if "%%L"=="Reboot required" set "restart=1"
 
-rem Checks whether the name was recorded: sorrel.exe writes no line about this, and does not record a name that is part
-rem of another name.
+rem Checks whether the application's name is recorded: sorrel.exe writes no line about this, and does not record a name
+rem that is part of another name.
 set "name="
 if "%~1"=="install" set "name=%~5"
 if "%~1"=="register" set "name=%~2"
 if not defined name goto end
-rem Windows also returns 1 for a program that may not run: then nothing is known about the name.
+rem Windows also returns 1 for a program that is not allowed to run: then nothing is known about the name.
 "%~dp0sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto end
 "%~dp0sorrel_status.exe" --application "%name%" >>"%run%"

@@ -7,8 +7,7 @@ namespace kelvo {
 
 namespace {
 
-// No exception may leave the callbacks: when memory runs out, std::bad_alloc is thrown after the
-// enumeration.
+// No exception may leave the callbacks, so std::bad_alloc is thrown only after the enumeration.
 struct Enumeration {
   std::vector<LANGID> languages;
   bool isOutOfMemory = false;
@@ -16,7 +15,7 @@ struct Enumeration {
 
 BOOL CALLBACK AppendLanguage(HMODULE /*module*/, LPCWSTR /*type*/, LPCWSTR /*name*/, WORD language,
                              LONG_PTR context) {
-  // NOLINTNEXTLINE(performance-no-int-to-ptr): the enumeration passes a pointer on as a number
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the context is a pointer, passed as a number
   auto& enumeration = *reinterpret_cast<Enumeration*>(context);
   try {
     enumeration.languages.push_back(language);

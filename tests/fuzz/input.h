@@ -43,8 +43,8 @@ class Input {
   std::mt19937_64 engine_;
 };
 
-// Memory of at most 0x10000 bytes with a guard page behind it or, if `atStart` is true, in front of
-// it. An access one byte beyond that end is an access violation.
+// Memory of at most 0x10000 bytes with an inaccessible page behind it or, if `atStart` is true, in
+// front of it. Each access to that page is an access violation.
 class GuardedMemory {
  public:
   GuardedMemory(std::size_t size, bool atStart)
@@ -98,7 +98,7 @@ struct GuardedText : GuardedMemory {
   operator const wchar_t*() const { return As<wchar_t>(); }
 };
 
-// An operation to try random input on. Each file defines its targets.
+// An operation to try random input on. Each source file adds its own.
 struct Target {
   Target(const char* itsName, void (*itsRun)(Input&)) : name(itsName), run(itsRun) {
     all.push_back(this);

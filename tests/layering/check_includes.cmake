@@ -1,7 +1,7 @@
 # cmake -D source_folder=... -P check_includes.cmake   checks #include lines against the diagram in docs/development.md
 cmake_minimum_required(VERSION 3.25)
 
-# Collects, for each folder, all folders to which arrows lead. The diagram lists the arrows of lower folders first.
+# Collects all folders that arrows reach from each folder. The diagram lists the arrows of lower folders first.
 file(STRINGS ${source_folder}/docs/development.md arrows REGEX "^ +[a-z]+ --> ")
 foreach(arrow ${arrows})
   string(REGEX MATCHALL "[a-z]+" lower "${arrow}")
@@ -52,5 +52,5 @@ if(NOT rows STREQUAL files)
   set(missing ${files})
   list(REMOVE_ITEM missing ${rows})
   list(REMOVE_ITEM rows ${files})
-  message(SEND_ERROR "docs/library.md must list each public header once. Missing: ${missing}. Not in lib/: ${rows}.")
+  message(SEND_ERROR "docs/library.md must list each public header once. Missing: ${missing}. Superfluous: ${rows}.")
 endif()

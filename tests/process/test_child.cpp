@@ -4,8 +4,8 @@
 #include "tests/support/desktop_scope.h"
 
 // The first thread notes its desktop, starts a second thread and ends. The second thread waits for
-// the event NAME, the first argument. Then the second thread writes the command line and the noted
-// desktop into a file next to the program, sets the event NAME_done and ends with exit code 7.
+// the event NAME (the first argument), writes the command line and the noted desktop into a file
+// next to the program, sets the event NAME_done and ends the process with exit code 7.
 static std::wstring desktop;
 
 static DWORD WINAPI Work(void* arguments) {
