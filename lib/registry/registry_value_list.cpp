@@ -50,7 +50,7 @@ class ValueReader {
   }
 
   // Returns the string in this value's data, which may lack a terminator or end in half a
-  // character. Ignores the rest of the buffer, which has data of earlier values.
+  // character. Ignores the rest of the buffer, which may have data of earlier values.
   [[nodiscard]] WString StoredText() const {
     WString text(std::wstring_view(data_.data(), (size_ + 1) / sizeof(wchar_t)));
     if (size_ % sizeof(wchar_t) != 0) {

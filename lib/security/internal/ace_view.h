@@ -33,7 +33,8 @@ void* AceAt(const ACL* acl, DWORD index);
 ACE_HEADER HeaderOfAce(const void* ace);
 
 // Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. The
-// result may not be a SID: an object ACE has other data at kSidOffset.
+// result may not be a SID: an object ACE has other data at kSidOffset, which equals no account's
+// SID.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal
