@@ -12,19 +12,19 @@ namespace kelvo {
 namespace {
 
 constexpr const char* kNotes = R"(
-Without options, reports the list of applications, the number of certificates
-in each store, bthprops.cpl, difxapi.dll and Windows itself, but checks no
-driver package, no device and no certificate of the service.
+Without options, reports the list of the applications that use the service, the
+number of certificates in each store, bthprops.cpl, difxapi.dll and Windows
+itself, but checks no driver package, device or certificate of the service.
 
 With --service, ignores the devices that Windows makes for paired remote
 devices. Windows removes the service's device while the radio is off or
-unplugged, and may add it only some time after the registration: in these
-cases "absent" proves nothing. None of this has been seen on a real radio yet.
+unplugged, and may add it only some time after the service was registered: in
+these cases "absent" proves nothing. None of this has been seen on a real radio.
 
 Exit code: 0 if everything asked for is present, 1 if something is absent, 2 if
 the command line is wrong, 3 if something could not be checked (even if
-something is absent) or the report could not be written completely. A program
-that is started without a standard output only returns the exit code.
+something is absent) or the report could not be written completely. Without a
+standard output, the program only returns the exit code.
 )";
 
 // Encodes an argument for the parser, which takes bytes. A UTF-16 unit outside ASCII becomes three
@@ -68,7 +68,7 @@ cxxopts::Options MakeParser() {
       ("publisher", "check for its certificate in TrustedPublisher", text(), "FILE")(
           "intermediate", "check for its certificate in CA", text(), "FILE")(
           "inf", "check for its package in the driver store", text(), "FILE")(
-          "application", "check for the application on the list", text(), "NAME")(
+          "application", "check for this name on the list of applications", text(), "NAME")(
           "service", "check for the Bluetooth device of the service")(
           "json", "write one JSON object in ASCII")("help", "show this text")(
           "version", "show the program's version");

@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey` and RegistryAccessFlags.
+// `root` and `subkey` are as in lib/registry/registry_key.h; RegistryAccessFlags applies.
 
 // Returns 0 when values can be written to a key, and 1 when they cannot. Tests this by writing the
 // REG_DWORD value "RegCheck" and deleting it again. A missing key is created and stays. On NT 6.0

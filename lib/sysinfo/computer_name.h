@@ -12,8 +12,9 @@ WString GetComputerNetbiosName();
 // fails, too.
 WString GetComputerNameFQ();
 
-// Returns the DNS domain that the computer belongs to (GetComputerNameExW, looked up at run time).
-// Empty outside a domain, on failure, and when Windows lacks the function.
+// Returns the DNS suffix of the computer's name (ComputerNameDnsDomain of GetComputerNameExW,
+// looked up at run time). Empty when there is none, on failure, and when Windows lacks the
+// function.
 WString GetComputerDomain();
 
 }  // namespace kelvo

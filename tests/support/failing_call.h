@@ -8,7 +8,7 @@
 
 namespace kelvo::test {
 
-// The error code of a call that a test makes fail.
+// The error code of a call that is made to fail.
 constexpr DWORD kFailure = 1234;
 
 // A function that a test can make fail. `run(nth, throws, action)` runs `action`, in which the nth
