@@ -19,7 +19,7 @@ itself, but checks no driver package, device or certificate of the service.
 With --service, ignores the devices that Windows makes for paired remote
 devices. Windows removes the service's device while the radio is off or
 unplugged, and may add it only some time after the service was registered: in
-these cases "absent" proves nothing. None of this has been seen on a real radio.
+these cases "absent" proves nothing. This has not been tested with a real radio.
 
 Exit code: 0 if everything asked for is present, 1 if something is absent, 2 if
 the command line is wrong, 3 if something could not be checked (even if
@@ -65,10 +65,10 @@ cxxopts::Options MakeParser() {
       "                    [--application NAME]... [--service] [--json]");
   const auto text = [] { return cxxopts::value<std::string>(); };
   parser.add_options()  //
-      ("publisher", "check for its certificate in TrustedPublisher", text(), "FILE")(
-          "intermediate", "check for its certificate in CA", text(), "FILE")(
-          "inf", "check for its package in the driver store", text(), "FILE")(
-          "application", "check for this name on the list of applications", text(), "NAME")(
+      ("publisher", "check TrustedPublisher for its certificate", text(), "FILE")(
+          "intermediate", "check the store CA for its certificate", text(), "FILE")(
+          "inf", "check the driver store for its package", text(), "FILE")(
+          "application", "check the list of applications for this name", text(), "NAME")(
           "service", "check for the Bluetooth device of the service")(
           "json", "write one JSON object in ASCII")("help", "show this text")(
           "version", "show the program's version");

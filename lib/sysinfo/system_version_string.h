@@ -11,9 +11,9 @@ namespace kelvo {
 //     a program whose manifest does not name 8.1 or later: the line then says "Windows 8" or
 //     "Windows Server 2012". On Windows 10 and later, in a program whose manifest names Windows 10,
 //     the line has only the version numbers, without a name.
-//   - For the processor architecture, calls GetNativeSystemInfo (looked up at run time) or, when
-//     Windows lacks that function, GetSystemInfo. Also calls GetSystemMetrics on NT 5.1 and 5.2,
-//     and GetProductInfo (looked up at run time) on NT 6.
+//   - The processor architecture is that of GetNativeSystemInfo (looked up at run time) or, when
+//     Windows lacks that function, of GetSystemInfo. For the edition, calls GetSystemMetrics on NT
+//     5.1 and 5.2, and GetProductInfo (looked up at run time) on NT 6.
 //   - When GetVersionExW does not fill OSVERSIONINFOEXW, as on Windows NT 4.0 before Service Pack
 //     6, the product type comes from the value "ProductType" of HKEY_LOCAL_MACHINE
 //     "SYSTEM\CurrentControlSet\Control\ProductOptions". When the value cannot be read, the key

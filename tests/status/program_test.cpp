@@ -19,7 +19,7 @@ static std::wstring FromUtf8(const std::string& text) {
 
 // Cleans the machine, and creates and enters a folder. This folder has certificates, INF files,
 // both programs and the simulator's libraries. Its subfolder "versioned" has a second
-// sorrel_status.exe, and a copy of sorrel.exe as a difxapi.dll with a version resource.
+// sorrel_status.exe and, as a file with a version resource, a sorrel.exe named difxapi.dll.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -84,7 +84,7 @@ static std::string ShownOnPage(const std::string& kind) {
 }
 
 // Checks that the JSON form is ASCII, that the text form has its values, and that the
-// administrators' page lists every JSON key.
+// administrators' page lists every JSON key of an item.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;
   const Json report = Json::parse(json.output);
