@@ -228,7 +228,7 @@ static std::string Changes(const Lines& before, const Lines& after) {
 
 // Checks a run that ended with an exception because malloc failed. All lines except the exception
 // occur in a complete run: the list is the old or the new one, and no further handle is open.
-// Not called if another function's failure has the same outcome.
+// Not called if a library function returns the same as when another function fails.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
