@@ -28,7 +28,7 @@ foreach(archive ${CPACK_PACKAGE_FILES})
   set(unpacked ${CPACK_TOPLEVEL_DIRECTORY}/unpacked/${name})
   file(ARCHIVE_EXTRACT INPUT ${archive} DESTINATION ${unpacked})
   file(GLOB_RECURSE paths LIST_DIRECTORIES false RELATIVE ${unpacked} ${unpacked}/*)
-  # Packs the files again because CPack's archives contain the user id and group id of the account.
+  # Packs the files again because CPack's archives contain the user id and group id of the account that runs CPack.
   file(REMOVE ${archive})
   execute_process(COMMAND ${CMAKE_COMMAND} -E env TZ=UTC zip -q -X ${archive} ${paths}
     WORKING_DIRECTORY ${unpacked} COMMAND_ERROR_IS_FATAL ANY)

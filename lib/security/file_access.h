@@ -17,9 +17,10 @@ namespace kelvo {
 //
 // Needs READ_CONTROL and WRITE_DAC (GetFileSecurityW, SetFileSecurityW). Returns TRUE when the new
 // DACL was set, which is done in one call. On failure, returns FALSE and leaves the file unchanged.
-// Throws nothing. A failure prints one line to the C runtime's standard output: the name of the
-// call that failed and the last error. If the DACL extends past its descriptor, or an ACE past the
-// DACL, the line names GetAclInformation. Only two kinds of failure print nothing:
+// Throws nothing. Except in the two cases below, a failure prints one line to the C runtime's
+// standard output: the name of the call that failed and the last error. If the DACL extends past
+// its descriptor, or an ACE past the DACL, the line names GetAclInformation. Nothing is printed in
+// these cases:
 //   - `sid` is null or invalid.
 //   - The file has no descriptor. GetFileSecurityW then succeeds when it is asked for the size, so
 //     there is no error to print.

@@ -8,8 +8,8 @@ namespace kelvo {
 
 // Gives a token's user full access to a window station or a desktop. First removes deny ACEs for
 // the user and for each of the token's groups (DeleteDenyACEofObject). Then, if `typeName` contains
-// "desk" in any letter case, grants the user the rights of a desktop (AllowAccessToDesktop),
-// otherwise those of a window station (AllowAccessToWinSta). Both sets of rights include WRITE_DAC
+// "desk" in any letter case, grants the user the rights to a desktop (AllowAccessToDesktop),
+// otherwise those to a window station (AllowAccessToWinSta). Both sets of rights include WRITE_DAC
 // and WRITE_OWNER. Removing a group's deny ACEs affects every member of that group; the rights are
 // granted to the user only. The changes last until the object is deleted: for a window station and
 // its desktops, at the latest when the session ends. A null `typeName` counts as empty. The token

@@ -63,8 +63,8 @@ DWORD CountNames(const wchar_t* const* names) {
   return count;
 }
 
-// Writes one entry to `entries`, without gaps, for each name that this system supports. Returns the
-// number of entries written.
+// Fills `entries`, without gaps, with one entry for each name that this system supports. Returns
+// the number of entries written.
 DWORD LookUpPrivileges(const wchar_t* const* names, DWORD count, LUID_AND_ATTRIBUTES* entries) {
   DWORD known = 0;
   for (DWORD index = 0; index < count; ++index) {

@@ -105,7 +105,7 @@ TEST_CASE("install: writes every line, of any length, before a crash") {
   CHECK_BOTH(run.exitCode == ERROR_PROCESS_ABORTED, run.errors.empty());
 }
 
-TEST_CASE("register: adds to a stored list, replaces any other value") {
+TEST_CASE("register: adds to a readable list, replaces other values") {
   const Rehearsal machine;
   struct Row {
     DWORD type;
