@@ -16,8 +16,8 @@ namespace kelvo {
 
 namespace {
 
-// Limits the width of the name column. A name that is wider than the column moves only the value on
-// the same line to the right.
+// Limits the width of the name column. A name that is wider than the column shifts the value on its
+// own line, but no other value.
 constexpr std::size_t kWidestColumn = 40;
 
 using Line = std::pair<std::string, std::string>;

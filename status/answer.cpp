@@ -117,7 +117,7 @@ std::vector<Item> AnswerInGeneral() {
   std::vector<Item> items = QueryApplications({});
   items.push_back(QueryStore(kPublisher.kind, kPublisher.storeName));
   items.push_back(QueryStore(kIntermediate.kind, kIntermediate.storeName));
-  // Skips the device, because listing devices loads setupapi.dll, which is slow.
+  // Does not search for the service's device, because loading setupapi.dll for that is slow.
   items.push_back(QueryService(DeviceSearch::kNone));
   items.push_back(QueryInterface());
   items.push_back(QuerySystem());

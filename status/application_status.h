@@ -12,8 +12,8 @@ namespace kelvo {
 // name, regardless of letter case (IsSameApplication). If `names` is empty, returns an item for
 // each application in the list, or a single absent item for an empty list. A detail of each item
 // describes the list: whether the list exists, and whether its type or size makes sorrel.exe treat
-// it as empty. All items are unknown when the list's key or value exists but cannot be opened or
-// queried.
+// it as empty. When the list's key or value exists but cannot be opened or queried, every item is
+// unknown and has the error instead of that detail.
 std::vector<Item> QueryApplications(const std::vector<WString>& names);
 
 }  // namespace kelvo

@@ -19,7 +19,7 @@ std::string TextReport(const std::vector<Item>& items);
 //   - "version", the version of the program
 //   - "state", the state of the worst item
 //   - "items", an array of objects with "item" (the kind), "state", "name" (null when it is empty)
-//     and the details by their keys
+//     and the details under their keys
 // An unpaired surrogate becomes U+FFFD.
 std::string JsonReport(const std::vector<Item>& items);
 

@@ -69,7 +69,7 @@ static void SimulateMachine() {
     lstrcpyW(*name, L"client");
     return TRUE;
   });
-  // Simulates an ended process, since Wine sometimes fails to start a real one.
+  // Simulates an ended process: Wine sometimes fails to start a real one.
   static constexpr auto kStart = [](auto... given) -> BOOL {
     *std::get<sizeof...(given) - 1>(std::tuple(given...)) = {
         CreateEventW(nullptr, TRUE, TRUE, nullptr), CreateEventW(nullptr, TRUE, TRUE, nullptr), 1,
@@ -187,7 +187,7 @@ struct Machine : ProgramFolder {
   OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo faults")};
   std::string name;
   std::map<std::string, int> calls;
-  // The outcome, but neither the open handles nor the journal.
+  // The outcome without open handles and journal.
   Lines reached;
 };
 
@@ -227,8 +227,8 @@ static std::string Changes(const Lines& before, const Lines& after) {
 }
 
 // Checks a run that ended with an exception because malloc failed. All lines except the exception
-// occur in a complete run: the list is the old or the new one, and no further handle is open.
-// Not called if a library function returns the same as when another function fails.
+// occur in a complete run: the list is old or new, and no further handle is open. Not called for
+// operations without output if another function's failure has the same outcome.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -262,7 +262,7 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
         if (std::ranges::find(kWatched, function, &Watched::name)->closes) {
           CHECK(Changes(undisturbed, outcome) == kNoChange);
         } else if (isReport && function == "malloc") {
-          // The whole report fails, unless a guarded call of the library catches the exception.
+          // The whole report fails, unless a guarded call in the library catches the exception.
           CHECK((outcome == kNoMemory || outcome.size() == undisturbed.size()));
         } else if (isReport && function.starts_with("_v")) {
           // A text may be missing within a line, but no line is missing.

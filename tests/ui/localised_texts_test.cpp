@@ -116,7 +116,7 @@ TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw only after the 
   CHECK_FALSE(isThrown);
 }
 
-TEST_CASE("WriteUtf8: writes characters to a console, bytes to a file; a short write fails") {
+TEST_CASE("WriteUtf8: writes characters to consoles, bytes to files; a partial write fails") {
   std::wstring seen;
   DWORD lost = 0;
   BOOL answer = TRUE;

@@ -11,8 +11,8 @@ OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token);
 
 // Enables, in this process's token, the privileges that help to start a process with another token.
 // When EnablePrivilege fails for SeTakeOwnershipPrivilege, traces the failure and returns false.
-// Ignores its failures for the other privileges. EnablePrivilege does not fail for a privilege that
-// the token does not hold.
+// Ignores a failure for any other privilege. EnablePrivilege does not fail for a privilege that the
+// token does not hold.
 bool EnableStartPrivileges();
 
 }  // namespace kelvo::internal

@@ -10,7 +10,7 @@ namespace kelvo::internal {
 // them. The functions below never read past an ACL or an ACE: the first two return false for a
 // malformed ACL, and the others are for the ACEs of a well-formed ACL. Every type of ACE is read
 // with the layout of ACCESS_ALLOWED_ACE: header, mask, SID. An ACE may be at any address, even an
-// unaligned one, since the ACE before it may have any size.
+// unaligned one, because the ACE before it may have any size.
 
 // The offset of the SID in an ACE, after the header and the mask.
 constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
