@@ -4,8 +4,8 @@
 //   setup_helper grant FILE SID
 //     grants an account read and write access to a file
 //   setup_helper start PROGRAM [ARGUMENTS]
-//     starts a program as the user of the console session, waits until the program ends, and
-//     returns its exit code
+//     starts a program as the user of the console session (as the caller if that user's token
+//     is unavailable), waits until the program ends and returns the program's exit code
 //   setup_helper ready PROGRAM MUTEX
 //     starts a program and waits at most ten seconds until a mutex with the name MUTEX exists
 // "read", "grant" and "ready" return 0 for success and 1 for failure. "start" returns 1 if the

@@ -25,8 +25,9 @@ if not exist "%run%" exit /b 1603
 
 rem An empty output is a failure: every run of sorrel.exe writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem Only one failure can be ignored: the radio is missing or off. Its codes are 00000490 and 00000014. "register" and
-rem "unregister" also exit with this code, in decimal 1168 or 20. A missing bthprops.cpl is not a failure.
+rem Only one failure can be ignored: the radio is missing or off. Its error lines have the code 00000490 or 00000014;
+rem "register" and "unregister" then exit with the same code, in decimal: 1168 or 20. A missing bthprops.cpl is not a
+rem failure.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
 rem cmd.exe parses a line before it inserts the variables of "for", so no output of the tool can act as a command.
@@ -42,7 +43,7 @@ set "name="
 if "%~1"=="install" set "name=%~5"
 if "%~1"=="register" set "name=%~2"
 if not defined name goto end
-rem Windows also returns 1 for a program that is not allowed to run: then nothing is known about the name.
+rem Exit code 1 can also mean that Windows did not let the program run: then nothing is known about the name.
 "%~dp0sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto end
 "%~dp0sorrel_status.exe" --application "%name%" >>"%run%"

@@ -58,7 +58,7 @@ if(left)
   message(SEND_ERROR "A build that failed has left: ${left}")
 endif()
 
-# The property Log must name the log that run_sorrel.cmd writes, because the last action of an installation reads it.
+# The property Log must name the log that run_sorrel.cmd writes: the last action of an installation reads this log.
 expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi" Property)
 
 # The package's actions that change the computer run as SYSTEM: their types include 2048. An upgrade removes the old

@@ -7,7 +7,7 @@
 namespace kelvo::test {
 
 // Moves this process to a window station and this thread to a desktop until this object is
-// destroyed. Creates a missing station or desktop. A null name keeps the present one.
+// destroyed. Creates a missing station or desktop. A null name keeps the current one.
 struct DesktopScope {
   DesktopScope(const wchar_t* stationName, const wchar_t* desktopName) {
     constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
