@@ -30,9 +30,9 @@ std::vector<WString> ApplicationsInList(const WString& list);
 // removes the items for which this function returns true.
 bool IsSameApplication(const WString& item, const wchar_t* name);
 
-// Returns the list with `name` appended, or nothing when the list already contains `name`. The
-// search is case-sensitive and also finds `name` inside a longer name. It always finds an empty
-// name.
+// Returns the list with `name` appended and without any ";" at either end. Returns nothing when the
+// list already contains `name`: the search is case-sensitive, also finds `name` inside a longer
+// name, and always finds an empty name.
 std::optional<WString> ListWithApplication(const WString& list, const wchar_t* name);
 
 // Returns the list without the items that equal `name` regardless of letter case. The other items
@@ -43,9 +43,9 @@ WString ListWithoutApplication(const WString& list, const wchar_t* name);
 // ListWithApplication. Always returns true, even when the write fails.
 bool AddDependentApplication(const wchar_t* name);
 
-// Removes `name` from the list in the registry and reports the remaining names in one line. Deletes
-// the value when no name remains. Stores in `noneLeft` whether the list is now empty. Always
-// returns true, even when the write or the deletion fails.
+// Removes `name` from the list in the registry and reports the remaining names in one line. When no
+// name remains, deletes the value and sets `noneLeft` to true; otherwise, sets `noneLeft` to false.
+// Always returns true. A failed write or deletion changes neither `noneLeft` nor this result.
 bool RemoveDependentApplication(const wchar_t* name, bool& noneLeft);
 
 }  // namespace kelvo

@@ -31,8 +31,8 @@ WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LAN
 // whose locale name sorts first. Returns an empty string when no file is found. GetLocaleInfoEx
 // (looked up at run time) gives the language for a locale name; when Windows lacks GetLocaleInfoEx,
 // only the file for `language` itself is found. If Windows has no LCID for a locale name, such as
-// "en-DE", the part before the first "-" gives the language. LANG_NEUTRAL, LOCALE_USER_DEFAULT and
-// LOCALE_SYSTEM_DEFAULT are resolved to the languages that they mean.
+// "en-DE", the part before the first "-" gives the language. When `language` is LANG_NEUTRAL,
+// LOCALE_USER_DEFAULT or LOCALE_SYSTEM_DEFAULT, uses the language that this constant stands for.
 WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                           LocalisedFileForm form);
 

@@ -72,7 +72,7 @@ class GuardedMemory {
   static constexpr std::size_t kRoom = 0x10000;
   // Fills the unused part of a block. A zero there could hide that a string has no terminator.
   static constexpr int kFiller = 0xA5;
-  // Reuses blocks: reserving a block takes longer than trying most inputs.
+  // Reuses blocks: reserving a block takes longer than most inputs do.
   static inline std::vector<BYTE*> freeBlocks;
 
   static BYTE* TakeBlock() {

@@ -1,4 +1,4 @@
-# Packs the built files signed with a throw-away certificate, then unsigned, and checks the archives. Set with -D:
+# Packs the files first signed with a throw-away certificate, then unsigned, and checks the archives. Set with -D:
 # source_folder, project, version, folder, osslsigncode, openssl, wine
 
 cmake_minimum_required(VERSION 3.25)

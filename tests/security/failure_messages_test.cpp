@@ -38,7 +38,7 @@ static std::wstring operation, traced;
 
 // In each run of an operation, one call to a function of kWatched fails or throws. As a rule, the
 // operation then fails, and traces the name of a function that failed, but not of one that threw.
-// Outcome "fails" ends with the message "exception caught in __finally", "fails at once" does not.
+// Outcome "fails", unlike "fails at once", ends with the message "exception caught in __finally".
 // failure_messages.txt lists, for each outcome and function, the first call with that outcome.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new station in place of the interactive one, which all programs share.
