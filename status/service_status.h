@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// Where QueryService searches for the service's device: not at all, or on the Bluetooth bus.
+// Whether QueryService searches the Bluetooth bus for the service's device.
 enum class DeviceSearch { kNone, kBluetoothBus };
 
 // Returns the item for the hands-free service. The item reports whether "bthprops.cpl" can be

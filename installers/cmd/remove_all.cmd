@@ -1,8 +1,8 @@
 @echo off
 rem remove_all.cmd   removes the application from sorrel.exe's list. If no application is left there, Windows' certutil
-rem                  and pnputil then remove the two certificates and the driver package. Returns 0, 3010 when the
-rem                  computer must be restarted, or 1603 when something that had to be removed is still there or could
-rem                  not be checked.
+rem                  and pnputil then remove the two certificates and the driver package. Returns 1603 if something
+rem                  that had to be removed is still there or could not be checked, otherwise 3010 if a restart is
+rem                  needed, otherwise 0.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
@@ -22,7 +22,7 @@ set "restart="
 "%system%\cmd.exe" /d /s /c ^""%here%run_sorrel.cmd" uninstall none "%application%"^"
 call :ask application "%application%" list
 if not "%state%"=="absent" goto end
-rem If other applications are still on the list, they need the certificates and the driver package.
+rem "text" means that other applications are on the list: they need the certificates and the driver package.
 if "%value%"=="text" set "code=0"
 if not "%value%"=="none" if not "%value%"=="empty" goto end
 

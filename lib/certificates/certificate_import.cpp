@@ -16,7 +16,7 @@ namespace {
 constexpr DWORD kContentTypes = 0x3FFE;
 
 // The functions of crypt32.dll that this file calls. They are looked up at run time, so a program
-// can start without the library, and a missing function becomes an error code.
+// can start without crypt32.dll, and a missing function becomes an error code.
 struct Crypt32 {
   // Returns false and sets the last error when the library or one of these functions is missing.
   // Never frees the library, since a store that AddFromFile leaves open still needs it.

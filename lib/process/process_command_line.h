@@ -7,8 +7,8 @@ namespace kelvo {
 // Copies the command line of another process into `buffer`, as UTF-16 without a terminator, and
 // returns the number of bytes copied. The handle `process` needs PROCESS_QUERY_INFORMATION and
 // PROCESS_VM_READ. Returns 0 in these cases:
-//   - The system is Windows 9x, Windows 7 or a later version, or GetVersionExW fails. The other
-//     process is then not read.
+//   - GetVersionExW reports Windows 9x, reports Windows 7 or later, or fails. The other process is
+//     then not read.
 //   - `bufferBytes` is less than the command line's length in bytes.
 //   - NtQueryInformationProcess (looked up at run time) is missing or fails.
 //   - Reading the other process fails. A part of the command line may then be in `buffer`.

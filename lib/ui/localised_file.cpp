@@ -85,8 +85,8 @@ bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
                               static_cast<int>(b.length()), TRUE) == CSTR_EQUAL;
 }
 
-// Returns the locale name in `found`, the name of a file or folder. Returns an empty string when
-// `found` does not fit the pattern: FindFirstFileW also matches short (8.3) names.
+// Returns the locale name that `found`, a file's or folder's name, contains. Returns an empty
+// string when `found` does not fit the pattern: FindFirstFileW also matches short (8.3) names.
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
     return found;

@@ -26,7 +26,7 @@ bool IsLabelOrButton(HWND window) {
          std::wcsstr(className.data(), L"button") != nullptr;
 }
 
-// No exception may leave the callback: when memory runs out, std::bad_alloc is thrown after the
+// No exception may leave this callback, so RewriteWindowTexts throws std::bad_alloc after the
 // enumeration.
 BOOL CALLBACK RewriteChild(HWND child, LPARAM isOutOfMemory) {
   try {

@@ -27,7 +27,7 @@ TEST_CASE(
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // A case can make VerQueryValueW, for a path of `pathLength` units, return `from` + `offset`.
+  // If a value's path has `pathLength` units, VerQueryValueW returns `from` + `offset`.
   char name[99] = "", from[9] = "";
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
