@@ -47,9 +47,9 @@ State WorstState(const std::vector<Item>& items);
 // when `text` is empty.
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
-// Adds two details for a Windows error code. The value of `key` + "_code" is the code in eight
-// hexadecimal digits; its phrase is `label`, the code and the message. The value of `key` + "_text"
-// is the system's message without its full stop and line break; it has no phrase.
+// Adds two details for a Windows error code. The detail `key` + "_code" has the code in eight
+// hexadecimal digits; its phrase is `label`, the code and the message. The detail `key` + "_text"
+// has the system's message without its full stop and line break, and no phrase.
 void AddError(Item& item, const std::string& key, const WString& label, DWORD error);
 
 // Returns an item for something that could not be checked, with the keys "error_code" and

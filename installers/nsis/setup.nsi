@@ -127,7 +127,8 @@ FunctionEnd
 
 Section
   ; $9 is the file name of the installed uninstaller (empty in a first installation), $8 that of the new uninstaller.
-  ; A first installation uses an unused name: after a removal, Windows may still delete the old file at its next start.
+  ; A first installation uses a name that no file has: a removal may have left a file, which Windows deletes at
+  ; its next start.
   ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
   StrCpy $8 "$9"
   ${If} $9 == ""
@@ -181,7 +182,7 @@ Section Uninstall
   !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
   ReadRegStr $8 HKLM "${UNINSTALL_KEY}" Uninstaller
   !insertmacro RemoveProduct
-  ; With _?=, the uninstaller runs from this folder and cannot delete itself: Windows deletes it, and then the empty
+  ; With _?=, the uninstaller runs from $INSTDIR and cannot delete itself: Windows deletes it, and then the empty
   ; folder, at its next start.
   ${If} ${FileExists} "$INSTDIR\$8"
     Delete /REBOOTOK "$INSTDIR\$8"

@@ -6,7 +6,7 @@ TEST_CASE("ReadRegistryKeyValues: lists names and texts") {
   using namespace std::string_literals;
   const std::wstring all(16383, L'x');
   const std::wstring hidden = L"<not listed>";
-  // A REG_DWORD without a NUL is listed with older text from the buffer after it; a REG_SZ is not.
+  // Older text in the buffer is listed after a REG_DWORD without a NUL, but not after a REG_SZ.
   const std::tuple<DWORD, std::size_t, std::wstring, std::wstring> rows[] = {
       {REG_DWORD, 0, L"\x01\0"s, L"\x01"},
       {REG_SZ, 0, L"abcdefg\0"s, L"abcdefg"},
