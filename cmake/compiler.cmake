@@ -41,8 +41,8 @@ else()
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
 endif()
 # Makes Windows' headers declare the functions of Windows 10, even if a consumer's project targets an older Windows.
-# This is safe, since the sources bind newer functions at run time. These are compiler options, not compile definitions,
-# so that they can first undefine the macros that the consumer's project defines.
+# This is safe, since the sources bind newer functions at run time. Compiler options set the macros, because compile
+# definitions could not first undefine those of the consumer's project.
 target_compile_options(kelvo_build_options INTERFACE
   "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>")
 
@@ -64,8 +64,8 @@ add_library(kelvo_wide_program INTERFACE)
 target_link_libraries(kelvo_wide_program INTERFACE kelvo_program)
 add_library(kelvo_shipped_program INTERFACE)
 target_link_libraries(kelvo_shipped_program INTERFACE kelvo_wide_program kelvo_debug_information)
-# Where Windows supports it, the imports of a shipped program are loaded only from the system directory
-# (LOAD_LIBRARY_SEARCH_SYSTEM32).
+# Makes Windows 10 1607 and later load the imports of a shipped program only from the system directory (0x800 is
+# LOAD_LIBRARY_SEARCH_SYSTEM32).
 if(MSVC)
   target_link_options(kelvo_shipped_program INTERFACE /DEPENDENTLOADFLAG:0x800)
   target_link_options(kelvo_program INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG /CETCOMPAT /RELEASE /Brepro /PDBALTPATH:%_PDB%)

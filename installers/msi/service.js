@@ -1,5 +1,5 @@
-// PrepareService and ReleaseService are deferred actions of the package. They run the command line in CustomActionData
-// without a window: an ordinary user may start a repair, and could use a console to start programs as SYSTEM.
+// PrepareService and ReleaseService are deferred actions of the package. CustomActionData has their command line, which
+// runs without a window: an ordinary user may start a repair, and could start programs as SYSTEM from a console window.
 
 function run() {
   return new ActiveXObject("WScript.Shell").Run(Session.Property("CustomActionData"), 0, true);

@@ -74,7 +74,7 @@ void Append9xName(const OSVERSIONINFOEXW& version, WString& text) {
 }
 
 // Reads the product type, which OSVERSIONINFOW does not contain, from the registry, and appends it
-// and the version. On failure, appends a note that ends the line, and returns false.
+// and the version. On failure, appends a note instead and returns false.
 bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
   constexpr const wchar_t* kProductOptions = L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions";
   if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductOptions, 0, KEY_QUERY_VALUE, key.Receive()) !=
@@ -111,8 +111,8 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
 }
 
 void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
-  // One character more than szCSDVersion, for a NUL. This is an array and not a WString, since a
-  // structured exception below would skip the destructor of a WString.
+  // One character more than szCSDVersion, for a NUL. This is an array, because a structured
+  // exception below would skip the destructor of a WString.
   std::array<wchar_t, std::extent_v<decltype(version.szCSDVersion)> + 1> servicePack{};
   std::ranges::copy(version.szCSDVersion, servicePack.begin());
   if (version.dwMajorVersion == 4 && CompareNoCase(servicePack.data(), L"Service Pack 6") == 0) {
@@ -130,8 +130,8 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
   }
 }
 
-// Writes the line to `text`, which must be empty. When an exception ends this function, `key` owns
-// the key that is open, if any.
+// Writes the version line to `text`, which must be empty. When an exception ends this function,
+// `key` owns the key that is open, if any.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);

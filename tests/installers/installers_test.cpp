@@ -12,7 +12,7 @@ static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
 // Copies of this program simulate pnputil and certutil, which Wine lacks. A copy writes its name
 // and all but its last argument to kStandIns, and removes the test's INF file or certificates if
-// the arguments name them. It does neither if its exit code (the variable "ends") is a failure.
+// the arguments name them. It does nothing if its exit code (the variable "ends") is a failure.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
@@ -110,7 +110,7 @@ static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
 
 // Returns the list of applications, a letter for each trusted certificate (P: publisher, A:
 // authority), the number of files in each product's folder, the products in "Apps", and the
-// files in the folder of the logs that are not logs.
+// files other than logs in the logs' folder.
 static std::string State() {
   std::wstring state = Applications() + L" | ";
   for (const wchar_t* store : {L"TrustedPublisher", L"CA"}) {

@@ -19,7 +19,7 @@ endif()
 if(facts MATCHES "MEM_EXECUTE [^\n]*\n *IMAGE_SCN_MEM_READ [^\n]*\n *IMAGE_SCN_MEM_WRITE")
   message(SEND_ERROR "${program} has a section that can be written and executed")
 endif()
-# The facts mean, in this order: ASLR, ASLR over the whole address space, DEP, the CET shadow stack, a .pdb name without
+# The patterns mean, in order: ASLR, ASLR over the whole address space, DEP, the CET shadow stack, a .pdb name without
 # a folder, a hash instead of the build time, and imports only from the system directory (a setting that Wine ignores).
 foreach(fact "_DYNAMIC_BASE " "_HIGH_ENTROPY_VA " "_NX_COMPAT " "_EX_CET_COMPAT " "PDBFileName: [^/\\\n]+\n" "Type: Repro "
     "DependentLoadFlags: 0x800\n")
