@@ -105,8 +105,8 @@ struct FileSearchTraits {
 
 }  // namespace internal
 
-// A handle such as that of a process, thread, token or mutex: closed with CloseHandle, null when
-// there is none.
+// A handle of a process, thread, token, mutex or event: closed with CloseHandle, null when there is
+// none.
 using OwnedKernelObject = Owned<internal::KernelObjectTraits>;
 
 // A handle from CreateFileW: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
