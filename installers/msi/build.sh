@@ -39,7 +39,7 @@ settings=()
 for name in "${!setting[@]}"; do
   value=${setting[$name]}
   [[ $value != *[\"\'\$%\;\&\<\>\|^\!/\\[{}]* && $value != *]* ]] || refuse "$name=$value: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\ [ ] { }"
-  iconv -f UTF-8 -t CP1252 <<<"$value" >/dev/null 2>&1 || refuse "$name=$value: wixl writes no letters outside of code page 1252."
+  iconv -f UTF-8 -t CP1252 <<<"$value" >/dev/null 2>&1 || refuse "$name=$value: wixl writes no characters outside of code page 1252."
   [[ $name != APPLICATION || $value != *[^\ -~]* ]] || refuse "$name=$value: the name must be ASCII."
   [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" $value "* ]] || refuse "$name is still the GUID of Brindle: make another with uuidgen."
   settings+=(-D "$name=$value")

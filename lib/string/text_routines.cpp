@@ -21,7 +21,7 @@ std::size_t CountOccurrences(std::wstring_view text, std::wstring_view search) {
 }
 
 // Returns a string of NULs with the length that `text` will have after `count` replacements, each
-// of `removed` units by `added` units.
+// putting `added` units in place of `removed` units.
 WString RoomFor(const WString& text, std::size_t count, std::size_t removed, std::size_t added) {
   const std::size_t kept = text.length() - (count * removed);
   if (added > (text.max_size() - kept) / count) {

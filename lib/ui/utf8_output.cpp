@@ -19,7 +19,7 @@ std::string WithCarriageReturns(std::string_view text) {
 }
 
 bool WriteToConsole(HANDLE console, const std::string& utf8) {
-  // 16 KiB, because a console before Windows 10 refuses more than 64 KiB in one call.
+  // 16 KiB, far below the 64 KiB that a console before Windows 10 accepts in one call.
   constexpr std::size_t kMostUnits = 0x2000;
   // UTF-16 never has more units than UTF-8 has bytes.
   std::wstring text(utf8.length(), L'\0');

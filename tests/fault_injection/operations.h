@@ -2,7 +2,7 @@
 
 #include <string>
 
-// The test makes function calls inside an operation fail. fault_injection_operations.dll
+// The test causes function calls inside an operation to fail. fault_injection_operations.dll
 // exports the table "operations", whose last row has no name. The test loads this DLL anew for each
 // run, so that no state of an earlier run is left.
 struct Operation {

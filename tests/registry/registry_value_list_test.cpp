@@ -6,7 +6,7 @@ TEST_CASE("ReadRegistryKeyValues: lists names and texts") {
   using namespace std::string_literals;
   const std::wstring all(16383, L'x');
   const std::wstring hidden = L"<not listed>";
-  // Older text in the buffer is listed after a REG_DWORD without a NUL, but not after a REG_SZ.
+  // A REG_DWORD without a NUL continues with older text in the buffer, a REG_SZ does not.
   const std::tuple<DWORD, std::size_t, std::wstring, std::wstring> rows[] = {
       {REG_DWORD, 0, L"\x01\0"s, L"\x01"},
       {REG_SZ, 0, L"abcdefg\0"s, L"abcdefg"},
@@ -17,7 +17,8 @@ TEST_CASE("ReadRegistryKeyValues: lists names and texts") {
       {REG_SZ, 0, L"a\0b\0"s, L"a"},
       {REG_BINARY, 0, L"bytes\0"s, hidden},
       {REG_EXPAND_SZ, 0, L"%kelvo%%kelvo%123", std::wstring(256, L'k') + L"123"},
-      {REG_EXPAND_SZ, 0, L"%kelvo%%kelvo%1234", L"%kelvo%%kelvo%1234"},  // 260 units and a NUL
+      {REG_EXPAND_SZ, 0, L"%kelvo%%kelvo%1234",
+       L"%kelvo%%kelvo%1234"},  // expands to 260 units and a NUL: too long
       {REG_SZ, 0, all + L'\0', hidden},
       {REG_SZ, 0, all, all},
       {REG_DWORD, 0, L"yz", L"yz" + all.substr(2)}};

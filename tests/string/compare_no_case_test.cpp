@@ -6,7 +6,8 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("CompareNoCase: compares code units after folding them to lower case") {
-  // Of the units below U+0100, only A to Z are folded (locale "C"). LCMapStringW folds the others.
+  // Below U+0100, only A to Z are folded (locale "C"). From U+0100 up, LCMapStringW folds the
+  // units.
   CHECK(CompareNoCase(L"Foo\u0100B", L"fOO\u0101") == L'b');
   CHECK(CompareNoCase(L"a", L"ab") == -L'b');
   CHECK(CompareNoCase(L"Z", L"[") == L'z' - L'[');

@@ -33,7 +33,7 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
   REQUIRE(RegSetKeyValueW(root, subkey, name, type, units.data(), size) == ERROR_SUCCESS);
 }
 
-// Until this object is destroyed, makes Windows use `key`, which is empty at first, in place of a
+// Until this object is destroyed, this process uses `key`, which is empty at first, in place of a
 // predefined key such as HKEY_CURRENT_USER. Changes to the predefined key then affect only `key`.
 struct StandInKey {
   explicit StandInKey(HKEY replaced) : predefined(replaced) {

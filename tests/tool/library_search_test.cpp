@@ -3,7 +3,8 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("NarrowLibrarySearch: keeps program and system folders, or drops the current folder") {
+TEST_CASE(
+    "NarrowLibrarySearch: keeps only the program and system folders, or drops the current one") {
   static DWORD directories;
   static BOOL isSupported;
   const auto set = +[](DWORD given) { return directories = given, isSupported; };
