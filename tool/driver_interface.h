@@ -16,7 +16,7 @@ struct DriverInterface {
   decltype(&DriverPackageInstallW) installPackage = nullptr;
 };
 
-// Loads "difxapi.dll" and gets the addresses of its two functions. Returns 0, or an error code when
+// Loads "difxapi.dll" and finds both functions of DriverInterface. Returns 0, or an error code when
 // the library cannot be loaded or lacks a function. After an error, neither function may be called.
 // Uses the full path from LibraryPath (tool/library_search.h), so that a copy in the program's
 // folder is preferred. Given the bare name, Windows would always load the system's copy, because

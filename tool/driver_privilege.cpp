@@ -10,8 +10,8 @@ bool EnableLoadDriverPrivilege() {
   // shows that the privilege is missing.
   const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {
-    // The text names OpenProcessToken even when LookupPrivilegeValueW or AdjustTokenPrivileges
-    // fails.
+    // The text names OpenProcessToken even when the error is from LookupPrivilegeValueW or
+    // AdjustTokenPrivileges.
     Report(L"ERR: OpenProcessToken failed, err = %08lX\n", error);
   }
   return error == ERROR_SUCCESS;

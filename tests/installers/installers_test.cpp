@@ -12,7 +12,7 @@ static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
 // Copies of this program simulate pnputil and certutil, which Wine lacks. A copy writes its name
 // and all but its last argument to kStandIns, and removes the test's INF file or certificates if
-// the arguments name them. It does nothing if its exit code (the variable "ends") is a failure.
+// the arguments name them. With a failure code in the environment variable "ends", it just exits.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
@@ -89,7 +89,7 @@ static std::wstring Apps() {
       RegGetValueW(key, name, of, RRF_RT_REG_SZ, nullptr, text, &size);
       return std::wstring(text);
     };
-    // A package has no command for a silent removal.
+    // An MSI package has no silent removal command.
     const std::wstring quiet = value(L"QuietUninstallString");
     CHECK((quiet.empty() || quiet.starts_with(value(L"UninstallString") + L" /S ")));
     apps.emplace(L" " + value(L"DisplayName") + L" " + value(L"DisplayVersion") + L" by " +
@@ -110,7 +110,7 @@ static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
 
 // Returns the list of applications, a letter for each trusted certificate (P: publisher, A:
 // authority), the number of files in each product's folder, the products in "Apps", and the
-// files other than logs in the logs' folder.
+// files in kLogs that are not logs.
 static std::string State() {
   std::wstring state = Applications() + L" | ";
   for (const wchar_t* store : {L"TrustedPublisher", L"CA"}) {

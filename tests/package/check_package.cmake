@@ -1,4 +1,4 @@
-# Packs the files first signed with a throw-away certificate, then unsigned, and checks the archives. Set with -D:
+# Packs once with signing (by a throw-away certificate) and once without; checks the archives. Set with -D:
 # source_folder, project, version, folder, osslsigncode, openssl, wine
 
 cmake_minimum_required(VERSION 3.25)
@@ -56,7 +56,7 @@ if(NOT signed STREQUAL "${base}.spdx.json;${base}.zip")
   message(SEND_ERROR "Signing must change only ${base}.spdx.json and ${base}.zip, but changed: ${signed}")
 endif()
 
-# Every local link leads to an existing file and heading, on the pages below and in the unpacked archives.
+# Each local link on a page of the source or of an archive leads to an existing file and heading.
 file(GLOB archives ${folder}/unsigned/*.zip)
 foreach(archive ${archives})
   cmake_path(GET archive STEM LAST_ONLY name)
@@ -99,7 +99,7 @@ file(ARCHIVE_EXTRACT INPUT ${folder}/signed/${base}.zip DESTINATION ${folder})
 execute_process(COMMAND test -x ${folder}/${base}/share/doc/sorrel/installers/msi/build.sh COMMAND_ERROR_IS_FATAL ANY)
 file(GLOB_RECURSE libraries ${folder}/${base}/*.dll ${folder}/${base}/*.cpl)
 if(libraries)
-  message(SEND_ERROR "The archive for setups must have no libraries: ${libraries}")
+  message(SEND_ERROR "The programs' archive must have no libraries: ${libraries}")
 endif()
 set(program ${folder}/${base}/bin/sorrel.exe)
 file(SHA256 ${program} sum)

@@ -52,7 +52,7 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
   return descriptor;
 }
 
-// The beginning, in SDDL, of an ACE that grants all rights to a window station or to a desktop.
+// The beginnings, in SDDL, of ACEs that grant all rights on a window station and on a desktop.
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
@@ -76,8 +76,8 @@ inline OwnedKernelObject OwnToken() {
   return token;
 }
 
-// A window station and a desktop whose DACLs can be read on every version of Wine. With the type
-// SE_WINDOW_OBJECT, Wine 10 finds no DACL; with SE_KERNEL_OBJECT, it finds the same handle's DACL.
+// A window station and a desktop whose DACLs can be read on every version of Wine. Wine 10
+// finds these DACLs with the type SE_KERNEL_OBJECT, but not with SE_WINDOW_OBJECT.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 

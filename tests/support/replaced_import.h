@@ -60,7 +60,7 @@ inline void* SwapImport(const std::string& function, void* target,
     return true;
   });
   return previous != nullptr ? previous
-                             : throw std::runtime_error("this module does not import " + function);
+                             : throw std::runtime_error("the module does not import " + function);
 }
 
 // Calls `replacement` in place of an imported function until this object is destroyed. The
