@@ -10,7 +10,7 @@ namespace kelvo {
 // Returns the item for the driver package of an INF file: present when Windows' INF folder has a
 // published INF file with the same bytes. For each package in the driver store, Windows publishes
 // the INF file: it copies the file to the INF folder under a name such as oem12.inf. Two packages
-// that differ only in their catalogs count as the same package here, but not in Windows.
+// with equal INF files count as the same package here, but not in Windows if their catalogs differ.
 //   - The item is unknown when the file `infPath` cannot be read, is larger than 4 MiB or has no
 //     section [Version] (ERROR_SECTION_NOT_FOUND). It is also unknown when no published file
 //     matches, and at least one published file cannot be compared: that file cannot be opened, or

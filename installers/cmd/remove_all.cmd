@@ -32,7 +32,7 @@ call :ask intermediate "%here%%intermediate%" thumbprint
 if "%state%"=="present" call :windows certutil.exe "-delstore CA %value%"
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "/delete-driver %value% /uninstall"
-rem An older pnputil, from before Windows 10 1607, has other options. Tries them if the driver package is still there.
+rem Before Windows 10 1607, pnputil has other options. If the driver package is still there, tries the old option -d.
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "-d %value%"
 
@@ -50,8 +50,8 @@ if exist "%answer%" del /f /q "%answer%"
 >>"%log%" echo === remove_all.cmd ends with %code%
 exit /b %code%
 
-rem Runs sorrel_status.exe with an option and its argument, and sets two variables from the report: "state" to the
-rem item's state, and "value" to the value of the key in the third argument. Both are empty if there is no report.
+rem :ask OPTION ARGUMENT [KEY]   runs sorrel_status.exe --OPTION ARGUMENT, and sets two variables from the report:
+rem "state" to the item's state, and "value" to the value of KEY. Both variables are empty if there is no report.
 rem Ignores the exit code: 1 means absent, but Windows also returns 1 if the program is not allowed to run.
 :ask
 set "state="

@@ -55,7 +55,7 @@ TEST_CASE("IsPublishedName: accepts only oemNUMBER.inf") {
   }
 }
 
-TEST_CASE("QueryService: counts a device node unless it clearly belongs to a remote device") {
+TEST_CASE("QueryService: counts the service's device nodes unless they are clearly remote") {
   const std::wstring id = L"BTHENUM\\{3abb9028-beae-4bf1-acd7-5cd7d5e4e0ca}";
   struct Row {
     std::wstring ids, instanceId;

@@ -15,7 +15,7 @@ inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
     const DWORD size = record->dwOSVersionInfoSize;
     *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
     lstrcpyW(record->szCSDVersion, servicePack);
-    // Version 4.x accepts only the shorter structure, OSVERSIONINFOW, as NT 4.0 does.
+    // For 4.x, rejects the longer structure, OSVERSIONINFOEXW, as NT 4.0 does.
     return major != 4 || size == sizeof(*record);
   };
   return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", report);
