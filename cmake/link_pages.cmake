@@ -1,7 +1,7 @@
 # Adapts the links of the installed pages: a link to a file that is not installed becomes plain text, and a link to a
 # header leads to the installed header.
 
-# Two control characters temporarily replace "[" and "]", since CMake does not split a list at a ";" between brackets.
+# Two control characters temporarily replace "[" and "]", because CMake does not split a list at a ";" between brackets.
 string(ASCII 1 open)
 string(ASCII 2 close)
 set(prefix $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX})

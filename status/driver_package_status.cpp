@@ -130,8 +130,8 @@ DWORD ReadEntry(const SetupFunctions& functions, HINF inf, const wchar_t* key, W
   return ERROR_SUCCESS;
 }
 
-// Reads the entries Provider and DriverVer, each even when the other is missing. Returns the first
-// error code, or ERROR_SUCCESS.
+// Reads the entries Provider and DriverVer. If one cannot be read, still reads the other. Returns
+// the first error code, or ERROR_SUCCESS.
 DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVersion) {
   const SetupFunctions functions;
   if (!functions) {

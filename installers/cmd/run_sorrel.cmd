@@ -43,7 +43,8 @@ set "name="
 if "%~1"=="install" set "name=%~5"
 if "%~1"=="register" set "name=%~2"
 if not defined name goto end
-rem Exit code 1 can also mean that Windows did not let the program run: then nothing is known about the name.
+rem sorrel_status.exe returns 1 if the name is absent. Windows also returns 1 for a program that is not allowed to run,
+rem so --version is tried first.
 "%~dp0sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto end
 "%~dp0sorrel_status.exe" --application "%name%" >>"%run%"

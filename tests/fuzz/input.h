@@ -98,7 +98,7 @@ struct GuardedText : GuardedMemory {
   operator const wchar_t*() const { return As<wchar_t>(); }
 };
 
-// An operation to try random input on. Each source file adds its own.
+// An operation to try on random input. `all` lists the targets.
 struct Target {
   Target(const char* itsName, void (*itsRun)(Input&)) : name(itsName), run(itsRun) {
     all.push_back(this);

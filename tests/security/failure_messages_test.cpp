@@ -30,7 +30,7 @@ constexpr FailingCall kWatched[] = {
     RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
     SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
     SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
-    // Must be last: RunAsUser closes a station that it cannot restore, so later runs lack it.
+    // Must be last: RunAsUser closes a station that it cannot return to: later runs lack it.
     SETS_LAST_ERROR(SetProcessWindowStation)};
 
 // The operation under test, and its messages without those of the operations that it calls.
@@ -38,7 +38,7 @@ static std::wstring operation, traced;
 
 // In each run of an operation, one call to a function of kWatched fails or throws. As a rule, the
 // operation then fails, and traces the name of a function that failed, but not of one that threw.
-// Outcome "fails", unlike "fails at once", ends with the message "exception caught in __finally".
+// A failed operation "fails at once" unless its last message is "exception caught in __finally".
 // failure_messages.txt lists, for each outcome and function, the first call with that outcome.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new station in place of the interactive one, which all programs share.
