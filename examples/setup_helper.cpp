@@ -1,13 +1,13 @@
 // Does tasks that setup programs often need. Each task is a command:
 //   setup_helper read HKEY_CURRENT_USER\Software\App\Setting
-//     prints a registry value
+//     prints the string in a registry value
 //   setup_helper grant FILE SID
 //     grants an account read and write access to a file
 //   setup_helper start PROGRAM [ARGUMENTS]
 //     starts a program as the user of the console session (as the caller if that user's token
 //     is unavailable), waits until the program ends and returns the program's exit code
 //   setup_helper ready PROGRAM MUTEX
-//     starts a program and waits at most ten seconds until a mutex with the name MUTEX exists
+//     starts a program and waits up to ten seconds for a mutex named MUTEX
 // "read", "grant" and "ready" return 0 for success and 1 for failure. "start" returns 1 if the
 // program cannot be started. For a wrong command line, the exit code is also 1.
 

@@ -22,8 +22,8 @@ enum class State {
 const char* StateName(State state);
 
 // One fact about an item. The JSON report has `value` under the stable name `key`; the text report
-// has `phrase`. A detail without a key is not in the JSON report; one without a phrase is not in
-// the text report.
+// has `phrase`. A detail without a key is not in the JSON report, and a detail without a phrase is
+// not in the text report.
 struct Detail {
   std::string key;
   std::variant<bool, DWORD, WString> value;
@@ -48,11 +48,11 @@ State WorstState(const std::vector<Item>& items);
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
 // Adds two details for a Windows error code. The detail `key` + "_code" has the code in eight
-// hexadecimal digits; its phrase is `label`, the code and the message. The detail `key` + "_text"
-// has the system's message without its full stop and line break, and no phrase.
+// hexadecimal digits; its phrase is `label`, the code and the system's message. The detail `key` +
+// "_text" has this message and no phrase. The message's full stop and line break are removed.
 void AddError(Item& item, const std::string& key, const WString& label, DWORD error);
 
-// Returns an item for something that could not be checked, with the keys "error_code" and
+// Returns an item for something that could not be checked, with the details "error_code" and
 // "error_text".
 Item UnknownItem(const char* kind, const WString& name, DWORD error);
 

@@ -14,9 +14,9 @@ enum class DeviceSearch { kNone, kBluetoothBus };
 //   - A device counts when it is present, one of its hardware ids begins with "BTHENUM\{CLASS}",
 //     where CLASS is the service's class identifier, and nothing shows that the device belongs to a
 //     paired remote device.
-//     If the instance id contains a Bluetooth address, the address must be zero. If it contains no
-//     address, no hardware id may continue after "BTHENUM\{CLASS}" with "_VID", or with
-//     "_LOCALMFG&" and a number other than 0000.
+//     If the instance id contains a Bluetooth address, the address must be zero. If the instance
+//     id contains no address, no hardware id may continue after "BTHENUM\{CLASS}" with "_VID", or
+//     with "_LOCALMFG&" and a number other than 0000.
 //   - It is certain that the bus also has devices for services of paired remote devices, and that
 //     each of these bus devices has the remote device's address in its instance id. The ids of the
 //     device for the service itself have never been seen with a real radio. The devices of other

@@ -40,7 +40,7 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   interception.originals[#function] = \
       reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
 
-// Simulates functions whose results differ between machines or that fail on all test machines.
+// Simulates functions whose results depend on the machine. Collects the output in `written`.
 static Lines written;
 static void SimulateMachine() {
   SIMULATE(GetProcAddress, FindIntercepted);
@@ -226,9 +226,9 @@ static std::string Changes(const Lines& before, const Lines& after) {
   return before == after ? kNoChange : without + "\r\n" + added;
 }
 
-// Checks a run that ended with an exception because malloc failed. All lines except the exception
-// occur in a complete run: the list is old or new, and no further handle is open. Not called for
-// operations without output if another function's failure has the same outcome.
+// Checks a run that ended with an exception because malloc failed. Its other lines must occur in
+// the undisturbed run: the list is the old or the final one, and no more handles are open. Not used
+// if an operation without output has this outcome when another function fails.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));

@@ -8,7 +8,7 @@
 // Each test case uses a StandInKey for this key, so that a mistake cannot delete the user's data.
 HKEY const kRoot = HKEY_CURRENT_USER;
 
-TEST_CASE("RegistryCanWrite: tries a write, except without elevation on Windows Vista and later") {
+TEST_CASE("RegistryCanWrite: tries a write if elevated or if Windows is older than Vista") {
   // Major version, elevation, whether a write succeeds; expected answer, whether a write is tried.
   const DWORD rows[][5] = {
       {5, 0, 1, 0, 1}, {5, 0, 0, 1, 1}, {6, 1, 1, 0, 1}, {6, 1, 0, 1, 1}, {6, 0, 1, 1, 0}};

@@ -44,6 +44,6 @@ struct doctest::StringMaker<kelvo::WString> {
   }
 };
 
-// Test files use these names throughout.
+// Test files use both namespaces.
 using namespace kelvo;
 using namespace kelvo::test;

@@ -27,11 +27,11 @@ TEST_CASE(
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // If a value's path has `pathLength` units, VerQueryValueW returns `from` + `offset`.
+  // If a value's path has `pathLength` units, VerQueryValueW returns place `from` + `offset` bytes.
   char name[99] = "", from[9] = "";
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
-  UINT length = 0;  // the length that VerQueryValueW then returns
+  UINT length = 0;  // of the value at that place
   REPLACE(VerQueryValueW, [&](auto original, auto block, auto* path, auto found, auto claimed) {
     const BOOL answer = original(block, path, found, claimed);
     if (std::wcslen(path) == pathLength) {
