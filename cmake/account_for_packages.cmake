@@ -21,14 +21,14 @@ string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")
 
-# Packs each archive again, and adds the archive and its files to the bill of materials.
+# Checks and repacks the files of each archive, and adds the archive and its files to the bill of materials.
 set(number 0)
 foreach(archive ${CPACK_PACKAGE_FILES})
   cmake_path(GET archive FILENAME name)
   set(unpacked ${CPACK_TOPLEVEL_DIRECTORY}/unpacked/${name})
   file(ARCHIVE_EXTRACT INPUT ${archive} DESTINATION ${unpacked})
   file(GLOB_RECURSE paths LIST_DIRECTORIES false RELATIVE ${unpacked} ${unpacked}/*)
-  # Packs the files again because CPack's archives contain the user id and group id of the account that runs CPack.
+  # Repacks the files, because CPack's archives contain the user id and group id of the account that runs CPack.
   file(REMOVE ${archive})
   execute_process(COMMAND ${CMAKE_COMMAND} -E env TZ=UTC zip -q -X ${archive} ${paths}
     WORKING_DIRECTORY ${unpacked} COMMAND_ERROR_IS_FATAL ANY)
@@ -68,8 +68,9 @@ function(describe package)
   set(purl ${purl} PARENT_SCOPE)
 endfunction()
 
-# Adds the third-party code in our programs and simulated libraries. Each entry has a header or one of the compiler's
-# libraries, the name for the bill of materials, the licence, and the programs and libraries that contain this code.
+# Adds the third-party code in our programs and simulated libraries. Each entry has a file of
+# that code (a header or a static library), the code's name in the bill of materials, the code's licence, and the
+# programs and simulated libraries that contain the code.
 set(all "sorrel;sorrel_status;bthprops;difxapi")
 foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${all}"
     "libmingwex.a;mingw-w64-runtime;ZPL-2.1;${all}" "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT;sorrel_status"

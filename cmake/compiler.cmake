@@ -8,7 +8,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_C_STANDARD 11)
 
 if(NOT MSVC)
-  # Enables __try and __except, which only the C files of lib/platform use.
+  # Enables __try and __except, which only a C file of lib/platform uses.
   set(KELVO_STRUCTURED_EXCEPTIONS_FLAGS -fms-extensions -Wno-language-extension-token)
 endif()
 
@@ -31,7 +31,7 @@ endif()
 add_library(kelvo_build_options INTERFACE)
 target_compile_definitions(kelvo_build_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 if(MSVC)
-  # Disables C4996 (deprecated functions): the library reports what GetVersionEx and related functions return.
+  # Disables C4996 (call of a deprecated function): the library calls GetVersionEx and related functions on purpose.
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Z7)
 else()
@@ -41,8 +41,8 @@ else()
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
 endif()
 # Makes Windows' headers declare the functions of Windows 10, even if a consumer's project targets an older Windows.
-# This is safe, since the sources bind newer functions at run time. Compiler options set the macros, because compile
-# definitions could not first undefine those of the consumer's project.
+# This is safe, since functions that an older Windows lacks are bound at run time. Compiler options set the two macros,
+# because compile definitions could not first undefine the values of the consumer's project.
 target_compile_options(kelvo_build_options INTERFACE
   "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>")
 

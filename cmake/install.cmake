@@ -1,7 +1,7 @@
 # Defines the components that `cmake --install` installs and `cpack` packs:
 #   tool           the programs that a setup ships
 #   documentation  the pages and sample setups; in the same archive as tool
-#   simulator      the simulated libraries; in a separate archive, since even a signed program next to them loads them
+#   simulator      the simulated libraries; in a separate archive: even a signed program loads them from its folder
 #   sdk            the library, as the CMake package kelvo
 #   symbols        the .pdb files
 

@@ -30,7 +30,7 @@ std::vector<WString> ApplicationsInList(const WString& list);
 // removes the items for which this function returns true.
 bool IsSameApplication(const WString& item, const wchar_t* name);
 
-// Returns the list with `name` appended and without any ";" at either end. Returns nothing when the
+// Returns the list with `name` appended and without any ";" at either end. Returns nullopt when the
 // list already contains `name`: the search is case-sensitive, also finds `name` inside a longer
 // name, and always finds an empty name.
 std::optional<WString> ListWithApplication(const WString& list, const wchar_t* name);

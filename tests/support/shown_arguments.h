@@ -11,7 +11,7 @@
 namespace kelvo::test {
 
 // Returns an argument as text to compare: a number, a constant string (without the folder if it
-// is a full path), a key, or fields of a structure. Null gives "0", any other pointer "given".
+// is a full path), a key, or fields of a structure. Null is "0", other pointer types "given".
 template <typename Argument>
 std::string Shown(Argument argument) {
   if constexpr (std::is_same_v<Argument, SIZE_T>) {

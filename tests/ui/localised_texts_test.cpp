@@ -137,7 +137,7 @@ TEST_CASE("WriteUtf8: writes characters to consoles, bytes to files; a partial w
   for (const bool isConsole : {true, false}) {
     REPLACE(GetConsoleMode,
             [=](auto, HANDLE asked, auto) -> BOOL { return asked == errors && isConsole; });
-    // Writes characters of two, three and four UTF-8 bytes. The last one is a surrogate pair.
+    // Writes characters of two, three and four UTF-8 bytes. The last becomes two surrogates.
     CHECK(WriteUtf8(STD_ERROR_HANDLE, "\xC3\xA9\n\xE2\x82\xAC\xF0\x9F\x98\x80\n"));
     CHECK(seen == (isConsole ? L"\u00E9\r\n\u20AC\U0001F600\r\n"
                              : L"\xC3\xA9\r\n\xE2\x82\xAC\xF0\x9F\x98\x80\r\n"));
