@@ -30,8 +30,8 @@ inline constexpr DWORD DRIVER_PACKAGE_SILENT = 0x00000002;
 void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);
 
 // Installs the driver package of the INF file at `infPath`, a fully qualified path. Stores in
-// `needReboot` whether the installation needs a restart. Returns 0 or a Win32 or SetupAPI error
-// code.
+// `needReboot` whether the installation needs a restart. Returns 0 or an error code of Win32
+// or SetupAPI.
 DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
                                    const INSTALLERINFO_W* installerInfo, BOOL* needReboot);
 }

@@ -66,8 +66,8 @@ add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
 }
 
 # These actions run functions of service.js, deferred and as SYSTEM (type 3077: JScript in the package). ReleaseService
-# ignores errors (64 added to the type), so that a missing radio does not keep the product on the computer. It does not
-# run when an upgrade removes the old version: the name must stay on the list, since the old version may be restored.
+# ignores errors (64 added to the type), so that a missing radio does not keep the product on the computer. When an
+# upgrade removes the old version, ReleaseService does not run: a restored old version needs its name on the list.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 

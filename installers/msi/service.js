@@ -1,5 +1,6 @@
-// PrepareService and ReleaseService are deferred actions of the package. CustomActionData has their command line, which
-// runs without a window: an ordinary user may start a repair, and could start programs as SYSTEM from a console window.
+// PrepareService and ReleaseService are deferred actions of the package. In each, CustomActionData is a command
+// line. It runs without a window: an ordinary user may start a repair, and could start programs as SYSTEM from a
+// console window.
 
 function run() {
   return new ActiveXObject("WScript.Shell").Run(Session.Property("CustomActionData"), 0, true);
@@ -7,7 +8,7 @@ function run() {
 
 function PrepareService() {
   var code = run();
-  return code == 0 || code == 3010 ? 1 : 3;  // success, failure
+  return code == 0 || code == 3010 ? 1 : 3;  // 1: success, 3: failure
 }
 
 function ReleaseService() {

@@ -1,4 +1,4 @@
-// Reads registry values of any type and size with the library's functions that read values.
+// Reads registry values of many types and sizes with the library.
 
 #include "lib/registry/registry_binary.h"
 #include "lib/registry/registry_number.h"
@@ -12,7 +12,7 @@ constexpr const wchar_t* kKey = L"Software\\kelvo fuzz";
 constexpr const wchar_t* kName = L"value";
 
 // Returns the text that the library should read, up to the first NUL. If the number of bytes
-// is odd, the last byte is one unit.
+// is odd, the last byte is a whole unit.
 static std::wstring TextIn(const std::string& data) {
   std::wstring text((data.size() + 1) / 2, L'\0');
   std::memcpy(text.data(), data.data(), data.size());
@@ -49,7 +49,7 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   }
   // Often chooses a buffer that the value fills exactly.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
-  // For a value of one byte, Wine reads in front of the buffer: there must be no guard page.
+  // For a value of one byte, Wine reads in front of the buffer, so the guard page is behind it.
   const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());
   const std::size_t stays =
       RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);

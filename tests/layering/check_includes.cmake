@@ -1,7 +1,7 @@
 # cmake -D source_folder=... -P check_includes.cmake   checks #include lines against the diagram in docs/development.md
 cmake_minimum_required(VERSION 3.25)
 
-# For each folder, collects all it can reach by arrows. The diagram lists the arrows of lower folders first.
+# For each folder, collects all folders below it. The diagram must list the arrows of lower folders first.
 file(STRINGS ${source_folder}/docs/development.md arrows REGEX "^ +[a-z]+ --> ")
 foreach(arrow ${arrows})
   string(REGEX MATCHALL "[a-z]+" lower "${arrow}")

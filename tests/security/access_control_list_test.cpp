@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: returns the index of the first ACE of the same 
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // A read past the end would fault: the functions would catch that and trace other messages.
+  // After a read past the end, the functions would catch a fault and trace other messages.
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

@@ -28,7 +28,7 @@ struct ScratchFolder {
 
   std::filesystem::path operator/(const std::filesystem::path& name) const { return path / name; }
 
-  // Writes a file into the folder and returns its path.
+  // Writes a file and returns the file's path.
   std::wstring Write(const std::filesystem::path& name, const std::string& bytes) const {
     std::ofstream(path / name, std::ios::binary) << bytes;
     return path / name;
@@ -38,7 +38,7 @@ struct ScratchFolder {
   std::filesystem::path path;
 };
 
-// Returns the file's bytes, or an empty string if it cannot be read.
+// Returns the file's bytes, or an empty string on failure.
 inline std::string ReadBytes(const std::filesystem::path& file) {
   std::ifstream stream(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), {}};
@@ -52,7 +52,7 @@ inline std::wstring ProgramPath(const std::wstring& name) {
 }
 
 // Compares `seen` byte by byte with one of kelvo_add_test's EXPECTED files. When they differ, shows
-// the first difference and writes `seen` to FILE.seen in the build's folder "expected".
+// the first difference and writes `seen` to the expected file's path plus ".seen".
 inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);
   const std::string expected = ReadBytes(path);
