@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// Prepares the machine for the hands-free service: trusts the publisher's and the intermediate
+// Prepares the machine for the hands-free service: imports the publisher's and the intermediate
 // certificate, installs the driver package, adds the application to the list of dependent
 // applications and registers the service. If a step fails, the next steps still run. Each step
 // except adding the application writes report lines. Always returns 0. Does not catch the

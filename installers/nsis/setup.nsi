@@ -104,8 +104,8 @@ Function un.onInit
   !insertmacro Begin
 FunctionEnd
 
-; Runs run_sorrel.cmd and puts its exit code into $0. The setup does not read the tool's output itself, because
-; nsExec::ExecToStack keeps only 1,023 characters of it.
+; Runs run_sorrel.cmd and puts its exit code into $0. The setup does not read sorrel.exe's output itself,
+; because nsExec::ExecToStack keeps only 1,023 characters of the output.
 !macro RunSorrel WORDS
   nsExec::Exec '"${SYSTEM}\cmd.exe" /d /s /c ""$INSTDIR\run_sorrel.cmd" ${WORDS}"'
   Pop $0
@@ -127,8 +127,8 @@ FunctionEnd
 
 Section
   ; $9 is the file name of the installed uninstaller (empty in a first installation), $8 that of the new uninstaller.
-  ; A first installation uses a name that no file has: a removal may have left a file, which Windows deletes at
-  ; its next start.
+  ; A first installation uses a name that no file has: an earlier removal may have left its uninstaller, which
+  ; Windows deletes at its next start.
   ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
   StrCpy $8 "$9"
   ${If} $9 == ""
@@ -177,7 +177,7 @@ Section
   ${EndIf}
 SectionEnd
 
-; Removal continues even if the tool fails: a missing radio must not keep the product on the computer.
+; Removal continues even if sorrel.exe fails: a missing radio must not keep the product on the computer.
 Section Uninstall
   !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
   ReadRegStr $8 HKLM "${UNINSTALL_KEY}" Uninstaller

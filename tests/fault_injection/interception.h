@@ -26,8 +26,8 @@ struct Watched {
   bool closes;
 };
 
-// Intercepts a module's calls of the functions in watched.def: counts the calls of each function,
-// makes one call fail, and records open handles and memory.
+// The data of Intercept, which counts a module's calls of each function in watched.def, makes one
+// call fail, and records open handles and memory.
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;

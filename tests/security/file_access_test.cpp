@@ -36,7 +36,7 @@ static std::string Printed() {
   return text;
 }
 
-TEST_CASE("AddFileAccessRights: replaces the account's explicit ACEs; repeating changes nothing") {
+TEST_CASE("AddFileAccessRights: replaces the account's ACEs up to an inherited one; idempotent") {
   for (auto [list, result] :
        {std::pair<std::wstring, std::wstring>{L"none", L"D:(A;;FA;;;BA)"},
         {L"D:(A;;FR;;;BA)(D;;FW;;;BG)(A;ID;FR;;;BA)", L"D:(D;;FW;;;BG)(A;;FA;;;BA)(A;ID;FR;;;BA)"},
@@ -50,7 +50,7 @@ TEST_CASE("AddFileAccessRights: replaces the account's explicit ACEs; repeating 
   }
 }
 
-TEST_CASE("AddFileAccessRights: prints the name of a failing call, leaves the file unchanged") {
+TEST_CASE("AddFileAccessRights: prints a failing function's name, leaves the file unchanged") {
   constexpr FailingCall kFailing[] = {
       SETS_LAST_ERROR(GetFileSecurityW), SETS_LAST_ERROR(HeapAlloc),
       SETS_LAST_ERROR(GetSecurityDescriptorDacl), SETS_LAST_ERROR(GetAclInformation),

@@ -47,8 +47,7 @@ TEST_CASE("GetSystemDirectoryPath, GetSystemWow64DirectoryPath: end in a separat
   CHECK(GetSystemWow64DirectoryPath().empty());
 }
 
-TEST_CASE(
-    "GetUserNameInFormat, GetUserNameFQ, GetComputerNameFQ: use the format, else the plain name") {
+TEST_CASE("GetUserNameFQ, GetComputerNameFQ: return the full name, else the plain name") {
   // Keeps secur32.dll loaded, because Wine takes a long time to load it again for each call.
   const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
   const auto give = [](auto, wchar_t* name, DWORD* size) {
