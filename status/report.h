@@ -18,7 +18,7 @@ std::string TextReport(const std::vector<Item>& items);
 //     later version of the program adds a key
 //   - "version", the version of the program
 //   - "state", the state of the worst item
-//   - "items", an array of objects with "item" (the kind), "state", "name" (null if there is none)
+//   - "items", an array of objects with "item" (the kind), "state", "name" (null when it is empty)
 //     and the details under their keys
 // An unpaired surrogate becomes U+FFFD.
 std::string JsonReport(const std::vector<Item>& items);
