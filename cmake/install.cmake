@@ -1,7 +1,8 @@
 # Defines the components that `cmake --install` installs and `cpack` packs:
 #   tool           the programs that a setup ships
 #   documentation  the pages and sample setups; in the same archive as tool
-#   simulator      the simulated libraries; in a separate archive: even a signed program loads them from its folder
+#   simulator      the simulated libraries. They are in a separate archive, because even a signed program would load
+#                  them from its own folder
 #   sdk            the library, as the CMake package kelvo
 #   symbols        the .pdb files
 

@@ -18,8 +18,8 @@ enum class DeviceSearch { kNone, kBluetoothBus };
 //     id contains no address, no hardware id may continue after "BTHENUM\{CLASS}" with "_VID", or
 //     with "_LOCALMFG&" and a number other than 0000.
 //   - It is certain that the bus also has devices for services of paired remote devices, and that
-//     each of these bus devices has the remote device's address in its instance id. The ids of the
-//     device for the service itself have never been seen with a real radio. The devices of other
+//     each of these bus devices has the remote device's address in its instance id. Which id
+//     the device for the service itself has with a real radio is not known. The devices of other
 //     local services (incoming serial ports) have "_LOCALMFG&0000" and an address of zero in their
 //     ids.
 //   - The bus has no device for the service while the radio is off or unplugged, and perhaps for a

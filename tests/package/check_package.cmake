@@ -43,7 +43,7 @@ foreach(kind signed unsigned)
   list(SORT summed)
   foreach(files made summed)
     if(NOT ${files} STREQUAL "kelvo-${version}-win64-mingw-sdk.zip;${base}-simulator.zip;${base}-symbols.zip;${base}.spdx.json;${base}.zip")
-      message(SEND_ERROR "Wrong files in ${folder}/${kind} (made) or in SHA256SUMS (summed). ${files}: ${${files}}")
+      message(SEND_ERROR "Wrong files ${files} (made: those in ${folder}/${kind}; summed: in its SHA256SUMS): ${${files}}")
     endif()
   endforeach()
   execute_process(COMMAND sha256sum -c SHA256SUMS WORKING_DIRECTORY ${folder}/${kind}

@@ -11,7 +11,7 @@
 #include "tests/security/test_acl.h"
 #include "tests/support/testing.h"
 
-// Deletes the deny ACEs of `sid` from `list`: the simulated GetSecurityInfo returns `list` itself.
+// Deletes deny ACEs of `sid` from `list`: the simulated GetSecurityInfo returns `list` itself.
 static void DeleteDenyAces(const TestAcl& list, PSID sid) {
   REPLACE(GetSecurityInfo, [&](auto, auto, auto, auto, auto, auto, ACL** dacl, auto...) {
     *dacl = list.acl;
@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: returns the index of the first ACE of the same 
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // After a read past the end, the functions would catch a fault and trace other messages.
+  // A read past the end would fault: the messages with "Failed" would then be missing.
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

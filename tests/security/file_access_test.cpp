@@ -36,7 +36,7 @@ static std::string Printed() {
   return text;
 }
 
-TEST_CASE("AddFileAccessRights: replaces the account's ACEs up to an inherited one; idempotent") {
+TEST_CASE("AddFileAccessRights: replaces the account's ACEs before the first inherited one") {
   for (auto [list, result] :
        {std::pair<std::wstring, std::wstring>{L"none", L"D:(A;;FA;;;BA)"},
         {L"D:(A;;FR;;;BA)(D;;FW;;;BG)(A;ID;FR;;;BA)", L"D:(D;;FW;;;BG)(A;;FA;;;BA)(A;ID;FR;;;BA)"},

@@ -19,7 +19,7 @@ static std::wstring FromUtf8(const std::string& text) {
 
 // Cleans the machine, and creates and enters a folder. This folder has certificates, INF files,
 // both programs and the simulator's libraries. Its subfolder "versioned" has a second
-// sorrel_status.exe and, as a file with a version resource, a sorrel.exe named difxapi.dll.
+// sorrel_status.exe and a copy of sorrel.exe named difxapi.dll: it has a version resource.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -68,8 +68,9 @@ static const std::map<std::string, std::function<void()>> kChanges = {
        std::filesystem::copy_file("incomplete.inf", kInfFolder + L"oem9.inf");
        std::filesystem::create_directory(kInfFolder + L"oem7.inf");
      }},
-    {"* oem6.inf, of another size, cannot be read", [] { Machine::PublishLocked(L"binary.cer"); }},
-    {"* oem6.inf, of the same size, cannot be read",
+    {"* oem6.inf, whose size is not unpublished.inf's, cannot be read",
+     [] { Machine::PublishLocked(L"binary.cer"); }},
+    {"* oem6.inf, whose size is unpublished.inf's, cannot be read",
      [] { Machine::PublishLocked(L"unpublished.inf"); }},
     {"* the store CA is deleted",
      [] { RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\SystemCertificates\\CA"); }},
@@ -83,7 +84,7 @@ static std::string ShownOnPage(const std::string& kind) {
   return Replaced(page.substr(from, page.find("```", from) - from), "\n", "\r\n");
 }
 
-// Checks that the JSON form is ASCII, that the text form has its values, and that the
+// Checks that the JSON form is ASCII, that its values are in the text form, and that the
 // administrators' page lists every JSON key of an item.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;

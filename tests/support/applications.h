@@ -29,7 +29,7 @@ inline std::string Replaced(const std::string& text, const std::string& pattern,
   return std::regex_replace(text, std::regex(pattern), by);
 }
 
-// Replaces the parts of a sorrel_status.exe report that vary by run with words such as TIME.
+// Puts words such as TIME in place of the parts of a sorrel_status.exe report that vary by run.
 inline std::string Named(std::string report) {
   report = Replaced(report, "[0-9A-F]{40}", "THUMBPRINT");
   report = Replaced(report, "\\d{4}-[-0-9T:]{14}Z", "TIME");

@@ -11,8 +11,8 @@ static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(simulatedText.length()) + (simulatedText.length() < size ? 0 : 1);
 }
 
-// Stores a name that begins with the format's number. For the DNS host name, stores the size of a
-// one-character name, so that the tests fail if the code uses this size for another name.
+// Stores a name that begins with the format's number. For the DNS host name, sets `size` as for a
+// one-character name, so that the tests fail if the code uses this size for another format.
 static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
   const std::size_t length = format == ComputerNameDnsHostname ? 1 : simulatedText.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));
