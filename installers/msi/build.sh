@@ -40,8 +40,10 @@ for name in "${!setting[@]}"; do
   value=${setting[$name]}
   [[ $value != *[\"\'\$%\;\&\<\>\|^\!/\\[{}]* && $value != *]* ]] || refuse "$name=$value: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\ [ ] { }"
   iconv -f UTF-8 -t CP1252 <<<"$value" >/dev/null 2>&1 || refuse "$name=$value: wixl writes no characters outside of code page 1252."
+  [[ $name != RADIO_OFF || $value =~ ^(fails|spared)$ ]] || refuse "$name=$value: RADIO_OFF must be fails or spared."
+  [[ $name != VERSION || $value =~ ^[0-9]+\.[0-9]+\.[0-9]+$ ]] || refuse "$name=$value: Windows Installer compares three numbers."
   [[ $name != APPLICATION || $value != *[^\ -~]* ]] || refuse "$name=$value: the name must be ASCII."
-  [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" $value "* ]] || refuse "$name is still the GUID of Brindle: make another with uuidgen."
+  [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" ${value,,} "* ]] || refuse "$name is still the GUID of Brindle: make another with uuidgen."
   settings+=(-D "$name=$value")
 done
 
@@ -58,6 +60,11 @@ package=$scratch/package.msi
 
 # wixl 0.101 schedules the removal of the old version before the transaction, so a failed upgrade would not restore it.
 msibuild "$package" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
+
+# Replaces another package of the same version, too (769: from this version to this version, both included). Otherwise both
+# would be installed, and the removal of one would take the application off the list.
+msibuild "$package" -q "INSERT INTO Upgrade (UpgradeCode, VersionMin, VersionMax, Attributes, ActionProperty) \
+  VALUES ('{${setting[UPGRADE_CODE]^^}}', '${setting[VERSION]}', '${setting[VERSION]}', 769, 'WIX_UPGRADE_DETECTED')"
 
 # Adds an action that wixl cannot write.
 add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE

@@ -102,6 +102,13 @@ FunctionEnd
 
 Function un.onInit
   !insertmacro Begin
+  ; _?= could name the folder of another product.
+  ReadRegStr $0 HKLM "${UNINSTALL_KEY}" InstallLocation
+  ${If} $0 != ""
+  ${AndIf} $0 != "$INSTDIR"
+    SetErrorLevel 1603
+    Quit
+  ${EndIf}
 FunctionEnd
 
 ; Runs run_sorrel.cmd and puts its exit code into $0. The setup does not read sorrel.exe's output itself,

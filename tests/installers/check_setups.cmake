@@ -32,6 +32,7 @@ endif()
 
 # Settings that a build.sh refuses, because it would make a wrong package from them.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
+expect(2 "three numbers" ${msi} VERSION=1.0.0.1)
 foreach(changed UPGRADE_CODE COMPONENT)
   expect(2 "with uuidgen" ${msi} PRODUCT=Kite ${changed}=0b9e8a52-5a35-4c5c-8e5f-8b8ad9b5b0a1)
 endforeach()
@@ -42,6 +43,7 @@ foreach(build nsis msi)
   expect(2 "these names: .*VERSION" ${${build}} PRODUKT=Kite)
   expect(2 "is not NAME=VALUE" ${${build}} MAKER=)
   expect(2 "must be ASCII" ${${build}} APPLICATION=kité)
+  expect(2 "fails or spared" ${${build}} RADIO_OFF=sparred)
 endforeach()
 foreach(character ' $ % & < > | ^ ! / "\\" "\"" "\;")
   foreach(build nsis msi)
@@ -64,10 +66,10 @@ expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi"
 # The package's actions that change the computer run as SYSTEM: their types include 2048. An upgrade removes the old
 # version within the transaction (sequence number 1501), so that a failed upgrade restores the old version.
 foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\tsorrel\tuninstall none \"brindle\"\t"
-    "PrepareService\tNOT REMOVE=\"ALL\"\t4003\n" "AskForRestart\tNOT REMOVE=\"ALL\"\t6601\n"
+    "{6E1C1DF6-6F3D-4F0E-9A5B-8B6D1F8A3C21}\t1.0.0\t1.0.0\t\t769\t\tWIX_UPGRADE_DETECTED\n" "PrepareService\tNOT REMOVE=\"ALL\"\t4003\n" "AskForRestart\tNOT REMOVE=\"ALL\"\t6601\n"
     "RemoveExistingProducts\t\t1501\n" "ReleaseService\tREMOVE=\"ALL\" AND NOT UPGRADINGPRODUCTCODE\t3400\n"
     "UndoPrepareService\tNOT Installed AND NOT WIX_UPGRADE_DETECTED\t4002\n")
-  expect(0 "\n${row}" sh -c "(msiinfo export $0 CustomAction && msiinfo export $0 InstallExecuteSequence) | tr -d '\\r'"
+  expect(0 "\n${row}" sh -c "(msiinfo export $0 CustomAction && msiinfo export $0 InstallExecuteSequence && msiinfo export $0 Upgrade) | tr -d '\\r'"
     good/setup.msi)
 endforeach()
 
