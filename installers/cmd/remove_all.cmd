@@ -1,14 +1,15 @@
 @echo off
-rem remove_all.cmd   removes the application from sorrel.exe's list. If no application is left there, Windows' certutil
-rem                  and pnputil then remove the two certificates and the driver package. Returns 1603 if something
-rem                  that had to be removed is still there or could not be checked, otherwise 3010 if a restart is
-rem                  needed, otherwise 0.
+rem remove_all.cmd   removes the product's name from the list of applications ("sorrel.exe uninstall"). If no name is
+rem                  left on the list, removes the two certificates with certutil.exe, and the driver package with
+rem                  pnputil.exe. Returns 1603 if "sorrel.exe uninstall" failed, if something that had to be removed is
+rem                  still present, or if this could not be checked. Otherwise returns 3010 if a restart is needed, or
+rem                  0 if no restart is needed.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
 set "product="
 call "%here%product.cmd"
-rem If this folder's name has a percent sign or a caret, the command "call" changes the name and finds no product.cmd.
+rem If this folder's name has a percent sign or a caret, "call" changes the path and does not find product.cmd.
 if not defined product exit /b 1603
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "answer=%log%.answer"
@@ -20,9 +21,10 @@ set "code=1603"
 set "restart="
 
 "%system%\cmd.exe" /d /s /c ^""%here%run_sorrel.cmd" uninstall none "%application%"^"
+set "uninstalled=%errorlevel%"
 call :ask application "%application%" list
 if not "%state%"=="absent" goto end
-rem "text" means that other applications are on the list: they need the certificates and the driver package.
+rem The value "text" means that other applications are on the list. They need the certificates and the driver package.
 if "%value%"=="text" set "code=0"
 if not "%value%"=="none" if not "%value%"=="empty" goto end
 
@@ -32,7 +34,8 @@ call :ask intermediate "%here%%intermediate%" thumbprint
 if "%state%"=="present" call :windows certutil.exe "-delstore CA %value%"
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "/delete-driver %value% /uninstall"
-rem Before Windows 10 1607, pnputil has other options. If the driver package is still there, tries the old option -d.
+rem Before Windows 10 version 1607, pnputil has no option /delete-driver. If the driver package is still present, tries
+rem the older option -d.
 call :ask inf "%here%%inf%" published_name
 if "%state%"=="present" call :windows pnputil.exe "-d %value%"
 
@@ -46,13 +49,14 @@ call :ask inf "%here%%inf%"
 if not "%state%"=="absent" set "code=1603"
 
 :end
+if "%uninstalled%"=="1603" set "code=1603"
 if exist "%answer%" del /f /q "%answer%"
 >>"%log%" echo === remove_all.cmd ends with %code%
 exit /b %code%
 
-rem :ask OPTION ARGUMENT [KEY]   runs sorrel_status.exe --OPTION ARGUMENT, and sets two variables from the report:
-rem "state" to the item's state, and "value" to the value of KEY. Both variables are empty if there is no report.
-rem Ignores the exit code: 1 means absent, but Windows also returns 1 if the program is not allowed to run.
+rem :ask OPTION ARGUMENT [KEY]   runs sorrel_status.exe --OPTION ARGUMENT, and sets two variables from its report. The
+rem variable "state" gets the item's state, and "value" gets the value of KEY. Without a report, both are empty.
+rem Ignores the exit code: it is 1 if the item is absent, but also if Windows does not allow the program to run.
 :ask
 set "state="
 set "value="
@@ -64,7 +68,8 @@ for /f "usebackq tokens=1,2 delims=:, " %%A in ("%answer%") do if "%%~A"=="state
 for /f "usebackq tokens=1,2 delims=:, " %%A in ("%answer%") do if "%%~A"=="%3" set "value=%%~B"
 exit /b
 
-rem Runs a program of Windows, shows its output and appends the output to the log.
+rem :windows PROGRAM ARGUMENTS   runs a program in the folder System32, shows its output and appends the output to the
+rem log. Sets "restart" if the program returns 3010.
 :windows
 >"%answer%" "%system%\%1" %~2
 if "%errorlevel%"=="3010" set "restart=1"
