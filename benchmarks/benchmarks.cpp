@@ -1,8 +1,11 @@
-// Compares the library's string functions with alternatives, and measures the size of sorrel.exe
-// and the time to start and end it. The output is in groups. Each line of a group has the median of
-// interleaved runs, in milliseconds and as a ratio to the first line of the group. In a group that
-// compares functions, the first line is the library's function. A goal in a group's title is the
-// range wanted for the ratio of a line.
+// Compares the library's string functions with alternatives. Also measures the size of sorrel.exe
+// and the time from its start to its end.
+//
+// The output consists of groups of lines. Each line has the median time of its runs in
+// milliseconds, and the ratio of this time to the time in the first line of the group. The runs of
+// a group's lines are interleaved. In a group that compares functions, the first line is the
+// library's function. A goal in a group's title is the wanted range of this ratio, for the lines
+// that the goal names. If the goal names no line, the range is for the second line.
 
 #include <windows.h>
 
@@ -105,9 +108,10 @@ std::size_t BoostSplit(const std::wstring& list, boost::algorithm::token_compres
   return items.size();
 }
 
-// Gives each run its own copy of the input, for work that changes its input. Makes all copies in
-// advance, and itself frees none until the end: allocating or freeing a copy while the clock runs
-// would distort the times.
+// Returns a function that passes a new copy of `input` to `work` in each run. This is for a `work`
+// that changes its argument. The returned function itself makes no copy and frees none: all copies
+// are made in advance and kept until the last run has ended. To allocate or free a copy while the
+// clock runs would distort the times.
 template <typename Input, typename Work>
 std::function<std::size_t()> WithOwnInput(const Input& input, Work work) {
   return [work, inputs = std::make_shared<std::vector<Input>>(kRuns, input), run = 0U]() mutable {

@@ -1,2 +1,2 @@
-// Does nothing: its run time is the time that every process takes to start and end.
+// Does nothing, so that its run time is only the time that a process takes to start and end.
 extern "C" int wmain() { return 0; }

@@ -15,8 +15,8 @@ macro(append array kind)
   list(APPEND ${array} "${object}")
 endmacro()
 
-# A packed file must contain neither a private key nor the path of the source folder, which can come from debug
-# information. Key files and files of the tests, recognized by their paths, must not be packed.
+# A packed file must contain neither a private key nor the path of the source folder. (Debug information can contain
+# this path.) Key files and files of the tests, recognized by their paths, must not be packed.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")
@@ -68,9 +68,9 @@ function(describe package)
   set(purl ${purl} PARENT_SCOPE)
 endfunction()
 
-# Adds the third-party code in our programs and simulated libraries. Each entry has a file of
-# that code (a header or a static library), the code's name in the bill of materials, the code's licence, and the
-# programs and simulated libraries that contain the code.
+# Adds the third-party code in our programs and simulated libraries. Each entry lists a file of the third-party code (a
+# header or a static library), the code's name in the bill of materials, the code's licence, and the programs and
+# simulated libraries that contain the code.
 set(all "sorrel;sorrel_status;bthprops;difxapi")
 foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${all}"
     "libmingwex.a;mingw-w64-runtime;ZPL-2.1;${all}" "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT;sorrel_status"

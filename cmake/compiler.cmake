@@ -8,7 +8,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_C_STANDARD 11)
 
 if(NOT MSVC)
-  # Enables __try and __except, which only a C file of lib/platform uses.
+  # Enables __try and __except, which only lib/platform/internal/structured_guard.c uses.
   set(KELVO_STRUCTURED_EXCEPTIONS_FLAGS -fms-extensions -Wno-language-extension-token)
 endif()
 
@@ -31,7 +31,8 @@ endif()
 add_library(kelvo_build_options INTERFACE)
 target_compile_definitions(kelvo_build_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
 if(MSVC)
-  # Disables C4996 (call of a deprecated function): the library calls GetVersionEx and related functions on purpose.
+  # Disables warning C4996 (call of a deprecated function): the library calls GetVersionEx and related functions on
+  # purpose.
   target_compile_options(kelvo_build_options INTERFACE /W4 /wd4996 /utf-8 /permissive- $<$<COMPILE_LANGUAGE:CXX>:/EHsc>
     $<$<CONFIG:MinSizeRel>:/Gy> /Z7)
 else()
@@ -41,8 +42,8 @@ else()
     "$<$<COMPILE_LANGUAGE:C,CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-ffunction-sections;-fdata-sections>")
 endif()
 # Makes Windows' headers declare the functions of Windows 10, even if a consumer's project targets an older Windows.
-# This is safe, since functions that an older Windows lacks are bound at run time. Compiler options set the two macros,
-# because compile definitions could not first undefine the values of the consumer's project.
+# This is safe, since functions that an older Windows lacks are looked up at run time. WINVER and _WIN32_WINNT are set
+# with compiler options, because target_compile_definitions cannot first undefine the values of the consumer's project.
 target_compile_options(kelvo_build_options INTERFACE
   "$<$<COMPILE_LANGUAGE:C,CXX>:-UWINVER;-DWINVER=0x0A00;-U_WIN32_WINNT;-D_WIN32_WINNT=0x0A00>")
 
@@ -54,8 +55,9 @@ if(NOT MSVC)
 endif()
 
 # The linker options of our programs:
-#   kelvo_program          hardening, a checksum in the header (-release), and the same bytes in every build folder.
-#                          Control Flow Guard is off: Debian 12's mingw runtime lacks the guard's dispatch function
+#   kelvo_program          hardening, a checksum in the header (-release), and reproducible output: the same bytes in
+#                          every build folder. Control Flow Guard is off: Debian 12's mingw runtime lacks the guard's
+#                          dispatch function
 #   kelvo_wide_program     as kelvo_program, with wmain as the entry point
 #   kelvo_shipped_program  as kelvo_wide_program, with a .pdb file for debuggers
 add_library(kelvo_program INTERFACE)
@@ -64,8 +66,8 @@ add_library(kelvo_wide_program INTERFACE)
 target_link_libraries(kelvo_wide_program INTERFACE kelvo_program)
 add_library(kelvo_shipped_program INTERFACE)
 target_link_libraries(kelvo_shipped_program INTERFACE kelvo_wide_program kelvo_debug_information)
-# Makes Windows 10 1607 and later load the imports of a shipped program only from the system directory (0x800 is
-# LOAD_LIBRARY_SEARCH_SYSTEM32).
+# Windows 10 1607 and later load the imports of a shipped program only from the system directory. In a build with MSVC,
+# /DEPENDENTLOADFLAG has this effect (0x800 is LOAD_LIBRARY_SEARCH_SYSTEM32); otherwise, load_configuration.c does.
 if(MSVC)
   target_link_options(kelvo_shipped_program INTERFACE /DEPENDENTLOADFLAG:0x800)
   target_link_options(kelvo_program INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG /CETCOMPAT /RELEASE /Brepro /PDBALTPATH:%_PDB%)

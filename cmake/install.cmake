@@ -1,8 +1,8 @@
 # Defines the components that `cmake --install` installs and `cpack` packs:
 #   tool           the programs that a setup ships
 #   documentation  the pages and sample setups; in the same archive as tool
-#   simulator      the simulated libraries. They are in a separate archive, because even a signed program would load
-#                  them from its own folder
+#   simulator      the simulated libraries. They are in a separate archive, because even a signed sorrel.exe would load
+#                  them if they were in its folder
 #   sdk            the library, as the CMake package kelvo
 #   symbols        the .pdb files
 
@@ -35,14 +35,14 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/kelvo-config.cmake.in ${PROJECT_BINARY_
 install(FILES ${PROJECT_BINARY_DIR}/kelvo-config.cmake ${PROJECT_BINARY_DIR}/kelvo-config-version.cmake
   DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(FILES docs/library.md CHANGELOG.md DESTINATION share/doc/kelvo COMPONENT sdk OPTIONAL)
-# Installs the library's reference if scripts/docs has made it.
+# Installs the library's reference documentation if scripts/docs has generated it.
 install(DIRECTORY build/docs/html/ DESTINATION share/doc/kelvo/reference COMPONENT sdk OPTIONAL)
 install(DIRECTORY examples/consumer DESTINATION share/doc/kelvo/examples COMPONENT sdk)
 install(FILES cmake/toolchain_mingw.cmake DESTINATION lib/cmake/kelvo COMPONENT sdk)
 install(SCRIPT cmake/link_pages.cmake COMPONENT sdk)
 
-# Makes four archives, which all unpack into the same top folder. In a cross build, sign_programs.cmake runs before
-# packing, and account_for_packages.cmake runs afterwards.
+# Makes four archives, which all unpack into the same top-level folder. In a cross build, sign_programs.cmake runs
+# before packing, and account_for_packages.cmake runs afterwards.
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)

@@ -1,7 +1,8 @@
-# Adapts the links of the installed pages: a link to a file that is not installed becomes plain text, and a link to a
-# header leads to the installed header.
+# Adapts the links in the installed Markdown pages. A link to a file that is not installed becomes plain text. If the
+# headers are installed, a link to a header is changed to point to the installed header.
 
-# Two control characters temporarily replace "[" and "]", because CMake does not split a list at a ";" between brackets.
+# Two control characters temporarily replace "[" and "]". Otherwise, each element of the list `targets` would begin with
+# "]", and foreach could not separate the elements: CMake does not split a list at a ";" after an unbalanced bracket.
 string(ASCII 1 open)
 string(ASCII 2 close)
 set(prefix $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX})

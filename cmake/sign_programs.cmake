@@ -1,4 +1,5 @@
-# Signs the programs if scripts/package has set SORREL_SIGN_CERTIFICATE. CPack runs this script before it packs.
+# Signs the programs if the environment variable SORREL_SIGN_CERTIFICATE is set (by scripts/package --sign). CPack runs
+# this script before it makes the archives.
 
 if(NOT DEFINED ENV{SORREL_SIGN_CERTIFICATE})
   return()

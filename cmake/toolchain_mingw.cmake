@@ -1,4 +1,4 @@
-# Builds for Windows with clang and mingw-w64. The programs run on Wine.
+# Builds for Windows with clang and mingw-w64. In this repository, CMake runs the built programs on Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -10,9 +10,9 @@ set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_AR llvm-ar-19)
 set(CMAKE_RANLIB llvm-ranlib-19)
 
-# Pretends that x86intrin.h is included already. Its intrinsics (SSE, AVX) are half of the code that mingw's
-# windows.h includes: with them, compiling and clang-tidy take twice as long. A project that uses these intrinsics must
-# remove the definitions below.
+# Defines the include guard of x86intrin.h, so that the compiler skips this header. Its intrinsics (SSE, AVX) are half
+# of the code that mingw's windows.h includes: with them, compiling and clang-tidy take twice as long. A project that
+# uses these intrinsics must remove the definitions below.
 set(CMAKE_C_FLAGS_INIT -D__X86INTRIN_H)
 set(CMAKE_CXX_FLAGS_INIT -D__X86INTRIN_H)
 

@@ -32,8 +32,8 @@ BOOL RunAsUserExample() {
 BOOL LaunchInUserSessionExample(DWORD& exitCode) {
   OwnedKernelObject process;
   LaunchInUserSession(L"C:\\App\\app.exe", L"/start", true, process.Receive());
-  const BOOL hasEnded = GetExitCodeProcess(process.get(), &exitCode);
-  return hasEnded;
+  const BOOL hasExitCode = GetExitCodeProcess(process.get(), &exitCode);
+  return hasExitCode;
 }
 
 StartResult StartAndWaitExample() {

@@ -2,7 +2,7 @@
 //   setup_helper read HKEY_CURRENT_USER\Software\App\Setting
 //     prints the string in a registry value
 //   setup_helper grant FILE SID
-//     grants an account read and write access to a file
+//     lets the account with this SID read and write a file
 //   setup_helper start PROGRAM [ARGUMENTS]
 //     starts a program as the user of the console session (as the caller if that user's token
 //     is unavailable), waits until the program ends and returns the program's exit code

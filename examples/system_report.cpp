@@ -1,4 +1,4 @@
-// Prints the library's report about this system in UTF-8, one line for each entry.
+// Prints the library's system report, with one line for each entry. The output is in UTF-8.
 
 #include "lib/sysinfo/system_report.h"
 
@@ -16,8 +16,8 @@ namespace kelvo {
 
 namespace {
 
-// Limits the width of the name column. A name that is wider than the column shifts the value on its
-// own line, but no other value.
+// The maximum width of the name column. When a name is wider, only the value on the same line moves
+// to the right.
 constexpr std::size_t kWidestColumn = 40;
 
 using Line = std::pair<std::string, std::string>;

@@ -1,5 +1,5 @@
-// Shows some of the library's functions for strings, long paths and locales. Prints each result as
-// a line of UTF-8.
+// Demonstrates some of the library's functions for strings, long paths and locales. Prints each
+// result on its own line, in UTF-8.
 
 #include <windows.h>
 

@@ -17,9 +17,10 @@ WString TextFromEnvironment(const wchar_t* name);
 // Does nothing when the variable is not set.
 void WriteToJournal(const WString& line);
 
-// The DllMain of each simulated library calls this function. When the library is loaded or freed,
-// writes "NAME loaded" or "NAME freed" to the journal. Writes nothing when the process ends with
-// the library still loaded: `processEnds`, DllMain's last parameter, is then not null.
+// The DllMain of each simulated library calls this function with the last two parameters of
+// DllMain: the reason and a pointer. Writes "NAME loaded" to the journal when the library is
+// loaded, and "NAME freed" when the library is freed. Writes nothing when the process ends while
+// the library is loaded: `processEnds` is then not null.
 void JournalLibrary(const wchar_t* name, DWORD reason, const void* processEnds);
 
 }  // namespace kelvo::simulator

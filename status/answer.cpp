@@ -59,9 +59,10 @@ Item QueryInterface() {
   return {kKind, State::kPresent, path, {TextDetail("version", L"version", version.data())}};
 }
 
-// Stores whether the process's token contains the Administrators group. Like IsAdmin, ignores the
-// group's attributes: a deny-only group also counts. Unlike IsAdmin, does not fail when the token's
-// groups take more than 1,024 bytes.
+// Stores whether the process's token contains the Administrators group. Returns ERROR_SUCCESS, or
+// the last error when the token cannot be read. Like IsAdmin, ignores the group's attributes: a
+// deny-only group also counts. Unlike IsAdmin, does not fail when the token's groups take more than
+// 1,024 bytes.
 DWORD QueryAdministrator(bool& isAdministrator) {
   OwnedKernelObject token;
   DWORD size = 0;
@@ -84,7 +85,7 @@ DWORD QueryAdministrator(bool& isAdministrator) {
 Item QuerySystem() {
   WString name = GetSystemVersionString();
   if (name.find(L"(") == 0) {
-    // On Windows 10 and later, the string has only the numbers, without a name.
+    // On Windows 10 and later, GetSystemVersionString returns only version numbers in parentheses.
     name = L"Windows " + name;
   }
   const WString numbers = GetSystemVersionNumbers();
@@ -117,7 +118,7 @@ std::vector<Item> AnswerInGeneral() {
   std::vector<Item> items = QueryApplications({});
   items.push_back(QueryStore(kPublisher.kind, kPublisher.storeName));
   items.push_back(QueryStore(kIntermediate.kind, kIntermediate.storeName));
-  // Does not search for the service's device, because loading setupapi.dll for that is slow.
+  // Does not search for the service's device: the search is slow because it loads setupapi.dll.
   items.push_back(QueryService(DeviceSearch::kNone));
   items.push_back(QueryInterface());
   items.push_back(QuerySystem());

@@ -2,12 +2,16 @@
 
 namespace kelvo {
 
-// Runs a command line of sorrel_status.exe. Checks the items that the command line names. If it
-// names no item, checks the list of applications, both certificate stores, bthprops.cpl,
-// difxapi.dll and Windows itself. Writes the report to standard output. Changes nothing on the
-// computer. The first of the `count` arguments is the program's own path.
+// Runs a command line of sorrel_status.exe. Checks the items that the command line names, and
+// writes the report to standard output. Changes nothing on the computer. The first of the `count`
+// arguments is the program's own path.
 //
-// The report has the items in this order: application, publisher, intermediate, driver package,
+// A command line that names no item asks for a general report. This report is about the list of
+// applications, the certificate stores "TrustedPublisher" (item "publisher") and "CA" (item
+// "intermediate"), bthprops.cpl (item "service"), difxapi.dll (item "interface") and Windows itself
+// (item "system").
+//
+// Each report has the items in this order: application, publisher, intermediate, driver package,
 // service, interface, system. Items of the same kind are in the order of the command line.
 //
 // Returns the exit code:

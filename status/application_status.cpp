@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kApplication = "application";
 
-// The registry value for the list of applications. The value may have any type and size.
+// The registry value that holds the list of applications. The value may have any type and size.
 struct StoredList {
   LSTATUS error = ERROR_SUCCESS;  // from opening the key or querying the value
   DWORD type = REG_NONE;

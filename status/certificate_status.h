@@ -7,16 +7,20 @@
 
 namespace kelvo {
 
-// Both functions open a system store of the local machine read-only (CertOpenStore).
+// Both functions open the local machine's system store `storeName` read-only (CertOpenStore).
 
-// Reads the certificate in `file` (CryptQueryObject) and returns an item of `kind`: present when
-// the store contains that certificate (CertFindCertificateInStore with CERT_FIND_EXISTING). The
-// details are the certificate's subject, issuer, thumbprint (SHA-1 hash) and end of validity,
-// whether it has expired, and whether the store exists.
+// Reads the certificate in `file` (CryptQueryObject) and returns an item of `kind`. The item's
+// state is kPresent when the store contains this certificate (CertFindCertificateInStore with
+// CERT_FIND_EXISTING). The state is kAbsent when the store does not contain the certificate or does
+// not exist. The details are the certificate's subject, issuer, thumbprint (SHA-1 hash) and
+// expiration time, whether the certificate has expired, and whether the store exists. When the
+// certificate or its thumbprint cannot be read, or when an existing store cannot be opened, the
+// state is kUnknown and the details are "error_code" and "error_text" (UnknownItem).
 //
 // The file may contain the certificate in binary, Base64 or hexadecimal form. If it contains
 // several certificates in Base64, as a PEM file with a chain does, only the first is read. If the
-// file is a PKCS #7 message or a serialized store, the item is unknown with CRYPT_E_NO_MATCH.
+// file is a PKCS #7 message or a serialized store, the state is kUnknown and the error code is
+// CRYPT_E_NO_MATCH.
 Item QueryCertificate(const char* kind, const WString& file, const wchar_t* storeName);
 
 // Returns an item with the number of certificates in the store.

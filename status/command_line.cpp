@@ -75,7 +75,7 @@ cxxopts::Options MakeParser() {
   return parser;
 }
 
-// Returns false for an option that takes no value but was given one other than "true".
+// Returns false when an option that takes no value was given a value other than "true".
 bool TakeOption(const std::string& option, const WString& value, Questions& questions) {
   if (option == "publisher") {
     questions.publishers.push_back(value);

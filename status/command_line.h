@@ -11,9 +11,9 @@ namespace kelvo {
 // arguments.
 struct Questions {
   std::vector<WString> applications;
-  std::vector<WString> publishers;      // certificate files
-  std::vector<WString> intermediates;   // certificate files
-  std::vector<WString> driverPackages;  // INF files
+  std::vector<WString> publishers;      // paths of certificate files
+  std::vector<WString> intermediates;   // paths of certificate files
+  std::vector<WString> driverPackages;  // paths of INF files
   bool service = false;
 
   // Returns whether the command line names no item and so asks for the general report.
@@ -29,10 +29,10 @@ struct CommandLine {
   Kind kind = Kind::kQuestions;
   Questions questions;
   bool asJson = false;
-  WString mistake;  // for kWrong
+  WString mistake;  // what is wrong with the command line; empty unless `kind` is kWrong
 };
 
-// Parses the `count` arguments of a command line; the first is the program's own path.
+// Parses the `count` arguments of a command line. The first argument is the program's own path.
 CommandLine ParseCommandLine(int count, const wchar_t* const* arguments);
 
 // Returns the usage text, in ASCII. The text also explains the exit codes.

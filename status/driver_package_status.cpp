@@ -20,8 +20,8 @@ namespace {
 // Far larger than any INF file.
 constexpr LONGLONG kMostBytes = LONGLONG{4} * 1024 * 1024;
 
-// Opens a file and gets its size. If the path names another process's pipe, SECURITY_ANONYMOUS
-// prevents that process from impersonating the caller.
+// Opens a file and gets its size. If `path` is the path of a named pipe, SECURITY_ANONYMOUS
+// prevents the process that created the pipe from impersonating the caller.
 DWORD OpenFile(const WString& path, DWORD access, OwnedFile& file, LARGE_INTEGER& size) {
   constexpr DWORD kShare = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   file.reset(CreateFileW(path.c_str(), access, kShare, nullptr, OPEN_EXISTING,
@@ -48,7 +48,8 @@ DWORD ReadBytes(const WString& path, std::string& bytes) {
 }
 
 bool HasVersionSection(std::string bytes) {
-  // INF files are ANSI or UTF-16. Without the NULs, either can be searched as ASCII.
+  // An INF file is ANSI or UTF-16. Once the NULs are removed, a search for ASCII text works in both
+  // encodings.
   std::erase(bytes, '\0');
   std::transform(bytes.begin(), bytes.end(), bytes.begin(), [](char byte) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(byte)));
@@ -56,8 +57,8 @@ bool HasVersionSection(std::string bytes) {
   return bytes.find("[version]") != std::string::npos;
 }
 
-// Compares the sizes first. A file of another size cannot match and is not read, so it causes no
-// error even if it cannot be read.
+// Compares the sizes first. A file of another size cannot match, so the function does not read that
+// file. Such a file causes no error even if it cannot be opened for reading.
 DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) {
   OwnedFile file;
   LARGE_INTEGER size{};
@@ -73,8 +74,8 @@ DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) 
   return error;
 }
 
-// Stores in `name` the name of a published INF file with the bytes `wanted`. Leaves `name` empty
-// when no published file has these bytes.
+// Stores in `name` the name of a published INF file whose content is `wanted`. Leaves `name` empty
+// when no published INF file has this content.
 DWORD FindPublishedCopy(const std::string& wanted, WString& name) {
   std::array<wchar_t, MAX_PATH> windows{};
   if (GetSystemWindowsDirectoryW(windows.data(), MAX_PATH) == 0) {
@@ -137,7 +138,7 @@ DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVers
   if (!functions) {
     return GetLastError();
   }
-  // For a bare file name, Windows would search its INF folder.
+  // Given a file name without a folder, SetupOpenInfFileW would search the INF folder of Windows.
   const WString path = FullPath(infPath);
   HINF const inf = functions.open(path.c_str(), nullptr, INF_STYLE_WIN4, nullptr);
   if (inf == INVALID_HANDLE_VALUE) {

@@ -18,12 +18,13 @@ enum class State {
   kUnknown,  // the thing could not be checked
 };
 
-// Returns the stable name of a state, which both the text report and the JSON report use.
+// Returns the name of a state. The name is stable, and is the same in the text report and in the
+// JSON report.
 const char* StateName(State state);
 
-// One fact about an item. The JSON report has `value` under the stable name `key`; the text report
-// has `phrase`. A detail without a key is not in the JSON report, and a detail without a phrase is
-// not in the text report.
+// One fact about an item. The JSON report shows `value` under the stable name `key`; the text
+// report shows `phrase`. A detail without a key is not in the JSON report, and a detail without a
+// phrase is not in the text report.
 struct Detail {
   std::string key;
   std::variant<bool, DWORD, WString> value;
@@ -31,8 +32,8 @@ struct Detail {
 };
 
 // One line of the text report, and one object in the array "items" of the JSON report. `kind` is a
-// stable name in lower case, with "_" for blanks. `name` is the name or path that was asked for or
-// found; it may be empty.
+// stable name in lower case that has "_" between its words; the text report shows a space for each
+// "_". `name` is the name or path that was asked for or found; it may be empty.
 struct Item {
   const char* kind;
   State state;
@@ -40,16 +41,17 @@ struct Item {
   std::vector<Detail> details;
 };
 
-// Returns the state of the worst item, or kInfo for no items.
+// Returns the worst state of the items, or kInfo when there are no items.
 State WorstState(const std::vector<Item>& items);
 
-// Returns a detail with the value `text`. Its phrase is `label`, a blank and `text`, or is empty
-// when `text` is empty.
+// Returns a detail with the value `text`. Its phrase is `label`, a space and `text`. When `text` is
+// empty, the phrase is empty.
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
-// Adds two details for a Windows error code. The detail `key` + "_code" has the code in eight
-// hexadecimal digits; its phrase is `label`, the code and the system's message. The detail `key` +
-// "_text" has this message and no phrase. The message's full stop and line break are removed.
+// Adds two details for a Windows error code. The value of the detail `key` + "_code" is the code in
+// eight hexadecimal digits; its phrase is `label`, immediately followed by the code, then a space
+// and the system's message. The value of the detail `key` + "_text" is this message; this detail
+// has no phrase. The full stop and the line break at the end of the message are removed.
 void AddError(Item& item, const std::string& key, const WString& label, DWORD error);
 
 // Returns an item for something that could not be checked, with the details "error_code" and

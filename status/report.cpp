@@ -15,7 +15,7 @@ using Json = nlohmann::ordered_json;
 constexpr int kSchema = 2;
 constexpr int kIndent = 2;
 
-// The lengths of the longest state and of the longest kind, each plus two spaces.
+// The widths of the columns: the longest state and the longest kind, each plus two spaces.
 constexpr std::size_t kStateWidth = 9;
 constexpr std::size_t kKindWidth = 16;
 

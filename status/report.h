@@ -7,20 +7,20 @@
 
 namespace kelvo {
 
-// Returns the items as text for a person, in UTF-8: one line for each item, with its state and kind
-// in columns, then its name and details. Characters that would control a terminal are made visible
-// (ToVisibleUtf8).
+// Returns a report for people, in UTF-8. It has one line for each item: the item's state and kind
+// in columns, then its name and details. Characters that would control a terminal are replaced with
+// visible codes (ToVisibleUtf8).
 std::string TextReport(const std::vector<Item>& items);
 
-// Returns the items for a script, as one JSON object. The text is ASCII, so that a shell can read
-// it in any code page. The object has:
+// Returns a report for scripts: one JSON object. The report is in ASCII, with \u escapes for all
+// other characters, so that a shell can read it in any code page. The object has:
 //   - "schema", a number that changes when a key is removed or changes its meaning, but not when a
 //     later version of the program adds a key
 //   - "version", the version of the program
 //   - "state", the state of the worst item
 //   - "items", an array of objects with "item" (the kind), "state", "name" (null when it is empty)
 //     and the details under their keys
-// An unpaired surrogate becomes U+FFFD.
+// An unpaired surrogate is replaced with U+FFFD, which is escaped as \ufffd.
 std::string JsonReport(const std::vector<Item>& items);
 
 }  // namespace kelvo

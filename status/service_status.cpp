@@ -49,8 +49,8 @@ WString ServiceHardwareId() {
                     id.Data4[4], id.Data4[5], id.Data4[6], id.Data4[7]);
 }
 
-// Returns the hardware ids of a device, each with its NUL, and one more NUL after the last. For a
-// device without hardware ids, returns only NULs.
+// Returns the hardware ids of a device as a list of NUL-terminated strings. An empty string ends
+// the list. If the device has no hardware ids, or if they cannot be read, the list is empty.
 std::vector<wchar_t> ReadHardwareIds(const DeviceFunctions& functions, HDEVINFO devices,
                                      SP_DEVINFO_DATA& device) {
   DWORD size = 0;
@@ -87,8 +87,8 @@ bool IsRemoteSuffix(const WString& suffix) {
           !StartsWith(suffix.c_str() + kMaker.length(), L"0000"));
 }
 
-// Returns the Bluetooth address in a device's instance id, such as the 12 digits in
-// "...&0&001122334455_C00000000", or nothing when the id has no address.
+// Returns the Bluetooth address in a device's instance id. In "...&0&001122334455_C00000000", the
+// address is the 12 digits before "_". Returns std::nullopt when the id has no address.
 std::optional<std::uint64_t> AddressOf(const DeviceFunctions& functions, HDEVINFO devices,
                                        SP_DEVINFO_DATA& device) {
   constexpr std::ptrdiff_t kDigits = 12;
@@ -147,8 +147,8 @@ DWORD QueryServiceDevice(bool& isThere) {
 
 void AddLibrary(Item& item) {
   constexpr const char* kKey = "bluetooth_library";
-  // Loads the library as data, so that none of its code runs. Uses the full path: when Wine
-  // searches for a library to load as data, it ignores SetDefaultDllDirectories.
+  // Loads the library as data, so that none of its code runs. Passes the full path, because
+  // Wine ignores SetDefaultDllDirectories when it searches for a library that is loaded as data.
   const WString path = LibraryPath(L"bthprops.cpl");
   const OwnedModule library(LoadLibraryExW(
       path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE));

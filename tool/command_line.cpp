@@ -28,8 +28,8 @@ DWORD RunInstall(Arguments arguments) {
   return Install(arguments[2], arguments[3], arguments[4], arguments[5]);
 }
 
-// Leaves the driver package installed, and so ignores its INF path, arguments[2]. The command takes
-// that argument only because install does.
+// Leaves the driver package installed, and therefore ignores arguments[2], the package's INF path.
+// The uninstall command has this argument only because the install command has it.
 DWORD RunUninstall(Arguments arguments) {
   EnableLoadDriverPrivilege();
   bool noneLeft = false;
@@ -67,8 +67,8 @@ constexpr std::array kCommandForms = {
     CommandForm{3, L"register", RunRegisterFor}, CommandForm{3, L"unregister", RunUnregisterFor},
 };
 
-// Never change these texts, because setup programs compare them. Do not even add the line breaks
-// that are missing after the examples.
+// Never change these texts, because setup programs compare the output with them. Do not even add
+// the line breaks that are missing after the examples.
 constexpr std::array kUsageTexts = {
     L"invalid arguments\n",
     L"install: Install Certificate, Driver and Register Service, remember dependant application\n",

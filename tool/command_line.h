@@ -2,8 +2,8 @@
 
 namespace kelvo {
 
-// Runs the command that the `count` arguments specify; the first is the program's own path. Returns
-// the process's exit code:
+// Runs the command that the `count` arguments specify. The first argument is the program's own
+// path. Returns the process's exit code:
 //   - install, uninstall: 0
 //   - register, unregister: the result of RegisterHandsfreeService, or 0 when unregister leaves
 //     other applications on the list (tool/dependent_applications.h)

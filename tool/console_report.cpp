@@ -16,7 +16,8 @@ std::string ToConsoleBytes(std::wstring_view text) {
   std::string bytes;
   bytes.reserve(text.length() + 1);
   for (const wchar_t unit : text) {
-    // Adds a CR even after a CR: a system message, which has CR LF at its end, gets CR CR LF.
+    // Adds a CR before each LF, even if the text already has a CR there. A system message ends in
+    // CR LF, so the output ends in CR CR LF.
     if (unit == L'\n') {
       bytes += '\r';
     }
@@ -52,8 +53,8 @@ void Report(const wchar_t* format, ...) {
 WString FormatSystemMessage(DWORD code) {
   constexpr DWORD kMessageLength = 2000;
   WString buffer(kMessageLength, L'\0');
-  // For a message with inserts ("%1"), the call fails, since it gets no arguments for them. It then
-  // returns 0, so that resize also drops any part of the message that was already written.
+  // FormatMessageW fails for a message with inserts ("%1"), because it gets no arguments for them.
+  // It then returns 0, and resize drops any part of the message that is already in the buffer.
   buffer.resize(FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, code,
                                MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), buffer.data(),
                                kMessageLength, nullptr));

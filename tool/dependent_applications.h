@@ -10,12 +10,13 @@ namespace kelvo {
 // The list of applications that use the hands-free service: names separated by ";" in the REG_SZ
 // value ApplicationsValueName of the key ServiceParametersKey, under HKEY_LOCAL_MACHINE. If the
 // value does not exist, the list is empty. Names are not checked: adding the name ";" to an empty
-// list stores an empty value.
+// list stores an empty string.
 //
-// A REG_EXPAND_SZ value is also read, and is expanded. An expansion of 260 characters or more is
-// truncated, and the next change stores the truncated list. If the value has any other type or more
-// than kMaxRegistryStringSize bytes, RegistryReadString (lib/registry/registry_string.h) cannot
-// read it, and the list counts as empty.
+// A value of the type REG_EXPAND_SZ is also accepted. Its environment variables are expanded. If
+// the expanded list has 260 characters or more, the list is truncated. The next function to write
+// the list stores it truncated. If the value has any other type or more than
+// kMaxRegistryStringSize bytes, RegistryReadString (lib/registry/registry_string.h) cannot read it,
+// and the list counts as empty.
 inline constexpr const wchar_t* ServiceParametersKey =
     L"SYSTEM\\CurrentControlSet\\Services\\Tessalin\\Parameters";
 inline constexpr const wchar_t* ApplicationsValueName = L"applications";
@@ -31,8 +32,8 @@ std::vector<WString> ApplicationsInList(const WString& list);
 bool IsSameApplication(const WString& item, const wchar_t* name);
 
 // Returns the list with `name` appended and without any ";" at either end. Returns nullopt when the
-// list already contains `name`: the search is case-sensitive, also finds `name` inside a longer
-// name, and always finds an empty name.
+// text of the list already contains `name`, even as part of a longer name. The search is
+// case-sensitive. An empty `name` is always found.
 std::optional<WString> ListWithApplication(const WString& list, const wchar_t* name);
 
 // Returns the list without the items that equal `name` regardless of letter case. The other items
@@ -43,9 +44,10 @@ WString ListWithoutApplication(const WString& list, const wchar_t* name);
 // ListWithApplication. Always returns true, even when the write fails.
 bool AddDependentApplication(const wchar_t* name);
 
-// Removes `name` from the list in the registry and reports the remaining names in one line. When no
-// name remains, deletes the value and sets `noneLeft` to true; otherwise, sets `noneLeft` to false.
-// Always returns true. A failed write or deletion changes neither `noneLeft` nor this result.
+// Removes `name` from the list in the registry. When no name remains, deletes the value and sets
+// `noneLeft` to true; otherwise, sets `noneLeft` to false. Prints one line that shows the remaining
+// names or says that there are none. Always returns true. A failure to write or delete the value is
+// ignored: the line and `noneLeft` are the same as on success.
 bool RemoveDependentApplication(const wchar_t* name, bool& noneLeft);
 
 }  // namespace kelvo

@@ -1,7 +1,7 @@
 #pragma once
 
-// Declares the part of the driver installation interface (difxapi.dll, from the driver kit) that
-// sorrel.exe uses. The Windows SDKs have no header for that interface.
+// Declares the functions and types of difxapi.dll that sorrel.exe uses. This driver installation
+// interface comes from the Windows Driver Kit; the Windows SDKs have no header for it.
 
 #include <windows.h>
 

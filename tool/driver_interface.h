@@ -8,8 +8,8 @@
 
 namespace kelvo {
 
-// The loaded driver installation interface. Destroying the object frees the library; do not call
-// the functions after that.
+// The loaded library "difxapi.dll" and two of its functions. Destroying the object frees the
+// library; do not call the functions after that.
 struct DriverInterface {
   OwnedModule library;
   decltype(&SetDifxLogCallbackW) setLogCallback = nullptr;
@@ -19,8 +19,8 @@ struct DriverInterface {
 // Loads "difxapi.dll" and finds both functions of DriverInterface. Returns 0, or an error code when
 // the library cannot be loaded or lacks a function. After an error, neither function may be called.
 // Uses the full path from LibraryPath (tool/library_search.h), so that a copy in the program's
-// folder is preferred. Given the bare name, Windows would always load the system's copy, because
-// the library is a KnownDLL.
+// folder is preferred. If LoadLibraryW got only the file name, it would always load the copy in the
+// system directory, because the library is a KnownDLL.
 DWORD BindDriverInterface(DriverInterface& driver);
 
 // The callback for SetDifxLogCallbackW: reports the event as one "INFO: " line. A null description

@@ -11,8 +11,8 @@ namespace kelvo {
 
 namespace {
 
-// Returns the path that a copy of the library in the program's folder would have, or an empty
-// string when the program's own path is unknown.
+// Returns the path of the file `name` in the program's folder, even if there is no such file.
+// Returns an empty string when the program's own path is unknown.
 WString OwnCopyPath(const wchar_t* name) {
   const WString program = ReadModulePath(nullptr);
   const std::size_t directoryLength = program.rfind(L"\\") + 1;

@@ -4,15 +4,15 @@
 
 namespace kelvo {
 
-// Narrows the process's search for libraries to the program's own folder and the system directory
-// (SetDefaultDllDirectories), so that no library planted in the current folder or on PATH runs with
-// administrative rights. When SetDefaultDllDirectories fails or is missing, as on Windows 7 without
-// update KB2533623, only removes the current folder from the search (SetDllDirectoryW).
+// Limits the process's DLL search path to the program's own folder and the system directory
+// (SetDefaultDllDirectories), so that no DLL planted in the current folder or on PATH runs with
+// administrative rights. When SetDefaultDllDirectories fails, or is missing as on Windows 7 without
+// update KB2533623, only removes the current folder from the DLL search path (SetDllDirectoryW).
 void NarrowLibrarySearch();
 
-// Returns the full path of a library: in the program's own folder if the file exists there,
+// Returns the full path of the DLL `name`: in the program's own folder if the file exists there,
 // otherwise in the system directory. In the second case, overwrites the buffer of
-// GetSystemDirectoryPath.
+// GetSystemDirectoryPath (lib/sysinfo/system_directories.h).
 WString LibraryPath(const wchar_t* name);
 
 }  // namespace kelvo

@@ -1,7 +1,8 @@
 // Defines the load configuration of a shipped program. Because of this structure, Windows 10 1607
-// and later load the program's imports only from the system directory. NarrowLibrarySearch cannot
-// do this: it runs in wmain, after Windows has loaded the imports. A build with Visual Studio
-// leaves out this file, because Visual Studio's linker writes the structure (/DEPENDENTLOADFLAG).
+// and later load the DLLs in the program's import table only from the system directory.
+// NarrowLibrarySearch (tool/library_search.h) comes too late for these DLLs: it runs in wmain,
+// after Windows has loaded them. A build with Visual Studio leaves out this file, because Visual
+// Studio's linker writes the structure (/DEPENDENTLOADFLAG).
 
 #include <windows.h>
 
@@ -14,6 +15,6 @@ struct LoadConfiguration {
   BYTE after[32];
 };
 
-// NOLINTNEXTLINE(bugprone-reserved-identifier,cert-*): the linker finds it by this name
+// NOLINTNEXTLINE(bugprone-reserved-identifier,cert-*): the linker finds the structure by this name
 _Alignas(8) const struct LoadConfiguration _load_config_used = {
     sizeof(struct LoadConfiguration), {0}, LOAD_LIBRARY_SEARCH_SYSTEM32, {0}};

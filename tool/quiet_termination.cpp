@@ -1,4 +1,5 @@
-// Makes an uncaught exception end the process silently: nothing may be written to standard error.
+// If an exception is not caught, ends the process silently: nothing may be written to standard
+// error.
 
 #include <windows.h>
 
@@ -19,9 +20,9 @@ namespace {
 #ifdef __GLIBCXX__
 namespace __gnu_cxx {
 
-// Replaces libstdc++'s own handler, which would write to standard error and add 45 KiB of code for
-// name demangling to the program.
-// NOLINTNEXTLINE(bugprone-reserved-identifier,cert-*): the name is libstdc++'s
+// Replaces libstdc++'s own handler. That handler would write to standard error, and its code for
+// name demangling would add 45 KiB to the program.
+// NOLINTNEXTLINE(bugprone-reserved-identifier,cert-*): libstdc++ prescribes the name
 void __verbose_terminate_handler() { EndProcess(); }
 
 }  // namespace __gnu_cxx

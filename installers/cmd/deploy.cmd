@@ -1,10 +1,10 @@
 @echo off
 rem deploy.cmd          copies the product's files to the product's folder and runs "sorrel.exe install". If a first
-rem                     installation fails, runs "sorrel.exe uninstall" and deletes the copies. If an upgrade fails,
-rem                     removes nothing: the new version's files stay.
-rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application, and deletes the product's files unless this
-rem                     script runs from the product's folder.
-rem Both commands return the exit codes of run_sorrel.cmd.
+rem                     installation fails, runs "sorrel.exe uninstall" and deletes the copies. If a later installation
+rem                     (such as an upgrade) fails, removes nothing: the copies stay.
+rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application. Also deletes the product's files from the
+rem                     product's folder, unless this script itself is in that folder.
+rem Both commands return 0, 3010 or 1603, with the same meanings as run_sorrel.cmd.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
@@ -20,8 +20,8 @@ set "shell=%SystemRoot%\System32\cmd.exe"
 set "code=0"
 if "%~1"=="remove" goto remove
 
-rem This is a first installation only if sorrel_status.exe runs and returns 1 (absent). Windows also returns 1 for a
-rem program that is not allowed to run, so --version is tried first.
+rem This is a first installation only if sorrel_status.exe runs and returns 1 (absent). The exit code is also 1 if
+rem Windows does not allow the program to run. Therefore, --version first checks whether the program runs.
 set "first="
 "%here%sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto copy
@@ -29,15 +29,15 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before the tool runs: if an upgrade fails, the detection rule of a deployment system then compares
-rem the computer with the new version's files.
+rem Copies the files before sorrel.exe runs. If an upgrade then fails, the detection rule of a deployment system
+rem compares the computer with the new version's files.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F
 
 :install
-rem The carets escape the outer quotation marks. Only the inner quotation marks then form pairs, so a "&" in the folder's
-rem name is quoted.
+rem The carets escape the outer quotation marks. Only the inner quotation marks then form pairs, so they enclose a "&"
+rem in the folder's name.
 if "%code%"=="0" "%shell%" /d /s /c ^""%here%run_sorrel.cmd" install "%here%%inf%" "%here%%publisher%" "%here%%intermediate%" "%application%"^"
 if "%code%"=="0" set "code=%errorlevel%"
 if not "%code%"=="1603" exit /b %code%

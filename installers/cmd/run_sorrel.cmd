@@ -1,8 +1,8 @@
 @echo off
-rem run_sorrel.cmd ARGUMENT...   runs sorrel.exe of this folder with these arguments, shows its output and appends the
-rem output to the product's log. Returns 1603 if a step failed, otherwise 3010 if a restart is needed, otherwise 0.
+rem run_sorrel.cmd ARGUMENT...   runs the sorrel.exe in this folder with these arguments, shows the output and appends
+rem it to the product's log. Returns 1603 if a step failed, otherwise 3010 if a restart is needed, otherwise 0.
 setlocal EnableExtensions DisableDelayedExpansion
-rem An environment variable named errorlevel would hide the exit codes of programs.
+rem Deletes any environment variable named errorlevel, because it would hide the exit codes of programs.
 set "errorlevel="
 set "product="
 call "%~dp0product.cmd"
@@ -12,11 +12,11 @@ set "run=%log%.run"
 set "failed="
 set "restart="
 
-rem Renames a large log instead of deleting it, so that the last runs are kept.
+rem If the log is large, renames it instead of deleting it, so that the output of the latest runs is kept.
 if exist "%log%" for %%F in ("%log%") do if %%~zF gtr 65536 move /y "%log%" "%log%.old" >nul
 >>"%log%" echo === %product%, %date% %time%: sorrel.exe %*
 
-rem Deletes the output of an earlier run, which must not be mistaken for the output of this run.
+rem Deletes the output of an earlier run, so that it is not mistaken for the output of this run.
 if exist "%run%" del /f /q "%run%"
 if exist "%run%" exit /b 1603
 "%~dp0sorrel.exe" %* >"%run%"
@@ -25,26 +25,27 @@ if not exist "%run%" exit /b 1603
 
 rem An empty output is a failure: every run of sorrel.exe writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem Only one failure can be ignored: the radio is missing or off. Its error lines have the code 00000490 or 00000014;
-rem "register" and "unregister" then exit with the same code, in decimal: 1168 or 20. A missing bthprops.cpl is not a
-rem failure.
+rem Only one failure can be ignored: that the radio is missing or off. The error line of this failure has the code
+rem 00000490 or 00000014 (hexadecimal). The commands "register" and "unregister" then exit with the same code, which is
+rem 1168 or 20 in decimal. A missing bthprops.cpl is not a failure.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
-rem cmd.exe parses a line before it inserts the variables of "for", so no output of the tool can act as a command.
+rem cmd.exe parses each line below before it replaces variables such as %%A, so it runs no text from the output as a
+rem command.
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000490 1168" set "code=0"
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000014 20" set "code=0"
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A"=="ERR" if not "%%B %%C %%D"=="%spared% 00000490" if not "%%B %%C %%D"=="%spared% 00000014" if not "%%B %%C %%D %%E"=="no Bluetooth available, bthprops.cpl missing" set "failed=1"
 if not "%code%"=="0" set "failed=1"
 for /f "usebackq delims=" %%L in ("%run%") do if "%%L"=="Reboot required" set "restart=1"
 
-rem Checks whether the application's name is recorded: sorrel.exe writes no line about this, and does not record a name
-rem that is part of another name.
+rem Checks whether the application's name is on the list of applications, because sorrel.exe writes no line about this.
+rem sorrel.exe does not add a name that is part of another name on the list.
 set "name="
 if "%~1"=="install" set "name=%~5"
 if "%~1"=="register" set "name=%~2"
 if not defined name goto end
-rem sorrel_status.exe returns 1 if the name is absent. Windows also returns 1 for a program that is not allowed to run,
-rem so --version is tried first.
+rem sorrel_status.exe returns 1 if the name is absent. The variable errorlevel is also 1 if Windows does not allow the
+rem program to run, so --version is tried first.
 "%~dp0sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto end
 "%~dp0sorrel_status.exe" --application "%name%" >>"%run%"

@@ -5,7 +5,8 @@ set -euo pipefail
 # In the POSIX locale, wixl stops at the first letter that is not ASCII.
 export LC_ALL=C.UTF-8 CHARSET=UTF-8
 
-# These GUIDs are only for Brindle: two products with the same GUIDs remove each other.
+# These GUIDs are only for Brindle. Windows Installer treats two products with the same GUIDs as versions of one
+# product: the installation of one can remove the other.
 guids=(6e1c1df6-6f3d-4f0e-9a5b-8b6d1f8a3c21 2f0a1a54-0c3b-4d57-9a53-6f1a3e7f1b11)
 
 # Change these settings.
@@ -17,15 +18,16 @@ declare -A setting=(
   # Make your own two GUIDs with uuidgen, and keep them for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
-  # The product's name on the list in which sorrel.exe records the applications that use the hands-free service. The name
-  # must be ASCII, the same for all versions, and not part of another application's name.
+  # sorrel.exe keeps a list of the applications that use the hands-free service. This is the product's name on the list.
+  # The name must be ASCII, the same for all versions, and not part of another application's name.
   [APPLICATION]='brindle'
-  # The driver package's INF file, the certificate of the package's signer, and that of the issuing authority.
+  # The driver package's INF file, the certificate of the package's signer, and the certificate of the authority that
+  # issued the signer's certificate.
   [INF]='Tessalin.inf'
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
-  # What happens if the radio is missing or off. With "fails", the installation fails; with "spared", only this failure
-  # is ignored.
+  # What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
+  # installation ignores this failure, but no other.
   [RADIO_OFF]='fails'
 )
 
@@ -58,29 +60,33 @@ printf 'set "%s=%s"\r\n' product "${setting[PRODUCT]}" application "${setting[AP
 package=$scratch/package.msi
 (cd "$1" && wixl -a x64 "${settings[@]}" -D Scripts="$(realpath --relative-to=. "$scratch")" -o "$package" "$here/brindle.wxs")
 
-# wixl 0.101 schedules the removal of the old version before the transaction, so a failed upgrade would not restore it.
+# Moves the removal of the old version into the transaction, so that a failed upgrade restores the old version.
+# wixl 0.101 schedules the removal before the transaction.
 msibuild "$package" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
 
-# Replaces another package of the same version, too (769: from this version to this version, both included). Otherwise both
-# would be installed, and the removal of one would take the application off the list.
+# Makes the new package also replace an installed package of the same version. Otherwise, both packages would be
+# installed, and the removal of one would take the application off the list. The attributes 769 are "migrate features"
+# (1), "include VersionMin" (256) and "include VersionMax" (512).
 msibuild "$package" -q "INSERT INTO Upgrade (UpgradeCode, VersionMin, VersionMax, Attributes, ActionProperty) \
   VALUES ('{${setting[UPGRADE_CODE]^^}}', '${setting[VERSION]}', '${setting[VERSION]}', 769, 'WIX_UPGRADE_DETECTED')"
 
-# Adds an action that wixl cannot write.
+# Adds a custom action, because wixl cannot create the custom actions below.
 add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
   msibuild "$package" -q "INSERT INTO CustomAction (Action, Type, Source, Target) VALUES ('$1', $2, '$3', '$4')"
   msibuild "$package" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
 }
 
-# These actions run functions of service.js, deferred and as SYSTEM (type 3077: JScript in the package). ReleaseService
-# ignores errors (64 added to the type), so that a missing radio does not keep the product on the computer. When an
-# upgrade removes the old version, ReleaseService does not run: a restored old version needs its name on the list.
+# These actions run functions of service.js. Type 3077 is JScript in the package (5), deferred (1024), as SYSTEM (2048).
+# The type of ReleaseService also has the flag "ignore errors" (64), so that a missing radio does not keep the product
+# on the computer. ReleaseService does not run when an upgrade removes the old version: if the upgrade fails, the old
+# version is restored and needs its name on the list.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 
 # Removes the application from the list when a first installation fails. Runs the copy of sorrel.exe in the package,
-# since the installed copy may be deleted by then. Type 3394: a program in the package, deferred, on rollback, as
-# SYSTEM, errors ignored. Its console runs as SYSTEM, which is safe: only an administrator can start a first installation.
+# since the installed copy may be deleted by then. Type 3394 is a program in the package (2) that runs deferred (1024),
+# only on rollback (256) and as SYSTEM (2048); errors are ignored (64). The program shows a console window that belongs
+# to SYSTEM. This is safe, because only an administrator can start a first installation.
 add_action UndoPrepareService 3394 sorrel "uninstall none \"${setting[APPLICATION]}\"" \
   'NOT Installed AND NOT WIX_UPGRADE_DETECTED' 4002
 

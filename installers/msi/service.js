@@ -1,6 +1,6 @@
-// PrepareService and ReleaseService are deferred actions of the package. In each, CustomActionData is a command
-// line. It runs without a window: an ordinary user may start a repair, and could start programs as SYSTEM from a
-// console window.
+// PrepareService and ReleaseService are deferred custom actions of the package, and run as SYSTEM. The property
+// CustomActionData of each action is a command line. This command line must run without a window: an ordinary user may
+// start a repair, and could then start programs as SYSTEM from a console window.
 
 function run() {
   return new ActiveXObject("WScript.Shell").Run(Session.Property("CustomActionData"), 0, true);
@@ -16,7 +16,8 @@ function ReleaseService() {
   return 1;
 }
 
-// A deferred action cannot ask for a restart. This action is not deferred: it runs last, and reads the end of the log.
+// Asks for a restart if the last line of run_sorrel.cmd's log has the exit code 3010. A deferred action cannot ask for
+// a restart, so this action is immediate and runs last.
 function AskForRestart() {
   var path = Session.Property("WindowsFolder") + "Logs\\" + Session.Property("Log");
   var log = new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(path);

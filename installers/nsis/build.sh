@@ -3,7 +3,7 @@
 # of setup.nsi; -OPTION is an option of makensis. FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver
 # package and the certificates.
 set -euo pipefail
-# In the POSIX locale, makensis stops at the first letter that is not ASCII.
+# In the POSIX locale, makensis fails if an argument contains a character that is not ASCII.
 export LC_ALL=C.UTF-8
 files=$(realpath "$1")
 output=$(realpath -m "$2")

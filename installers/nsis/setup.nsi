@@ -1,8 +1,8 @@
-; The setup of a product that uses the hands-free service. Make it with build.sh, or with
+; The setup of a product that uses the hands-free service. Build the setup with build.sh, or with
 ;   makensis -DFILES=FOLDER -DOUTPUT=FILE setup.nsi
 ; FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver package and the certificates.
 
-; Change these settings, here or as arguments (-DPRODUCT=...).
+; Change these settings here, or override them with arguments of makensis (-DPRODUCT=...).
 !macro Setting NAME VALUE
   !ifndef ${NAME}
     !define ${NAME} "${VALUE}"
@@ -15,12 +15,13 @@
 ; The product's name on the list in which sorrel.exe records the applications that use the hands-free service. The name
 ; must be ASCII, the same for all versions, and not part of another application's name.
 !insertmacro Setting APPLICATION "brindle"
-; The driver package's INF file, the certificate of the package's signer, and that of the issuing authority.
+; The driver package's INF file, the certificate of the package's signer, and the certificate of the authority that
+; issued the signer's certificate.
 !insertmacro Setting INF "Tessalin.inf"
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
-; What happens if the radio is missing or off. With "fails", the installation fails; with "spared", only this failure
-; is ignored.
+; What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
+; installation ignores this failure, but no other.
 !insertmacro Setting RADIO_OFF "fails"
 ; Add the driver package's other files here.
 !macro EachFile DO
@@ -32,7 +33,7 @@
   !insertmacro ${DO} "${INTERMEDIATE}"
 !macroend
 
-; CVE-2025-43715: setups made by an older NSIS run programs from a folder in which a user could have put a program.
+; CVE-2025-43715: setups made by NSIS before 3.11 run programs from a folder in which a user could have put a program.
 !ifndef OLD_NSIS_ACCEPTED
   !if ${NSIS_PACKEDVERSION} < 0x03011000
     !warning "NSIS ${NSIS_VERSION} lets a user of the computer gain the setup's rights (CVE-2025-43715): use 3.11 or later."
@@ -72,9 +73,10 @@ UninstPage instfiles
 !insertmacro ProductLine application "${APPLICATION}"
 !insertmacro ProductLine radio_off "${RADIO_OFF}"
 
-; Checks the folder: no page asks for it, but /D= of the setup and _?= of the uninstaller can name any folder. The
-; folder must be in Program Files, where only administrators can write, since programs in it run with an administrator's
-; rights. Its name must not contain a percent sign, since cmd.exe could expand a variable in the name.
+; Checks the installation folder. The setup does not ask for it, but the options /D= of the setup and _?= of the
+; uninstaller can name any folder. Programs in the folder run with an administrator's rights. The folder must therefore
+; be in Program Files, where only administrators can write. Its path must not contain a percent sign, since cmd.exe
+; could expand a variable in the path.
 !macro Begin
   SetRegView 64
   StrCpy $0 "$INSTDIR"
@@ -111,8 +113,8 @@ Function un.onInit
   ${EndIf}
 FunctionEnd
 
-; Runs run_sorrel.cmd and puts its exit code into $0. The setup does not read sorrel.exe's output itself,
-; because nsExec::ExecToStack keeps only 1,023 characters of the output.
+; Runs run_sorrel.cmd and puts its exit code into $0. run_sorrel.cmd, not the setup, reads sorrel.exe's output, because
+; nsExec::ExecToStack would keep only 1,023 characters of the output.
 !macro RunSorrel WORDS
   nsExec::Exec '"${SYSTEM}\cmd.exe" /d /s /c ""$INSTDIR\run_sorrel.cmd" ${WORDS}"'
   Pop $0
@@ -133,9 +135,9 @@ FunctionEnd
 !macroend
 
 Section
-  ; $9 is the file name of the installed uninstaller (empty in a first installation), $8 that of the new uninstaller.
-  ; A first installation uses a name that no file has: an earlier removal may have left its uninstaller, which
-  ; Windows deletes at its next start.
+  ; $9 is the file name of the installed uninstaller, or empty in a first installation. $8 is the file name of the new
+  ; uninstaller. In a first installation, $8 must be a name that no file has: an earlier removal may have left its
+  ; uninstaller in the folder, and Windows then deletes the file of that name at the next restart.
   ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
   StrCpy $8 "$9"
   ${If} $9 == ""
@@ -157,14 +159,15 @@ Section
   WriteRegStr HKLM "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
   WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\$8"'
   WriteRegStr HKLM "${UNINSTALL_KEY}" Uninstaller "$8"
-  ; NSIS requires _?= at the end, without quotation marks. With _?=, the uninstaller returns only when it is done.
+  ; NSIS requires _?= at the end of the command line, without quotation marks. With _?=, the uninstaller returns only
+  ; after the removal.
   WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\$8" /S _?=$INSTDIR'
 
   StrCpy $0 1603
   ${IfNot} ${Errors}
     !insertmacro RunSorrel 'install "$INSTDIR\${INF}" "$INSTDIR\${PUBLISHER}" "$INSTDIR\${INTERMEDIATE}" "${APPLICATION}"'
   ${EndIf}
-  ; Compares texts: if nsExec cannot start cmd.exe, $0 is "error".
+  ; Compares $0 as a string, not as a number: if nsExec cannot start cmd.exe, $0 is "error".
   ${If} $0 != 0
   ${AndIf} $0 != 3010
     ; If the product was already installed, removes nothing, so that a repair is possible.
@@ -189,8 +192,8 @@ Section Uninstall
   !insertmacro RunSorrel 'uninstall none "${APPLICATION}"'
   ReadRegStr $8 HKLM "${UNINSTALL_KEY}" Uninstaller
   !insertmacro RemoveProduct
-  ; With _?=, the uninstaller runs from $INSTDIR and cannot delete itself: Windows deletes it, and then the empty
-  ; folder, at its next start.
+  ; With _?=, the uninstaller runs from $INSTDIR and cannot delete itself. At the next restart, Windows deletes the
+  ; uninstaller and then the empty folder.
   ${If} ${FileExists} "$INSTDIR\$8"
     Delete /REBOOTOK "$INSTDIR\$8"
     RMDir /REBOOTOK "$INSTDIR"

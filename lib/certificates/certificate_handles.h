@@ -24,11 +24,11 @@ struct CertificateTraits {
 
 }  // namespace internal
 
-// An open certificate store: closed with CertCloseStore, null when there is none.
+// Owns an open certificate store, and closes it with CertCloseStore. Null means "no store".
 using OwnedCertificateStore = Owned<internal::CertificateStoreTraits>;
 
-// A certificate context: freed with CertFreeCertificateContext, null when there is none. The
-// context may outlive the store from which it was read.
+// Owns a certificate context, and frees it with CertFreeCertificateContext. Null means "no
+// certificate". The context may outlive the store from which it was read.
 using OwnedCertificate = Owned<internal::CertificateTraits>;
 
 }  // namespace kelvo

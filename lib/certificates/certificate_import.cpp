@@ -11,8 +11,8 @@ namespace kelvo {
 
 namespace {
 
-// The flags of the content types 1 to 13. CERT_QUERY_CONTENT_FLAG_ALL is not used, since newer
-// headers add types to it.
+// The flags of the content types 1 to 13 (CERT_QUERY_CONTENT_FLAG_*). CERT_QUERY_CONTENT_FLAG_ALL
+// is not used, since newer headers add types to it.
 constexpr DWORD kContentTypes = 0x3FFE;
 
 // The functions of crypt32.dll that this file calls. They are looked up at run time, so a program
@@ -60,8 +60,9 @@ DWORD AddFromFile(const Crypt32& crypt32, const wchar_t* file, BoundStore& syste
                           0, &encodingType, &contentType, &formatType, &store, nullptr,
                           &context) == FALSE) {
     const DWORD error = GetLastError();
-    // Leaves the system store open: one leaked handle for each unreadable file is accepted.
-    static_cast<void>(systemStore.release());  // NOLINT(bugprone-unused-return-value): as above
+    // Leaves the system store open on purpose, as certificate_import.h says. Each unreadable file
+    // leaks one handle.
+    static_cast<void>(systemStore.release());  // NOLINT(bugprone-unused-return-value): stays open
     return error;
   }
   const BoundStore fileStore(store, {crypt32.closeStore});

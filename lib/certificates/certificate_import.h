@@ -9,16 +9,18 @@ namespace kelvo {
 // store, such as "CA". The store must exist; changing it needs administrative rights.
 //
 // The file may hold the certificate in binary (DER), Base64 or hexadecimal form. For a PFX
-// file or a collection (a PKCS #7 message or a serialized store), adds nothing and returns 0. Do
-// not pass a certificate revocation list (CRL) or a certificate trust list (CTL): its CRL_CONTEXT
-// or CTL_CONTEXT would be used as a CERT_CONTEXT.
+// file, a PKCS #7 message or a serialized store, adds nothing and returns 0. Do not pass a
+// certificate revocation list (CRL) or a certificate trust list (CTL): the function would use the
+// CRL_CONTEXT or CTL_CONTEXT as a CERT_CONTEXT.
 //
-// Returns 0 or the error code of the step that failed: loading "crypt32.dll" and looking up its
-// functions (before any change), CertOpenStore, CryptQueryObject, or
-// CertAddCertificateContextToStore. When the file cannot be read, the system store stays open.
-// "crypt32.dll" always stays loaded. Before these steps, calls wsspi::SspiInitialize
-// (lib/wsspi/sspi_loader.h), and does not catch the wsspi::SspiException* that SspiInitialize may
-// throw.
+// Returns 0 or the error code of the step that failed. The first step loads "crypt32.dll" and
+// looks up all functions that are needed; if one of them is missing, no store changes. The other
+// steps are CertOpenStore, CryptQueryObject and CertAddCertificateContextToStore. If
+// CryptQueryObject fails, for example because the file cannot be read, the handle of the system
+// store stays open. "crypt32.dll" always stays loaded.
+//
+// Before these steps, calls wsspi::SspiInitialize (lib/wsspi/sspi_loader.h) if SSPI is not yet
+// initialized. Does not catch the wsspi::SspiException* that SspiInitialize may throw.
 DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName);
 
 // Windows' names for the stores that the two functions below use.

@@ -16,7 +16,8 @@ namespace {
 // Copies a file to the temporary folder and returns the copy's path, or an empty string on failure.
 WString CopyToTemporaryFile(const wchar_t* source) {
   std::array<wchar_t, MAX_PATH> folder{};
-  // The string is allocated before the file is created: if the allocation fails, no file is left.
+  // Allocates the string before GetTempFileNameW creates the file, so that a failed allocation
+  // leaves no file behind.
   WString copy(MAX_PATH, L'\0');
   if (GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()) == 0 ||
       GetTempFileNameW(folder.data(), L"wqr", 0, copy.data()) == 0) {

@@ -31,8 +31,8 @@ DWORD FindClassKey(const wchar_t* progId, WString& classKey) {
   return ERROR_SUCCESS;
 }
 
-// Calls RegOpenKeyExW rather than OpenRegistryKey, which would add RegistryAccessFlags to the
-// registry view that each attempt specifies.
+// Calls RegOpenKeyExW, because each attempt specifies its own registry view. OpenRegistryKey would
+// add RegistryAccessFlags to that view.
 LSTATUS OpenServerKey(const WString& classKey, OwnedRegistryKey& key) {
   LSTATUS status = ERROR_SUCCESS;
   for (const wchar_t* const server : {L"\\LocalServer32", L"\\LocalServer"}) {

@@ -13,7 +13,7 @@ std::array<wchar_t, 255> moduleDirectory{};
 }  // namespace
 
 const wchar_t* GetModuleDirectory(const HMODULE* module) {
-  // Reads the whole path, which may be longer than `moduleDirectory`: only the directory must fit.
+  // The module's path may be longer than `moduleDirectory`, which must hold only the directory.
   WString path = ReadModulePath(module == nullptr ? nullptr : *module);
   const std::size_t lastBackslash = path.rfind(L"\\");
   if (lastBackslash != WString::npos) {

@@ -11,8 +11,8 @@ namespace kelvo {
 // "AppData". Reads that value in the key "User Shell Folders" and then in "Shell Folders", each
 // first in HKEY_CURRENT_USER and then in HKEY_LOCAL_MACHINE. Both keys are below
 // "Software\Microsoft\Windows\CurrentVersion\Explorer". Uses the first string that is not empty,
-// and does not expand environment variables in it. A string that does not fit in `out` with the
-// backslash counts as empty.
+// and does not expand environment variables in it. A string counts as empty if, with its
+// trailing backslash and a NUL, it does not fit in `out`.
 //
 // When every string is missing or counts as empty, writes the result of GetModuleDirectory(module)
 // (lib/paths/module_directory.h) to `out`. Returns true if this result is not empty, otherwise

@@ -16,8 +16,9 @@ struct ModuleTraits {
 
 }  // namespace internal
 
-// A library that this process has loaded: freed with FreeLibrary, null when there is none. For a
-// module that is only looked up (GetModuleHandleW), use a plain HMODULE.
+// Owns the handle of a library that this process has loaded, and frees the library with
+// FreeLibrary. The handle is null when no library is owned. For a module that is only looked up
+// (GetModuleHandleW), use a plain HMODULE.
 //   // With lib/platform/system_library.h:
 //   const OwnedModule library = LoadSystemLibrary(L"secur32.dll");
 //   auto* const getName = KELVO_FIND_FUNCTION(library.get(), GetUserNameExW);
@@ -36,7 +37,7 @@ Function* FindFunction(HMODULE module, const char* name) {
 
 }  // namespace kelvo
 
-// Calls FindFunction for a function that a header declares. `function` is the name of the export,
-// and the declaration of that name gives the type.
+// Calls FindFunction for a function that a header declares. `function` is the name of both the
+// declaration and the export. The result is a pointer to a function of the declared type.
 #define KELVO_FIND_FUNCTION(module, function) \
   ::kelvo::FindFunction<decltype(::function)>((module), #function)

@@ -7,14 +7,14 @@
 
 namespace kelvo {
 
-// Owns one handle and closes it in its destructor. `Kind` describes a kind of handle:
+// Owns one handle. The destructor closes the handle. `Kind` describes a kind of handle:
 //   using Handle = ...;             the Windows type
 //   static Handle None();           the value that means "no handle" of this kind
 //   static void Close(Handle);      closes a handle; never called with None()
 template <typename Kind>
 class Owned {
  public:
-  // The Windows type.
+  // The Windows type of the handle.
   using Handle = typename Kind::Handle;
 
   Owned() = default;
@@ -37,15 +37,16 @@ class Owned {
   // Returns the handle, which this object continues to own.
   [[nodiscard]] Handle get() const { return handle_; }
 
-  // Closes the handle and returns the address at which a Windows function can store a new handle.
+  // Closes the handle, if there is one. Returns the address at which a Windows function can store a
+  // new handle.
   [[nodiscard]] Handle* Receive() {
     reset();
     return &handle_;
   }
 
-  // `succeeded` is the result of the call to which the pointer from Receive() was passed. If it is
-  // true, keeps the handle that the call stored. If it is false, drops any value that the call
-  // stored, without closing it. Returns `succeeded`.
+  // Call this after calling a Windows function with the pointer from Receive(). `succeeded` tells
+  // whether the function succeeded. If true, keeps the handle that the function stored. If false,
+  // discards any value that the function stored, and closes nothing. Returns `succeeded`.
   bool KeepIf(bool succeeded) {
     if (!succeeded) {
       release();
@@ -56,7 +57,7 @@ class Owned {
   // Returns the handle, which this object no longer owns.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 
-  // Closes the present handle, if there is one, and takes ownership of `handle`. When called
+  // Closes the current handle, if there is one, and takes ownership of `handle`. When called
   // without an argument, leaves the object without a handle.
   void reset(Handle handle = Kind::None()) {
     const Handle old = std::exchange(handle_, handle);
@@ -105,24 +106,24 @@ struct FileSearchTraits {
 
 }  // namespace internal
 
-// A handle of a process, thread, token, mutex or event: closed with CloseHandle, null when there is
-// none.
+// A handle of a process, thread, token, mutex or event. Closed with CloseHandle; null means "no
+// handle".
 using OwnedKernelObject = Owned<internal::KernelObjectTraits>;
 
-// A handle from CreateFileW: closed with CloseHandle, INVALID_HANDLE_VALUE when there is none.
+// A handle from CreateFileW. Closed with CloseHandle; INVALID_HANDLE_VALUE means "no handle".
 using OwnedFile = Owned<internal::FileTraits>;
 
-// A search handle from FindFirstFileW: closed with FindClose, INVALID_HANDLE_VALUE when there is
-// none.
+// A search handle from FindFirstFileW. Closed with FindClose; INVALID_HANDLE_VALUE means "no
+// handle".
 using OwnedFileSearch = Owned<internal::FileSearchTraits>;
 
-// Memory from LocalAlloc, or from a Windows function that allocates such memory for its caller:
-// freed with LocalFree, null when there is none.
+// Memory from LocalAlloc, or from a Windows function that allocates such memory for its caller.
+// Freed with LocalFree; null means that there is none.
 template <typename Content>
 using OwnedLocalMemory = Owned<internal::LocalMemoryTraits<Content>>;
 
-// Memory from HeapAlloc in the process heap (GetProcessHeap): freed with HeapFree, null when there
-// is none.
+// Memory from HeapAlloc in the process heap (GetProcessHeap). Freed with HeapFree; null means that
+// there is none.
 template <typename Content>
 using OwnedProcessHeapMemory = Owned<internal::ProcessHeapMemoryTraits<Content>>;
 

@@ -17,7 +17,7 @@ OwnedModule LoadSystemLibrary(const wchar_t* name) {
     return {};
   }
   path[length] = L'\\';
-  // The array was filled with zeros, so the path is NUL-terminated.
+  // The rest of the array is still zero, so the path is NUL-terminated.
   std::wmemcpy(path.data() + length + 1, name, nameLength);
   return OwnedModule(LoadLibraryW(path.data()));
 }

@@ -6,7 +6,7 @@
 
 namespace kelvo {
 
-// The interactive window station and its default desktop.
+// The names of the interactive window station and of its default desktop.
 inline constexpr const wchar_t* kInteractiveStation = L"WinSta0";
 inline constexpr const wchar_t* kInteractiveDesktop = L"Default";
 
@@ -20,9 +20,9 @@ struct DesktopNames {
   Name desktop{};
 };
 
-// Reads the window station's name, then the desktop's name (GetUserObjectInformationW). At the
-// first name that cannot be read or does not fit, traces which name it is (lib/trace/trace_sink.h)
-// and returns false.
+// Reads the window station's name, then the desktop's name (GetUserObjectInformationW). When a name
+// cannot be read or does not fit, reads no further name, traces which of the two names failed
+// (lib/trace/trace_sink.h) and returns false.
 bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names);
 
 // Returns TRUE when this process's window station is "WinSta0" and the calling thread's desktop is

@@ -12,9 +12,9 @@ namespace kelvo {
 
 namespace {
 
-// The part of the process environment block (PEB) that ReadParameters reads. The pointer to the
-// process parameters is read from offset 0x18. This is deliberate, although a 64-bit PEB usually
-// has that pointer at 0x20.
+// The part of the process environment block (PEB) that ReadParameters reads. By contract, the
+// pointer to the process parameters is read from offset 0x18, although a 64-bit PEB usually has it
+// at offset 0x20.
 struct EnvironmentBlock {
   std::byte before[0x18];
   const void* parameters;
@@ -34,7 +34,8 @@ static_assert(sizeof(ProcessParameters) == 240);
 static_assert(sizeof(PROCESS_BASIC_INFORMATION) == 48 &&
               offsetof(PROCESS_BASIC_INFORMATION, PebBaseAddress) == 8);
 
-// Looked up anew by each call of GetProcessCommandLine that passes the check of the version.
+// The address of NtQueryInformationProcess. Each call of GetProcessCommandLine looks up the address
+// again, unless the Windows version makes the call return early.
 decltype(&::NtQueryInformationProcess) queryProcess = nullptr;
 
 // Returns the number of bytes read, or 0 on failure.

@@ -15,7 +15,8 @@ namespace kelvo {
 //
 // NtQueryInformationProcess returns the address of the process environment block (PEB). The pointer
 // to the process parameters, which contain the command line, is read from offset 0x18 of the PEB.
-// In a 64-bit PEB, that pointer is usually at 0x20; the bytes copied are then not the command line.
+// A 64-bit PEB usually has that pointer at 0x20. In that case, the bytes copied are not the command
+// line.
 DWORD GetProcessCommandLine(HANDLE process, void* buffer, DWORD bufferBytes);
 
 }  // namespace kelvo

@@ -22,7 +22,7 @@ enum StartResult : std::int32_t {
 //   - A mutex counts as missing when it does not grant MUTEX_ALL_ACCESS, or when its name is longer
 //     than Windows allows (260 characters).
 //   - If the mutex exists before the program is started, the wait ends at once. Any other program
-//     can create the mutex, so kMutexAppeared does not prove that the program runs.
+//     can create the mutex, so kMutexAppeared does not prove that the started program runs.
 //   - With `pumpMessages`, the calling thread's messages are dispatched during the wait. The wait
 //     then keeps one processor busy. When a WM_CLOSE has been dispatched, kClosedWhileWaiting is
 //     returned.

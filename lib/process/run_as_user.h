@@ -14,22 +14,23 @@ namespace kelvo {
 //   OwnedKernelObject process;
 //   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());
 //
-//   - If this process is not on the window station "WinSta0" (the comparison is case-sensitive), it
-//     is moved there to start the new process, and is moved back before the call waits or returns.
-//     In this case, the token's user also gets full access to "WinSta0" and its desktop "Default"
-//     until the session ends (AllowTokenFullAccessToObject).
-//   - Windows must support SeTakeOwnershipPrivilege; this process need not hold it. This process
-//     needs SeAssignPrimaryTokenPrivilege, unless Windows lets it assign the token without this
-//     privilege.
+//   - If this process's window station is not "WinSta0" (the comparison is case-sensitive), this
+//     process is moved to "WinSta0" to start the new process. This process is moved back before
+//     the call waits or returns. In this case, the token's user also gets full access to "WinSta0"
+//     and its desktop "Default" until the session ends (AllowTokenFullAccessToObject).
+//   - The call fails when Windows does not know SeTakeOwnershipPrivilege, but this process need not
+//     hold this privilege. This process needs SeAssignPrimaryTokenPrivilege, unless Windows lets it
+//     assign the token without this privilege.
 //   - The new process and its thread get a null DACL, which gives everyone full access to them. If
 //     SYSTEM calls this function, every user of the computer can thus control a process that has
 //     SYSTEM's rights.
 //   - Begin the command line with a full path in quotation marks. Without the quotation marks,
 //     Windows tries "C:\Program.exe" before "C:\Program Files\...".
-//   - The following privileges are enabled, if this process holds them, and stay enabled until it
-//     exits: SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
+//   - The following privileges, if this process holds them, are enabled and stay enabled until this
+//     process exits: SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
 //     SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege and SeCreateTokenPrivilege.
-//   - The handles of the copied token, and of a station and desktop opened by the call, stay open.
+//   - The handle of the copied token stays open. If the call opens a window station or a desktop,
+//     the handle of that object also stays open.
 //   - Failures are traced (lib/trace/trace_sink.h).
 BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process);
 

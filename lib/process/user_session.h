@@ -12,8 +12,8 @@ DWORD GetActiveConsoleSessionId();
 
 // Stores in `*token` the primary token of the user who is logged on to the session
 // (WTSQueryUserToken, looked up at run time). The caller closes the token. The calling process
-// needs the privilege "SeTcbPrivilege". When Windows refuses the token, and on Windows versions
-// before XP, stores null and returns false.
+// needs the privilege "SeTcbPrivilege". When WTSQueryUserToken fails or is missing, and on Windows
+// versions before XP, stores null and returns false.
 bool QueryUserTokenOfSession(DWORD sessionId, HANDLE* token);
 
 }  // namespace kelvo

@@ -5,7 +5,7 @@
 namespace kelvo {
 
 // Returns the path, below HKEY_CURRENT_USER, of the key in which Explorer caches the names of
-// programs that it has started:
+// the programs that Explorer has started:
 //   - on Windows Vista and later,
 //     "Software\Classes\Local Settings\Software\Microsoft\Windows\Shell\MuiCache"
 //   - on Windows XP and Server 2003, "Software\Microsoft\Windows\ShellNoRoam\MUICache"

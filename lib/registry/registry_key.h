@@ -10,8 +10,9 @@ namespace kelvo {
 //   - `root` is an open key or a predefined key. `subkey` is the path of a key below `root`, with
 //     backslashes between the key names. `valueName` is a value's name; null or an empty string
 //     means the key's default value. All strings are NUL-terminated.
-//   - Keys are opened with RegistryAccessFlags. Only OpenRegistryKey and CreateRegistryKey leave a
-//     key open; every other function closes the keys that it opened.
+//   - Every function that opens a key ORs RegistryAccessFlags (below) into the access mask. Only
+//     OpenRegistryKey and CreateRegistryKey leave a key open; every other function closes the keys
+//     that it opened.
 //   - An LSTATUS is 0 on success. On failure, it is the Windows error code of the failed call,
 //     unless the function's comment names another number, such as -1.
 
@@ -37,9 +38,9 @@ using OwnedRegistryKey = Owned<internal::RegistryKeyTraits>;
 // or empty, opens `root` itself. On failure, `key` owns nothing.
 LSTATUS OpenRegistryKey(HKEY root, const wchar_t* subkey, REGSAM access, OwnedRegistryKey& key);
 
-// Opens a key for KEY_WRITE | RegistryAccessFlags, or creates it and all missing keys on its path
-// (RegCreateKeyExW, non-volatile, default security). `subkey` must not be null. On failure, `key`
-// owns nothing.
+// Opens a key for KEY_WRITE | RegistryAccessFlags (RegCreateKeyExW). If the key does not exist,
+// first creates it and all missing keys on its path (non-volatile, default security). `subkey` must
+// not be null. On failure, `key` owns nothing.
 LSTATUS CreateRegistryKey(HKEY root, const wchar_t* subkey, OwnedRegistryKey& key);
 
 // Returns true when the key can be opened for KEY_READ.

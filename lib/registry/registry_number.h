@@ -12,14 +12,15 @@ namespace kelvo {
 DWORD RegistryReadDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                         DWORD defaultNumber);
 
-// Returns true for a REG_DWORD value other than 0, false for 0, and `defaultAnswer` when
-// RegistryReadDword would return `defaultNumber`.
+// Reads a REG_DWORD value by the rules of RegistryReadDword. Returns false when the number is 0,
+// and true when it is any other number. In the cases in which RegistryReadDword returns
+// `defaultNumber`, returns `defaultAnswer`.
 bool RegistryReadBoolean(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                          bool defaultAnswer);
 
-// Writes a REG_DWORD value of 4 bytes (RegSetValueExW), creating the key and all missing keys on
-// its path. Returns 0 or the error code of the write. Returns -1 when the key cannot be created or
-// opened for KEY_WRITE.
+// Writes a REG_DWORD value of 4 bytes (RegSetValueExW). When the key does not exist, first creates
+// the key and all missing keys on its path. Returns 0 or the error code of the write. Returns -1
+// when the key cannot be created or opened for KEY_WRITE.
 LSTATUS RegistryWriteDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            DWORD number);
 

@@ -18,9 +18,9 @@ constexpr DWORD kReadLength = kMaxRegistryStringSize / sizeof(wchar_t);
 
 enum class Expansion { kNone, kWhereTypeSays };
 
-// Reads a string value into `buffer`, which the caller has filled with NULs. `capacity` is the size
-// passed to RegQueryValueExW, in characters. When the value cannot be read or is not a string,
-// returns false, and `buffer` holds an empty string.
+// Reads a string value into the first `capacity` characters of `buffer`, which the caller has
+// filled with NULs. When the value cannot be read or is not a string, returns false, and `buffer`
+// holds an empty string.
 bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expansion expansion,
               std::span<wchar_t> buffer, DWORD capacity) {
   OwnedRegistryKey key;
@@ -39,8 +39,8 @@ bool ReadText(HKEY root, const wchar_t* subkey, const wchar_t* valueName, Expans
   // The string may have been stored without a terminator.
   buffer.back() = L'\0';
   if (type == REG_EXPAND_SZ && expansion == Expansion::kWhereTypeSays) {
-    // The array is one character longer than the size passed to ExpandEnvironmentStringsW: when the
-    // result does not fit, that function may write MAX_PATH characters without a NUL.
+    // When the result does not fit, ExpandEnvironmentStringsW may write MAX_PATH characters without
+    // a NUL. The array is one character longer, so that a NUL always follows them.
     std::array<wchar_t, MAX_PATH + 1> expanded{};
     if (ExpandEnvironmentStringsW(buffer.data(), expanded.data(), MAX_PATH) != 0) {
       lstrcpynW(buffer.data(), expanded.data(), static_cast<int>(capacity));

@@ -17,8 +17,8 @@ inline constexpr DWORD kMaxRegistryStringSize = 2048;
 // Returns `defaultText` when the key cannot be opened, or when the value is missing, has another
 // type or is longer. A null `defaultText` counts as empty. When the stored string is empty, returns
 // an empty string, not `defaultText`. The string ends at the first NUL in the data or, when there
-// is no NUL, at the end of the data. If the number of bytes is odd, the last byte becomes one more
-// character.
+// is no NUL, at the end of the data. If the data has an odd number of bytes, the last byte becomes
+// the low byte of one more character.
 //
 // A REG_EXPAND_SZ value is expanded with ExpandEnvironmentStringsW into a buffer of 260 characters
 // (MAX_PATH), including the NUL. When the result is longer, returns the part that Windows wrote
@@ -32,9 +32,9 @@ WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valu
 // characters, and returns the string's length in characters. Expands a REG_EXPAND_SZ value in the
 // same way as RegistryReadString. First fills the whole buffer with NULs. The buffer holds an empty
 // string when the key cannot be opened, or when the value is missing, has another type or has more
-// than 2 x `length` bytes. The string always ends in a NUL within the buffer: an expansion that
-// does not fit is cut, and a string stored without a terminator loses its last character if it
-// fills the buffer. When `buffer` is null or `length` is 0, returns 0 and writes nothing.
+// than 2 x `length` bytes. The buffer always contains a NUL: an expansion that does not fit is
+// cut off. If a string that is stored without a NUL fills the buffer, the string loses its last
+// character. When `buffer` is null or `length` is 0, returns 0 and writes nothing.
 std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length);
 
@@ -44,9 +44,9 @@ std::size_t RegistryReadStoredString(HKEY root, const wchar_t* subkey, const wch
 
 // Both functions write `text` with its NUL (RegSetValueExW): RegistryWriteString writes a REG_SZ
 // value, and RegistryWriteExpandString writes a REG_EXPAND_SZ value. Both create the key and all
-// missing keys on its path. A null `text` counts as empty. Both return -1 when the key cannot be
-// created or opened for KEY_WRITE, ERROR_INVALID_PARAMETER when the size of the string in bytes
-// does not fit in a DWORD, and otherwise 0 or the error code of the write.
+// missing keys on its path. A null `text` counts as empty. When the size of the string in bytes
+// does not fit in a DWORD, both return ERROR_INVALID_PARAMETER. When the key cannot be created or
+// opened for KEY_WRITE, both return -1. Otherwise, both return the result of RegSetValueExW.
 LSTATUS RegistryWriteString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const wchar_t* text);
 LSTATUS RegistryWriteExpandString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,

@@ -4,20 +4,21 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and RegistryAccessFlags,
+// which is ORed into the access mask of every key that these functions open.
 
-// Returns true when the key can be opened for KEY_READ and has the value `valueName`, of any type
+// Returns true when the key can be opened with KEY_READ and has the value `valueName`, of any type
 // (RegQueryValueExW).
 bool RegistryValueExists(HKEY root, const wchar_t* subkey, const wchar_t* valueName);
 
 // Writes `size` bytes at `data` as a value of the given type (RegSetValueExW), creating the key and
-// all missing keys on its path. Returns 0 or the error code of the write. Returns -1 when the key
-// cannot be created or opened for KEY_WRITE.
+// all missing keys on its path. Returns 0 on success, or the error code of RegSetValueExW. Returns
+// -1 when the key cannot be created or opened with KEY_WRITE.
 LSTATUS WriteRegistryValue(HKEY root, const wchar_t* subkey, const wchar_t* valueName, DWORD type,
                            const void* data, DWORD size);
 
-// Deletes a value (RegDeleteValueW, with the key opened for KEY_SET_VALUE). Returns 0 when the
-// value was deleted. Otherwise, for example when the value or the key does not exist, returns -1.
+// Opens the key with KEY_SET_VALUE and deletes the value (RegDeleteValueW). Returns 0 when the
+// value was deleted. Returns -1 otherwise, for example when the value or the key does not exist.
 // Never deletes the key, even when it has no values left.
 LSTATUS RegistryDeleteValue(HKEY root, const wchar_t* subkey, const wchar_t* valueName);
 

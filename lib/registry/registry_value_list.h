@@ -11,22 +11,24 @@ namespace kelvo {
 
 // See lib/registry/registry_key.h for `root`, `subkey` and RegistryAccessFlags.
 
-// An ordered list of pairs of a name and a string.
+// An ordered list of pairs. In each pair, the first string is a name, and the second is the text
+// that belongs to the name.
 using NameTextList = std::vector<std::pair<WString, WString>>;
 
 // Returns the name and the string of every REG_SZ, REG_EXPAND_SZ and REG_DWORD value of a key, in
 // the order of RegEnumValueW. Returns an empty list when the key cannot be opened for KEY_READ |
-// RegistryAccessFlags, and when RegQueryInfoKeyW fails. Skips a value when its name has more than
+// RegistryAccessFlags, or when RegQueryInfoKeyW fails. Skips a value when its name has more than
 // 16,382 characters or its data has more than 16,383 characters (32,766 bytes). The string of a
 // value depends on its type:
 //   - REG_SZ: the data up to its first NUL or, when there is no NUL, all the data. If the number of
 //     bytes is odd, the last byte becomes one more character.
-//   - REG_EXPAND_SZ: the string as for REG_SZ, but expanded with ExpandEnvironmentStringsW. When
-//     the expansion fails or its result, with the NUL, is longer than 260 characters: the string
-//     without expansion.
-//   - REG_DWORD: the number's bytes read as UTF-16 characters, up to the first NUL. The number is
-//     not converted to digits. All values are read into the same buffer. When neither 16-bit half
-//     of the number is 0, the string continues with data of earlier values in that buffer.
+//   - REG_EXPAND_SZ: the string is read as for REG_SZ and then expanded with
+//     ExpandEnvironmentStringsW. The string stays unexpanded when the expansion fails, or when the
+//     expanded string has more than 260 characters, including its NUL.
+//   - REG_DWORD: the bytes of the number are interpreted as UTF-16 characters, up to the first NUL.
+//     The number is not converted to digits. All values are read into the same buffer. When neither
+//     16-bit half of the number is 0, the string continues with the data that earlier values left
+//     in that buffer.
 NameTextList ReadRegistryKeyValues(HKEY root, const wchar_t* subkey);
 
 }  // namespace kelvo

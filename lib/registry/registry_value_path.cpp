@@ -36,7 +36,7 @@ bool ParseRegistryValuePath(const WString& fullPath, HKEY& root, WString& keyPat
     return false;
   }
   root = found->key;
-  // This is a copy, since `fullPath` may be the same object as `keyPath` or `valueName`.
+  // Makes a copy, since `fullPath` may be the same object as `keyPath` or `valueName`.
   const WString path = fullPath.substr(found->prefix.length());
   const std::size_t backslash = path.rfind(L"\\");
   if (backslash == WString::npos) {

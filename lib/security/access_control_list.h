@@ -5,7 +5,7 @@
 namespace kelvo {
 
 // These functions treat an ACL as unreadable when one of its ACEs extends past the end of the ACL.
-// They trace every failure (lib/trace/trace_sink.h) except one that is caused by an exception.
+// They trace their failures (lib/trace/trace_sink.h), but not a failure that an exception causes.
 
 // Means "no index". When AddAce receives this value as the index, it appends the ACE.
 constexpr DWORD kNoAceIndex = MAXDWORD;

@@ -15,8 +15,8 @@ bool IsDeny(const void* ace) {
   return type == ACCESS_DENIED_ACE_TYPE || type == ACCESS_DENIED_OBJECT_ACE_TYPE;
 }
 
-// Never examines the ACE at index 0. For an empty DACL, the loop begins at index MAXDWORD, for
-// which GetAce fails.
+// Never examines the ACE at index 0. Returns false for an empty DACL: the loop then begins at index
+// MAXDWORD, for which GetAce fails.
 bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
   for (DWORD index = aceCount - 1; index > 0; --index) {
     const void* const ace = internal::AceAt(dacl, index);
@@ -27,7 +27,7 @@ bool DeleteDenyAces(PSID sid, ACL* dacl, DWORD aceCount) {
       continue;
     }
     const PSID denied = internal::SidOfAce(ace);
-    // An ACE that is too short for its SID counts as unreadable.
+    // An ACE that is too short for its SID is treated as if GetAce had failed.
     if (!internal::Check(denied != nullptr, L"DeleteDenyACEofObject GetAce Failed")) {
       return false;
     }

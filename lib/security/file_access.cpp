@@ -13,7 +13,7 @@ namespace kelvo {
 
 namespace {
 
-// Returns `succeeded`; if it is false, first prints `messageFormat` with the last error.
+// When `succeeded` is false, prints the last error with `messageFormat`. Returns `succeeded`.
 bool Check(bool succeeded, const wchar_t* messageFormat) {
   if (!succeeded) {
     std::wprintf(messageFormat, static_cast<int>(GetLastError()));
@@ -27,7 +27,7 @@ bool Allocate(DWORD size, OwnedProcessHeapMemory<Content>& memory) {
   return Check(static_cast<bool>(memory), L"HeapAlloc() failed. Error %d\n");
 }
 
-// A file's security descriptor, which contains the file's DACL.
+// A file's security descriptor, of which only the DACL is read: `size` bytes at `memory`.
 struct Descriptor {
   OwnedProcessHeapMemory<void> memory;
   DWORD size = 0;
@@ -36,7 +36,8 @@ struct Descriptor {
 bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
   DWORD size = 0;
   if (GetFileSecurityW(path, DACL_SECURITY_INFORMATION, nullptr, 0, &size) != FALSE) {
-    return false;  // the file has no descriptor; nothing is printed
+    // The call succeeded without a buffer: the file has no descriptor. There is no error to print.
+    return false;
   }
   read.size = size;
   return Check(GetLastError() == ERROR_INSUFFICIENT_BUFFER,
@@ -47,9 +48,10 @@ bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
                L"GetFileSecurity() failed. Error %d\n");
 }
 
-// If the DACL extends past the descriptor, or if an ACE extends past the DACL or is smaller than an
-// ACE_HEADER, sets the last error to ERROR_INVALID_ACL and returns false. Otherwise calls
-// GetAclInformation.
+// Calls GetAclInformation and returns true when it succeeds. First checks that the DACL is inside
+// the descriptor, that every ACE is inside the DACL, and that no ACE is smaller than an ACE_HEADER.
+// If a check fails, does not call GetAclInformation: sets the last error to ERROR_INVALID_ACL and
+// returns false.
 bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFORMATION& size) {
   const auto offset = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(dacl) -
                                                static_cast<const BYTE*>(descriptor.memory.get()));
@@ -61,8 +63,8 @@ bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFOR
   return internal::QueryAclSize(dacl, size);
 }
 
-// Finds the descriptor's DACL and its size. If the DACL is absent or null, stores null and the size
-// of an empty DACL.
+// Stores the descriptor's DACL in `dacl`, and the DACL's size information in `size`. If the DACL is
+// absent or null, stores null and the size information of an ACL without ACEs.
 bool FindDacl(const Descriptor& descriptor, ACL*& dacl, ACL_SIZE_INFORMATION& size) {
   BOOL isPresent = FALSE;
   BOOL isDefaulted = FALSE;
@@ -95,7 +97,8 @@ bool IsOfAccount(const void* ace, PSID account) {
   return sid != nullptr && EqualSid(sid, account) != FALSE;
 }
 
-// Adds these ACEs to the empty `newDacl` (when `count` is 0, `oldDacl` may be null):
+// Adds the following ACEs to `newDacl`, which must be empty. `count` is the number of ACEs in
+// `oldDacl`, which may be null when `count` is 0.
 //   1. The ACEs of `oldDacl` before its first inherited ACE, except those of `account`.
 //   2. The new ACE.
 //   3. That inherited ACE and all ACEs after it, including those of `account`.
@@ -150,7 +153,8 @@ bool CarryInheritanceOver(PSECURITY_DESCRIPTOR from, PSECURITY_DESCRIPTOR to) {
   auto* const setControl =
       KELVO_FIND_FUNCTION(GetModuleHandleW(L"advapi32.dll"), SetSecurityDescriptorControl);
   if (setControl == nullptr) {
-    return true;  // Windows NT 4.0, whose DACLs are never auto-inherited or protected
+    // Windows NT 4.0 does not have this function. Its DACLs are never auto-inherited or protected.
+    return true;
   }
   SECURITY_DESCRIPTOR_CONTROL old = 0;
   DWORD revision = 0;

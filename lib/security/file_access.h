@@ -7,23 +7,27 @@ namespace kelvo {
 // Grants an account the rights in `accessMask` by adding an ACE to the DACL of a file or directory.
 // `sid` is the account's SID in any form that ConvertStringSidToSidW accepts.
 //   - The new ACE is inserted before the first inherited ACE, or at the end if none is inherited.
-//     The account's old ACEs before this place are dropped, including deny ACEs. All other ACEs
+//     The account's old ACEs before the new ACE are removed, including deny ACEs. All other ACEs
 //     stay, in their order.
 //   - A file without a DACL gets a DACL that contains only the new ACE.
-//   - An auto-inherited DACL stays auto-inherited. A protected DACL stays protected, unless it is
-//     also auto-inherited ("D:PAI"): it then loses its protection and inherits the ACEs of the
-//     file's folder.
-//   - A link is followed: use a path that no other account can redirect to another file.
+//   - An auto-inherited DACL stays auto-inherited. A protected DACL that is not auto-inherited
+//     stays protected. A DACL that is both protected and auto-inherited ("D:PAI") loses its
+//     protection and inherits the ACEs of the file's folder.
+//   - If `path` contains a link, the DACL of the file to which the link leads is changed. Therefore
+//     use a path that no other account can redirect to another file.
 //
-// Needs READ_CONTROL and WRITE_DAC (GetFileSecurityW, SetFileSecurityW). Returns TRUE when the new
-// DACL was set, which is done in one call. On failure, returns FALSE and leaves the file unchanged.
-// Throws nothing. Except in the two cases below, a failure prints one line to the C runtime's
-// standard output: the name of the call that failed and the last error. If the DACL extends past
-// its descriptor, or an ACE past the DACL, the line names GetAclInformation. Nothing is printed in
-// these cases:
+// The caller needs READ_CONTROL and WRITE_DAC access to the file (GetFileSecurityW,
+// SetFileSecurityW). The new DACL is set in one call. Returns TRUE when that call succeeds. On any
+// failure, returns FALSE and leaves the file unchanged. Throws no exceptions.
+//
+// Except in the two cases below, a failure prints one line to the C runtime's standard output. The
+// line contains the name of the call that failed and the last error. If the DACL is malformed, the
+// line names GetAclInformation. A DACL is malformed when it extends past the end of the security
+// descriptor, when an ACE extends past the end of the DACL, or when an ACE is smaller than an
+// ACE_HEADER. Nothing is printed in these cases:
 //   - `sid` is null or invalid.
-//   - The file has no descriptor. GetFileSecurityW then succeeds when it is asked for the size, so
-//     there is no error to print.
+//   - The file has no security descriptor. The call of GetFileSecurityW that asks for the
+//     descriptor's size then succeeds, so there is no error to print.
 //
 //   // Members of the Users group may read the file.
 //   const BOOL isAllowed =

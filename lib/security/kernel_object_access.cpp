@@ -107,8 +107,8 @@ bool GrantToCurrentUser(HANDLE object, DWORD mask, Buffers& buffers) {
       L"ModifySecurity SetKernelObjectSecurity Failed");
 }
 
-// The condition is inverted on purpose: LocalFree is called only for null pointers, so the buffers
-// stay allocated, as kernel_object_access.h says.
+// Leaves the buffers allocated, as kernel_object_access.h says. The condition is inverted on
+// purpose: LocalFree is called only for null pointers.
 void Release(const Buffers& buffers) {
   for (void* const buffer : {buffers.oldDescriptor, buffers.descriptor, buffers.dacl, buffers.sacl,
                              buffers.owner, buffers.group}) {

@@ -7,10 +7,11 @@ namespace kelvo {
 // Grants the current user the rights in `mask` by adding an ACE to a kernel object's DACL
 // (SetEntriesInAclW, SetKernelObjectSecurity). The user is identified by a name without a domain
 // (GetUserNameW), which is ambiguous if a local account and a domain account have the same name.
-// The handle needs READ_CONTROL and WRITE_DAC. Always returns TRUE; a failed step is only traced.
+// The handle needs READ_CONTROL and WRITE_DAC. Always returns TRUE: a failed step is reported only
+// with TraceMessage (lib/trace/trace_sink.h).
 // An object without a DACL is left unchanged. A DACL that is present but null, which gives everyone
 // access, is replaced with a DACL that contains only the new ACE: all other accounts lose their
-// access. Each call leaves its buffers allocated.
+// access. Each call leaks the buffers that it allocates.
 BOOL ModifySecurity(HANDLE object, DWORD mask);
 
 }  // namespace kelvo

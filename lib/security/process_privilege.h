@@ -4,13 +4,14 @@
 
 namespace kelvo {
 
-// Both functions change a privilege in this process's token (OpenProcessToken,
-// LookupPrivilegeValueW on the local computer, AdjustTokenPrivileges). The change lasts until the
-// process exits. `name` is Windows' name of the privilege, such as "SeShutdownPrivilege".
+// EnablePrivilege and EnablePrivilegeWithOutcome change a privilege in this process's token
+// (OpenProcessToken, LookupPrivilegeValueW on the local computer, AdjustTokenPrivileges). The
+// change lasts until the process exits. `name` is Windows' name of the privilege, such as
+// "SeShutdownPrivilege".
 
 // Enables or disables a privilege. Returns the result of AdjustTokenPrivileges, which is TRUE even
-// for a privilege that the token does not hold. Returns FALSE when an earlier step fails or an
-// exception occurs.
+// for a privilege that the token does not hold. Returns FALSE when a call before
+// AdjustTokenPrivileges fails or an exception occurs.
 BOOL EnablePrivilege(const wchar_t* name, BOOL enable);
 
 // The result of EnablePrivilegeWithOutcome.
@@ -19,7 +20,8 @@ struct PrivilegeOutcome {
   // mean that the token holds the privilege.
   BOOL adjusted = FALSE;
   // The last error of the call that failed. When no call failed, the last error of
-  // AdjustTokenPrivileges: ERROR_NOT_ALL_ASSIGNED when the token does not hold the privilege.
+  // AdjustTokenPrivileges, which is ERROR_NOT_ALL_ASSIGNED when the token does not hold the
+  // privilege.
   DWORD error = ERROR_SUCCESS;
 };
 

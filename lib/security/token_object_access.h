@@ -11,13 +11,13 @@ namespace kelvo {
 // "desk" in any letter case, grants the user the rights to a desktop (AllowAccessToDesktop),
 // otherwise those to a window station (AllowAccessToWinSta). Both sets of rights include WRITE_DAC
 // and WRITE_OWNER. Removing a group's deny ACEs affects every member of that group; the rights are
-// granted to the user only. The changes last until the object is deleted: for a window station and
-// its desktops, at the latest when the session ends. A null `typeName` counts as empty. The token
-// handle needs TOKEN_QUERY; the object handle needs READ_CONTROL and WRITE_DAC.
+// granted to the user only. The changes last as long as the object exists. Windows deletes a window
+// station and its desktops when the session ends, or earlier. A null `typeName` counts as empty.
+// The token handle needs TOKEN_QUERY; the object handle needs READ_CONTROL and WRITE_DAC.
 //
-// Returns FALSE, and traces why, when a step fails. Earlier steps are not undone: a `type` other
-// than SE_WINDOW_OBJECT is refused only after deny ACEs have been removed. If the token or the
-// object is null, returns FALSE and traces nothing.
+// When a step fails, returns FALSE, traces the reason and does not undo the earlier steps. For
+// example, a `type` other than SE_WINDOW_OBJECT is refused only after deny ACEs have been removed.
+// If the token or the object is null, returns FALSE and traces nothing.
 BOOL AllowTokenFullAccessToObject(HANDLE token, HANDLE object, SE_OBJECT_TYPE type,
                                   const wchar_t* typeName);
 

@@ -11,7 +11,8 @@ namespace kelvo {
 
 namespace {
 
-// The first three names are listed twice, so the privilege set contains these privileges twice.
+// The first three names are listed twice, so a set that CreateTokenPriv makes from this list
+// contains these privileges twice.
 constexpr const wchar_t* kBuiltInPrivileges[] = {
     L"SeCreateTokenPrivilege",
     L"SeAssignPrimaryTokenPrivilege",

@@ -4,12 +4,14 @@
 
 namespace kelvo {
 
-// Both functions grant `sid` access to a window object by adding an explicit allow ACE to the
-// object's DACL, at the ACE's place in canonical order. They return TRUE and change nothing when
-// the DACL already has an equal ACE or the object has no DACL. The handle needs READ_CONTROL and
-// WRITE_DAC. When the DACL cannot be read, rebuilt or written, they return FALSE, trace why and
-// leave the DACL unchanged. Each call that reads the DACL leaves the memory of one ACE allocated.
-// If the new DACL has more than 1,008 bytes, its memory stays allocated too.
+// Both functions grant `sid` access to a window station or a desktop: they add an explicit allow
+// ACE to the object's DACL, at the position that canonical order requires, and return TRUE. When
+// the DACL already has an equal ACE, or the object has no DACL, they return TRUE and change
+// nothing. The handle needs READ_CONTROL and WRITE_DAC. When the DACL cannot be read, rebuilt or
+// written, they trace the reason, return FALSE and leave the DACL unchanged.
+//
+// A call that has read the DACL allocates an ACE, whose memory is never freed. If the new DACL has
+// more than 1,008 bytes, its memory is never freed either.
 
 // Grants STANDARD_RIGHTS_REQUIRED and all rights of window stations: mask 0x000F037F.
 BOOL AllowAccessToWinSta(PSID sid, HWINSTA station);

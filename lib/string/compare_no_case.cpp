@@ -15,16 +15,16 @@ namespace {
 // Maps every UTF-16 code unit to lower case.
 using Table = std::array<wchar_t, 0x10000>;
 
-// Maps all units in one call, because a call to Windows costs far more than mapping one unit. The
-// array contains the units in order, so its only surrogate pair is U+DBFF U+DC00: a private-use
-// character, which has no case.
+// Maps all units in one call, because a call to Windows costs far more than mapping one unit. Two
+// neighbouring units could be mapped together if they were a surrogate pair. The units are in
+// order, so the only pair is U+DBFF U+DC00: a private-use character, which has no case.
 Table MakeTable() {
   Table units;
   const auto fill = [&] { std::iota(units.begin(), units.end(), L'\0'); };
   fill();
   constexpr int kCount = static_cast<int>(units.size());
-  // The invariant locale keeps the user's settings from changing which strings are equal.
-  // LCMAP_LOWERCASE allows the output to overwrite the input.
+  // In the invariant locale, the result does not depend on the user's settings. With
+  // LCMAP_LOWERCASE, the source and the destination may be the same buffer.
   if (LCMapStringW(LOCALE_INVARIANT, LCMAP_LOWERCASE, units.data(), kCount, units.data(), kCount) !=
       kCount) {
     fill();
@@ -51,8 +51,8 @@ bool AreCasesOfLetter(unsigned a, unsigned b) {
 template <typename Fold>
 std::int32_t Compare(const wchar_t* a, const wchar_t* b, bool foldsLetters, Fold fold) {
   const auto folded = [fold](wchar_t unit) { return unit == 0xFFFF ? unit : fold(unit); };
-  // Calls `fold` only when needed: nearly all pairs of units are equal or differ only in the case
-  // of a letter.
+  // Calls `fold` only when needed: in nearly all pairs, the units are equal or are the upper and
+  // lower case of one ASCII letter.
   for (; *a == *b || (foldsLetters && AreCasesOfLetter(*a, *b)) || folded(*a) == folded(*b);
        ++a, ++b) {
     if (*a == L'\0') {

@@ -5,9 +5,9 @@
 namespace kelvo {
 
 // Compares two NUL-terminated strings, ignoring case. Neither pointer may be null. Folds each
-// UTF-16 code unit to lower case. Returns 0 when the folded strings are equal. Otherwise, at their
-// first difference, returns the folded unit of `a` minus the folded unit of `b`: a negative number
-// when `a` sorts first.
+// UTF-16 code unit to lower case. Returns 0 when the folded strings are equal. Otherwise, takes the
+// first position where they differ, and returns the folded unit of `a` minus the folded unit of
+// `b`. The result is negative when `a` sorts before `b`.
 //
 // Folding depends on the C runtime's LC_CTYPE locale (setlocale), read once per call. In the
 // default locale "C", A to Z become a to z, other units below U+0100 stay as they are, and

@@ -22,8 +22,8 @@ WString FormatTextV(const wchar_t* format, std::va_list arguments) {
   }
   const auto units = static_cast<std::size_t>(length);
   WString text(units, L'\0');
-  // The standard vswprintf is unsuitable: in mingw, its "%s" inserts a narrow string, and the
-  // function stops at the first unit above U+00FF.
+  // The standard vswprintf is unsuitable. In mingw, this function expects a narrow string for "%s",
+  // and stops at the first UTF-16 code unit above U+00FF.
   if (_vsnwprintf(text.data(), units, format, arguments) != length) {
     text.clear();
   }

@@ -9,14 +9,14 @@ namespace kelvo {
 // Splits a string at a delimiter, which is matched as a whole, not as a set of characters:
 //   for (StringTokenizer items(list, L";", true); items.HasMoreTokens();) Use(items.NextToken());
 // Reading all items takes time linear in the length of the string. The delimiter must not be empty:
-// with `collapse`, the constructor would never return; without `collapse`, NextToken would return
-// empty items forever.
+// if `collapse` is true, the constructor would never return; if `collapse` is false, NextToken
+// would return empty items forever.
 class StringTokenizer {
  public:
-  // Stores both strings. With `collapse`, a run of adjacent delimiters counts as one delimiter, and
-  // delimiters at the start and the end are dropped, so that no item is empty. Without `collapse`,
-  // there is an empty item between two adjacent delimiters and before a delimiter at the start, but
-  // none after a delimiter at the end.
+  // Stores both strings. If `collapse` is true, a run of adjacent delimiters counts as one
+  // delimiter, and delimiters at the start and the end are ignored, so that no item is empty. If
+  // `collapse` is false, there is an empty item between two adjacent delimiters and before a
+  // delimiter at the start, but none after a delimiter at the end.
   StringTokenizer(WString text, WString delimiter, bool collapse);
 
   // Returns whether there is another item.
@@ -26,17 +26,18 @@ class StringTokenizer {
   WString NextToken();
 
  private:
-  // CollapseRuns replaces each run of delimiters in the string with one delimiter. For a delimiter
-  // of one unit, which cannot overlap itself, SkipRun instead skips the run at the start and the
-  // run after each item.
+  // When `collapse` is true, one of these functions handles runs of delimiters. SkipRun is for a
+  // delimiter of one wchar_t: it skips the run at `next_`, first at the start and then after each
+  // item. CollapseRuns is for longer delimiters, which may overlap themselves (such as "aa" in
+  // "aaa"): it replaces each run in `text_` with one delimiter.
   void CollapseRuns();
   void SkipRun();
 
   WString text_;
   WString delimiter_;
   bool skipsRuns_ = false;
-  // The position of the next item. Erasing each returned item from the string would take quadratic
-  // time.
+  // The position of the next item in `text_`. The returned items are not erased from `text_`:
+  // erasing each of them would take quadratic time.
   std::size_t next_ = 0;
 };
 

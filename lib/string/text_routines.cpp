@@ -20,8 +20,8 @@ std::size_t CountOccurrences(std::wstring_view text, std::wstring_view search) {
   return count;
 }
 
-// Returns a string of NULs with the length that `text` will have after `count` replacements, each
-// putting `added` units in place of `removed` units.
+// Returns a string of NULs with the length that `text` will have after `count` replacements. Each
+// replacement removes `removed` characters and adds `added` characters.
 WString RoomFor(const WString& text, std::size_t count, std::size_t removed, std::size_t added) {
   const std::size_t kept = text.length() - (count * removed);
   if (added > (text.max_size() - kept) / count) {

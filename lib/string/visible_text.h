@@ -5,9 +5,9 @@
 
 namespace kelvo {
 
-// Converts `text` to UTF-8 for a terminal or a log. Writes codes such as <U+001B> for characters
-// that would change what a terminal does or shows (control characters, line and paragraph
-// separators, bidirectional formatting characters, the byte order mark), and for unpaired
+// Converts `text` to UTF-8 for a terminal or a log. Replaces the following by codes such as
+// <U+001B>: characters that would change what a terminal does or shows (control characters, line
+// and paragraph separators, bidirectional formatting characters, the byte order mark), and unpaired
 // surrogates, which UTF-8 cannot express. Throws std::length_error when the text with these codes
 // is too long for ToUtf8.
 std::string ToVisibleUtf8(std::wstring_view text);

@@ -8,18 +8,18 @@
 namespace kelvo {
 
 // A string of UTF-16 code units, always followed by a NUL. Unlike std::wstring, it accepts a null
-// pointer, which counts as an empty string. Except in one case below, the messages of the
-// std::out_of_range and std::length_error that it throws do not depend on the standard library. It
-// has only the operations that this library needs: use std::wstring_view for all others. With
-// libstdc++, a string of up to seven units is stored in the object itself. Positions and counts are
-// in units. Operations behave as in std::wstring:
-//   - In assign, erase and substr, a start position past the end throws std::out_of_range "invalid
-//     string position".
-//   - Growth beyond max_size() throws std::length_error "string too long". The constructor that
-//     takes a view throws it with the standard library's own message.
+// pointer, which counts as an empty string. The class has only the operations that this library
+// needs: use std::wstring_view for all others. With libstdc++, a string of up to seven units is
+// stored in the object itself. Positions and counts are in units. Operations behave as in
+// std::wstring:
+//   - In assign, erase and substr, a start position past the end throws std::out_of_range. With
+//     every standard library, the message is "invalid string position".
+//   - Growth beyond max_size() throws std::length_error. With every standard library, the message
+//     is "string too long". Only the constructor that takes a view throws std::length_error with
+//     the standard library's own message.
 //   - A count that reaches past the end means all units up to the end.
-//   - When memory runs out, std::bad_alloc is thrown. Every other operation of this library that
-//     makes a string also throws it, unless its header says what the operation then returns.
+//   - When memory runs out, std::bad_alloc is thrown. All other functions of this library that make
+//     a string also throw std::bad_alloc, except those whose header says what they then return.
 //
 // When an operation throws, the string is unchanged.
 class WString {
@@ -28,8 +28,8 @@ class WString {
   static constexpr std::size_t npos = std::wstring::npos;
 
   WString() = default;
-  // Copies a NUL-terminated string (null counts as empty) or a view, or makes a string of `count`
-  // times `unit`.
+  // Copies a NUL-terminated string (null counts as empty) or a view, or makes a string that
+  // consists of `count` copies of `unit`.
   // NOLINTNEXTLINE(google-explicit-constructor): literals convert implicitly
   WString(const wchar_t* text) { AssignCString(text); }
   explicit WString(std::wstring_view text) : text_(text) {}
@@ -38,14 +38,15 @@ class WString {
   // Copies a NUL-terminated string; null empties this string. `text` may point into this string.
   WString& AssignCString(const wchar_t* text);
 
-  // Copies `count` units of `text` from `start` on. `text` may be this string.
+  // Replaces the contents with `count` units of `text`, beginning with the unit at `start`. `text`
+  // may be this string.
   WString& assign(const WString& text, std::size_t start, std::size_t count = npos);
 
   // Appends `text`.
   WString& append(std::wstring_view text);
   WString& operator+=(const WString& text) { return append(text); }
 
-  // Removes `count` units from `start` on.
+  // Removes `count` units, beginning with the unit at `start`.
   WString& erase(std::size_t start, std::size_t count = npos);
 
   // Shortens the string to `count` units, or appends `unit` until there are `count` units.
@@ -54,7 +55,7 @@ class WString {
   // Makes the string empty.
   void clear() { text_.clear(); }
 
-  // Returns a copy of `count` units from `start` on.
+  // Returns a copy of `count` units, beginning with the unit at `start`.
   [[nodiscard]] WString substr(std::size_t start, std::size_t count = npos) const;
 
   // Finds the first occurrence of `text` at or after `start`. An empty `text` occurs at every

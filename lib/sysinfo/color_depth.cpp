@@ -6,7 +6,7 @@ namespace kelvo {
 
 namespace {
 
-// Slightly less than 2 to the power of 32, the number of colors at 32 bits per pixel.
+// A device with 32 bits per pixel has 2 to the power of 32 colors. This limit is slightly lower.
 constexpr double kMinFullColors = 4294697000.0;
 constexpr double kMaxLowColors = 65536.0;
 
@@ -14,7 +14,7 @@ double CountDeviceColors(HDC device) {
   return std::pow(2.0, GetDeviceCaps(device, PLANES) * GetDeviceCaps(device, BITSPIXEL));
 }
 
-// For a null `device`, uses the desktop window's device context, and returns 0 when there is none.
+// For a null `device`, uses the desktop window's device context, and returns 0 when GetDC fails.
 double CountColors(HDC device) {
   if (device != nullptr) {
     return CountDeviceColors(device);

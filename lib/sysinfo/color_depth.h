@@ -4,9 +4,10 @@
 
 namespace kelvo {
 
-// Both functions test a device's color depth in bits per pixel: the number of planes times the bits
-// per pixel in each plane (GetDeviceCaps with PLANES and BITSPIXEL). For a null `device`, both
-// use the desktop window's device context and release it; they return false when there is none.
+// Both functions test the color depth of a device in bits per pixel. This is the number of planes
+// (GetDeviceCaps with PLANES) times the bits per pixel in each plane (BITSPIXEL). For a null
+// `device`, the functions get the desktop window's device context and release it after use. If they
+// get no device context, they return false.
 
 // Returns true for 32 bits per pixel or more; 24 bits are not enough.
 bool IsFullResolution(HDC device = nullptr);

@@ -8,8 +8,8 @@ namespace kelvo {
 WString GetComputerNetbiosName();
 
 // Returns the fully qualified DNS name (GetComputerNameExW, looked up at run time). When Windows
-// lacks the function or returns no name, returns the NetBIOS name. Empty when GetComputerNameW
-// fails, too.
+// lacks the function or the function gives no name, returns the NetBIOS name. Empty when
+// GetComputerNameW also fails.
 WString GetComputerNameFQ();
 
 // Returns the DNS suffix of the computer's name (ComputerNameDnsDomain of GetComputerNameExW,

@@ -7,12 +7,12 @@ namespace kelvo {
 // These functions read a file's version from the VS_FIXEDFILEINFO block of its version resource
 // (GetFileVersionInfoW, VerQueryValueW). There is no version when the path is null, when the file
 // has no such block, or when the block is not completely inside the resource. The block's signature
-// is not checked, so the numbers from an untrusted file may be arbitrary. Windows parses the
-// resource; these functions do not check it first.
+// is not checked: in an untrusted file, the block may hold other data, which then counts as the
+// version. Windows parses the resource; these functions do not check it first.
 
 // Compares a file's version with major.minor.build.revision. Returns 1 when the file's version is
 // higher, 0 when it is equal, -1 when it is lower, and 2 when there is no version. When the result
-// is 1 or 0, the memory that holds the resource stays allocated and locked.
+// is 1 or 0, the memory that holds the resource is leaked: it stays allocated and locked.
 int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int revision);
 
 // Another name for CompareFileVersion.

@@ -14,7 +14,8 @@ namespace kelvo {
 
 namespace {
 
-// Returns the resource as GetFileVersionInfoW stores it; empty when it cannot be read.
+// Returns the file's version resource as GetFileVersionInfoW stores it, or an empty vector when the
+// resource cannot be read.
 std::vector<BYTE> ReadVersionResource(const wchar_t* path) {
   DWORD ignored = 0;
   std::vector<BYTE> resource(GetFileVersionInfoSizeW(path, &ignored));
@@ -25,15 +26,15 @@ std::vector<BYTE> ReadVersionResource(const wchar_t* path) {
   return resource;
 }
 
-// Returns the path at which VerQueryValueW finds the string "FileVersion" of the first translation;
-// empty when there is no translation.
+// Returns the path that makes VerQueryValueW find the string "FileVersion" in the first
+// translation, or an empty string when the resource has no translation.
 WString FileVersionPath(std::span<const BYTE> resource) {
   const std::span<const BYTE> value =
       internal::FindVersionValue(resource, L"\\VarFileInfo\\Translation", sizeof(BYTE));
   if (value.size() < 4) {
     return {};
   }
-  // A translation is a language and then a code page, each two bytes with the low byte first.
+  // A translation consists of a language and a code page. Each has two bytes, the low byte first.
   return FormatText(L"\\StringFileInfo\\%02x%02x%02x%02x\\FileVersion", value[1], value[0],
                     value[3], value[2]);
 }

@@ -19,7 +19,7 @@ bool EndsInSeparator(const wchar_t* path, std::size_t length) {
 }  // namespace
 
 const wchar_t* GetSystemDirectoryPath() {
-  // Leaves room for a backslash, which is added when there is no separator at the end.
+  // Leaves room for the backslash that is added when the path does not end in a separator.
   constexpr UINT kCapacity = std::tuple_size_v<decltype(systemDirectory)> - 1;
   const UINT length = GetSystemDirectoryW(systemDirectory.data(), kCapacity);
   if (length == 0 || length >= kCapacity) {
@@ -44,7 +44,8 @@ WString GetSystemWow64DirectoryPath() {
   return EndsInSeparator(buffer.data(), length) ? path : path + L"\\";
 }
 
-// File system redirection does not apply to a 64-bit process, so it need not be disabled.
+// The library is built only for 64-bit Windows. Windows does not redirect the system directory for
+// a 64-bit process.
 WString GetNativeSystemDirectoryPath() { return {GetSystemDirectoryPath()}; }
 
 }  // namespace kelvo

@@ -12,9 +12,9 @@ namespace kelvo {
 //     (HKEY_CURRENT_USER "Environment") and for the system (HKEY_LOCAL_MACHINE
 //     "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). ReadRegistryKeyValues reads
 //     and expands them. A key that does not open adds no entries.
-//   - When the path of a shell folder cannot be read, the value is "failed to query " and the name
-//     of the entry. When any other query fails, the value is what the queried function returns on
-//     failure: for most functions, "0" (false) or an empty string.
+//   - When the path of a shell folder cannot be read, the text of the entry is "failed to query "
+//     and the name of the entry. When any other queried function fails, the text of the entry is
+//     what that function returns on failure: for most functions, "0" (false) or an empty string.
 //   - When the call throws, `report` is incomplete.
 //
 //   NameTextList report;

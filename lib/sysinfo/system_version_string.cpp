@@ -44,7 +44,8 @@ WORD QueryArchitecture() {
   return system.wProcessorArchitecture;
 }
 
-// Returns the low half of dwBuildNumber: on Windows 9x, the high half contains the version.
+// Returns only the low half of dwBuildNumber, because on Windows 9x the high half contains the
+// version.
 WORD Build(const OSVERSIONINFOEXW& version) { return LOWORD(version.dwBuildNumber); }
 
 WString FormatNumbers(const OSVERSIONINFOEXW& version) {
@@ -73,8 +74,8 @@ void Append9xName(const OSVERSIONINFOEXW& version, WString& text) {
   }
 }
 
-// Reads the product type, which OSVERSIONINFOW does not contain, from the registry, and appends it
-// and the version. On failure, appends a note instead and returns false.
+// Reads the product type from the registry, because OSVERSIONINFOW does not contain it. Appends the
+// product type and the version to `text`. On failure, appends a note instead and returns false.
 bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
   constexpr const wchar_t* kProductOptions = L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions";
   if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductOptions, 0, KEY_QUERY_VALUE, key.Receive()) !=
@@ -83,7 +84,8 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
     return false;
   }
   constexpr DWORD kLength = 100;
-  // One character more than RegQueryValueExW may write: a NUL for a value stored without one.
+  // The buffer has one character more than RegQueryValueExW may write, so that a NUL follows even a
+  // value that is stored without a NUL.
   std::array<wchar_t, kLength + 1> type{};
   DWORD size = kLength * sizeof(wchar_t);
   if (RegQueryValueExW(key.get(), L"ProductType", nullptr, nullptr,
@@ -178,8 +180,8 @@ WString GetSystemVersionNumbers() {
       numbers = FormatNumbers(version);
     }
   });
-  // No memory is allocated below: "0.0.0.0" fits in the WString itself, and the result is moved to
-  // the caller, not copied.
+  // The code below allocates no memory: a string as short as "0.0.0.0" is stored inside the WString
+  // object, and the result is moved to the caller, not copied.
   if (numbers.empty()) {
     numbers = L"0.0.0.0";
   }

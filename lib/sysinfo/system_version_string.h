@@ -4,23 +4,24 @@
 
 namespace kelvo {
 
-// Returns one line that names the running Windows with its edition and version numbers, such as
-// "Windows 7 Professional x64 (6.1.7601 Service Pack 1)"; empty for a platform other than Win32s,
-// Windows 9x and NT.
+// Returns one line with the name, the edition and the version numbers of the running Windows, such
+// as "Windows 7 Professional x64 (6.1.7601 Service Pack 1)". Returns an empty string for a platform
+// other than Win32s, Windows 9x and NT.
 //   - The version comes from GetVersionExW. On Windows 8.1 and later, GetVersionExW reports 6.2 to
-//     a program whose manifest does not name 8.1 or later: the line then says "Windows 8" or
-//     "Windows Server 2012". On Windows 10 and later, in a program whose manifest names Windows 10,
-//     the line has only the version numbers, without a name.
-//   - The processor architecture is that of GetNativeSystemInfo (looked up at run time) or, when
-//     Windows lacks that function, of GetSystemInfo. For the edition, calls GetSystemMetrics on NT
-//     5.1 and 5.2, and GetProductInfo (looked up at run time) on NT 6.
+//     a program whose manifest does not declare support for Windows 8.1 or later. The line then
+//     says "Windows 8" or "Windows Server 2012". On Windows 10 and later, if the manifest declares
+//     support for Windows 10, the line has only the version numbers, without a name.
+//   - The processor architecture comes from GetNativeSystemInfo (looked up at run time) or, when
+//     Windows lacks that function, from GetSystemInfo.
+//   - To find the edition, this function calls GetSystemMetrics on NT 5.1 and 5.2, and
+//     GetProductInfo (looked up at run time) on NT 6.
 //   - When GetVersionExW does not fill OSVERSIONINFOEXW, as on Windows NT 4.0 before Service Pack
-//     6, the product type comes from the value "ProductType" of HKEY_LOCAL_MACHINE
-//     "SYSTEM\CurrentControlSet\Control\ProductOptions". When the value cannot be read, the key
-//     stays open.
-//   - On NT 4.0 with Service Pack 6, the line says "Service Pack 6a" when HKEY_LOCAL_MACHINE
-//     "SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009" opens. This key and that of
-//     "ProductType" are opened for KEY_QUERY_VALUE.
+//     6, the product type comes from the registry value "ProductType" in the key
+//     HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\ProductOptions. When the value cannot be
+//     read, the handle of this key is not closed.
+//   - On NT 4.0 with Service Pack 6, the line says "Service Pack 6a" when the registry key
+//     HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009 can be opened.
+//   - Both registry keys are opened with the access right KEY_QUERY_VALUE.
 //   - The line has a note when GetVersionExW fails, when the product type cannot be read, and when
 //     an exception ends a query. When any other query fails, or when Windows lacks the function
 //     that the query calls, only the result of that query is missing from the line. Throws only
@@ -29,8 +30,8 @@ WString GetSystemVersionString();
 
 // Returns the version of the running Windows as "(major.minor.build)", with the low 16 bits of the
 // build number. Uses GetVersionExW, which on Windows 8.1 and later reports 6.2 to a program whose
-// manifest does not name 8.1 or later. Returns "0.0.0.0" when GetVersionExW fails or memory runs
-// out.
+// manifest does not declare support for Windows 8.1 or later. Returns "0.0.0.0" when GetVersionExW
+// fails or memory runs out.
 WString GetSystemVersionNumbers();
 
 }  // namespace kelvo

@@ -58,8 +58,8 @@ bool IsProductSuiteInstalled(const wchar_t* suiteName) {
       size == 0) {
     return false;
   }
-  // Doubles the size, since the value may grow before it is read. Allocates two more characters,
-  // which stay zero, to end a list stored without terminators.
+  // Doubles the size, because the value may grow before it is read. Also allocates two more
+  // characters. They stay zero and terminate a list that is stored without terminators.
   size *= 2;
   const OwnedLocalMemory<wchar_t> list(
       static_cast<wchar_t*>(LocalAlloc(LPTR, SIZE_T{size} + (2 * sizeof(wchar_t)))));

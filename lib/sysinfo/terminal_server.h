@@ -7,7 +7,7 @@ namespace kelvo {
 // Returns true when the running Windows has the Terminal Services suite. On NT 5.0 and later, calls
 // VerifyVersionInfoA with a mask from VerSetConditionMask. Both are looked up at run time; when
 // either is missing, returns false. On NT 4.0 and earlier, returns what IsProductSuiteInstalled
-// returns for "Terminal Server". Always false on Windows 9x. Calls GetVersion every time.
+// returns for "Terminal Server". Always false on Windows 9x. Each call asks GetVersion again.
 bool IsWinNTTerminalServer();
 
 // Returns true when the value "ProductSuite" (REG_MULTI_SZ) of HKEY_LOCAL_MACHINE

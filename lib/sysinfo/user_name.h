@@ -12,21 +12,23 @@
 
 namespace kelvo {
 
-// These functions return names of the user that the calling thread runs as.
+// These functions return a name of the user under whose account the calling thread runs.
 
-// Returns the name of the user's account, without the domain (GetUserNameW); empty on failure.
+// Returns the name of the user's account, without the domain (GetUserNameW). Returns an empty
+// string on failure.
 WString GetAccountName();
 
-// Returns the user's name, of any length, in a format such as NameSamCompatible ("DOMAIN\name").
-// Calls GetUserNameExW of "secur32.dll". Loads that library by name for the duration of the call,
-// so the process's search order decides which file is loaded. Returns an empty string for
-// NameUnknown, when the library does not load or lacks GetUserNameExW, and when GetUserNameExW
-// fails. For a local account, only NameSamCompatible succeeds.
+// Returns the user's name in a format such as NameSamCompatible ("DOMAIN\name"). The name may have
+// any length. Calls GetUserNameExW of "secur32.dll". Loads this DLL without a path, so the
+// process's DLL search order decides which file is loaded. Unloads the DLL after the call. Returns
+// an empty string for NameUnknown, when the DLL does not load or lacks GetUserNameExW, and when
+// GetUserNameExW fails. For a local account, only NameSamCompatible succeeds.
 WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
-// Returns the user principal name, such as "name@domain" (GetUserNameInFormat with
-// NameUserPrincipal). When there is none, as for a user outside a domain, returns the account name,
-// or an empty string when the account name has more than 100 characters.
+// Returns the first of these names that can be read, or an empty string when neither can be read:
+//   - The user principal name, such as "name@domain" (GetUserNameInFormat with NameUserPrincipal).
+//     A user outside a domain has none.
+//   - The account name (GetUserNameW), if it has at most 100 characters.
 WString GetUserNameFQ();
 
 }  // namespace kelvo

@@ -4,9 +4,9 @@
 
 namespace kelvo {
 
-// These functions query the elevation of this process's token (GetTokenInformation). All return
-// false on Windows before NT 6.0, and when the token cannot be opened for TOKEN_QUERY or cannot be
-// read.
+// These functions query the elevation of this process's token (GetTokenInformation). All of them
+// return false on Windows before NT 6.0. They also return false when the token cannot be opened
+// with TOKEN_QUERY access or cannot be read.
 
 // Returns true when the token is elevated (TokenElevation).
 bool IsVistaProcessElevated();
@@ -15,11 +15,15 @@ bool IsVistaProcessElevated();
 // false and leaves `type` unchanged.
 bool GetVistaProcessElevationType(TOKEN_ELEVATION_TYPE& type);
 
-// Each function below returns true when the elevation type is the one in its name:
-// TokenElevationTypeDefault (no linked token), TokenElevationTypeFull (the elevated one of two
-// linked tokens) or TokenElevationTypeLimited (the other of the two).
+// Returns true when the elevation type is TokenElevationTypeDefault: the token has no linked token.
 bool IsVistaProcessElevationTypeDefault();
+
+// Returns true when the elevation type is TokenElevationTypeFull: the token has a linked token and
+// is the elevated one of the two.
 bool IsVistaProcessElevationTypeFull();
+
+// Returns true when the elevation type is TokenElevationTypeLimited: the token has a linked token
+// and is not the elevated one of the two.
 bool IsVistaProcessElevationTypeLimited();
 
 }  // namespace kelvo

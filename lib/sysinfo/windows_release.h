@@ -7,7 +7,7 @@ namespace kelvo {
 //
 // Every function except IsWin64Bit and Is32BitOnWin64 calls GetVersionExW each time and returns
 // false when GetVersionExW fails. On Windows 8.1 and later, GetVersionExW reports 6.2 to a program
-// whose manifest does not name 8.1 or later.
+// whose manifest does not list 8.1 or later.
 
 // Returns true on Windows 9x with minor version 0, which only Windows 95 has.
 bool IsWin95();
@@ -15,8 +15,8 @@ bool IsWin95();
 // Edition.
 bool IsWin98();
 
-// Each returns true on the NT release in its name and on every later one; IsWinNT returns true on
-// every NT release.
+// IsWinNT returns true on every NT release. Each of the five functions after it returns true on the
+// release in its name and on every later NT release.
 bool IsWinNT();
 bool IsWin2000();
 bool IsWinXP();
@@ -32,7 +32,8 @@ bool IsWinServer2003();
 bool IsWinServer2008();
 bool IsWinServer2012();
 
-// Both results are constant, since the library is built for 64-bit Windows only.
+// The results of these two functions are constant, since the library is built for 64-bit Windows
+// only.
 constexpr bool IsWin64Bit() { return true; }
 constexpr bool Is32BitOnWin64() { return false; }
 

@@ -6,9 +6,9 @@
 
 namespace kelvo {
 
-// Writes the current UTC time and a message to the debugger (OutputDebugStringW). `format` and the
-// arguments are those of FormatText (lib/string/format_text.h). The message may have any length. No
-// line break is added.
+// Writes the current UTC time and a message to the debugger (OutputDebugStringW). The message is
+// the text that FormatText (lib/string/format_text.h) returns for `format` and the arguments. It
+// may have any length. No line break is added.
 void DebugTrace(const wchar_t* format, ...);
 
 // Returns the line that DebugTrace writes at `time`: the time, a space and `message`. The format of

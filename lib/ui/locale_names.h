@@ -6,9 +6,9 @@
 
 namespace kelvo {
 
-// Returns the name of a locale, such as "de-CH", or "de" for a neutral locale (LCIDToLocaleName,
-// looked up at run time). Returns an empty string for an unknown locale and when Windows lacks
-// LCIDToLocaleName.
+// Returns the name of a locale, for example "de-CH". A neutral locale has a name without a
+// region, for example "de". Calls LCIDToLocaleName, which is looked up at run time. Returns an
+// empty string for an unknown locale and when Windows lacks LCIDToLocaleName.
 WString LocaleNameFromLcid(LCID locale);
 
 // Returns information about a locale as a string (GetLocaleInfoW). `type` is the kind of

@@ -39,7 +39,7 @@ bool IsFile(const WString& path) {
 
 bool IsNeutral(LANGID language) { return PRIMARYLANGID(language) == LANG_NEUTRAL; }
 
-// Returns 0 when Windows has no language with that name.
+// Returns 0 when Windows gives no language for the locale name.
 LANGID NumberOf(const WString& name) {
   auto* const getInfo = KELVO_FIND_FUNCTION(GetModuleHandleW(L"kernel32.dll"), GetLocaleInfoEx);
   DWORD number = 0;
@@ -52,10 +52,10 @@ LANGID NumberOf(const WString& name) {
   return PRIMARYLANGID(language) != LANG_INVARIANT ? language : LANGID{0};
 }
 
-// Returns 0 when the name is not that of a language. For well-formed names that have no LCID, such
-// as "en-DE" and "old", Windows 10 gives a LANGID whose primary language is LANG_NEUTRAL. For such
-// a name, uses only the part before its first "-", and so returns English for "en-DE" and 0 for
-// "old".
+// Returns 0 when `name` is not the locale name of a language. For well-formed names that have no
+// LCID, such as "en-DE" and "old", Windows 10 gives a LANGID whose primary language is
+// LANG_NEUTRAL. In this case, looks up only the part of the name before its first "-". The result
+// is then English for "en-DE" and 0 for "old".
 LANGID LanguageOf(const WString& name) {
   const LANGID language = NumberOf(name);
   return language == 0 || !IsNeutral(language)
@@ -63,7 +63,8 @@ LANGID LanguageOf(const WString& name) {
              : PRIMARYLANGID(NumberOf(name.substr(0, name.find(L"-"))));
 }
 
-// Resolves LANG_NEUTRAL, LOCALE_USER_DEFAULT and the like to the languages that they mean.
+// Replaces a constant such as LANG_NEUTRAL or LOCALE_USER_DEFAULT with the language that it stands
+// for.
 LANGID Resolved(LANGID language) {
   return IsNeutral(language) ? LanguageOf(GetLocaleInfoString(language, LOCALE_SNAME)) : language;
 }
@@ -85,8 +86,9 @@ bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
                               static_cast<int>(b.length()), TRUE) == CSTR_EQUAL;
 }
 
-// Returns the locale name that `found`, a file's or folder's name, contains. Returns an empty
-// string when `found` does not fit the pattern: FindFirstFileW also matches short (8.3) names.
+// Returns the locale name in `found`, which is the name of a file or folder that FindFirstFileW has
+// found. Returns an empty string when `found` does not fit the pattern. This can happen because
+// FindFirstFileW also matches short (8.3) names.
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
     return found;

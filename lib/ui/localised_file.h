@@ -17,8 +17,8 @@ enum class LocalisedFileForm {
 // optional.
 
 // Returns the path of a file for one language, whether or not the file exists. GetLocaleInfoW
-// (LOCALE_SNAME) gives the locale name for `language`. Returns an empty string for a language
-// without a name and for an empty file name.
+// (LOCALE_SNAME) gives the locale name for `language`. Returns an empty string when `language`
+// has no locale name or `fileName` is empty.
 //   // C:\App\resources\de-DE\texts.dll on a German Windows
 //   const WString path = GetLocalisedFilePath(
 //       L"C:\\App", L"texts.dll", GetUserDefaultUILanguage(), LocalisedFileForm::kFolder);
@@ -26,13 +26,16 @@ WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LAN
                              LocalisedFileForm form);
 
 // Returns the path of the file for `language`. If that file does not exist, returns the path of an
-// existing file in another language, chosen in this order: same primary language, English (United
-// States), another variety of English, any language. Among equally good files, chooses the file
-// whose locale name sorts first. Returns an empty string when no file is found. GetLocaleInfoEx
-// (looked up at run time) gives the language for a locale name; when Windows lacks GetLocaleInfoEx,
-// only the file for `language` itself is found. If Windows has no LCID for a locale name, such as
-// "en-DE", the part before the first "-" gives the language. When `language` is LANG_NEUTRAL,
-// LOCALE_USER_DEFAULT or LOCALE_SYSTEM_DEFAULT, uses the language that this constant stands for.
+// existing file in another language. The order of preference is: the same primary language, English
+// (United States), another variety of English, any other language. Among files of the same rank,
+// chooses the file whose locale name sorts first. Returns an empty string when no file is found.
+// When `language` is LANG_NEUTRAL, LOCALE_USER_DEFAULT or LOCALE_SYSTEM_DEFAULT, uses the language
+// that this constant stands for.
+//
+// GetLocaleInfoEx (looked up at run time) gives the language of each existing file from the locale
+// name in the file's path. When Windows lacks GetLocaleInfoEx, only the file for `language` itself
+// is found. If Windows has no LCID for a locale name, such as "en-DE", only the part of the name
+// before the first "-" determines the language.
 WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                           LocalisedFileForm form);
 

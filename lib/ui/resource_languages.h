@@ -12,8 +12,9 @@ namespace kelvo {
 std::vector<LANGID> GetStringResourceLanguages(HMODULE module);
 
 // Returns the language in which to load resources: `requested` when `offered` contains it;
-// otherwise the first language of `offered` with the primary language of `requested`; otherwise the
-// first English language; otherwise the first language. Returns 0 when `offered` is empty.
+// otherwise the first language in `offered` that has the same primary language (PRIMARYLANGID) as
+// `requested`; otherwise the first English language in `offered`; otherwise the first language in
+// `offered`. Returns 0 when `offered` is empty.
 LANGID ChooseResourceLanguage(const std::vector<LANGID>& offered, LANGID requested);
 
 }  // namespace kelvo

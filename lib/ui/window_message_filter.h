@@ -4,11 +4,12 @@
 
 namespace kelvo {
 
-// Changes the UIPI message filter of `window`: depending on `action`, allows the window to receive
-// `message` from less privileged processes, or withdraws that permission. Returns the result of
-// ChangeWindowMessageFilterEx (looked up at run time) for the same arguments; `filterStatus` may be
-// null. Before Windows 7, and when ChangeWindowMessageFilterEx is missing, changes nothing and
-// returns false.
+// Changes the UIPI message filter of `window` (ChangeWindowMessageFilterEx, looked up at run time).
+// With the action MSGFLT_ALLOW, the window can receive `message` from less privileged processes.
+// MSGFLT_DISALLOW withdraws that permission, and MSGFLT_RESET resets the window's whole filter to
+// the default. `filterStatus` may be null. All arguments are passed on unchanged. Returns the
+// result of ChangeWindowMessageFilterEx: true on success. Before Windows 7, and when Windows lacks
+// that function, changes nothing and returns false.
 bool AllowWindowMessage(HWND window, UINT message, DWORD action, CHANGEFILTERSTRUCT* filterStatus);
 
 }  // namespace kelvo

@@ -26,15 +26,15 @@ bool IsLabelOrButton(HWND window) {
          std::wcsstr(className.data(), L"button") != nullptr;
 }
 
-// No exception may leave this callback, so RewriteWindowTexts throws std::bad_alloc after the
-// enumeration.
+// No exception may leave this callback. The callback instead sets the bool to which `isOutOfMemory`
+// points, and RewriteWindowTexts throws std::bad_alloc after the enumeration.
 BOOL CALLBACK RewriteChild(HWND child, LPARAM isOutOfMemory) {
   try {
     if (IsLabelOrButton(child)) {
       RewriteWindowText(child);
     }
   } catch (...) {
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the enumeration passes a pointer on as a number
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the pointer was passed as an LPARAM
     *reinterpret_cast<bool*>(isOutOfMemory) = true;
   }
   return TRUE;

@@ -7,7 +7,7 @@
 
 namespace wsspi {
 
-// The code of a failure, which is also the index of its text in kSspiErrorTexts.
+// The codes of failures. Each code is also the index of its text in kSspiErrorTexts.
 enum SspiErrorCode : std::int32_t {
   ErrorSuccess = 0,
   ErrorNotInitialized = 1,

@@ -12,8 +12,8 @@ namespace wsspi {
 
 namespace {
 
-// The file name and line numbers that an SspiException reports. The numbers are constants, so that
-// they stay the same when this file is edited.
+// The file name and the line numbers that an SspiException reports. They are constants, not
+// __FILE__ and __LINE__, so they stay the same when this file is edited.
 constexpr const wchar_t* kFile = L"wsspi";
 constexpr std::uint32_t kLineNoLibrary = 47;
 constexpr std::uint32_t kLineNoEntryPoint = 59;

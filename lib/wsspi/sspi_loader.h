@@ -6,10 +6,10 @@ namespace wsspi {
 bool IsSspiInitialized();
 
 // Loads "security.dll" and keeps the function table that its InitSecurityInterfaceW returns. Does
-// nothing when the process already has the table. The library is never freed. If the table cannot
-// be obtained, throws an SspiException (lib/wsspi/sspi_exception.h) by pointer, with ErrorNoLibrary
-// or ErrorNoSecurityInterface; the next call tries again. At worst, two concurrent calls both load
-// the library.
+// nothing when an earlier call has already obtained the table. The library is never freed. If the
+// table cannot be obtained, throws an SspiException (lib/wsspi/sspi_exception.h) by pointer, with
+// ErrorNoLibrary or ErrorNoSecurityInterface. The next call then tries again. At worst, two
+// concurrent calls both load the library.
 void SspiInitialize();
 
 }  // namespace wsspi

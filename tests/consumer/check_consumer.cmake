@@ -1,12 +1,12 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# If `prefix` is set, `source` is a folder in an installed package of the library, and the consumer's find_package must
-# find that package. If `prefix` is not set, the consumer builds the library from its sources.
+# If `prefix` is set (by check_installed.cmake), `source` is a folder in the package installed there, and find_package
+# must find that package. If `prefix` is not set, the consumer builds the library from this project's sources.
 
 if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON
     -D all_headers=${all_headers})
 else()
-  # A consumer may use a unity build, too. It takes a quarter of the time of a normal build.
+  # Uses a unity build, as a consumer may do. A normal build would take four times as long.
   set(library -D CMAKE_DISABLE_FIND_PACKAGE_kelvo=ON -D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=30)
 endif()
 

@@ -24,7 +24,7 @@ static const auto kWatched = std::to_array<Watched>({
 #include "tests/fault_injection/watched.def"
 });
 
-// Replaces GetProcAddress, so that the functions it returns are intercepted like imports.
+// Replaces GetProcAddress: returns the replacement of a watched function (see WatchImports).
 static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   const FARPROC found = GetProcAddress(module, name);
   const auto row = std::ranges::find(kWatched, std::string(name), &Watched::name);
@@ -35,7 +35,7 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   return reinterpret_cast<FARPROC>(row->instead);
 }
 
-// Replaces a watched function's original with `instead`. The test can still make the function fail.
+// Makes calls of a watched function go to `instead`. The test can still make such a call fail.
 #define SIMULATE(function, instead)   \
   interception.originals[#function] = \
       reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
@@ -51,9 +51,8 @@ static void SimulateMachine() {
     written.emplace_back(static_cast<const char*>(bytes), *done = size);
     return TRUE;
   });
-  // Pretends that this program is sorrel.exe.
   SIMULATE(GetModuleFileNameW, [](HMODULE, LPWSTR path, DWORD size) {
-    return static_cast<DWORD>(
+    return static_cast<DWORD>(  // as if this program were sorrel.exe
         std::filesystem::absolute("sorrel.exe").wstring().copy(path, size - 1));
   });
   SIMULATE(GetComputerNameExW, [](auto, LPWSTR name, auto...) -> BOOL {
@@ -69,7 +68,7 @@ static void SimulateMachine() {
     lstrcpyW(*name, L"client");
     return TRUE;
   });
-  // Simulates an ended process: Wine sometimes fails to start a real one.
+  // Simulates a process that has ended, because Wine sometimes fails to start a real process.
   static constexpr auto kStart = [](auto... given) -> BOOL {
     *std::get<sizeof...(given) - 1>(std::tuple(given...)) = {
         CreateEventW(nullptr, TRUE, TRUE, nullptr), CreateEventW(nullptr, TRUE, TRUE, nullptr), 1,
@@ -80,7 +79,7 @@ static void SimulateMachine() {
   SIMULATE(CreateProcessAsUserW, kStart);
 }
 
-// Splits a text into lines, without line ends and without empty lines.
+// Splits a text into lines, and drops line ends and empty lines.
 static Lines LinesOf(const std::string& text) {
   Lines lines;
   std::istringstream stream(text);
@@ -99,9 +98,9 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
   return text;
 }
 
-// Prepares the state in which an operation starts: a list of applications, stores without test
-// certificates, and the registry values and files that operations read. Loads the simulator's
-// bthprops.cpl, so that Windows finds that library by its name alone.
+// Prepares the state in which an operation starts: the list of applications, no test certificates,
+// and the registry values and files that operations read. Loads the simulator's bthprops.cpl: when
+// an operation loads a library by the name "bthprops.cpl", Windows then returns this library.
 struct Machine : ProgramFolder {
   Machine() : ProgramFolder({{L"versioned_english.dll", L"versioned_english.dll"}}) {
     LoadLibraryW((path / "bthprops.cpl").c_str());
@@ -131,9 +130,9 @@ struct Machine : ProgramFolder {
   // killed. kContinues: no call fails, and the run starts from the previous run's final state.
   enum class How { kFails, kEnds, kContinues };
 
-  // Loads the operations' DLL anew, runs operation `index`, and returns the outcome as lines: the
-  // output, the result, the list if it changed, the stores, open handles and memory, and the
-  // simulator's journal. Returns no lines if `index` is past the end of the table.
+  // Loads the operations' DLL anew and runs operation `index`. Returns the outcome as lines: the
+  // output, the result, the list of applications if it changed, the certificates, open handles and
+  // memory, and the simulator's journal. Returns no lines if `index` is past the end of the table.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
     const auto* const operation =
@@ -187,7 +186,7 @@ struct Machine : ProgramFolder {
   OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo faults")};
   std::string name;
   std::map<std::string, int> calls;
-  // The outcome without open handles and journal.
+  // The outcome of the last run, without the lines for open handles and memory and the journal.
   Lines reached;
 };
 
@@ -202,8 +201,8 @@ const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
 const Lines kNoMemory = {"sorrel_status: not enough memory", "= 3"};
 const std::string kNoChange = " no change\r\n";
 
-// Lists the numbers of the lines of `before` that `after` lacks. Then lists the new lines of
-// `after`, each with the number of the line of `before` that it follows.
+// Lists the numbers of the lines that only `before` has. Then lists the lines that only `after`
+// has, each with the number of the line in `before` that it follows.
 static std::string Changes(const Lines& before, const Lines& after) {
   std::string without;
   std::string added;
@@ -226,9 +225,10 @@ static std::string Changes(const Lines& before, const Lines& after) {
   return before == after ? kNoChange : without + "\r\n" + added;
 }
 
-// Checks a run that ended with an exception because malloc failed. Its other lines must occur in
-// the undisturbed run: the list is the old or the final one, and no more handles are open. Not used
-// if an operation without output has this outcome when another function fails.
+// Checks the outcome of a run in which malloc failed: the result must be an exception, and all
+// other lines must occur in the undisturbed run. The list of applications is then the old or the
+// final one, and no more handles are open than in the undisturbed run. An operation without output
+// is not checked in this way if a failed call of another function has the same outcome.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -251,8 +251,8 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
     const bool isReport = machine.name.starts_with("sorrel_status");
     // The distinct outcomes, each with the failing calls that cause it.
     std::vector<std::pair<Lines, std::string>> outcomes;
-    // Outcomes that lack a line of the driver's log. A failed malloc can cause them, too, because
-    // DifxLogCallback catches the exception.
+    // Outcomes whose output lacks a line of the driver log. A failed malloc can cause them, too,
+    // because DifxLogCallback catches the exception.
     std::set<Lines> withoutLogged;
     for (const auto& [function, made] : calls) {
       for (int nth = 1; nth <= made; ++nth) {
@@ -309,12 +309,12 @@ TEST_CASE("install, uninstall: if a run is killed at any call, the next run comp
     machine.Run(index, {});
     const auto [calls, expected] = std::pair(machine.calls, machine.reached);
     for (const auto& [function, made] : calls) {
-      // Skips malloc: a thread that ended there would never release the C runtime's locks.
+      // Skips malloc: a thread that ended in malloc would never release the C runtime's locks.
       for (int nth = 1; nth <= made && function != "malloc"; ++nth) {
         INFO(function, "-", nth);
         const Lines ended = machine.Run(index, {function, nth}, Machine::How::kEnds);
         REQUIRE(std::ranges::count(ended, "= ended") == 1);
-        // The Bluetooth service is set only after the application has been added to the list.
+        // BluetoothSetLocalServiceInfo is called only after the application is on the list.
         const bool isServiceSet = ended.back().starts_with("BluetoothSetLocalServiceInfo ");
         CHECK((!isServiceSet || std::ranges::count(ended, "list: kite;brindle") == 1));
         machine.Run(index, {}, Machine::How::kContinues);

@@ -15,7 +15,7 @@
 
 namespace kelvo::test {
 
-// How a function uses handles. kLeftOut is like kNone, but calls.txt omits the function's calls:
+// Whether a function opens or closes handles. kLeftOut: neither, and calls.txt omits its calls, as
 // their arguments vary from machine to machine, or the outcome already shows the arguments' effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
@@ -31,9 +31,9 @@ struct Watched {
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
-  // The distinct calls, as text. Omits a call if no argument is a string or a nonzero number.
+  // The distinct calls, as text. Calls without a string or a nonzero number are omitted.
   std::set<std::string> shown;
-  // The call that fails: its function and number (from 1). If `ends`, the thread ends instead.
+  // The function and number (from 1) of the call that fails or, if `ends`, that ends the thread.
   std::pair<std::string, int> chosen;
   bool ends = false;
   // Open handles and memory, each with the function that opened it and the functions that close it.
@@ -77,7 +77,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
     return (Result)failure;
   }
   if (closes) {
-    // Keeps a handle in `open` if a different function should have closed it.
+    // A handle stays in `open` if the wrong function closes it.
     std::erase_if(open, [&](const auto& row) {
       return row.second.second.find(name) != std::string_view::npos &&
              ((row.first == (const void*)(ULONG_PTR)given) || ...);
@@ -94,13 +94,13 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
     open.erase(nullptr);
   }
   if (closes) {
-    // Overwrites the last error: code that needs it must read it before closing a handle.
+    // Overwrites the last error, to detect code that reads it only after closing a handle.
     SetLastError(fails ? kFailure : ERROR_SUCCESS);
   }
   return fails ? (Result)failure : result;
 }
 
-// Makes rows for functions that fail alike: WATCH(failure, handles, closers, function, ...).
+// Makes a `Watched` for each function: WATCH(failure, handles, closers, function, ...).
 #define WATCH(...) KELVO_64(KELVO_WATCH(__VA_ARGS__))
 #define KELVO_WATCH(failure, handles, closers, function, ...)                                    \
   Watched{                                                                                       \
@@ -109,7 +109,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
       })),                                                                                       \
       (handles) == kCloses} __VA_OPT__(, KELVO_WATCH_NEXT KELVO_NONE(failure, handles, closers,  \
                                                                      __VA_ARGS__))
-// No macro expands within itself, so KELVO_64 scans the list repeatedly. Each scan makes one row.
+// A macro is not expanded within itself, so KELVO_64 scans repeatedly: one `Watched` per scan.
 #define KELVO_WATCH_NEXT() KELVO_WATCH
 #define KELVO_NONE ()
 #define KELVO_64(...) KELVO_16(KELVO_16(KELVO_16(KELVO_16(__VA_ARGS__))))

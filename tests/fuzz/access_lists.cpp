@@ -41,7 +41,7 @@ static void Corrupt(std::string& list, Input& input) {
   if (input.Number(7) == 1) {
     list.resize(std::max(input.Number(list.size()), sizeof(ACL)) / 4 * 4);
   }
-  // Limits AclSize to the real size: no code could detect that a list claims too much memory.
+  // Limits AclSize to the real size: the library cannot detect an AclSize beyond the ACL's memory.
   WORD claimed = 0;
   std::memcpy(&claimed, &list[2], sizeof(claimed));
   claimed = std::min(claimed, static_cast<WORD>(list.size()));

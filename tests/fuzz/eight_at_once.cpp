@@ -1,4 +1,4 @@
-// Runs eight sorrel.exe at once: the last writer wins, but the application list stays well-formed.
+// Runs sorrel.exe 8 times at once. The last writer wins; the application list stays well-formed.
 
 #include <process.h>
 
@@ -21,7 +21,7 @@ static std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   return process;
 }
 
-// Waits for processes to end. Returns the list, which must have no empty or repeated name.
+// Waits for processes to end, and checks and returns the application list.
 static std::wstring ListAfter(const std::vector<std::intptr_t>& processes) {
   for (const std::intptr_t process : processes) {
     int code = -1;

@@ -10,10 +10,10 @@
 
 namespace kelvo::fuzz {
 
-// If `holds` is false, prints how to repeat the input and ends the program.
+// If `holds` is false, prints `what` and how to repeat the failure, and ends the program.
 void Expect(bool holds, const char* what);
 
-// Makes random choices, which are the same for the same seed.
+// Makes random choices. The same seed always gives the same choices.
 class Input {
  public:
   explicit Input(std::uint64_t seed) : engine_(seed) {}
@@ -43,8 +43,8 @@ class Input {
   std::mt19937_64 engine_;
 };
 
-// Memory of at most 0x10000 bytes with an inaccessible page behind it or, if `atStart` is true, in
-// front of it. Each access to that page is an access violation.
+// Memory of at most 0x10000 bytes, next to an inaccessible page. The page is behind the memory or,
+// if `atStart` is true, in front of the memory.
 class GuardedMemory {
  public:
   GuardedMemory(std::size_t size, bool atStart)
@@ -72,7 +72,7 @@ class GuardedMemory {
   static constexpr std::size_t kRoom = 0x10000;
   // Fills the unused part of a block. A zero there could hide that a string has no terminator.
   static constexpr int kFiller = 0xA5;
-  // Reuses blocks: reserving a block takes longer than most inputs do.
+  // Blocks are reused: reserving a block takes longer than trying most inputs.
   static inline std::vector<BYTE*> freeBlocks;
 
   static BYTE* TakeBlock() {

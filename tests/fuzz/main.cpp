@@ -1,6 +1,6 @@
 // fuzz                         lists the targets
 // fuzz TARGET NUMBER SECONDS   tries inputs on a target for SECONDS, starting with input NUMBER
-// Writes results to standard error: sorrel.exe, which a target runs, writes to standard output.
+// Results go to standard error; standard output is for sorrel.exe, which one target starts.
 
 #include <windows.h>
 
@@ -28,7 +28,7 @@ void Expect(bool holds, const char* what) {
 using namespace kelvo;
 using namespace kelvo::fuzz;
 
-// Reports a fault before a guarded call can catch it.
+// Reports a fault, such as an access violation, before GuardedCall can catch it.
 static LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
   const DWORD code = exception->ExceptionRecord->ExceptionCode;
   Expect(code != EXCEPTION_ACCESS_VIOLATION && code != EXCEPTION_ILLEGAL_INSTRUCTION &&

@@ -11,8 +11,8 @@ namespace kelvo::fuzz {
 constexpr const wchar_t* kKey = L"Software\\kelvo fuzz";
 constexpr const wchar_t* kName = L"value";
 
-// Returns the text that the library should read, up to the first NUL. If the number of bytes
-// is odd, the last byte is a whole unit.
+// Returns the text that the library should read: the data up to the first NUL. If the number of
+// bytes is odd, the last byte becomes one more UTF-16 unit.
 static std::wstring TextIn(const std::string& data) {
   std::wstring text((data.size() + 1) / 2, L'\0');
   std::memcpy(text.data(), data.data(), data.size());
@@ -43,13 +43,13 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   const bool isExpanded = type == REG_EXPAND_SZ && text.find(L'%') != std::wstring::npos;
   const WString read = RegistryReadString(HKEY_CURRENT_USER, kKey, kName, L"default");
   const bool fits = isText && data.size() <= 2048;
-  // Skips a REG_EXPAND_SZ text with "%", or one that may be too long to be expanded.
+  // Does not check a REG_EXPAND_SZ text that has a "%" or may be too long to be expanded.
   if (!isExpanded && (type != REG_EXPAND_SZ || text.length() < 259)) {
     Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is the stored text");
   }
-  // Often chooses a buffer that the value fills exactly.
+  // In half of the runs, the value (without an odd last byte) fills the buffer exactly.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
-  // For a value of one byte, Wine reads in front of the buffer, so the guard page is behind it.
+  // For a one-byte value, Wine reads in front of the buffer, so the guard page is behind it.
   const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());
   const std::size_t stays =
       RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);

@@ -1,4 +1,4 @@
-// Makes VerQueryValueW return random positions and lengths in and around a version resource.
+// Makes VerQueryValueW return a random length and a random position in or near a version resource.
 
 #include <cstdlib>
 #include <memory>
@@ -11,8 +11,8 @@
 
 namespace kelvo::fuzz {
 
-// The version resource, next to a guard page. A request for exactly
-// `resourceSize` bytes gets this memory from the operator new below.
+// The memory for the version resource, next to an inaccessible page. The operator new below returns
+// this memory for each allocation of exactly `resourceSize` bytes.
 static std::size_t resourceSize = 0;
 static std::unique_ptr<GuardedMemory> resource;
 

@@ -1,4 +1,4 @@
-# Checks what the samples' build scripts refuse, what they warn of, and what the packages contain:
+# Checks the build.sh scripts in installers/: their errors and warnings, and the contents of the packages. Usage:
 # cmake -D source_folder=... -D setups=... -P check_setups.cmake
 
 cmake_minimum_required(VERSION 3.25)
@@ -17,7 +17,7 @@ function(expect code text)
   endif()
 endfunction()
 
-# nsis/build.sh warns of an NSIS before 3.11, and needs -DX86 if NSIS can make only 32-bit setups.
+# nsis/build.sh warns if NSIS is older than 3.11, and requires -DX86 if this NSIS cannot make 64-bit setups.
 expect(0 "CVE-2025-43715" ${nsis} "-X!define /redef NSIS_PACKEDVERSION 0x03010000")
 expect(0 "^$" ${nsis} -WX "-X!define /redef NSIS_PACKEDVERSION 0x03011000")
 file(GLOB stubs /usr/share/nsis/Stubs/zlib-x86-* /usr/share/nsis/Stubs/uninst)
@@ -30,7 +30,7 @@ if(NOT manifest OR NOT start MATCHES "504500004c01")
   message(SEND_ERROR "The setup does not ask for an administrator's rights, or is not a 32-bit program")
 endif()
 
-# Settings that a build.sh refuses, because it would make a wrong package from them.
+# The build.sh scripts refuse these settings, because a package with such a setting would be faulty.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
 expect(2 "three numbers" ${msi} VERSION=1.0.0.1)
 foreach(changed UPGRADE_CODE COMPONENT)
@@ -51,7 +51,7 @@ foreach(character ' $ % & < > | ^ ! / "\\" "\"" "\;")
   endforeach()
 endforeach()
 
-# msi/build.sh makes a package silently, or none if a file is missing, and leaves no temporary files.
+# msi/build.sh prints nothing if it succeeds, makes no package if a file is missing, and leaves no temporary files.
 expect(0 "^$" ${msi})
 file(REMOVE ${setups}/made.msi)
 expect(1 "absent.inf" ${msi} INF=absent.inf)
@@ -60,11 +60,11 @@ if(left)
   message(SEND_ERROR "A build that failed has left: ${left}")
 endif()
 
-# The property Log must name the log that run_sorrel.cmd writes: the last action of an installation reads this log.
+# The property Log must name the log that run_sorrel.cmd writes: the last action of an installation reads that file.
 expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi" Property)
 
-# The package's actions that change the computer run as SYSTEM: their types include 2048. An upgrade removes the old
-# version within the transaction (sequence number 1501), so that a failed upgrade restores the old version.
+# The custom actions that change the computer run as SYSTEM: their types contain the bit 2048. An upgrade removes the
+# old version within the transaction (sequence number 1501), so that a failed upgrade restores the old version.
 foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareService\t3394\tsorrel\tuninstall none \"brindle\"\t"
     "{6E1C1DF6-6F3D-4F0E-9A5B-8B6D1F8A3C21}\t1.0.0\t1.0.0\t\t769\t\tWIX_UPGRADE_DETECTED\n" "PrepareService\tNOT REMOVE=\"ALL\"\t4003\n" "AskForRestart\tNOT REMOVE=\"ALL\"\t6601\n"
     "RemoveExistingProducts\t\t1501\n" "ReleaseService\tREMOVE=\"ALL\" AND NOT UPGRADINGPRODUCTCODE\t3400\n"
@@ -73,8 +73,8 @@ foreach(row "PrepareService\t3077\t" "ReleaseService\t3141\t" "UndoPrepareServic
     good/setup.msi)
 endforeach()
 
-# Without /d, cmd.exe also runs the AutoRun commands that a user has set in the registry. A silent setup would wait at a
-# message box that has no default answer (/SD). A user who starts a repair must not see a console that runs as SYSTEM.
+# Without /d, cmd.exe also runs AutoRun commands that a user has set in the registry. Without a default answer (/SD), a
+# message box makes a silent setup wait. A user who starts a repair must not see a console that runs as SYSTEM.
 file(GLOB_RECURSE samples ${source_folder}/installers/*)
 foreach(sample ${samples})
   file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|[\"=]cmd|MessageBox [^/]*$|\"CustomActionData\"., [^0]")

@@ -10,9 +10,10 @@ static const std::wstring kLogs = L"C:\\windows\\logs\\";
 static const std::wstring kStandIns = kLogs + L"stand_ins";
 static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
-// Copies of this program simulate pnputil and certutil, which Wine lacks. A copy writes its name
-// and all but its last argument to kStandIns, and removes the test's INF file or certificates if
-// the arguments name them. With a failure code in the environment variable "ends", it just exits.
+// Copies of this program simulate pnputil and certutil, which Wine lacks or has only as stubs. A
+// copy appends its name and all but its last argument to the file kStandIns. If told to delete the
+// test's INF file or a stored certificate, it deletes the file or all certificates in the store.
+// If the environment variable "ends" is a failure code, the copy only exits with this code.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
@@ -47,8 +48,9 @@ static const bool isStandIn = [] {
   ExitProcess(code);
 }();
 
-// Simulates a person who presses "OK", or "Cancel" if "OK" is disabled, in every window of a setup.
-// Writes the window's title and message (or, without a message, the button's text) to kStandIns.
+// Simulates a user of a setup: in every dialog box, presses the button IDOK, or IDCANCEL if IDOK is
+// hidden or disabled. Appends the box's title to the file kStandIns, followed by the box's message
+// or, if the box has no message, by the button's text.
 [[noreturn]] static DWORD WINAPI PressButtons(void*) {
   for (;; Sleep(20)) {
     for (HWND box = nullptr; (box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr;) {
@@ -73,8 +75,8 @@ static const bool isStandIn = [] {
   }
 }
 
-// Returns the products in "Apps", sorted. Sets %QUIET% to the last product's silent removal
-// command.
+// Returns the products that Windows lists under "Apps" (the registry key "Uninstall"), sorted. Sets
+// the environment variable QUIET to the last product's silent uninstall command.
 static std::wstring Apps() {
   HKEY key = nullptr;
   RegCreateKeyW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall",
@@ -89,7 +91,7 @@ static std::wstring Apps() {
       RegGetValueW(key, name, of, RRF_RT_REG_SZ, nullptr, text, &size);
       return std::wstring(text);
     };
-    // An MSI package has no silent removal command.
+    // Windows Installer does not write this value for an MSI package.
     const std::wstring quiet = value(L"QuietUninstallString");
     CHECK((quiet.empty() || quiet.starts_with(value(L"UninstallString") + L" /S ")));
     apps.emplace(L" " + value(L"DisplayName") + L" " + value(L"DisplayVersion") + L" by " +
@@ -108,9 +110,7 @@ static const std::filesystem::path kProducts[] = {L"C:\\Program Files\\Brindle",
                                                   L"C:\\Program Files\\\u017Dlu\u0165 & Co",
                                                   L"C:\\Program Files\\M\u00F6we Kit"};
 
-// Returns the list of applications, a letter for each trusted certificate (P: publisher, A:
-// authority), the number of files in each product's folder, the products in "Apps", and the
-// files in kLogs that are not logs.
+// Returns the state of the machine in the format that the first lines of lifecycles.txt explain.
 static std::string State() {
   std::wstring state = Applications() + L" | ";
   for (const wchar_t* store : {L"TrustedPublisher", L"CA"}) {
@@ -146,9 +146,8 @@ static std::wstring Expand(const std::wstring& text) {
   return expanded;
 }
 
-// Runs a line of lifecycles.txt: a command line after any number of NAME=VALUE. Each NAME becomes
-// an environment variable; an upper-case NAME gets the prefix SORREL_SIMULATOR_. Returns the exit
-// code.
+// Runs a command of lifecycles.txt and returns its exit code. Each leading NAME=VALUE sets an
+// environment variable for the command; an upper-case NAME gets the prefix SORREL_SIMULATOR_.
 static DWORD Run(std::wstring line) {
   std::vector<std::wstring> names;
   for (std::size_t end = 0; (end = line.find(L'=')) < line.find_first_of(L" \"");) {
@@ -159,14 +158,14 @@ static DWORD Run(std::wstring line) {
     line.erase(0, blank + 1);
   }
   const auto [code, output, errors] = RunChild(Expand(line));
-  CHECK(output.find(">set ") == std::string::npos);  // "echo off" hides the commands of a script
+  CHECK(output.find(">set ") == std::string::npos);  // batch files must not echo commands
   for (const std::wstring& name : names) {
     SetEnvironmentVariableW(name.c_str(), nullptr);
   }
   return code;
 }
 
-// Returns the detection rule, a command line, from the page for administrators.
+// Returns the command line of the detection rule in administrators.md.
 static std::wstring Rule() {
   const std::string page = ReadBytes(ProgramPath(L"installers\\good\\files\\administrators.md"));
   const std::size_t start = page.find("\n\"%ProgramW6432%\\Brindle\\sorrel_status.exe\"") + 1;
@@ -181,7 +180,7 @@ static void PutInPlace(const ScratchFolder& scratch) {
     std::filesystem::remove_all(folder);
   }
   std::filesystem::remove_all(L"C:\\windows\\sysnative");
-  // Lets programs have windows without an X11 display.
+  // Lets programs create windows without an X11 display.
   RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\Wine\\Drivers", L"Graphics", REG_SZ, L"null", 10);
   const std::wstring installers = ProgramPath(L"installers\\");
   std::filesystem::copy(installers + L"good\\files", scratch / L"A & \u017D!");
@@ -213,7 +212,8 @@ static void PutInPlace(const ScratchFolder& scratch) {
 TEST_CASE("deploy.cmd, remove_all.cmd, setups: lifecycles match lifecycles.txt") {
   const CleanMachine machine;
   const ScratchFolder scratch;
-  // Unregisters an earlier build's products: Windows Installer would keep files shared with them.
+  // Unregisters the products of an earlier build. Otherwise, Windows Installer would keep the files
+  // that they share with the products of this build.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
   PutInPlace(scratch);

@@ -1,7 +1,8 @@
 # cmake -D source_folder=... -P check_includes.cmake   checks #include lines against the diagram in docs/development.md
 cmake_minimum_required(VERSION 3.25)
 
-# For each folder, collects all folders below it. The diagram must list the arrows of lower folders first.
+# For each folder, collects all folders that its arrows reach. Above an arrow to a folder, the diagram must have the
+# arrows from that folder.
 file(STRINGS ${source_folder}/docs/development.md arrows REGEX "^ +[a-z]+ --> ")
 foreach(arrow ${arrows})
   string(REGEX MATCHALL "[a-z]+" lower "${arrow}")
@@ -42,7 +43,6 @@ foreach(file ${files})
   endforeach()
 endforeach()
 
-# Checks that docs/library.md lists each public header once and no other file of lib/.
 file(STRINGS ${source_folder}/docs/library.md rows REGEX "\\(\\.\\./lib/")
 list(TRANSFORM rows REPLACE ".*\\(\\.\\./(lib/[^)]*)\\).*" "\\1")
 list(FILTER files INCLUDE REGEX "^lib/[a-z]+/[a-z0-9_]+[.]h$")

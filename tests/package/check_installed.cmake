@@ -3,7 +3,7 @@
 
 cmake_minimum_required(VERSION 3.25)
 
-# install_into(PREFIX ARGUMENT...)   installs into the folder PREFIX and sets `files` to the list of installed files
+# Runs cmake --install with the folder `prefix` and the further arguments. Sets `files` to the list of installed files.
 function(install_into prefix)
   file(REMOVE_RECURSE ${prefix})
   execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET
@@ -12,7 +12,7 @@ function(install_into prefix)
   set(files ${found} PARENT_SCOPE)
 endfunction()
 
-# Each component has exactly these files.
+# Each list has a component's name and then exactly the files that the component installs.
 foreach(component "tool;bin/sorrel.exe;bin/sorrel_status.exe" "symbols;bin/sorrel.pdb;bin/sorrel_status.pdb"
     "simulator;lib/sorrel/simulator/Tessalin.inf;lib/sorrel/simulator/bthprops.cpl;lib/sorrel/simulator/difxapi.dll")
   list(POP_FRONT component name)
@@ -33,11 +33,11 @@ endforeach()
 foreach(file ${files})
   file(STRINGS ${folder}/all/${file} found LIMIT_COUNT 1 REGEX "${source_folder}")
   if(file MATCHES "internal|_test|\\.pdb$" OR found)
-    message(SEND_ERROR "${file} must not be installed, or must not name the source folder: ${found}")
+    message(SEND_ERROR "${file} must not be installed, or must not contain the source folder's path: ${found}")
   endif()
 endforeach()
 
-# The package accepts only a mingw compiler. This script has no compiler, so it must not find the package.
+# kelvo-config.cmake must reject every compiler other than mingw, and also this script, which has no compiler.
 include(${folder}/all/lib/cmake/kelvo/kelvo-config.cmake)
 if(kelvo_FOUND OR NOT kelvo_NOT_FOUND_MESSAGE MATCHES "built for MINGW")
   message(SEND_ERROR "The package must accept only a mingw compiler: ${kelvo_NOT_FOUND_MESSAGE}")

@@ -1,4 +1,4 @@
-# Packs once with signing (by a throw-away certificate) and once without; checks the archives. Set with -D:
+# Runs CPack with signing (by a temporary certificate) and without signing, and checks the archives. Variables (-D):
 # source_folder, project, version, folder, osslsigncode, openssl, wine
 
 cmake_minimum_required(VERSION 3.25)
@@ -17,7 +17,7 @@ set(ENV{SORREL_SIGN_CERTIFICATE} ${folder}/certificate.pem)
 set(ENV{SORREL_SIGN_KEY} ${folder}/key.pem)
 set(ENV{SORREL_SUMS_KEY} ${folder}/key.pem)
 run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/signed)
-# Signing must fail if a program is missing, the key is another certificate's, or the roots lack the signer's root.
+# Signing must fail if a program is missing, the key fits another certificate, or the signer's root is not trusted.
 run(${openssl} req -x509 -newkey rsa:2048 -nodes -keyout ${folder}/other_key.pem -out ${folder}/other.pem -subj "/CN=Other")
 foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${folder}/other.pem)
   file(COPY ${project}/bin/sorrel.exe DESTINATION ${folder}/to_sign/tool)
@@ -27,7 +27,7 @@ foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${fol
   execute_process(COMMAND ${CMAKE_COMMAND} -E env ${fault} ${CMAKE_COMMAND} -D CPACK_TEMPORARY_DIRECTORY=${folder}/to_sign
     -P ${source_folder}/cmake/sign_programs.cmake RESULT_VARIABLE code OUTPUT_QUIET ERROR_QUIET)
   if(code EQUAL 0)
-    message(SEND_ERROR "Signing must fail but did not, with \"${fault}\" (if empty: with a missing program)")
+    message(SEND_ERROR "Signing must fail, but succeeded with this fault: \"${fault}\" (empty: a program is missing)")
   endif()
 endforeach()
 unset(ENV{SORREL_SIGN_CERTIFICATE})
@@ -43,7 +43,7 @@ foreach(kind signed unsigned)
   list(SORT summed)
   foreach(files made summed)
     if(NOT ${files} STREQUAL "kelvo-${version}-win64-mingw-sdk.zip;${base}-simulator.zip;${base}-symbols.zip;${base}.spdx.json;${base}.zip")
-      message(SEND_ERROR "Wrong files ${files} (made: those in ${folder}/${kind}; summed: in its SHA256SUMS): ${${files}}")
+      message(SEND_ERROR "Wrong list ${files} (made: the folder; summed: SHA256SUMS) in ${folder}/${kind}: ${${files}}")
     endif()
   endforeach()
   execute_process(COMMAND sha256sum -c SHA256SUMS WORKING_DIRECTORY ${folder}/${kind}
@@ -56,7 +56,7 @@ if(NOT signed STREQUAL "${base}.spdx.json;${base}.zip")
   message(SEND_ERROR "Signing must change only ${base}.spdx.json and ${base}.zip, but changed: ${signed}")
 endif()
 
-# Each local link on a page of the source or of an archive leads to an existing file and heading.
+# Each local link in a Markdown page of the source folder or of an archive leads to an existing file and heading.
 file(GLOB archives ${folder}/unsigned/*.zip)
 foreach(archive ${archives})
   cmake_path(GET archive STEM LAST_ONLY name)
@@ -99,7 +99,7 @@ file(ARCHIVE_EXTRACT INPUT ${folder}/signed/${base}.zip DESTINATION ${folder})
 execute_process(COMMAND test -x ${folder}/${base}/share/doc/sorrel/installers/msi/build.sh COMMAND_ERROR_IS_FATAL ANY)
 file(GLOB_RECURSE libraries ${folder}/${base}/*.dll ${folder}/${base}/*.cpl)
 if(libraries)
-  message(SEND_ERROR "The programs' archive must have no libraries: ${libraries}")
+  message(SEND_ERROR "The programs' archive must contain no DLLs: ${libraries}")
 endif()
 set(program ${folder}/${base}/bin/sorrel.exe)
 file(SHA256 ${program} sum)

@@ -11,7 +11,7 @@ list(REMOVE_DUPLICATES needed)
 list(SORT needed)
 list(JOIN needed "," needed)
 if(NOT needed STREQUAL libraries)
-  message(SEND_ERROR "${program} must import exactly ${libraries}: more would slow every start. It imports ${needed}")
+  message(SEND_ERROR "${program} must import exactly ${libraries}: further DLLs slow its start. It imports ${needed}")
 endif()
 if(facts MATCHES "\nDelayImport {")
   message(SEND_ERROR "${program} has a delay-load import, which ends the process if it cannot be resolved")
@@ -19,8 +19,8 @@ endif()
 if(facts MATCHES "MEM_EXECUTE [^\n]*\n *IMAGE_SCN_MEM_READ [^\n]*\n *IMAGE_SCN_MEM_WRITE")
   message(SEND_ERROR "${program} has a section that can be written and executed")
 endif()
-# The patterns mean, in order: ASLR, ASLR over the whole address space, DEP, the CET shadow stack, a .pdb name without
-# a folder, a hash instead of the build time, and imports only from the system directory (a setting that Wine ignores).
+# The patterns mean, in order: ASLR, high-entropy ASLR, DEP, the CET shadow stack, a .pdb name without a folder, a hash
+# in place of the build time, and the search for imported DLLs only in the system directory (which Wine ignores).
 foreach(fact "_DYNAMIC_BASE " "_HIGH_ENTROPY_VA " "_NX_COMPAT " "_EX_CET_COMPAT " "PDBFileName: [^/\\\n]+\n" "Type: Repro "
     "DependentLoadFlags: 0x800\n")
   if(NOT facts MATCHES "${fact}")
@@ -33,7 +33,7 @@ if(size GREATER most_bytes)
   message(SEND_ERROR "${program} has ${size} bytes, more than ${most_bytes}")
 endif()
 
-# If the header has a wrong checksum, osslsigncode shows this checksum and the right one, so the list has two.
+# If the header's checksum is wrong, osslsigncode also shows the right one, and `checksums` then has two items.
 execute_process(COMMAND ${osslsigncode} verify ${program} OUTPUT_VARIABLE signature ERROR_QUIET)
 string(REGEX MATCHALL "PE checksum *: [0-9A-F]+" checksums "${signature}")
 list(TRANSFORM checksums REPLACE ".* " "")
@@ -51,7 +51,7 @@ foreach(file ${program} ${pdb})
   endif()
 endforeach()
 
-# Texts that the manifest or the version resource must have.
+# The two GUIDs in the manifest declare support for Windows 7 and for Windows 10.
 file(STRINGS ${program} manifest REGEX "asInvoker|{.*}")
 file(STRINGS ${program} version ENCODING UTF-16LE REGEX "[Nn]ame|Copyright")
 foreach(text "level=\"asInvoker\"" "{35138b9a-5d96-4fbd-8e2d-a2440225f93a}" "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"

@@ -6,12 +6,12 @@
 #include "tests/support/testing.h"
 #include "tests/support/throw_away_prefix.h"
 
-TEST_CASE("GetLocalServerPath: returns the path of the registered file") {
+TEST_CASE("GetLocalServerPath: returns the path of a ProgID's COM local server") {
   RequireThrowAwayPrefix();
   const ScratchFolder folder;
   const WString server = folder.Write("the server.exe", "").c_str();
   const WString filling(261 - server.length(), L'/');
-  // Is a constant, so that a bug in the library cannot make this test delete other keys.
+  // A constant, so that a bug in the library cannot make this test delete other keys.
   const std::wstring classKey = L"CLSID\\{6B2C2B6E-0B62-4C5B-9E0A-2F4B0C1D2E3F}";
   WString path;
   CHECK(GetLocalServerPath(L"kelvo.test", path) == 0x80110411);

@@ -7,8 +7,8 @@
 
 static std::string calls;
 
-// Notes each call and passes it on. Then sets a last error, which RunAsUser must clear before it
-// calls OpenDesktopW or CreateProcessAsUserW.
+// Adds `note` to `calls` and calls the original function. Then changes the last error, which
+// RunAsUser must set to 0 before it calls OpenDesktopW or CreateProcessAsUserW.
 #define NOTE(function, note)                           \
   REPLACE(function, [](auto original, auto... given) { \
     calls += note;                                     \
@@ -17,14 +17,14 @@ static std::string calls;
     return result;                                     \
   })
 
-// Notes a use of token 1 (the session's) or 2 (a duplicate). Returns false for other tokens.
+// Adds a use of token 1 (the session's) or 2 (a duplicate) to `calls`. Returns false for others.
 static bool NoteIfOurs(const char* note, HANDLE token) {
   const auto number = reinterpret_cast<std::uintptr_t>(token) - 0x7700;
   calls += number == 1 || number == 2 ? note + std::to_string(number) : "";
   return number == 1 || number == 2;
 }
 
-TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0; wait or return the handle if asked") {
+TEST_CASE("RunAsUser, LaunchInUserSession: run programs on WinSta0; can wait and return a handle") {
   const ScratchFolder folder;
   const std::wstring program = folder / L"a child.exe";
   CopyFileW(ProgramPath(L"test_child.exe").c_str(), program.c_str(), TRUE);
@@ -33,8 +33,8 @@ TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0; wait or return the 
   const OwnedKernelObject done(CreateEventW(nullptr, FALSE, FALSE, (name + L"_done").c_str()));
   const std::wstring arguments = name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
   const std::wstring command = L"\"" + program + L"\" " + arguments;
-  // The caller's station and desktop, and RunAsUser's calls before and after its wait. The first
-  // row is for LaunchInUserSession. The 0 before an access mask prevents handle inheritance.
+  // Each row has the caller's station and desktop, and RunAsUser's calls before and after it waits.
+  // The first row is for LaunchInUserSession. The 0 before mask 393216 prevents handle inheritance.
   const std::tuple<const wchar_t*, const wchar_t*, std::string, std::string> places[] = {
       {nullptr, nullptr, "", ""},
       {nullptr, nullptr, "create free ", ""},
@@ -43,7 +43,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0; wait or return the 
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  // Opens a stand-in: RunAsUser would change the real WinSta0, which all programs share.
+  // Opens another station: RunAsUser would change the DACL of WinSta0, which all programs share.
   REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);
@@ -57,7 +57,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: start on WinSta0; wait or return the 
   NOTE(CloseDesktop, "close ");
   NOTE(CloseWindowStation, "close ");
   for (const auto& [station, desktop, callsBefore, callsAfter] : places) {
-    // Runs that wait come last: the folder cannot be deleted while a child is still running.
+    // Waits in the last rounds, because the folder cannot be deleted while a child is running.
     for (const auto& [waits, takesHandle] :
          {std::pair{false, true}, {false, false}, {true, true}, {true, false}}) {
       INFO(callsBefore, "waits: ", waits, ", takes the handle: ", takesHandle);
@@ -118,8 +118,8 @@ TEST_CASE("IsOnInteractiveDesktop: ignores letter case, unlike RunAsUser") {
   }
 }
 
-TEST_CASE("LaunchInUserSession: version, session, token and desktop decide which call it makes") {
-  // Each simulated call writes its output handle, even if it fails.
+TEST_CASE("LaunchInUserSession: chooses a function by Windows version, session, token, desktop") {
+  // Each simulated function writes its output handle, even when the function fails.
   HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   auto* const session = +[]() -> DWORD { return 5; };
   const ReplacedExport query(
@@ -137,7 +137,7 @@ TEST_CASE("LaunchInUserSession: version, session, token and desktop decide which
   REPLACE(CreateProcessAsUserW, [=](auto, auto token, auto... given) {
     return !NoteIfOurs("start", token) || fail(given...);
   });
-  // The interactive window station cannot be opened, so that nothing is granted on it.
+  // Opening WinSta0 fails, so that RunAsUser cannot change its DACL.
   REPLACE(OpenWindowStationW, [](auto...) { return nullptr; });
   REPLACE(CreateProcessW, [=](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");

@@ -7,7 +7,7 @@
 #include "lib/sysinfo/computer_name.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("EnableShutdownPrivilege: fails if AdjustTokenPrivileges sets a last error") {
+TEST_CASE("EnableShutdownPrivilege: fails if AdjustTokenPrivileges sets a nonzero last error") {
   for (const DWORD error : {0UL, 1300UL}) {
     REPLACE(AdjustTokenPrivileges, [=](auto...) {
       SetLastError(error);

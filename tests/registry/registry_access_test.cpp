@@ -5,7 +5,7 @@
 #include "lib/registry/registry_write_access.h"
 #include "tests/support/testing.h"
 
-// Each test case uses a StandInKey for this key, so that a mistake cannot delete the user's data.
+// Each test case replaces this key with a StandInKey, so no mistake can delete the user's data.
 HKEY const kRoot = HKEY_CURRENT_USER;
 
 TEST_CASE("RegistryCanWrite: tries a write if elevated or if Windows is older than Vista") {

@@ -58,7 +58,7 @@ TEST_CASE("RegistryReadStringBuffer: fills and terminates the buffer, never writ
   CHECK_BOTH(read(1, REG_SZ, L"\0"s) == L"", read(0, REG_SZ, L"a\0"s) == L"");
 }
 
-TEST_CASE("RegistryWriteString, RegistryWriteExpandString: store the terminator") {
+TEST_CASE("RegistryWriteString, RegistryWriteExpandString: store the terminating NUL") {
   const StandInKey user(HKEY_CURRENT_USER);
   for (const auto& [write, flag] : {std::pair(&RegistryWriteString, RRF_RT_REG_SZ),
                                     {&RegistryWriteExpandString, RRF_RT_REG_EXPAND_SZ}}) {

@@ -5,7 +5,7 @@
 #include "lib/registry/registry_number.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("RegistryReadDword, RegistryReadBinary: read back; RegistryDeleteValue: keeps the key") {
+TEST_CASE("RegistryReadDword, RegistryReadBinary: read values; RegistryDeleteValue: keeps keys") {
   HKEY const root = HKEY_CURRENT_USER;
   const StandInKey user(root);
   const wchar_t* const key = L"key";

@@ -3,7 +3,7 @@
 #include "lib/registry/mui_cache_key.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("EnableRegistryReflection: reports success; GetRegistryViewAccess: returns a flag") {
+TEST_CASE("EnableRegistryReflection: reports the result; GetRegistryViewAccess: returns a flag") {
   const auto succeed = +[](HKEY key) { return key == HKEY_USERS ? 0L : 6L; };
   const auto fail = +[](HKEY) { return 5L; };
   for (const auto function : {succeed, fail, decltype(fail){}}) {
@@ -17,7 +17,7 @@ TEST_CASE("EnableRegistryReflection: reports success; GetRegistryViewAccess: ret
   CHECK_BOTH(GetRegistryViewAccess(0) == 0, GetRegistryViewAccess(3) == 0);
 }
 
-TEST_CASE("GetMuiCacheKeyName: returns one name for XP, another from Vista on, none before XP") {
+TEST_CASE("GetMuiCacheKeyName: returns one name on XP, another from Vista on, none before XP") {
   const std::tuple<DWORD, DWORD, WString> rows[] = {
       {6, 0, L"Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"},
       {5, 2, L"Software\\Microsoft\\Windows\\ShellNoRoam\\MUICache"},

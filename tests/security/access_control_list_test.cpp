@@ -11,16 +11,16 @@
 #include "tests/security/test_acl.h"
 #include "tests/support/testing.h"
 
-// Deletes deny ACEs of `sid` from `list`: the simulated GetSecurityInfo returns `list` itself.
 static void DeleteDenyAces(const TestAcl& list, PSID sid) {
   REPLACE(GetSecurityInfo, [&](auto, auto, auto, auto, auto, auto, ACL** dacl, auto...) {
-    *dacl = list.acl;
+    *dacl = list.acl;  // so DeleteDenyACEofObject changes `list` itself
     return DWORD{ERROR_SUCCESS};
   });
   DeleteDenyACEofObject(sid, nullptr, SE_WINDOW_OBJECT);
 }
 
-TEST_CASE("FindACEInACL, CopyACL, CalculateACLSize: find the last equal ACE, copy all, add sizes") {
+TEST_CASE(
+    "FindACEInACL, CopyACL, CalculateACLSize: find the last equal ACE, copy all ACEs, add sizes") {
   TestAce wanted{.flags = 2, .mask = 7};
   TestAce other{.flags = 2, .mask = 7, .sid = {SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {18}}};
   const TestAcl list({wanted, wanted, {.type = 1, .flags = 2, .mask = 7}, {.mask = 7}, other});
@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: returns the index of the first ACE of the same 
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // A read past the end would fault: the messages with "Failed" would then be missing.
+  // A read past the end would be an access violation. No message with "Failed" would be traced.
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

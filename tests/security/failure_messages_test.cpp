@@ -30,15 +30,15 @@ constexpr FailingCall kWatched[] = {
     RETURNS_ERROR(SetEntriesInAclW), SETS_LAST_ERROR(MakeAbsoluteSD),
     SETS_LAST_ERROR(SetSecurityDescriptorDacl), SETS_LAST_ERROR(SetKernelObjectSecurity),
     SETS_LAST_ERROR(OpenWindowStationW), SETS_LAST_ERROR(OpenDesktopW),
-    // Must be last: RunAsUser closes a station that it cannot return to: later runs lack it.
+    // Must be last: if this call fails, RunAsUser may close the station that later runs need.
     SETS_LAST_ERROR(SetProcessWindowStation)};
 
 // The operation under test, and its messages without those of the operations that it calls.
 static std::wstring operation, traced;
 
-// In each run of an operation, one call to a function of kWatched fails or throws. As a rule, the
-// operation then fails, and traces the name of a function that failed, but not of one that threw.
-// A failed operation "fails at once" unless its last message is "exception caught in __finally".
+// In each run of an operation, one call to a function of kWatched fails or throws. Outcomes:
+//   as a rule: the operation fails, and traces only "FUNCTION Failed", or nothing after a throw
+//   fails: then also traces "exception caught in __finally"; fails at once: does not trace this
 // failure_messages.txt lists, for each outcome and function, the first call with that outcome.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new station in place of the interactive one, which all programs share.
@@ -48,8 +48,8 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   const WindowObjects scope;
   const OwnedKernelObject token = OwnToken();
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
-  // `many` does not fit in the stack buffer of AllowAccessTo..., so that HeapAlloc is called. `few`
-  // is enough for all other operations.
+  // `many` does not fit in the stack buffer of AllowAccessToWinSta and AllowAccessToDesktop, so
+  // they call HeapAlloc. The other operations use `few`.
   const TestAcl many(std::vector<TestAce>(51));
   const TestAcl few(std::vector<TestAce>(3));
   TestAce ace{.mask = 9};
@@ -131,7 +131,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       }
     }
   }
-  // If no call fails, RunAsUser grants this process's user all rights on the interactive desktop.
+  // No call fails: RunAsUser grants this process's user all rights on the interactive desktop.
   WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
   RunAsUser(command, TRUE, nullptr);
   CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);

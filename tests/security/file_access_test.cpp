@@ -9,8 +9,8 @@
 
 static BOOL isWritten = FALSE;
 
-// Runs an action with a simulated file whose DACL is `list`, in SDDL. Wine would not store the DACL
-// of a real file, but only convert it to Unix permission bits.
+// Runs an action with a simulated file whose DACL is `list`, in SDDL. A real file would not work:
+// Wine does not store its DACL, but converts the DACL to Unix permission bits.
 static void WithFile(std::wstring& list, const std::function<void()>& action) {
   REPLACE(GetFileSecurityW, [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
     const OwnedLocalMemory<void> made = FromSddl(list, size);
@@ -36,7 +36,7 @@ static std::string Printed() {
   return text;
 }
 
-TEST_CASE("AddFileAccessRights: replaces the account's ACEs before the first inherited one") {
+TEST_CASE("AddFileAccessRights: replaces the account's ACEs that precede all inherited ACEs") {
   for (auto [list, result] :
        {std::pair<std::wstring, std::wstring>{L"none", L"D:(A;;FA;;;BA)"},
         {L"D:(A;;FR;;;BA)(D;;FW;;;BG)(A;ID;FR;;;BA)", L"D:(D;;FW;;;BG)(A;;FA;;;BA)(A;ID;FR;;;BA)"},

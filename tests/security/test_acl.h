@@ -9,7 +9,7 @@
 
 namespace kelvo::test {
 
-// An ACE in the layout that it has in an ACL. The default SID is S-1-5-19, which is "LS" in SDDL.
+// An ACE as it is laid out in an ACL. The default SID is S-1-5-19, which is "LS" in SDDL.
 struct TestAce {
   ACCESS_ALLOWED_ACE* get() { return reinterpret_cast<ACCESS_ALLOWED_ACE*>(this); }
 
@@ -20,8 +20,8 @@ struct TestAce {
   SID sid{SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {19}};
 };
 
-// An ACL that consists of `entries` and `spare` unused bytes. An inaccessible page follows the ACL:
-// a read past the ACL's end is an access violation. The memory is never freed.
+// An ACL with `entries` and then `spare` unused bytes. An inaccessible page follows the ACL, so a
+// read past the ACL's end causes an access violation. The memory is never freed.
 struct TestAcl {
   explicit TestAcl(const std::vector<TestAce>& entries, std::size_t spare = 0) {
     constexpr std::size_t kRoom = 0x10000;
@@ -38,7 +38,7 @@ struct TestAcl {
   TestAce* aces = nullptr;
 };
 
-// Convert a descriptor's DACL to SDDL, and SDDL (or "none", which means no DACL) to a descriptor.
+// ToSddl converts a descriptor's DACL to SDDL; FromSddl does the reverse. "none" means no DACL.
 inline std::wstring ToSddl(PSECURITY_DESCRIPTOR descriptor) {
   OwnedLocalMemory<wchar_t> text;
   ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, 1, DACL_SECURITY_INFORMATION,
@@ -52,11 +52,11 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
   return descriptor;
 }
 
-// The beginnings, in SDDL, of ACEs that grant all rights on a window station and on a desktop.
+// The start, in SDDL, of an ACE that grants all rights on a window station or on a desktop.
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
-// Returns, in SDDL, the DACL of an object of any type, or "none" for a missing or null DACL.
+// Returns the DACL of an object of any type in SDDL, or "none" when it is missing or null.
 inline std::wstring ReadDacl(HANDLE object) {
   std::vector<BYTE> descriptor(0x10000);
   DWORD size = 0x10000;
@@ -76,14 +76,14 @@ inline OwnedKernelObject OwnToken() {
   return token;
 }
 
-// A window station and a desktop whose DACLs can be read on every version of Wine. Wine 10
-// finds these DACLs with the type SE_KERNEL_OBJECT, but not with SE_WINDOW_OBJECT.
+// A window station and a desktop. Wine 10 finds their DACLs only with the type SE_KERNEL_OBJECT,
+// so the code under test, which passes SE_WINDOW_OBJECT, is made to use that type.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 
   static constexpr auto kAsKernelObject = [](auto original, HANDLE object, SE_OBJECT_TYPE type,
                                              SECURITY_INFORMATION what, auto... rest) {
-    // The code under test must read and write only the DACL, and not protect it from inheritance.
+    // The code under test must use only the DACL, and must not protect it from inheritance.
     CHECK(what == DACL_SECURITY_INFORMATION);
     return original(object, type == SE_WINDOW_OBJECT ? SE_KERNEL_OBJECT : type, what, rest...);
   };

@@ -11,8 +11,8 @@ static TestAce localService;
 
 TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: add one explicit ACE to a DACL") {
   const WindowObjects scope;
-  // In canonical order, the new ACE is the last one in this DACL. Therefore the result is the same
-  // on Wine, whose AddAce ignores the index and always appends.
+  // In this DACL, canonical order puts the new ACE last. The results below therefore also hold on
+  // Wine, whose AddAce ignores the index and always appends.
   const std::wstring before = L"D:(D;;CC;;;LS)(D;;CC;;;WD)";
   WriteDacl(scope.station, before);
   WriteDacl(scope.desktop, before);
@@ -55,7 +55,7 @@ TEST_CASE("AllowAccessToDesktop: uses the heap for ACLs of more than 1,008 bytes
   }
 }
 
-TEST_CASE("DeleteDenyACEofObject: removes all deny ACEs of the SID, except one at index 0") {
+TEST_CASE("DeleteDenyACEofObject: removes all deny ACEs for the SID, except one at index 0") {
   const WindowObjects scope;
   const wchar_t* const cases[][2] = {
       {L"D:(A;;CC;;;WD)(D;;CC;;;LS)(D;;DC;;;LS)(D;;CC;;;NS)(D;ID;CC;;;LS)(A;;CC;;;LS)",

@@ -55,7 +55,7 @@ TEST_CASE("IsPublishedName: accepts only oemNUMBER.inf") {
   }
 }
 
-TEST_CASE("QueryService: counts the service's device nodes unless they are clearly remote") {
+TEST_CASE("QueryService: finds a device of the service unless its ids show a remote device") {
   const std::wstring id = L"BTHENUM\\{3abb9028-beae-4bf1-acd7-5cd7d5e4e0ca}";
   struct Row {
     std::wstring ids, instanceId;
@@ -99,7 +99,7 @@ TEST_CASE("QueryService: counts the service's device nodes unless they are clear
       +[](HDEVINFO, PSP_DEVINFO_DATA, DWORD property, PDWORD, PBYTE out, DWORD size,
           PDWORD needed) -> BOOL {
         CHECK(property == SPDRP_HARDWAREID);
-        // Returns no NULs at the end, since drivers may omit them.
+        // Omits the terminating NULs, as a driver may do.
         const auto bytes = static_cast<DWORD>(row.ids.length() * sizeof(wchar_t));
         if (out == nullptr) {
           return *needed = bytes, FALSE;
@@ -123,7 +123,7 @@ TEST_CASE("QueryService: counts the service's device nodes unless they are clear
   }
 }
 
-// The program's output, in a buffer that needs no allocation.
+// The program's last output. The buffer is static because Run can make allocations fail.
 static char written[0x1000];
 
 struct Conditions {
@@ -149,7 +149,7 @@ static int Run(const wchar_t* option, const wchar_t* value, const Conditions& co
   return code;
 }
 
-TEST_CASE("AnswerCommandLine: returns 3 if standard output exists but cannot be written") {
+TEST_CASE("AnswerCommandLine: returns 3 if standard output exists but cannot be written to") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
   CHECK(Run(L"--application", L"a", {nullptr, FALSE}) == 1);
   CHECK(Run(L"--application", L"a", {INVALID_HANDLE_VALUE, FALSE}) == 1);
@@ -187,7 +187,7 @@ TEST_CASE("AnswerCommandLine: names Windows 10, searches 200 token groups, reads
   const auto windows10 = PretendWindows(VER_PLATFORM_WIN32_NT, 10, 0);
   Run(L"--json", nullptr);
   CHECK(std::strstr(written, "\"administrator\": false"));
-  // Simulates a filtered token, in which the Administrators group only denies access.
+  // Simulates a filtered token, in which the Administrators group is deny-only.
   token.others[kCount - 2] = {administrators, SE_GROUP_USE_FOR_DENY_ONLY};
   Run(L"--json", nullptr);
   CHECK(std::strstr(written, "\"administrator\": true"));

@@ -17,9 +17,9 @@ static std::wstring FromUtf8(const std::string& text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
 
-// Cleans the machine, and creates and enters a folder. This folder has certificates, INF files,
-// both programs and the simulator's libraries. Its subfolder "versioned" has a second
-// sorrel_status.exe and a copy of sorrel.exe named difxapi.dll: it has a version resource.
+// Cleans the machine. Makes a new current folder with certificates, INF files, both programs and
+// the simulator's libraries. Its subfolder "versioned" has a second sorrel_status.exe, and a copy
+// of sorrel.exe named difxapi.dll, because sorrel.exe has a version resource.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -60,7 +60,7 @@ struct Machine : ProgramFolder {
   static inline OwnedFile locked;
 };
 
-// Changes to the machine, each with the line of lifecycle.txt at which the test makes the change.
+// Maps a line of lifecycle.txt to the change that the test makes to the machine at that line.
 static const std::map<std::string, std::function<void()>> kChanges = {
     {"* Tessalin.inf is published as oem8.inf, incomplete.inf as oem9.inf; oem7.inf is a folder",
      [] {
@@ -76,7 +76,7 @@ static const std::map<std::string, std::function<void()>> kChanges = {
      [] { RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\SystemCertificates\\CA"); }},
 };
 
-// Returns the administrators' page, which shows the usage and an example.
+// Returns the text of docs/administrators.md, which shows the usage text and a JSON report.
 static std::string Page() { return ReadBytes(ProgramPath(L"expected\\administrators.md")); }
 static std::string ShownOnPage(const std::string& kind) {
   const std::string page = Page();
@@ -84,8 +84,8 @@ static std::string ShownOnPage(const std::string& kind) {
   return Replaced(page.substr(from, page.find("```", from) - from), "\n", "\r\n");
 }
 
-// Checks that the JSON form is ASCII, that its values are in the text form, and that the
-// administrators' page lists every JSON key of an item.
+// Checks that the JSON report is ASCII, that the text report contains the values of its items, and
+// that docs/administrators.md lists every key of these items.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;
   const Json report = Json::parse(json.output);
@@ -103,14 +103,14 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
                                 : value.is_string()
                                     ? ToVisibleUtf8(FromUtf8(value.get<std::string>()))
                                     : "";
-      // For these two keys, the two forms use different words.
+      // The text report may express the values of these two keys in other words.
       CHECK((key == "item" || key == "list" || line.find(shown) != std::string::npos));
     }
   }
 }
 
 TEST_CASE(
-    "sorrel_status.exe: writes lifecycle.txt's reports, also as JSON, loads no simulated library") {
+    "sorrel_status.exe: its reports match lifecycle.txt, also as JSON; it loads no simulator DLL") {
   const Machine machine;
   std::istringstream lifecycle(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
   std::string seen;
@@ -124,7 +124,7 @@ TEST_CASE(
       ProgramFolder::Run(FromUtf8(line.substr(2)));
       seen += line + "\r\n\r\n";
     } else if (line.starts_with("> ")) {
-      // If the line in lifecycle.txt ends with --json, the JSON form must be the page's example.
+      // A line in lifecycle.txt ends with --json if docs/administrators.md shows its JSON report.
       const std::wstring command = FromUtf8(Replaced(line.substr(2), " --json$", ""));
       std::filesystem::remove("journal");
       const ChildResult text = ProgramFolder::Run(command);

@@ -24,10 +24,10 @@ TEST_CASE("ReplaceAll: accepts pointers into the text, throws if memory runs out
   text = L"aaabaa";
   CHECK(ReplaceAll(text, L"aa", L"cc") == 2);
   CHECK(text == L"ccabcc");
-  // Makes the allocation of the result fail.
   const WString many(2000, L'x');
   text = many;
   const std::wstring longer(2000, L'y');
+  // Makes the allocation of the result fail.
   REPLACE(malloc, [](auto original, std::size_t size) {
     return size > 1'000'000 ? nullptr : original(size);
   });

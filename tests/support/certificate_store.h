@@ -10,8 +10,8 @@
 
 namespace kelvo::test {
 
-// Returns the subjects of the certificates in a system store of the local machine, or an empty text
-// if the store does not exist. Does not create the store.
+// Returns the subject names of the certificates in a local-machine system store, one after another,
+// or an empty string if the store does not exist. Does not create the store.
 inline std::wstring SubjectsInStore(const wchar_t* name) {
   HCERTSTORE store =
       CertOpenStore(CERT_STORE_PROV_SYSTEM_W, 0, 0,
@@ -27,9 +27,9 @@ inline std::wstring SubjectsInStore(const wchar_t* name) {
   return subjects;
 }
 
-// Empties the two stores that sorrel.exe writes to, and creates them if they are missing. In a
-// throw-away prefix, these stores have only test certificates. Deletes registry keys, because
-// Wine's CertDeleteCertificateFromStore does not delete a certificate permanently.
+// Empties the two stores that sorrel.exe writes to, and creates missing ones. In a throw-away Wine
+// prefix, these stores have only test certificates. Deletes the certificates' registry keys,
+// because Wine's CertDeleteCertificateFromStore does not delete a certificate permanently.
 inline void RemoveTestCertificates() {
   RequireThrowAwayPrefix();
   for (const std::wstring name : {L"TrustedPublisher", L"CA"}) {

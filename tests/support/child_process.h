@@ -34,7 +34,7 @@ inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = n
   startup.hStdOutput = output.get();
   startup.hStdError = errors.get();
   PROCESS_INFORMATION started{};
-  // Retries: under load, Wine sometimes fails to start a process (ERROR_INTERNAL_ERROR).
+  // Tries again, because under load Wine sometimes cannot start a process (ERROR_INTERNAL_ERROR).
   for (DWORD pause = 0; CreateProcessW(program, commandLine.data(), nullptr, nullptr, TRUE, 0,
                                        nullptr, nullptr, &startup, &started) == FALSE;
        Sleep(pause += 50)) {

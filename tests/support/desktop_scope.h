@@ -6,8 +6,8 @@
 
 namespace kelvo::test {
 
-// Moves this process to a window station and this thread to a desktop until this object is
-// destroyed. Creates a missing station or desktop. A null name keeps the current one.
+// Assigns this process to a window station and this thread to a desktop until this object is
+// destroyed. Creates a missing station or desktop. A null name means no change.
 struct DesktopScope {
   DesktopScope(const wchar_t* stationName, const wchar_t* desktopName) {
     constexpr DWORD kAccess = 0x1FF | READ_CONTROL | WRITE_DAC;
@@ -25,9 +25,9 @@ struct DesktopScope {
       SetThreadDesktop(desktop);
     }
   }
-  // Uses a new desktop, because Wine opens it on this process's X11 display. The prefix's first
-  // desktop uses the X11 display of the prefix's first process, or none if that process had none. A
-  // process keeps the X11 display of its first window.
+  // Uses a new desktop, which Wine opens on this process's X11 display. The initial desktop uses
+  // the display of the first process in the Wine prefix, which may have had no display. A process
+  // keeps the display of its first window, so create this object before any window.
   DesktopScope()
       : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}
   DesktopScope(const DesktopScope&) = delete;
@@ -44,7 +44,7 @@ struct DesktopScope {
   HDESK desktop = nullptr;
 };
 
-// Returns "station\desktop" of this process and thread.
+// Returns the names of this process's station and this thread's desktop, as "station\desktop".
 inline std::wstring CurrentDesktop() {
   wchar_t station[99] = L"", desktop[99] = L"";
   HDESK const current = GetThreadDesktop(GetCurrentThreadId());

@@ -8,11 +8,11 @@
 
 namespace kelvo::test {
 
-// The error code of a call that is made to fail.
 constexpr DWORD kFailure = 1234;
 
-// A function that a test can make fail. `run(nth, throws, action)` runs `action`, in which the nth
-// call of the function fails, or throws if `throws` is true. Returns whether there was an nth call.
+// A Windows function that tests can cause to fail. `run` calls `action`. During `action`, the
+// nth call of the function throws an exception if `throws` is true, and otherwise fails with the
+// error code kFailure. `run` returns whether there was an nth call.
 struct FailingCall {
   const char* function;
   bool (*run)(int nth, bool throws, const std::function<void()>& action);

@@ -14,7 +14,7 @@ namespace kelvo::test {
 
 // A new folder, deleted with all its contents when this object is destroyed.
 struct ScratchFolder {
-  // Skips the numbers of existing folders, which belong to running or crashed tests.
+  // Skips folder names that already exist: those folders belong to running or crashed tests.
   ScratchFolder() {
     do {
       path = std::filesystem::temp_directory_path() / (L"kelvo test " + std::to_wstring(++made));
@@ -44,15 +44,15 @@ inline std::string ReadBytes(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// Returns the path of a file in this test program's folder, which has all programs and test files.
+// Returns a path in this test program's folder. All programs and test files are in that folder.
 inline std::wstring ProgramPath(const std::wstring& name) {
   std::wstring self(32768, L'\0');
   GetModuleFileNameW(nullptr, self.data(), 32768);
   return std::filesystem::path(self.c_str()).replace_filename(name);
 }
 
-// Compares `seen` byte by byte with one of kelvo_add_test's EXPECTED files. When they differ, shows
-// the first difference and writes `seen` to the expected file's path plus ".seen".
+// Compares `seen` byte by byte with an expected file (EXPECTED in kelvo_add_test). If the contents
+// differ, shows the first difference and writes `seen` to the same path with ".seen" appended.
 inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);
   const std::string expected = ReadBytes(path);

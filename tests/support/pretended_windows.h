@@ -6,8 +6,8 @@
 
 namespace kelvo::test {
 
-// Until the returned object is destroyed, makes GetVersionExW report the given version, and 1381 in
-// the low word of the build number:
+// Makes GetVersionExW report the given version until the returned object is destroyed. The low word
+// of the reported build number is 1381. Example:
 //   const auto vista = PretendWindows(VER_PLATFORM_WIN32_NT, 6, 0);
 inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
                            const wchar_t* servicePack = L"") {

@@ -12,14 +12,14 @@
 //
 // Replaces an imported function with a lambda that takes the original function and the arguments:
 //   REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
-// Makes GetProcAddress return another function of the same type, or null to simulate a Windows that
-// lacks the function:
+// Makes GetProcAddress return another function of the same type or, as here, null, which simulates
+// a Windows version that lacks the function:
 //   const ReplacedExport native("GetNativeSystemInfo", nullptr);
 
 namespace kelvo::test {
 
 // Calls `visit(library, function, slot)` for each function that a module imports by name, until
-// `visit` returns true.
+// `visit` returns true. `slot` is the function's entry in the import address table.
 template <typename Visit>
 void VisitImports(HMODULE module, Visit visit) {
   auto* const image = reinterpret_cast<BYTE*>(module);
@@ -29,7 +29,7 @@ void VisitImports(HMODULE module, Visit visit) {
       image + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
   for (; library->Name != 0; ++library) {
     for (DWORD at = 0;; at += sizeof(ULONG_PTR)) {
-      // Copies pointers with memcpy: mingw's import libraries align them to only 4 bytes.
+      // Uses memcpy, because mingw's import libraries align the table entries to only 4 bytes.
       ULONG_PTR name = 0;
       std::memcpy(&name, image + library->OriginalFirstThunk + at, sizeof(name));
       if (name == 0) {
@@ -45,7 +45,7 @@ void VisitImports(HMODULE module, Visit visit) {
   }
 }
 
-// Redirects a module's calls of an imported function to `target`. Returns the previous target.
+// Redirects a module's calls to an imported function to `target`. Returns the previous target.
 inline void* SwapImport(const std::string& function, void* target,
                         HMODULE module = GetModuleHandleW(nullptr)) {
   void* previous = nullptr;
@@ -108,7 +108,7 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
   })
 
 // Until this object is destroyed, makes GetProcAddress return `function` for the name `exported`,
-// in any module. Null simulates a Windows that lacks the export.
+// in any module. A null `function` simulates a Windows version that lacks the export.
 struct ReplacedExport {
   ReplacedExport(const char* exported, void* function) : name(exported) {
     replaced[name] = reinterpret_cast<FARPROC>(function);

@@ -12,8 +12,8 @@ namespace kelvo::test {
 // The path, below HKEY_CURRENT_USER, of a registry key that does not exist at first. The key is
 // deleted with everything below it when this object is destroyed.
 //
-// Makes the name and deletes the key without the library under test: if a bug in the library made
-// the name empty, the user's whole registry would be deleted.
+// This type does not use the library under test: if a bug in the library made the path empty, the
+// destructor would delete everything below HKEY_CURRENT_USER.
 struct ScratchKey : std::wstring {
   ScratchKey()
       : std::wstring(L"Software\\kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " +
@@ -25,7 +25,7 @@ struct ScratchKey : std::wstring {
 };
 
 // Stores `units`, without their last `cutBytes` bytes, as a value. In the buffer, "#" follows
-// `units`: if a NUL followed the bytes to store, Windows would store that NUL too.
+// `units` but is not stored: if a NUL followed the stored bytes, Windows would also store that NUL.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);

@@ -11,11 +11,11 @@
 namespace kelvo::test {
 
 // Returns an argument as text to compare: a number, a constant string (without the folder if it
-// is a full path), a key, or fields of a structure. Null is "0", other pointer types "given".
+// is a full path), a key, or fields of a structure. Null is "0". Any other pointer is "given".
 template <typename Argument>
 std::string Shown(Argument argument) {
   if constexpr (std::is_same_v<Argument, SIZE_T>) {
-    return "size";  // a size, such as that of a token's groups, differs between machines
+    return "size";  // some sizes, such as that of a token's groups, depend on the machine
   } else if constexpr (std::is_integral_v<Argument> || std::is_enum_v<Argument>) {
     return std::to_string(static_cast<long long>(argument));
   } else if constexpr (std::is_same_v<Argument, LPCSTR> || std::is_same_v<Argument, LPCWSTR>) {

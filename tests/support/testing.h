@@ -25,7 +25,7 @@
   CHECK(first);                   \
   CHECK(second)
 
-// Shows a text in the message of a failed check.
+// Makes doctest show a wide string in the message of a failed check.
 template <>
 struct doctest::StringMaker<std::wstring> {
   static doctest::String convert(const std::wstring& text) {

@@ -11,8 +11,8 @@ static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(simulatedText.length()) + (simulatedText.length() < size ? 0 : 1);
 }
 
-// Stores a name that begins with the format's number. For the DNS host name, sets `size` as for a
-// one-character name, so that the tests fail if the code uses this size for another format.
+// Stores a name that begins with the number of `format`. For ComputerNameDnsHostname, sets `size`
+// to 2, so that the tests fail if the code uses this size for a longer name in another format.
 static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
   const std::size_t length = format == ComputerNameDnsHostname ? 1 : simulatedText.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));
@@ -27,7 +27,7 @@ static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
 
 static WString x(std::size_t count) { return {count, L'x'}; }
 
-TEST_CASE("GetSystemDirectoryPath, GetSystemWow64DirectoryPath: end in a separator, or are empty") {
+TEST_CASE("GetSystemDirectoryPath, GetSystemWow64DirectoryPath: add a missing final separator") {
   REPLACE(GetSystemDirectoryW, [](auto, auto... to) { return GiveDirectory(to...); });
   const WString rows[][3] = {{L"C:\\\u017E", L"C:\\\u017E\\", L"C:\\\u017E\\"},
                              {L"C:/x/", L"C:/x/", L"C:/x/"},
@@ -47,7 +47,7 @@ TEST_CASE("GetSystemDirectoryPath, GetSystemWow64DirectoryPath: end in a separat
   CHECK(GetSystemWow64DirectoryPath().empty());
 }
 
-TEST_CASE("GetUserNameFQ, GetComputerNameFQ: return the full name, else the plain name") {
+TEST_CASE("GetUserNameFQ, GetComputerNameFQ: fall back on the account name or NetBIOS name") {
   // Keeps secur32.dll loaded, because Wine takes a long time to load it again for each call.
   const OwnedModule kept(LoadLibraryW(L"secur32.dll"));
   const auto give = [](auto, wchar_t* name, DWORD* size) {

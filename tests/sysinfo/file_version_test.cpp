@@ -16,7 +16,7 @@ TEST_CASE(
   int freed = 0;
   COUNT_CALLS(GlobalUnlock, freed);
   COUNT_CALLS(GlobalFree, freed);
-  // Simulates memory that is not zero at first, and a resource that ends in "!!".
+  // Fills allocated memory with a value other than 0. Makes each version resource end in "!!".
   REPLACE(GlobalLock, [](auto original, auto memory) {
     return std::memset(original(memory), 0x11, GlobalSize(memory));
   });
@@ -27,11 +27,11 @@ TEST_CASE(
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // If a value's path has `pathLength` units, VerQueryValueW returns place `from` + `offset` bytes.
-  char name[99] = "", from[9] = "";
+  // For a path of `pathLength` units, VerQueryValueW returns `from` + `offset` bytes, and `length`.
+  char name[99] = "", from[9] = "";  // from: "start" or "end" (of the resource), or "found"
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
-  UINT length = 0;  // of the value at that place
+  UINT length = 0;
   REPLACE(VerQueryValueW, [&](auto original, auto block, auto* path, auto found, auto claimed) {
     const BOOL answer = original(block, path, found, claimed);
     if (std::wcslen(path) == pathLength) {
@@ -60,7 +60,7 @@ TEST_CASE(
   });
 }
 
-TEST_CASE("IsIEVersionAtLeast: reads the system directory; GetIEVersionName: keeps the last name") {
+TEST_CASE("IsIEVersionAtLeast: reads the system DLL; GetIEVersionName: keeps the last name found") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));

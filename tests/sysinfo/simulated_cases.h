@@ -6,12 +6,12 @@
 
 namespace kelvo::test {
 
-// The left side of the current case ("given = result"). Lists a system's differences from the
-// defaults, such as "5.1, type 2, bits 32", or a file, a version and changes to its resource.
+// The current case without its result: a system's differences from the defaults (for example "5.1,
+// type 2, bits 32"), or a file, a version and changes to the file's version resource.
 inline std::string given;
 inline bool Has(const std::string& word) { return given.find(word) != std::string::npos; }
 
-// Returns the number that follows `word` in the case, or `usual` if the case does not have `word`.
+// Returns the number that follows `word` in `given`, or `usual` if `given` does not contain `word`.
 inline DWORD Number(const std::string& word, DWORD usual) {
   const std::size_t at = given.find(word + " ");
   return at == std::string::npos ? usual
@@ -19,7 +19,7 @@ inline DWORD Number(const std::string& word, DWORD usual) {
 }
 
 // For each case in the file, sets `given` and calls `run`. Then checks that the results are those
-// in the file. A case is "given = result"; lines that start with a space continue it.
+// in the file. A case is "given = result"; lines that start with a space continue the case.
 template <typename Run>
 void RunCases(const std::wstring& file, const Run& run) {
   std::istringstream cases(ReadBytes(ProgramPath(L"expected\\" + file)));

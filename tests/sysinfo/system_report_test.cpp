@@ -11,7 +11,7 @@ static UINT Write(wchar_t* to, const std::wstring& text) {
   return static_cast<UINT>(lstrlenW(lstrcpyW(to, text.c_str())));
 }
 
-TEST_CASE("CollectSystemReport: each entry has the value that its name says") {
+TEST_CASE("CollectSystemReport: gives each entry the value that its name describes") {
   const ReplacedExport computer(
       "GetComputerNameExW", +[](int format, wchar_t* name, DWORD* size) -> BOOL {
         *size = 10;

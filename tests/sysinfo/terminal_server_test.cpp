@@ -4,7 +4,7 @@
 
 TEST_CASE("IsProductSuiteInstalled: finds a suite in the list") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
-  // The last two lists have no terminator; the last one also lacks half of its last character.
+  // The last two sizes leave out the terminators; 33 also leaves out half of the last character.
   const std::tuple<DWORD, const wchar_t*, DWORD, bool> lists[] = {
       {REG_SZ, L"Terminal Server\0", 34, false},
       {REG_MULTI_SZ, L"A\0terminal Server\0", 38, false},

@@ -5,7 +5,8 @@
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// Cleans the machine, and creates and enters a folder with certificates and these programs:
+// Removes the list of applications and the test certificates. Creates a folder with certificates
+// and the programs below, and makes it the current folder:
 //   sorrel.exe, with the simulator's two libraries
 //   alone\sorrel.exe, without these libraries
 //   swapped\sorrel.exe, with the libraries' names swapped: each lacks the expected functions
@@ -25,14 +26,14 @@ struct Rehearsal : ProgramFolder {
       RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), library.c_str(), REG_SZ, L"", 2);
     }
     Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
-    // Avoids a file of 0 bytes, for which Wine 8 would import uninitialised data from its stack.
+    // Not a file of 0 bytes: for such a file, Wine 8 would import uninitialised stack data.
     Write("empty.cer", "\n");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
 
   // Runs a command line. NAME=value before the program sets an environment variable for this run.
-  // Returns the output, the exit code, the list of applications, the certificates in each store,
-  // and the simulator's journal.
+  // Returns the output, the exit code, the list of applications, the certificates in the stores
+  // "TrustedPublisher" and "CA", and the simulator's journal.
   static std::string Run(std::wstring line) {
     std::filesystem::remove("journal");
     std::vector<std::wstring> variables;
@@ -56,12 +57,11 @@ struct Rehearsal : ProgramFolder {
 
 TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt") {
   const Rehearsal machine;
-  // Accepts CRLF and LF, since an editor may write either.
   std::string bytes = ReadBytes(ProgramPath(L"expected\\transcript.txt"));
-  std::erase(bytes, '\r');
+  std::erase(bytes, '\r');  // An editor may have written CRLF or LF.
   std::istringstream transcript(bytes);
-  // Blocks of lines, each with the name of the block. The file defines a block as "@NAME:", its
-  // lines and an empty line.
+  // The lines and the name of each block. In transcript.txt, a block consists of a line "@NAME:",
+  // the lines and an empty line.
   std::vector<std::pair<std::string, std::string>> named;
   std::string seen;
   for (std::string line; std::getline(transcript, line);) {
@@ -77,7 +77,7 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt")
       seen += line + "\r\n" + text + "\r\n";
     } else if (line.starts_with("> ")) {
       std::string outcome = Rehearsal::Run({line.begin() + 2, line.end()});
-      // An "@NAME" that the program writes must not be taken for the lines of that block.
+      // An "@" in the program's output could be mistaken for the name of a block.
       CHECK(outcome.find('@') == std::string::npos);
       for (const auto& [text, name] : named) {
         for (std::size_t at = 0; (at = outcome.find(text)) != std::string::npos;) {
@@ -90,7 +90,7 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt")
   CheckAgainstFile(seen, L"transcript.txt");
 }
 
-TEST_CASE("install: writes every line, of any length, before a crash") {
+TEST_CASE("install: writes all lines, even long ones, before a crash in difxapi.dll") {
   const Rehearsal machine;
   const std::wstring path(32'000, L'p');
   const std::wstring text(6'000, L'l');
@@ -105,7 +105,7 @@ TEST_CASE("install: writes every line, of any length, before a crash") {
   CHECK_BOTH(run.exitCode == ERROR_PROCESS_ABORTED, run.errors.empty());
 }
 
-TEST_CASE("register: adds to a readable list, replaces other values") {
+TEST_CASE("register: adds to a list that it can read, and replaces a value that it cannot read") {
   const Rehearsal machine;
   struct Row {
     DWORD type;

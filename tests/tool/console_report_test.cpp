@@ -3,10 +3,10 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("FormatSystemMessage: returns the whole text, or an empty text if FormatMessageW fails") {
+TEST_CASE("FormatSystemMessage: returns the message, or an empty string if FormatMessageW fails") {
   DWORD answer = 0;
   REPLACE(FormatMessageW, [&](auto, auto, auto, auto, auto, LPWSTR buffer, auto, auto) {
-    // Fills the buffer even when the call fails.
+    // Writes to the buffer even when FormatMessageW returns 0, which means failure.
     lstrcpyW(buffer, L"half a text");
     return answer;
   });

@@ -6,7 +6,7 @@ TEST_CASE("ListWithApplication: is case-sensitive; ListWithoutApplication: ignor
   struct Row {
     WString list, name, result;
   };
-  // "-" means that there is no new list to write.
+  // "-" stands for std::nullopt.
   const Row added[] = {{L"", L"brindle", L"brindle"}, {L"brindle", L"rind", L"-"},
                        {L"brindle", L"", L"-"},       {L"", L"", L"-"},
                        {L"a", L"A", L"a;A"},          {L"a;;b;", L"c", L"a;;b;;c"},

@@ -18,7 +18,7 @@ TEST_CASE("EnableLoadDriverPrivilege: fails if AdjustTokenPrivileges sets ERROR_
       SetLastError(error);
       return TRUE;
     });
-    // Closing the token must not hide the last error of AdjustTokenPrivileges.
+    // The last error of AdjustTokenPrivileges must be read before CloseHandle changes it.
     REPLACE(CloseHandle, [&](auto original, HANDLE handle) {
       original(handle);
       SetLastError(ERROR_INVALID_HANDLE);

@@ -4,7 +4,7 @@
 #include "tool/driver_interface.h"
 
 TEST_CASE(
-    "NarrowLibrarySearch: keeps only the program and system folders, or drops the current one") {
+    "NarrowLibrarySearch: keeps only program and system folders, or drops the current folder") {
   static DWORD directories;
   static BOOL isSupported;
   const auto set = +[](DWORD given) { return directories = given, isSupported; };
@@ -27,7 +27,7 @@ TEST_CASE(
   }
 }
 
-TEST_CASE("BindDriverInterface: loads by path, from the program's folder first") {
+TEST_CASE("BindDriverInterface: loads the library by full path, from the program's folder first") {
   const ScratchFolder folder;
   std::wstring asked;
   bool isPathKnown = true;

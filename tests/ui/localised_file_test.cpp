@@ -12,7 +12,7 @@ TEST_CASE("FindLocaleName, FindLocaleId: return the same names and LCIDs as Wind
     }
     ++count;
     CHECK(FindLocaleId(name) == id);
-    // Skips Konkani, whose name in Wine 10 includes its script.
+    // Skips Konkani: its locale name in Wine 10 includes the writing system.
     if (id != 0x0457) {
       wchar_t known[LOCALE_NAME_MAX_LENGTH] = L"";
       LCIDToLocaleName(id, known, LOCALE_NAME_MAX_LENGTH, 0);
@@ -38,8 +38,8 @@ TEST_CASE("FindLocalisedFile: finds the file for the language, or for the neares
   CHECK(GetLocalisedFilePath(nullptr, L"a", 0x0407, kSuffix) == L"a_de-DE");
   CHECK(GetLocalisedFilePath(L"C:\\x", L"a", 0xFFFF, kSuffix) == L"");
   CHECK(GetLocalisedFilePath(L"C:\\x", nullptr, 0x0407, kSuffix) == L"");
-  // Each step makes a file, or only a folder if the path ends in a separator. The second column is
-  // the file that is found for German (Germany) after that step.
+  // Each step creates a file, or only a folder if the path ends in a backslash. The second column
+  // is the file that is found for German (Germany) after that step.
   const wchar_t* const steps[][2] = {
       {L"\u00E9_old.x", L""},
       {L"\u00E9_de-DE.x\\", L""},

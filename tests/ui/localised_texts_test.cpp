@@ -6,7 +6,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("ChooseResourceLanguage: exact language, else related, else English, else the first") {
+TEST_CASE("ChooseResourceLanguage: exact, else same primary language, else English, else first") {
   using Languages = std::vector<LANGID>;
   const auto languagesOf = [](const wchar_t* library) {
     return GetStringResourceLanguages(LoadLibraryW(ProgramPath(library).c_str()));
@@ -44,7 +44,7 @@ TEST_CASE("ReplaceAllInBuffer: replaces all occurrences in a buffer of eight cha
   }
 }
 
-TEST_CASE("RewriteWindowTexts: rewrites the window's text, labels and buttons, nothing else") {
+TEST_CASE("RewriteWindowTexts: rewrites only the texts of the window, its labels and its buttons") {
   const DesktopScope scope;
   const auto make = [](const std::wstring& kind, const std::wstring& text, HWND parent) {
     return CreateWindowExW(0, kind.c_str(), text.c_str(), parent == nullptr ? 0 : WS_CHILD, 0, 0, 9,
@@ -56,7 +56,7 @@ TEST_CASE("RewriteWindowTexts: rewrites the window's text, labels and buttons, n
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
-  // Each substitution is applied once, in the alphabetical order of the search texts.
+  // Each is applied once, to the previous one's result, in alphabetical order of search texts.
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},
@@ -116,7 +116,7 @@ TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw only after the 
   CHECK_FALSE(isThrown);
 }
 
-TEST_CASE("WriteUtf8: writes characters to consoles, bytes to files; a partial write fails") {
+TEST_CASE("WriteUtf8: writes UTF-16 to a console, UTF-8 to a file; fails if not all is written") {
   std::wstring seen;
   DWORD lost = 0;
   BOOL answer = TRUE;
@@ -137,7 +137,7 @@ TEST_CASE("WriteUtf8: writes characters to consoles, bytes to files; a partial w
   for (const bool isConsole : {true, false}) {
     REPLACE(GetConsoleMode,
             [=](auto, HANDLE asked, auto) -> BOOL { return asked == errors && isConsole; });
-    // Writes characters of two, three and four UTF-8 bytes. The last becomes two surrogates.
+    // Writes characters of two, three and four UTF-8 bytes; the last is a surrogate pair in UTF-16.
     CHECK(WriteUtf8(STD_ERROR_HANDLE, "\xC3\xA9\n\xE2\x82\xAC\xF0\x9F\x98\x80\n"));
     CHECK(seen == (isConsole ? L"\u00E9\r\n\u20AC\U0001F600\r\n"
                              : L"\xC3\xA9\r\n\xE2\x82\xAC\xF0\x9F\x98\x80\r\n"));
@@ -151,7 +151,7 @@ TEST_CASE("WriteUtf8: writes characters to consoles, bytes to files; a partial w
   }
 }
 
-TEST_CASE("WriteUtf8: a long text reaches a console in pieces of whole characters") {
+TEST_CASE("WriteUtf8: writes a long text to a console in pieces, and splits no surrogate pair") {
   std::wstring seen;
   REPLACE(GetConsoleMode, [](auto...) -> BOOL { return TRUE; });
   REPLACE(WriteConsoleW,
@@ -159,7 +159,7 @@ TEST_CASE("WriteUtf8: a long text reaches a console in pieces of whole character
             seen.append(static_cast<const wchar_t*>(text), length);
             CHECK_FALSE(IS_HIGH_SURROGATE(seen.back()));
             *done = length;
-            // Before Windows 10, a console failed to write 0x8000 or more UTF-16 units at once.
+            // Before Windows 10, WriteConsoleW fails for 0x8000 or more UTF-16 code units.
             return length < 0x8000;
           });
   std::wstring expected = L"a";

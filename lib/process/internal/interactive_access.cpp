@@ -21,7 +21,7 @@ HWINSTA SetInteractiveStation() {
              L"RunAsUser SetProcessWindowStation to hwinstaNew Failed")) {
     return nullptr;
   }
-  // The handle stays open by design, like that of the desktop in MoveToInteractiveStation.
+  // This handle and the desktop's handle in MoveToInteractiveStation stay open by design.
   return station.release();
 }
 

@@ -10,9 +10,9 @@ namespace kelvo::internal {
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token);
 
 // Enables, in this process's token, the privileges that help to start a process with another token.
-// When EnablePrivilege fails for SeTakeOwnershipPrivilege, traces the failure and returns false.
-// Ignores a failure for any other privilege. EnablePrivilege does not fail for a privilege that the
-// token does not hold.
+// Calls EnablePrivilege (lib/security/process_privilege.h), which does not fail for a privilege
+// that the token does not hold. When EnablePrivilege fails for SeTakeOwnershipPrivilege, traces the
+// failure (lib/trace/trace_sink.h) and returns false. Ignores a failure for any other privilege.
 bool EnableStartPrivileges();
 
 }  // namespace kelvo::internal

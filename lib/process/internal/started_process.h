@@ -5,8 +5,8 @@
 
 namespace kelvo::internal {
 
-// The handles of a process that CreateProcessW or CreateProcessAsUserW created, and of its first
-// thread. Both are null when no process was created.
+// Owns the handles of a process that CreateProcessW or CreateProcessAsUserW created, and of that
+// process's first thread. Both handles are null when no process was created.
 struct StartedProcess {
   StartedProcess() = default;
   // `isCreated` is the result of CreateProcessW or CreateProcessAsUserW. When it is FALSE,
@@ -20,7 +20,7 @@ struct StartedProcess {
 };
 
 // Returns a command line: the path in double quotes, a space and the unchanged arguments. A null
-// string counts as empty.
+// pointer counts as an empty string.
 inline WString QuotedCommandLine(const wchar_t* exePath, const wchar_t* arguments) {
   return WString(L"\"") + exePath + L"\" " + arguments;
 }

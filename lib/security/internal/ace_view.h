@@ -6,11 +6,12 @@
 
 namespace kelvo::internal {
 
-// ACLs come from other processes and from disks, and Windows' own functions trust the sizes in
-// them. The functions below never read past an ACL or an ACE: the first two return false for a
-// malformed ACL, and the others are for the ACEs of a well-formed ACL. Every type of ACE is read
-// with the layout of ACCESS_ALLOWED_ACE: header, mask, SID. An ACE may be at any address, even an
-// unaligned one, because the ACE before it may have any size.
+// ACLs may come from other processes or from disk, and Windows' own functions trust the sizes that
+// an ACL contains. The functions below never read past the end of an ACL or an ACE: the first two
+// return false for a malformed ACL, and the others must be called only for the ACEs of a
+// well-formed ACL. Every type of ACE is read with the layout of ACCESS_ALLOWED_ACE: header, mask,
+// SID. An ACE may be at any address, even an unaligned one, because the ACE before it may have any
+// size.
 
 // The offset of the SID in an ACE, after the header and the mask.
 constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
@@ -32,9 +33,9 @@ void* AceAt(const ACL* acl, DWORD index);
 // Returns an ACE's header.
 ACE_HEADER HeaderOfAce(const void* ace);
 
-// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. The
-// result may not be a SID: an object ACE has other data at kSidOffset, which equals no account's
-// SID.
+// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. An
+// object ACE has other data at kSidOffset, and this function treats that data as a SID. That data
+// never equals the SID of an account.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal

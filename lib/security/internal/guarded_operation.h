@@ -6,14 +6,17 @@
 
 namespace kelvo::internal {
 
-// Returns `succeeded`. If it is false, first traces `message` with the tag "RunAsEx".
+// Returns `succeeded`. If `succeeded` is false, first traces `message` with the tag "RunAsEx".
 bool Check(bool succeeded, const wchar_t* message);
 
-// Runs `steps`, which returns whether the operation succeeded, and then always runs `cleanUp`. A
-// C++ or structured exception that leaves `steps` counts as failure; an exception that leaves
-// `cleanUp` is swallowed and does not change the result. After a failure, traces `cleanUpMessage`
-// last. Resources that `steps` allocates must belong to Owned objects (lib/platform/owned.h) that
-// are declared outside `steps`; `cleanUp` must reset these objects.
+// Calls `steps` and then always calls `cleanUp`. Returns TRUE when `steps` returned true. Returns
+// FALSE when `steps` returned false, or when a C++ or structured exception left `steps`. If the
+// result is FALSE, traces `cleanUpMessage` last, after `cleanUp` has run. An exception that leaves
+// `cleanUp` is swallowed and does not change the result.
+//
+// After a structured exception, destructors in `steps` do not run. Therefore resources that `steps`
+// allocates must belong to Owned objects (lib/platform/owned.h) that are declared outside `steps`,
+// and `cleanUp` must reset these objects.
 template <typename Steps, typename CleanUp>
 BOOL GuardedOperation(const wchar_t* cleanUpMessage, const Steps& steps, const CleanUp& cleanUp) {
   const bool succeeded = GuardedAnswer(false, steps);

@@ -9,7 +9,8 @@
 
 namespace kelvo::internal {
 
-// Moveable memory from GlobalAlloc. It stays locked until it is freed.
+// Moveable memory from GlobalAlloc. ReadFixedFileVersion locks the memory (GlobalLock). The
+// memory stays locked until it is freed.
 struct LockedGlobalMemory {
   using Handle = HGLOBAL;
   static Handle None() { return nullptr; }

@@ -65,7 +65,7 @@ void AppendNt6Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& 
   AppendArchitecture(architecture, text);
 }
 
-// 64-bit Windows XP has the same version as Windows Server 2003 and gets the same names.
+// 64-bit Windows XP has the version number of Windows Server 2003 (5.2), so it gets the same names.
 const wchar_t* Server2003Name(const OSVERSIONINFOEXW& version) {
   if (GetSystemMetrics(SM_SERVERR2) != 0) {
     return L"Microsoft Windows Server 2003 R2 ";
