@@ -1,11 +1,14 @@
 // Compares the library's string functions with alternatives. Also measures the size of sorrel.exe
-// and the time from its start to its end.
+// and how long sorrel.exe takes to start and end.
 //
-// The output consists of groups of lines. Each line has the median time of its runs in
-// milliseconds, and the ratio of this time to the time in the first line of the group. The runs of
-// a group's lines are interleaved. In a group that compares functions, the first line is the
-// library's function. A goal in a group's title is the wanted range of this ratio, for the lines
-// that the goal names. If the goal names no line, the range is for the second line.
+// The output consists of groups and, at the end, the size of sorrel.exe. Each group compares
+// several contenders, such as functions, and has one line for each contender. The line shows the
+// contender's median time in milliseconds, and the ratio of this time to the first contender's
+// time. In a group that compares functions, the first contender is the library's function. All
+// contenders of a group run once, then all of them run again, and so on.
+//
+// The title of a group may state a goal: the range in which the ratio of the named contenders
+// should be. If the goal names no contender, the goal is for the second one.
 
 #include <windows.h>
 
@@ -108,10 +111,10 @@ std::size_t BoostSplit(const std::wstring& list, boost::algorithm::token_compres
   return items.size();
 }
 
-// Returns a function that passes a new copy of `input` to `work` in each run. This is for a `work`
-// that changes its argument. The returned function itself makes no copy and frees none: all copies
-// are made in advance and kept until the last run has ended. To allocate or free a copy while the
-// clock runs would distort the times.
+// Returns a function that calls `work` with a different copy of `input` in each run, because `work`
+// changes its argument. The returned function itself neither makes nor frees a copy: all copies are
+// made before the first run and kept until the last run has ended. Otherwise, the measured times
+// would include the allocation and the freeing of the copies.
 template <typename Input, typename Work>
 std::function<std::size_t()> WithOwnInput(const Input& input, Work work) {
   return [work, inputs = std::make_shared<std::vector<Input>>(kRuns, input), run = 0U]() mutable {

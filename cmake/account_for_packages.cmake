@@ -1,10 +1,11 @@
-# Checks that the archives contain nothing private, and writes SHA256SUMS and a bill of materials for them (SPDX 2.3,
-# from bill_of_materials.json.in). CPack runs this script after it has made the archives.
+# CPack runs this script after making the archives. The script checks that the archives contain nothing private, and
+# repacks them. For the archives, the script also writes SHA256SUMS and a software bill of materials (SPDX 2.3, from
+# bill_of_materials.json.in).
 
 cmake_minimum_required(VERSION 3.25)
 
 file(READ ${CMAKE_CURRENT_LIST_DIR}/bill_of_materials.json.in templates)
-# expand(KIND)   sets `object` to the template of this kind, with each @variable@ replaced
+# expand(KIND)   sets `object` to the template of this kind, with each @variable@ replaced by the variable's value
 macro(expand kind)
   string(JSON object GET "${templates}" ${kind})
   string(CONFIGURE "${object}" object @ONLY)
@@ -16,7 +17,7 @@ macro(append array kind)
 endmacro()
 
 # A packed file must contain neither a private key nor the path of the source folder. (Debug information can contain
-# this path.) Key files and files of the tests, recognized by their paths, must not be packed.
+# this path.) Keys (*.key, *.pem) and files of the tests must not be packed: `secret_file` matches their paths.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")
@@ -68,9 +69,9 @@ function(describe package)
   set(purl ${purl} PARENT_SCOPE)
 endfunction()
 
-# Adds the third-party code in our programs and simulated libraries. Each entry lists a file of the third-party code (a
-# header or a static library), the code's name in the bill of materials, the code's licence, and the programs and
-# simulated libraries that contain the code.
+# Adds to the bill of materials the third-party code in our programs and in the simulator's DLLs. Each entry lists a
+# file of the third-party code (a header or a static library), the code's name in the bill of materials, the code's
+# licence, and the programs and DLLs that contain the code.
 set(all "sorrel;sorrel_status;bthprops;difxapi")
 foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${all}"
     "libmingwex.a;mingw-w64-runtime;ZPL-2.1;${all}" "/usr/include/nlohmann/json.hpp;nlohmann-json;MIT;sorrel_status"
@@ -89,7 +90,7 @@ foreach(part "libstdc++.a;GCC-runtime;GPL-3.0-or-later WITH GCC-exception-3.1;${
   endforeach()
 endforeach()
 
-# Adds the tools that made the programs and the archives.
+# Adds to the bill of materials the tools that made the programs and the archives.
 foreach(package clang-19 lld-19 llvm-19 binutils-mingw-w64-x86-64 cmake ninja-build zip)
   describe(${package})
   append(packages tool)

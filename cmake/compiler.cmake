@@ -66,8 +66,9 @@ add_library(kelvo_wide_program INTERFACE)
 target_link_libraries(kelvo_wide_program INTERFACE kelvo_program)
 add_library(kelvo_shipped_program INTERFACE)
 target_link_libraries(kelvo_shipped_program INTERFACE kelvo_wide_program kelvo_debug_information)
-# Windows 10 1607 and later load the imports of a shipped program only from the system directory. In a build with MSVC,
-# /DEPENDENTLOADFLAG has this effect (0x800 is LOAD_LIBRARY_SEARCH_SYSTEM32); otherwise, load_configuration.c does.
+# Makes Windows 10 1607 and later search only the system directory for the DLLs in a shipped program's import table.
+# With MSVC, the linker option /DEPENDENTLOADFLAG does this (0x800 is LOAD_LIBRARY_SEARCH_SYSTEM32). In other builds,
+# tool/load_configuration.c does it.
 if(MSVC)
   target_link_options(kelvo_shipped_program INTERFACE /DEPENDENTLOADFLAG:0x800)
   target_link_options(kelvo_program INTERFACE $<$<CONFIG:MinSizeRel>:/OPT:REF,ICF> /DEBUG /CETCOMPAT /RELEASE /Brepro /PDBALTPATH:%_PDB%)

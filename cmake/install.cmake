@@ -1,6 +1,6 @@
 # Defines the components that `cmake --install` installs and `cpack` packs:
 #   tool           the programs that a setup ships
-#   documentation  the pages and sample setups; in the same archive as tool
+#   documentation  the pages and sample setups. They are in the same archive as the component "tool"
 #   simulator      the simulated libraries. They are in a separate archive, because even a signed sorrel.exe would load
 #                  them if they were in its folder
 #   sdk            the library, as the CMake package kelvo
@@ -42,7 +42,7 @@ install(FILES cmake/toolchain_mingw.cmake DESTINATION lib/cmake/kelvo COMPONENT 
 install(SCRIPT cmake/link_pages.cmake COMPONENT sdk)
 
 # Makes four archives, which all unpack into the same top-level folder. In a cross build, sign_programs.cmake runs
-# before packing, and account_for_packages.cmake runs afterwards.
+# before packing, and account_for_packages.cmake runs after packing.
 set(CPACK_GENERATOR ZIP)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)

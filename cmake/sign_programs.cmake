@@ -1,5 +1,5 @@
-# Signs the programs if the environment variable SORREL_SIGN_CERTIFICATE is set (by scripts/package --sign). CPack runs
-# this script before it makes the archives.
+# Signs the programs if the environment variable SORREL_SIGN_CERTIFICATE is set. "scripts/package --sign" sets this
+# variable. CPack runs this script before making the archives.
 
 if(NOT DEFINED ENV{SORREL_SIGN_CERTIFICATE})
   return()

@@ -4,10 +4,10 @@
 //   setup_helper grant FILE SID
 //     lets the account with this SID read and write a file
 //   setup_helper start PROGRAM [ARGUMENTS]
-//     starts a program as the user of the console session (as the caller if that user's token
-//     is unavailable), waits until the program ends and returns the program's exit code
+//     starts a program as the user of the console session, or as the caller if that user's token
+//     is unavailable; waits until the program ends, and returns the program's exit code
 //   setup_helper ready PROGRAM MUTEX
-//     starts a program and waits up to ten seconds for a mutex named MUTEX
+//     starts a program and waits until a mutex named MUTEX exists, for at most ten seconds
 // "read", "grant" and "ready" return 0 for success and 1 for failure. "start" returns 1 if the
 // program cannot be started. For a wrong command line, the exit code is also 1.
 

@@ -1,4 +1,5 @@
-// Prints the library's system report, with one line for each entry. The output is in UTF-8.
+// Prints the library's system report, with one line for each entry. Output to a file or a pipe is
+// in UTF-8.
 
 #include "lib/sysinfo/system_report.h"
 
@@ -16,8 +17,8 @@ namespace kelvo {
 
 namespace {
 
-// The maximum width of the name column. When a name is wider, only the value on the same line moves
-// to the right.
+// The maximum width of the name column. When a name is wider than the column, only the value on the
+// same line starts farther to the right.
 constexpr std::size_t kWidestColumn = 40;
 
 using Line = std::pair<std::string, std::string>;

@@ -1,4 +1,4 @@
-// Simulates difxapi.dll, the driver installation interface.
+// Simulates difxapi.dll, the library that installs driver packages.
 
 #include "tool/difxapi.h"
 

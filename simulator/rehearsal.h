@@ -13,14 +13,15 @@ DWORD NumberFromEnvironment(const wchar_t* name);
 // Returns the value of an environment variable, or an empty string when the variable is not set.
 WString TextFromEnvironment(const wchar_t* name);
 
-// Appends a line in UTF-8 to the file named by the environment variable SORREL_SIMULATOR_JOURNAL.
-// Does nothing when the variable is not set.
+// Appends `line` and CR LF, in UTF-8, to the journal. The path of this file is in the environment
+// variable SORREL_SIMULATOR_JOURNAL. Does nothing when the variable is not set or the file cannot
+// be opened.
 void WriteToJournal(const WString& line);
 
-// The DllMain of each simulated library calls this function with the last two parameters of
-// DllMain: the reason and a pointer. Writes "NAME loaded" to the journal when the library is
-// loaded, and "NAME freed" when the library is freed. Writes nothing when the process ends while
-// the library is loaded: `processEnds` is then not null.
+// The DllMain of each simulated library calls this function. `reason` and `processEnds` are the
+// last two parameters of DllMain. When the library is loaded, writes `name` and " loaded" to the
+// journal. When the library is freed, writes `name` and " freed". When the library is unloaded
+// because the process ends, `processEnds` is not null and the function writes nothing.
 void JournalLibrary(const wchar_t* name, DWORD reason, const void* processEnds);
 
 }  // namespace kelvo::simulator

@@ -60,9 +60,9 @@ Item QueryInterface() {
 }
 
 // Stores whether the process's token contains the Administrators group. Returns ERROR_SUCCESS, or
-// the last error when the token cannot be read. Like IsAdmin, ignores the group's attributes: a
-// deny-only group also counts. Unlike IsAdmin, does not fail when the token's groups take more than
-// 1,024 bytes.
+// the last error when the token cannot be read. Like IsAdmin (lib/sysinfo/administrators.h),
+// ignores the group's attributes: a deny-only group also counts. Unlike IsAdmin, does not fail when
+// the token's groups take more than 1,024 bytes.
 DWORD QueryAdministrator(bool& isAdministrator) {
   OwnedKernelObject token;
   DWORD size = 0;
@@ -85,7 +85,8 @@ DWORD QueryAdministrator(bool& isAdministrator) {
 Item QuerySystem() {
   WString name = GetSystemVersionString();
   if (name.find(L"(") == 0) {
-    // On Windows 10 and later, GetSystemVersionString returns only version numbers in parentheses.
+    // On Windows 10 and later, GetSystemVersionString returns no name: only the version numbers, in
+    // parentheses.
     name = L"Windows " + name;
   }
   const WString numbers = GetSystemVersionNumbers();
@@ -188,7 +189,7 @@ int AnswerCommandLine(int count, const wchar_t* const* arguments) {
   try {
     return Run(count, arguments);
   } catch (const std::exception&) {
-    // Does not use WriteUtf8, which allocates memory.
+    // Calls WriteFile directly, because WriteUtf8 allocates memory.
     constexpr std::string_view kText = "sorrel_status: not enough memory\r\n";
     DWORD written = 0;
     WriteFile(GetStdHandle(STD_ERROR_HANDLE), kText.data(), static_cast<DWORD>(kText.length()),

@@ -6,7 +6,7 @@ namespace kelvo {
 // writes the report to standard output. Changes nothing on the computer. The first of the `count`
 // arguments is the program's own path.
 //
-// A command line that names no item asks for a general report. This report is about the list of
+// A command line that names no item asks for a general report. This report covers the list of
 // applications, the certificate stores "TrustedPublisher" (item "publisher") and "CA" (item
 // "intermediate"), bthprops.cpl (item "service"), difxapi.dll (item "interface") and Windows itself
 // (item "system").
@@ -18,9 +18,9 @@ namespace kelvo {
 //   0  everything asked for is present
 //   1  something is absent
 //   2  the command line is wrong; standard error has the reason and the usage text
-//   3  something could not be checked, even if something else is absent; or part of the report
-//      could not be written; or memory ran out (standard error then says so)
-// Without a standard output, the exit code is the only result.
+//   3  something could not be checked (then 3 is returned even if something else is absent), or
+//      part of the report could not be written, or memory ran out (standard error then says so)
+// If the process has no standard output, no report is written. The exit code is not affected.
 int AnswerCommandLine(int count, const wchar_t* const* arguments);
 
 }  // namespace kelvo

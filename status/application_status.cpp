@@ -12,9 +12,10 @@ namespace {
 
 constexpr const char* kApplication = "application";
 
-// The registry value that holds the list of applications. The value may have any type and size.
+// Describes the registry value that holds the list of applications. The value may have any type and
+// size.
 struct StoredList {
-  LSTATUS error = ERROR_SUCCESS;  // from opening the key or querying the value
+  LSTATUS error = ERROR_SUCCESS;  // the error of OpenRegistryKey or RegQueryValueExW
   DWORD type = REG_NONE;
   DWORD size = 0;  // in bytes
 

@@ -17,7 +17,7 @@ namespace kelvo {
 
 namespace {
 
-// Far larger than any INF file.
+// The size limit for INF files. Real INF files are far smaller.
 constexpr LONGLONG kMostBytes = LONGLONG{4} * 1024 * 1024;
 
 // Opens a file and gets its size. If `path` is the path of a named pipe, SECURITY_ANONYMOUS
@@ -48,8 +48,8 @@ DWORD ReadBytes(const WString& path, std::string& bytes) {
 }
 
 bool HasVersionSection(std::string bytes) {
-  // An INF file is ANSI or UTF-16. Once the NULs are removed, a search for ASCII text works in both
-  // encodings.
+  // An INF file is ANSI or UTF-16. After the zero bytes are removed, a search for ASCII text works
+  // in both encodings.
   std::erase(bytes, '\0');
   std::transform(bytes.begin(), bytes.end(), bytes.begin(), [](char byte) {
     return static_cast<char>(std::tolower(static_cast<unsigned char>(byte)));
@@ -57,8 +57,8 @@ bool HasVersionSection(std::string bytes) {
   return bytes.find("[version]") != std::string::npos;
 }
 
-// Compares the sizes first. A file of another size cannot match, so the function does not read that
-// file. Such a file causes no error even if it cannot be opened for reading.
+// Compares a file's content with `wanted`. If the file's size differs from that of `wanted`, the
+// file is not opened for reading. In this case, a file that cannot be read causes no error.
 DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) {
   OwnedFile file;
   LARGE_INTEGER size{};
@@ -131,8 +131,8 @@ DWORD ReadEntry(const SetupFunctions& functions, HINF inf, const wchar_t* key, W
   return ERROR_SUCCESS;
 }
 
-// Reads the entries Provider and DriverVer. If one cannot be read, still reads the other. Returns
-// the first error code, or ERROR_SUCCESS.
+// Reads the entries Provider and DriverVer from the section [Version] of an INF file. If one entry
+// cannot be read, still reads the other. Returns the first error code, or ERROR_SUCCESS.
 DWORD ReadVersion(const WString& infPath, WString& provider, WString& driverVersion) {
   const SetupFunctions functions;
   if (!functions) {
@@ -171,8 +171,8 @@ Item QueryDriverPackage(const WString& infPath) {
   }
   WString provider;
   WString driverVersion;
-  // Reads the given file: opening the published copy could make Windows write a .pnf file next to
-  // that copy.
+  // Reads the file `infPath` and not the published copy, because opening the copy could make
+  // Windows write a .pnf file next to the copy.
   error = ReadVersion(infPath, provider, driverVersion);
   Item item{kKind,
             State::kPresent,

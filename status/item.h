@@ -10,7 +10,7 @@
 
 namespace kelvo {
 
-// The states in order from best to worst; WorstState uses this order.
+// The states of an item. For WorstState, each state is worse than the states before it.
 enum class State {
   kInfo,     // a fact that is neither good nor bad
   kPresent,  // the thing is there
@@ -23,8 +23,8 @@ enum class State {
 const char* StateName(State state);
 
 // One fact about an item. The JSON report shows `value` under the stable name `key`; the text
-// report shows `phrase`. A detail without a key is not in the JSON report, and a detail without a
-// phrase is not in the text report.
+// report shows `phrase`. If `key` is empty, the detail is not in the JSON report. If `phrase` is
+// empty, the detail is not in the text report.
 struct Detail {
   std::string key;
   std::variant<bool, DWORD, WString> value;
@@ -33,7 +33,8 @@ struct Detail {
 
 // One line of the text report, and one object in the array "items" of the JSON report. `kind` is a
 // stable name in lower case that has "_" between its words; the text report shows a space for each
-// "_". `name` is the name or path that was asked for or found; it may be empty.
+// "_". `name` is the name or path of the thing that the item describes, as it was asked for or
+// found; `name` may be empty.
 struct Item {
   const char* kind;
   State state;
@@ -48,10 +49,11 @@ State WorstState(const std::vector<Item>& items);
 // empty, the phrase is empty.
 Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
-// Adds two details for a Windows error code. The value of the detail `key` + "_code" is the code in
-// eight hexadecimal digits; its phrase is `label`, immediately followed by the code, then a space
-// and the system's message. The value of the detail `key` + "_text" is this message; this detail
-// has no phrase. The full stop and the line break at the end of the message are removed.
+// Adds two details for the Windows error code `error`:
+//   - `key` + "_code": the value is the code in eight hexadecimal digits. The phrase is `label`
+//     immediately followed by the code, then a space and the system's message.
+//   - `key` + "_text": the value is the system's message. The phrase is empty.
+// Full stops, spaces and line breaks at the end of the message are removed.
 void AddError(Item& item, const std::string& key, const WString& label, DWORD error);
 
 // Returns an item for something that could not be checked, with the details "error_code" and

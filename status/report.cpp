@@ -15,7 +15,8 @@ using Json = nlohmann::ordered_json;
 constexpr int kSchema = 2;
 constexpr int kIndent = 2;
 
-// The widths of the columns: the longest state and the longest kind, each plus two spaces.
+// The widths of the columns for the state and the kind. Each width is the length of the longest
+// text in the column, plus two spaces.
 constexpr std::size_t kStateWidth = 9;
 constexpr std::size_t kKindWidth = 16;
 

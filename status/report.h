@@ -7,13 +7,13 @@
 
 namespace kelvo {
 
-// Returns a report for people, in UTF-8. It has one line for each item: the item's state and kind
-// in columns, then its name and details. Characters that would control a terminal are replaced with
-// visible codes (ToVisibleUtf8).
+// Returns a report for people, in UTF-8. The report has one line for each item: the item's state
+// and kind in columns, then its name and details. Characters that would control a terminal are
+// replaced with visible codes (ToVisibleUtf8).
 std::string TextReport(const std::vector<Item>& items);
 
 // Returns a report for scripts: one JSON object. The report is in ASCII, with \u escapes for all
-// other characters, so that a shell can read it in any code page. The object has:
+// other characters, so that a shell can read the report in any code page. The object has:
 //   - "schema", a number that changes when a key is removed or changes its meaning, but not when a
 //     later version of the program adds a key
 //   - "version", the version of the program

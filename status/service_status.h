@@ -13,15 +13,15 @@ enum class DeviceSearch { kNone, kBluetoothBus };
 // setupapi.dll, and then frees it.
 //   - The search finds a device only if it is present and one of its hardware ids begins with
 //     "BTHENUM\{CLASS}", where CLASS is HandsfreeServiceClassGuid (tool/handsfree_service.h).
-//   - The search leaves out devices whose ids show that they belong to a paired remote device. If
-//     the instance id contains a Bluetooth address, the address must be zero. If the instance id
-//     contains no address, no hardware id may continue after "BTHENUM\{CLASS}" with "_VID", or
-//     with "_LOCALMFG&" and a number other than 0000.
-//   - It is certain that the bus also has devices for services of paired remote devices, and that
-//     the instance id of each such device contains the remote device's address. It is not
-//     known which id the device for the hands-free service has with a real radio. The devices for
-//     other local services (incoming serial ports) have "_LOCALMFG&0000" and an address of zero in
-//     their ids.
+//   - The search ignores a device whose ids show that it belongs to a service of a paired remote
+//     device. If the instance id contains a Bluetooth address, the search ignores the device when
+//     this address is not zero. If the instance id contains no address, the search ignores the
+//     device when one of its hardware ids continues after "BTHENUM\{CLASS}" with "_VID", or with
+//     "_LOCALMFG&" and a number other than 0000.
+//   - The bus also has devices for services of paired remote devices. The instance id of each such
+//     device contains the remote device's address. The devices for other local services (incoming
+//     serial ports) have "_LOCALMFG&0000" and an address of zero in their ids. It is not known
+//     which ids the device for the hands-free service has on a computer with a real radio.
 //   - The bus has no device for the service while the radio is off or unplugged, and perhaps for a
 //     moment after the service is registered. The state kAbsent therefore does not prove that the
 //     service is not registered.

@@ -17,7 +17,7 @@ std::string ToConsoleBytes(std::wstring_view text) {
   bytes.reserve(text.length() + 1);
   for (const wchar_t unit : text) {
     // Adds a CR before each LF, even if the text already has a CR there. A system message ends in
-    // CR LF, so the output ends in CR CR LF.
+    // CR LF, so it is written with CR CR LF at the end.
     if (unit == L'\n') {
       bytes += '\r';
     }
@@ -53,8 +53,9 @@ void Report(const wchar_t* format, ...) {
 WString FormatSystemMessage(DWORD code) {
   constexpr DWORD kMessageLength = 2000;
   WString buffer(kMessageLength, L'\0');
-  // FormatMessageW fails for a message with inserts ("%1"), because it gets no arguments for them.
-  // It then returns 0, and resize drops any part of the message that is already in the buffer.
+  // FormatMessageW fails for a message with inserts ("%1"), because this call passes no arguments
+  // for the inserts. FormatMessageW then returns 0, and resize drops any part of the message that
+  // is already in the buffer.
   buffer.resize(FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM, nullptr, code,
                                MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), buffer.data(),
                                kMessageLength, nullptr));

@@ -79,8 +79,8 @@ bool RemoveDependentApplication(const wchar_t* name, bool& noneLeft) {
     RegistryDeleteValue(HKEY_LOCAL_MACHINE, ServiceParametersKey, ApplicationsValueName);
     Report(L"OK: No more dependant applications\n");
   } else {
-    // Writes the list even when no name was removed, because the stored list may have superfluous
-    // separators, which `list` does not have.
+    // Writes the list even when no name was removed, because writing it also removes superfluous
+    // separators from the stored list.
     WriteList(list);
     Report(L"OK: Dependant applications exist: %s\n", list.c_str());
   }

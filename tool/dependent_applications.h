@@ -13,8 +13,8 @@ namespace kelvo {
 // list stores an empty string.
 //
 // A value of the type REG_EXPAND_SZ is also accepted. Its environment variables are expanded. If
-// the expanded list has 260 characters or more, the list is truncated. The next function to write
-// the list stores it truncated. If the value has any other type or more than
+// the expanded list has 260 characters or more, the list is truncated. The next write stores the
+// expanded, possibly truncated list as REG_SZ. If the value has any other type or more than
 // kMaxRegistryStringSize bytes, RegistryReadString (lib/registry/registry_string.h) cannot read it,
 // and the list counts as empty.
 inline constexpr const wchar_t* ServiceParametersKey =
@@ -40,8 +40,8 @@ std::optional<WString> ListWithApplication(const WString& list, const wchar_t* n
 // keep their order, with one ";" between them. Returns an empty string when no item remains.
 WString ListWithoutApplication(const WString& list, const wchar_t* name);
 
-// Adds `name` to the list in the registry, unless the list already contains `name` by the rules of
-// ListWithApplication. Always returns true, even when the write fails.
+// Adds `name` to the list in the registry, unless the list already contains `name`, that is, unless
+// ListWithApplication returns nullopt. Always returns true, even when the write fails.
 bool AddDependentApplication(const wchar_t* name);
 
 // Removes `name` from the list in the registry. When no name remains, deletes the value and sets

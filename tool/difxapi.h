@@ -1,7 +1,7 @@
 #pragma once
 
-// Declares the functions and types of difxapi.dll that sorrel.exe uses. This driver installation
-// interface comes from the Windows Driver Kit; the Windows SDKs have no header for it.
+// Declares those functions and types of difxapi.dll that sorrel.exe uses. The DLL installs drivers.
+// It comes from the Windows Driver Kit; the Windows SDKs have no header for it.
 
 #include <windows.h>
 
@@ -30,8 +30,8 @@ inline constexpr DWORD DRIVER_PACKAGE_SILENT = 0x00000002;
 void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);
 
 // Installs the driver package of the INF file at `infPath`, a fully qualified path. Stores in
-// `needReboot` whether the installation needs a restart. Returns 0 or an error code of Win32
-// or SetupAPI.
+// `needReboot` whether the installation needs a restart. Returns 0 on success, otherwise
+// an error code of Win32 or SetupAPI.
 DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
                                    const INSTALLERINFO_W* installerInfo, BOOL* needReboot);
 }

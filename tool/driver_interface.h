@@ -23,9 +23,9 @@ struct DriverInterface {
 // system directory, because the library is a KnownDLL.
 DWORD BindDriverInterface(DriverInterface& driver);
 
-// The callback for SetDifxLogCallbackW: reports the event as one "INFO: " line. A null description
-// counts as empty; `context` is unused. May be called on any thread. Never throws: when memory runs
-// out, the line is dropped.
+// The callback for SetDifxLogCallbackW: prints the event as one line that begins with "INFO: ". A
+// null description counts as empty; `context` is unused. May be called on any thread. Never throws:
+// when memory runs out, prints nothing.
 void CALLBACK DifxLogCallback(DIFXAPI_LOG event, DWORD error, PCWSTR description,
                               PVOID context) noexcept;
 

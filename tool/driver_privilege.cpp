@@ -6,12 +6,12 @@
 namespace kelvo {
 
 bool EnableLoadDriverPrivilege() {
-  // AdjustTokenPrivileges returns TRUE even when the token lacks the privilege; only the last error
-  // shows that the privilege is missing.
+  // Checks `error` and not `adjusted`, because AdjustTokenPrivileges returns TRUE even when the
+  // token does not hold the privilege.
   const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {
-    // The text names OpenProcessToken even when the error is from LookupPrivilegeValueW or
-    // AdjustTokenPrivileges.
+    // The message names OpenProcessToken, even when the error code comes from LookupPrivilegeValueW
+    // or AdjustTokenPrivileges.
     Report(L"ERR: OpenProcessToken failed, err = %08lX\n", error);
   }
   return error == ERROR_SUCCESS;

@@ -1,5 +1,5 @@
-// If an exception is not caught, ends the process silently: nothing may be written to standard
-// error.
+// Ends the process silently when an exception is not caught, because the program must not write
+// anything to standard error in that case.
 
 #include <windows.h>
 

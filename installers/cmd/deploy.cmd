@@ -4,7 +4,7 @@ rem                     installation fails, runs "sorrel.exe uninstall" and dele
 rem                     (such as an upgrade) fails, removes nothing: the copies stay.
 rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application. Also deletes the product's files from the
 rem                     product's folder, unless this script itself is in that folder.
-rem Both commands return 0, 3010 or 1603, with the same meanings as run_sorrel.cmd.
+rem Both commands return 0, 3010 or 1603. These exit codes mean the same as those of run_sorrel.cmd.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
@@ -20,8 +20,8 @@ set "shell=%SystemRoot%\System32\cmd.exe"
 set "code=0"
 if "%~1"=="remove" goto remove
 
-rem This is a first installation only if sorrel_status.exe runs and returns 1 (absent). The exit code is also 1 if
-rem Windows does not allow the program to run. Therefore, --version first checks whether the program runs.
+rem An installation counts as a first installation only if sorrel_status.exe returns 1: the application is not on the
+rem list. The variable errorlevel is also 1 if Windows does not allow the program to run, so --version is tried first.
 set "first="
 "%here%sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto copy
@@ -29,15 +29,16 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before sorrel.exe runs. If an upgrade then fails, the detection rule of a deployment system
-rem compares the computer with the new version's files.
+rem Copies the files before sorrel.exe runs, because a deployment system's detection rule compares the computer with the
+rem files in the product's folder. If an upgrade failed and the old files were still there, the rule could report
+rem success.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F
 
 :install
-rem The carets escape the outer quotation marks. Only the inner quotation marks then form pairs, so they enclose a "&"
-rem in the folder's name.
+rem The carets escape the outer quotation marks, so that only the inner quotation marks form pairs. Without the carets,
+rem a "&" in the folder's name would be outside the quotation marks and would split the command.
 if "%code%"=="0" "%shell%" /d /s /c ^""%here%run_sorrel.cmd" install "%here%%inf%" "%here%%publisher%" "%here%%intermediate%" "%application%"^"
 if "%code%"=="0" set "code=%errorlevel%"
 if not "%code%"=="1603" exit /b %code%

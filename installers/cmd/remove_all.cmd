@@ -2,7 +2,7 @@
 rem remove_all.cmd   removes the product's name from the list of applications ("sorrel.exe uninstall"). If no name is
 rem                  left on the list, removes the two certificates with certutil.exe, and the driver package with
 rem                  pnputil.exe. Returns 1603 if "sorrel.exe uninstall" failed, if something that had to be removed is
-rem                  still present, or if this could not be checked. Otherwise returns 3010 if a restart is needed, or
+rem                  still present, or if that could not be checked. Otherwise returns 3010 if a restart is needed, or
 rem                  0 if no restart is needed.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
@@ -55,8 +55,9 @@ if exist "%answer%" del /f /q "%answer%"
 exit /b %code%
 
 rem :ask OPTION ARGUMENT [KEY]   runs sorrel_status.exe --OPTION ARGUMENT, and sets two variables from its report. The
-rem variable "state" gets the item's state, and "value" gets the value of KEY. Without a report, both are empty.
-rem Ignores the exit code: it is 1 if the item is absent, but also if Windows does not allow the program to run.
+rem variable "state" gets the item's state, and "value" gets the value of KEY. If there is no report, both variables
+rem are empty. Ignores the exit code: it is 1 if the item is absent, but also if Windows does not allow the program to
+rem run.
 :ask
 set "state="
 set "value="

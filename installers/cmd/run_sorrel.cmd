@@ -25,27 +25,28 @@ if not exist "%run%" exit /b 1603
 
 rem An empty output is a failure: every run of sorrel.exe writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem Only one failure can be ignored: that the radio is missing or off. The error line of this failure has the code
-rem 00000490 or 00000014 (hexadecimal). The commands "register" and "unregister" then exit with the same code, which is
-rem 1168 or 20 in decimal. A missing bthprops.cpl is not a failure.
+rem If product.cmd sets radio_off to "spared", only one failure is ignored: the Bluetooth radio is missing or off. For
+rem this failure, sorrel.exe writes an error line with the code 00000490 or 00000014 (hexadecimal). The commands
+rem "register" and "unregister" also exit with this code (1168 or 20 in decimal). A missing bthprops.cpl is never a
+rem failure.
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
-rem cmd.exe parses each line below before it replaces variables such as %%A, so it runs no text from the output as a
-rem command.
+rem cmd.exe parses each line below before it expands FOR variables such as %%A. Therefore, text from the output is never
+rem run as a command.
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000490 1168" set "code=0"
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A %%B %%C %%D %code%"=="ERR %spared% 00000014 20" set "code=0"
 for /f "usebackq tokens=1-4* delims=: " %%A in ("%run%") do if "%%A"=="ERR" if not "%%B %%C %%D"=="%spared% 00000490" if not "%%B %%C %%D"=="%spared% 00000014" if not "%%B %%C %%D %%E"=="no Bluetooth available, bthprops.cpl missing" set "failed=1"
 if not "%code%"=="0" set "failed=1"
 for /f "usebackq delims=" %%L in ("%run%") do if "%%L"=="Reboot required" set "restart=1"
 
-rem Checks whether the application's name is on the list of applications, because sorrel.exe writes no line about this.
-rem sorrel.exe does not add a name that is part of another name on the list.
+rem Checks whether the application's name is on the list of applications, because sorrel.exe reports no error when it
+rem does not add the name. For example, sorrel.exe does not add a name that is part of another name on the list.
 set "name="
 if "%~1"=="install" set "name=%~5"
 if "%~1"=="register" set "name=%~2"
 if not defined name goto end
-rem sorrel_status.exe returns 1 if the name is absent. The variable errorlevel is also 1 if Windows does not allow the
-rem program to run, so --version is tried first.
+rem sorrel_status.exe exits with 1 if the name is absent. The variable errorlevel is also 1 if Windows does not allow
+rem the program to run. The call with --version detects this case, and the name is then not checked.
 "%~dp0sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto end
 "%~dp0sorrel_status.exe" --application "%name%" >>"%run%"

@@ -65,21 +65,21 @@ package=$scratch/package.msi
 msibuild "$package" -q "UPDATE InstallExecuteSequence SET Sequence=1501 WHERE Action='RemoveExistingProducts'"
 
 # Makes the new package also replace an installed package of the same version. Otherwise, both packages would be
-# installed, and the removal of one would take the application off the list. The attributes 769 are "migrate features"
-# (1), "include VersionMin" (256) and "include VersionMax" (512).
+# installed, and the removal of one would take the application off the list. The value 769 of Attributes is the
+# sum of "migrate features" (1), "include VersionMin" (256) and "include VersionMax" (512).
 msibuild "$package" -q "INSERT INTO Upgrade (UpgradeCode, VersionMin, VersionMax, Attributes, ActionProperty) \
   VALUES ('{${setting[UPGRADE_CODE]^^}}', '${setting[VERSION]}', '${setting[VERSION]}', 769, 'WIX_UPGRADE_DETECTED')"
 
-# Adds a custom action, because wixl cannot create the custom actions below.
+# Adds a custom action with msibuild, because wixl cannot create the custom actions below.
 add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
   msibuild "$package" -q "INSERT INTO CustomAction (Action, Type, Source, Target) VALUES ('$1', $2, '$3', '$4')"
   msibuild "$package" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
 }
 
 # These actions run functions of service.js. Type 3077 is JScript in the package (5), deferred (1024), as SYSTEM (2048).
-# The type of ReleaseService also has the flag "ignore errors" (64), so that a missing radio does not keep the product
-# on the computer. ReleaseService does not run when an upgrade removes the old version: if the upgrade fails, the old
-# version is restored and needs its name on the list.
+# A missing radio must not prevent the removal of the product. Therefore the function ReleaseService always returns
+# success, and the type of its action also has the flag "ignore errors" (64). ReleaseService does not run when an
+# upgrade removes the old version: if the upgrade fails, the old version is restored and needs its name on the list.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 

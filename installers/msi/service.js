@@ -1,6 +1,6 @@
-// PrepareService and ReleaseService are deferred custom actions of the package, and run as SYSTEM. The property
-// CustomActionData of each action is a command line. This command line must run without a window: an ordinary user may
-// start a repair, and could then start programs as SYSTEM from a console window.
+// PrepareService and ReleaseService are deferred custom actions of the package, and run as SYSTEM. Each action runs the
+// command line in its property CustomActionData. The second argument of Run, 0, hides the console window: an ordinary
+// user can start a repair, and could use a visible window to start programs as SYSTEM.
 
 function run() {
   return new ActiveXObject("WScript.Shell").Run(Session.Property("CustomActionData"), 0, true);
@@ -16,13 +16,13 @@ function ReleaseService() {
   return 1;
 }
 
-// Asks for a restart if the last line of run_sorrel.cmd's log has the exit code 3010. A deferred action cannot ask for
-// a restart, so this action is immediate and runs last.
+// Asks for a restart if the last line of run_sorrel.cmd's log shows the exit code 3010. A deferred action cannot ask
+// for a restart. Therefore, this action is immediate and runs last, after the deferred actions have run.
 function AskForRestart() {
   var path = Session.Property("WindowsFolder") + "Logs\\" + Session.Property("Log");
   var log = new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(path);
   var line = "";
   while (!log.AtEndOfStream) line = log.ReadLine();
-  if (line == "=== ends with 3010") Session.Mode(6) = true;  // a restart at the end
+  if (line == "=== ends with 3010") Session.Mode(6) = true;  // 6: restart after the installation
   return 1;
 }

@@ -33,7 +33,8 @@
   !insertmacro ${DO} "${INTERMEDIATE}"
 !macroend
 
-; CVE-2025-43715: setups made by NSIS before 3.11 run programs from a folder in which a user could have put a program.
+; CVE-2025-43715: a setup that was built with NSIS older than 3.11 runs programs from a folder to which a user could
+; have copied a program.
 !ifndef OLD_NSIS_ACCEPTED
   !if ${NSIS_PACKEDVERSION} < 0x03011000
     !warning "NSIS ${NSIS_VERSION} lets a user of the computer gain the setup's rights (CVE-2025-43715): use 3.11 or later."
@@ -73,10 +74,10 @@ UninstPage instfiles
 !insertmacro ProductLine application "${APPLICATION}"
 !insertmacro ProductLine radio_off "${RADIO_OFF}"
 
-; Checks the installation folder. The setup does not ask for it, but the options /D= of the setup and _?= of the
-; uninstaller can name any folder. Programs in the folder run with an administrator's rights. The folder must therefore
-; be in Program Files, where only administrators can write. Its path must not contain a percent sign, since cmd.exe
-; could expand a variable in the path.
+; Checks the installation folder. The setup does not ask the user for a folder, but the options /D= of the setup and
+; _?= of the uninstaller can name any folder. The setup and the uninstaller run programs from the installation folder
+; with an administrator's rights. The folder must therefore be in Program Files, where only administrators can write.
+; The path must not contain a percent sign, because cmd.exe could expand a variable in the path.
 !macro Begin
   SetRegView 64
   StrCpy $0 "$INSTDIR"
@@ -136,8 +137,9 @@ FunctionEnd
 
 Section
   ; $9 is the file name of the installed uninstaller, or empty in a first installation. $8 is the file name of the new
-  ; uninstaller. In a first installation, $8 must be a name that no file has: an earlier removal may have left its
-  ; uninstaller in the folder, and Windows then deletes the file of that name at the next restart.
+  ; uninstaller. In a first installation, $8 must be a name that no file in the folder has. An earlier removal may
+  ; have left its uninstaller in the folder. At the next restart, Windows deletes this uninstaller by its name, and
+  ; would also delete a new uninstaller with the same name.
   ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
   StrCpy $8 "$9"
   ${If} $9 == ""
@@ -159,8 +161,8 @@ Section
   WriteRegStr HKLM "${UNINSTALL_KEY}" InstallLocation "$INSTDIR"
   WriteRegStr HKLM "${UNINSTALL_KEY}" UninstallString '"$INSTDIR\$8"'
   WriteRegStr HKLM "${UNINSTALL_KEY}" Uninstaller "$8"
-  ; NSIS requires _?= at the end of the command line, without quotation marks. With _?=, the uninstaller returns only
-  ; after the removal.
+  ; NSIS requires _?= at the end of the command line, without quotation marks. With _?=, the uninstaller does not return
+  ; before the removal is complete.
   WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\$8" /S _?=$INSTDIR'
 
   StrCpy $0 1603

@@ -12,14 +12,15 @@ namespace kelvo {
 namespace {
 
 // The flags of the content types 1 to 13 (CERT_QUERY_CONTENT_FLAG_*). CERT_QUERY_CONTENT_FLAG_ALL
-// is not used, since newer headers add types to it.
+// is not used, because it contains more types in newer versions of wincrypt.h.
 constexpr DWORD kContentTypes = 0x3FFE;
 
 // The functions of crypt32.dll that this file calls. They are looked up at run time, so a program
-// can start without crypt32.dll, and a missing function becomes an error code.
+// can start without crypt32.dll. If a function is missing, ImportCertToSystemStore returns an error
+// code.
 struct Crypt32 {
   // Returns false and sets the last error when the library or one of these functions is missing.
-  // Never frees the library, since a store that AddFromFile leaves open still needs it.
+  // Never frees the library, since a store that AddFromFile leaves open still needs crypt32.dll.
   bool Bind() {
     const HMODULE library = LoadSystemLibrary(L"crypt32.dll").release();
     openStore = KELVO_FIND_FUNCTION(library, CertOpenStore);
@@ -60,8 +61,8 @@ DWORD AddFromFile(const Crypt32& crypt32, const wchar_t* file, BoundStore& syste
                           0, &encodingType, &contentType, &formatType, &store, nullptr,
                           &context) == FALSE) {
     const DWORD error = GetLastError();
-    // Leaves the system store open on purpose, as certificate_import.h says. Each unreadable file
-    // leaks one handle.
+    // Leaves the system store open on purpose, as certificate_import.h says. Each call with an
+    // unreadable file therefore leaks one handle.
     static_cast<void>(systemStore.release());  // NOLINT(bugprone-unused-return-value): stays open
     return error;
   }
@@ -81,7 +82,7 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   if (!wsspi::IsSspiInitialized()) {
     wsspi::SspiInitialize();
   }
-  // All functions are looked up before any of them is called: if one is missing, no store changes.
+  // Looks up all functions before any store is opened. If one is missing, no store changes.
   Crypt32 crypt32;
   if (!crypt32.Bind()) {
     return GetLastError();

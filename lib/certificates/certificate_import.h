@@ -30,7 +30,7 @@ inline constexpr const wchar_t* kIntermediateCaStore = L"CA";
 // Calls ImportCertToSystemStore for "TrustedPublisher", the store of trusted publishers. Windows
 // does not prompt before it installs a driver package that a trusted publisher has signed. For
 // every user of the computer, Windows also trusts other files that the publisher signs, such as
-// scripts, macros and ClickOnce applications. Use a certificate that signs only drivers.
+// scripts, macros and ClickOnce applications. Use a certificate with which only drivers are signed.
 DWORD ImportCertToTrustedPublishers(const wchar_t* file);
 
 // Calls ImportCertToSystemStore for "CA", the store of intermediate certification authorities.

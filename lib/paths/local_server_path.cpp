@@ -31,8 +31,8 @@ DWORD FindClassKey(const wchar_t* progId, WString& classKey) {
   return ERROR_SUCCESS;
 }
 
-// Calls RegOpenKeyExW, because each attempt specifies its own registry view. OpenRegistryKey would
-// add RegistryAccessFlags to that view.
+// Calls RegOpenKeyExW instead of OpenRegistryKey, which would add RegistryAccessFlags to the
+// registry view of each attempt.
 LSTATUS OpenServerKey(const WString& classKey, OwnedRegistryKey& key) {
   LSTATUS status = ERROR_SUCCESS;
   for (const wchar_t* const server : {L"\\LocalServer32", L"\\LocalServer"}) {
@@ -54,8 +54,8 @@ LSTATUS ReadServer(const WString& classKey, WString& server) {
     return status;
   }
   constexpr DWORD kCapacity = 522;
-  // The buffer has one character more than RegQueryValueExW may write, so that a NUL follows even a
-  // string that is stored without a NUL.
+  // The buffer is zeroed and has one character more than RegQueryValueExW can write. A string that
+  // is stored without a NUL is therefore still terminated.
   std::array<wchar_t, (kCapacity / sizeof(wchar_t)) + 1> text{};
   DWORD size = kCapacity;
   status = RegQueryValueExW(key.get(), nullptr, nullptr, nullptr,

@@ -26,8 +26,9 @@ bool BeginsWithDrive(std::wstring_view path) {
          IsSeparator(path[2]);
 }
 
-// Returns true when `path`, the text after "\\" or "\\?\UNC\", begins with a server name. "." and
-// "?" are not server names, because paths that begin with "\\.\" or "\\?\" are device paths.
+// Returns true when `path` begins with a server name. `path` is the part of a path after "\\" or
+// "\\?\UNC\". "." and "?" are not server names, because paths that begin with "\\.\" or "\\?\" are
+// device paths.
 bool BeginsWithName(std::wstring_view path) {
   const std::wstring_view name = path.substr(0, path.find_first_of(L"\\/"));
   return !name.empty() && name != L"." && name != L"?";
@@ -73,7 +74,8 @@ WString RemoveLongPathPrefix(const wchar_t* path) {
       BeginsWithName(given.substr(kUncPrefix.length()))) {
     return WString(L"\\\\").append(given.substr(kUncPrefix.length()));
   }
-  // In a path that has the prefix, Windows does not treat "/" as a separator.
+  // Requires "\" after the drive: in a path with the prefix, Windows does not treat "/" as a
+  // separator.
   const bool hasDrive = HasLongPathPrefix(path) &&
                         BeginsWithDrive(given.substr(kPrefix.length())) &&
                         given[kPrefix.length() + 2] == L'\\';

@@ -13,7 +13,7 @@ std::array<wchar_t, 255> moduleDirectory{};
 }  // namespace
 
 const wchar_t* GetModuleDirectory(const HMODULE* module) {
-  // The module's path may be longer than `moduleDirectory`, which must hold only the directory.
+  // The module's path may be too long for `moduleDirectory` even when the directory part fits.
   WString path = ReadModulePath(module == nullptr ? nullptr : *module);
   const std::size_t lastBackslash = path.rfind(L"\\");
   if (lastBackslash != WString::npos) {

@@ -8,15 +8,18 @@ namespace kelvo {
 
 // Writes the path of a shell folder, with a trailing backslash, to `out` (260 characters) and
 // returns true. `valueName` is the name of the folder's registry value, such as "Personal" or
-// "AppData". Reads that value in the key "User Shell Folders" and then in "Shell Folders", each
-// first in HKEY_CURRENT_USER and then in HKEY_LOCAL_MACHINE. Both keys are below
-// "Software\Microsoft\Windows\CurrentVersion\Explorer". Uses the first string that is not empty,
-// and does not expand environment variables in it. A string counts as empty if, with its
-// trailing backslash and a NUL, it does not fit in `out`.
+// "AppData". Looks for a value with this name in four keys, in this order:
+//   1. HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders
+//   2. HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders
+//   3. HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders
+//   4. HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders
+// The path is the first string that is not empty. Environment variables in the string are not
+// expanded. A string that is too long for `out` (including the backslash and a NUL) counts as
+// empty.
 //
-// When every string is missing or counts as empty, writes the result of GetModuleDirectory(module)
-// (lib/paths/module_directory.h) to `out`. Returns true if this result is not empty, otherwise
-// false.
+// When none of the four values contains such a string, writes the result of
+// GetModuleDirectory(module) (lib/paths/module_directory.h) to `out`. Returns true if this result
+// is not empty, otherwise false.
 bool GetShellFolderPath(const HMODULE* module, std::span<wchar_t, MAX_PATH> out,
                         const wchar_t* valueName);
 

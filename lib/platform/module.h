@@ -19,7 +19,7 @@ struct ModuleTraits {
 // Owns the handle of a library that this process has loaded, and frees the library with
 // FreeLibrary. The handle is null when no library is owned. For a module that is only looked up
 // (GetModuleHandleW), use a plain HMODULE.
-//   // With lib/platform/system_library.h:
+//   // LoadSystemLibrary is in lib/platform/system_library.h.
 //   const OwnedModule library = LoadSystemLibrary(L"secur32.dll");
 //   auto* const getName = KELVO_FIND_FUNCTION(library.get(), GetUserNameExW);
 //   const bool isKnown = getName != nullptr && getName(NameDisplay, name, &size) != FALSE;

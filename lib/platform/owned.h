@@ -7,9 +7,10 @@
 
 namespace kelvo {
 
-// Owns one handle. The destructor closes the handle. `Kind` describes a kind of handle:
-//   using Handle = ...;             the Windows type
-//   static Handle None();           the value that means "no handle" of this kind
+// Owns one handle. The destructor closes the handle. An Owned object can be moved but not copied.
+// `Kind` is a class with these members:
+//   using Handle = ...;             the Windows type of the handle
+//   static Handle None();           returns the value that means "no handle"
 //   static void Close(Handle);      closes a handle; never called with None()
 template <typename Kind>
 class Owned {
@@ -18,7 +19,7 @@ class Owned {
   using Handle = typename Kind::Handle;
 
   Owned() = default;
-  // Takes ownership of a handle. An Owned object can be moved but not copied.
+  // Takes ownership of `handle`.
   explicit Owned(Handle handle) : handle_(handle) {}
   Owned(const Owned&) = delete;
   Owned& operator=(const Owned&) = delete;
@@ -45,8 +46,9 @@ class Owned {
   }
 
   // Call this after calling a Windows function with the pointer from Receive(). `succeeded` tells
-  // whether the function succeeded. If true, keeps the handle that the function stored. If false,
-  // discards any value that the function stored, and closes nothing. Returns `succeeded`.
+  // whether that function succeeded. If `succeeded` is true, this object keeps the handle that the
+  // function stored. If `succeeded` is false, this object discards any value that the function
+  // stored, and closes nothing. Returns `succeeded`.
   bool KeepIf(bool succeeded) {
     if (!succeeded) {
       release();
@@ -54,7 +56,7 @@ class Owned {
     return succeeded;
   }
 
-  // Returns the handle, which this object no longer owns.
+  // Gives up ownership of the handle and returns it. The caller must then close the handle.
   Handle release() { return std::exchange(handle_, Kind::None()); }
 
   // Closes the current handle, if there is one, and takes ownership of `handle`. When called
@@ -106,7 +108,7 @@ struct FileSearchTraits {
 
 }  // namespace internal
 
-// A handle of a process, thread, token, mutex or event. Closed with CloseHandle; null means "no
+// A handle to a process, thread, token, mutex or event. Closed with CloseHandle; null means "no
 // handle".
 using OwnedKernelObject = Owned<internal::KernelObjectTraits>;
 
@@ -118,12 +120,12 @@ using OwnedFile = Owned<internal::FileTraits>;
 using OwnedFileSearch = Owned<internal::FileSearchTraits>;
 
 // Memory from LocalAlloc, or from a Windows function that allocates such memory for its caller.
-// Freed with LocalFree; null means that there is none.
+// Freed with LocalFree; null means "no memory".
 template <typename Content>
 using OwnedLocalMemory = Owned<internal::LocalMemoryTraits<Content>>;
 
-// Memory from HeapAlloc in the process heap (GetProcessHeap). Freed with HeapFree; null means that
-// there is none.
+// Memory from HeapAlloc in the process heap (GetProcessHeap). Freed with HeapFree; null means "no
+// memory".
 template <typename Content>
 using OwnedProcessHeapMemory = Owned<internal::ProcessHeapMemoryTraits<Content>>;
 

@@ -30,7 +30,7 @@ bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names) {
 }
 
 BOOL IsOnInteractiveDesktop() {
-  // The variables are in this order so that the station is closed before the desktop.
+  // The variables are declared in this order so that the station is closed before the desktop.
   internal::OwnedDesktop desktop;
   internal::OwnedWindowStation station;
   DesktopNames names;

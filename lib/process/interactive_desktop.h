@@ -21,8 +21,8 @@ struct DesktopNames {
 };
 
 // Reads the window station's name, then the desktop's name (GetUserObjectInformationW). When a name
-// cannot be read or does not fit, reads no further name, traces which of the two names failed
-// (lib/trace/trace_sink.h) and returns false.
+// cannot be read or does not fit, reads no further name, traces which of the two names could not be
+// read (lib/trace/trace_sink.h) and returns false.
 bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names);
 
 // Returns TRUE when this process's window station is "WinSta0" and the calling thread's desktop is

@@ -12,9 +12,9 @@ namespace kelvo {
 
 namespace {
 
-// The part of the process environment block (PEB) that ReadParameters reads. By contract, the
-// pointer to the process parameters is read from offset 0x18, although a 64-bit PEB usually has it
-// at offset 0x20.
+// The part of the process environment block (PEB) that ReadParameters reads. As documented in
+// process_command_line.h, the pointer to the process parameters is read from offset 0x18. A 64-bit
+// PEB usually has that pointer at offset 0x20.
 struct EnvironmentBlock {
   std::byte before[0x18];
   const void* parameters;

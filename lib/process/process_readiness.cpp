@@ -24,12 +24,12 @@ internal::StartedProcess StartProgram(const wchar_t* exePath, const wchar_t* arg
 
 StartResult WaitForMutex(const WString& name, bool pumpMessages, DWORD timeoutMs) {
   const DWORD start = GetTickCount();
-  // The unsigned difference stays correct when the tick count wraps.
+  // The unsigned difference stays correct when the tick count wraps around to 0.
   while (GetTickCount() - start < timeoutMs) {
     if (OwnedKernelObject(OpenMutexW(MUTEX_ALL_ACCESS, FALSE, name.c_str()))) {
       return kMutexAppeared;
     }
-    // The loop does not sleep while it pumps messages, so that no message has to wait.
+    // With `pumpMessages`, the loop does not sleep, because a sleep would delay the messages.
     if (!pumpMessages) {
       Sleep(kPollPauseMs);
     } else if (PumpWaitingMessages() == WM_CLOSE) {

@@ -4,16 +4,14 @@
 
 namespace kelvo {
 
-// Checks whether this process's session is used from another computer, the remote client. Returns
-// 0, with the client's name in `buffer`, when that name is not empty and differs from this
-// computer's NetBIOS name. The comparison ignores letter case. Otherwise returns -1. In that case,
-// `buffer` holds the client name that Windows returned, which may be empty. When Windows returned
-// no string at all, `buffer` is unchanged.
+// Checks whether this process's session is a remote session. Copies the name of the client computer
+// to `buffer` (WTSQuerySessionInformationW with WTSClientName for the current session, looked up at
+// run time). Returns 0 when this name is not empty and is not this computer's NetBIOS name. The
+// comparison ignores letter case. Returns -1 when the name is empty or is this computer's name.
 //
-// `capacity` is in characters, including the NUL. A client name that does not fit is truncated
-// before the comparison. Returns -1 for a null buffer and for a capacity below 1. Uses
-// WTSQuerySessionInformationW (WTSClientName of the current session), looked up at run time. No
-// exception leaves the function.
+// `capacity` is the size of `buffer` in characters, including the NUL. A name that does not fit is
+// truncated before the comparison. Returns -1 and leaves `buffer` unchanged when `buffer` is null,
+// `capacity` is below 1, or Windows returns no string. No exception leaves the function.
 std::int32_t GetRemoteClientName(wchar_t* buffer, int capacity);
 
 }  // namespace kelvo

@@ -31,8 +31,7 @@ bool KeepPlace(HWINSTA station, HDESK desktop, Launch& launch) {
   if (!ReadDesktopNames(station, desktop, names)) {
     return false;
   }
-  // Both comparisons are case-sensitive, unlike those in the function
-  // IsOnInteractiveDesktop().
+  // Compares both names case-sensitively, whereas IsOnInteractiveDesktop() ignores letter case.
   launch.isOnInteractiveStation = lstrcmpW(names.station.data(), kInteractiveStation) == 0;
   const bool isOnInteractiveDesktop =
       launch.isOnInteractiveStation && lstrcmpW(names.desktop.data(), kInteractiveDesktop) == 0;
@@ -87,7 +86,7 @@ void CleanUp(Launch& launch, BOOL wait, HANDLE* process) {
     SetProcessWindowStation(launch.keptStation.get());
   }
   if (launch.keptDesktop) {
-    // This call changes nothing, because the thread has not left this desktop.
+    // This call has no effect, because the thread is still on this desktop.
     SetThreadDesktop(launch.keptDesktop.get());
   }
   if (launch.started.process) {

@@ -6,10 +6,10 @@ namespace kelvo {
 
 // Runs a command line on the interactive desktop, "WinSta0\Default", with a copy of this process's
 // token. The caller may be on any desktop. Returns TRUE when the new process was started,
-// otherwise FALSE. `commandLine` must be writable, because CreateProcessAsUserW may change it. With
-// `wait`, returns only after the new process has ended. When `process` is not null, `*process`
-// receives the new process's handle, which the caller closes. On failure, `*process` is unchanged.
-// For example:
+// otherwise FALSE. `commandLine` must be writable, because CreateProcessAsUserW may change it. If
+// `wait` is TRUE, returns only after the new process has ended. When `process` is not null,
+// `*process` receives the new process's handle, which the caller closes. On failure, `*process` is
+// unchanged. For example:
 //   wchar_t command[] = L"\"C:\\Program Files\\App\\app.exe\" /start";
 //   OwnedKernelObject process;
 //   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());
@@ -17,10 +17,11 @@ namespace kelvo {
 //   - If this process's window station is not "WinSta0" (the comparison is case-sensitive), this
 //     process is moved to "WinSta0" to start the new process. This process is moved back before
 //     the call waits or returns. In this case, the token's user also gets full access to "WinSta0"
-//     and its desktop "Default" until the session ends (AllowTokenFullAccessToObject).
+//     and its desktop "Default" until the session ends (see AllowTokenFullAccessToObject in
+//     lib/security/token_object_access.h).
 //   - The call fails when Windows does not know SeTakeOwnershipPrivilege, but this process need not
-//     hold this privilege. This process needs SeAssignPrimaryTokenPrivilege, unless Windows lets it
-//     assign the token without this privilege.
+//     hold that privilege. This process must hold SeAssignPrimaryTokenPrivilege, unless Windows
+//     lets it start a process with the copied token without that privilege.
 //   - The new process and its thread get a null DACL, which gives everyone full access to them. If
 //     SYSTEM calls this function, every user of the computer can thus control a process that has
 //     SYSTEM's rights.

@@ -8,19 +8,20 @@ namespace kelvo {
 // caller may be a service in another session. Returns true when the process was created. The
 // command line consists of `exePath` in double quotes, followed by a space and the unchanged
 // `arguments`. Null strings count as empty. `exePath` should be a full path.
-//   - On Windows XP and later, the program runs in that user's session, under that user's account
-//     (CreateProcessAsUserW). When nobody is logged on to the session or Windows refuses the user's
-//     token, the program instead runs in the caller's session, under the caller's account
-//     (CreateProcessW). For the privilege that is needed to get the token, see
-//     QueryUserTokenOfSession (lib/process/user_session.h).
+//   - On Windows XP and later, the program runs in that user's session, under that user's account.
+//     It is started by CreateProcessAsUserW with the token from QueryUserTokenOfSession
+//     (lib/process/user_session.h). When QueryUserTokenOfSession fails, the program instead runs in
+//     the caller's session, under the caller's account (CreateProcessW). QueryUserTokenOfSession
+//     fails, for example, when nobody is logged on to the session, or when the caller lacks the
+//     privilege that QueryUserTokenOfSession needs.
 //   - On Windows 2000, the program always runs in the caller's session, under the caller's account.
-//     It is started by RunAsUser (lib/process/run_as_user.h) when the caller is in the console
-//     session but not on the interactive desktop, and by CreateProcessW otherwise.
+//     When the caller is in the console session but not on the interactive desktop, RunAsUser
+//     (lib/process/run_as_user.h) starts the program. Otherwise, CreateProcessW starts it.
 //   - The program inherits the caller's environment and current directory, but no handles. Do not
 //     keep secrets in the caller's environment, because the program can read them there.
-//   - A service must not start the program under the service's own account. It must therefore call
-//     QueryUserTokenOfSession first. If QueryUserTokenOfSession fails, the service must not call
-//     this function, because the program would run under the service's account.
+//   - A service must call QueryUserTokenOfSession before this function. If QueryUserTokenOfSession
+//     fails, the service must not call this function, because the program would run under the
+//     service's account.
 //
 // With `wait`, returns only after the program has ended. When `processHandle` is not null,
 // `*processHandle` receives the process's handle, which the caller closes. On failure,

@@ -16,9 +16,9 @@ namespace kelvo {
 //   - An LSTATUS is 0 on success. On failure, it is the Windows error code of the failed call,
 //     unless the function's comment names another number, such as -1.
 
-// Flags for every call in this folder that opens, creates or deletes a key: they are ORed into the
-// access mask, and passed to RegDeleteKeyExW. To choose a registry view, set this variable to
-// KEY_WOW64_64KEY or KEY_WOW64_32KEY before other threads use the registry.
+// The functions in this folder OR these flags into the access mask when they open or create a key,
+// and pass the flags to RegDeleteKeyExW when they delete a key. To choose a registry view, set this
+// variable to KEY_WOW64_64KEY or KEY_WOW64_32KEY before other threads use the registry.
 extern REGSAM RegistryAccessFlags;
 
 namespace internal {

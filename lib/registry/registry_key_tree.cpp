@@ -16,8 +16,8 @@ constexpr REGSAM kDeleteSubkeys =
 constexpr REGSAM kDeleteValues = kDeleteSubkeys | KEY_QUERY_VALUE;
 constexpr DWORD kNameLength = 255;
 
-// The enumeration of subkeys and values uses only index 0. The entry found at index 0 is deleted
-// before the same key is enumerated again, and then another entry has index 0.
+// FirstSubkey and DeleteValues enumerate only index 0. The subkey or value that they find is
+// deleted before they enumerate the same key again. Then another subkey or value has index 0.
 
 // Returns an empty string when the key has no subkey, cannot be opened or cannot be enumerated.
 WString FirstSubkey(HKEY root, const WString& path) {
@@ -66,9 +66,9 @@ LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_
   if (WString(parentPath).empty() || WString(keyName).empty()) {
     return ERROR_ACCESS_DENIED;
   }
-  // `path` is the path of the key being emptied. `parentLengths` has one path length for each key
-  // above that key, from `parentPath` down to the direct parent. The code uses a loop, not
-  // recursion, because other programs may have made the tree too deep for the stack.
+  // `path` is the path of the current key. `parentLengths` has the lengths of the paths of its
+  // ancestors, from `parentPath` down to the direct parent. The code uses a loop, because recursion
+  // could overflow the stack: other programs may have made the tree very deep.
   WString path = WString(parentPath) + L"\\" + keyName;
   std::vector<std::size_t> parentLengths{WString(parentPath).length()};
   while (!parentLengths.empty()) {

@@ -4,7 +4,8 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and RegistryAccessFlags,
+// which is ORed into the access mask of every key that these functions open.
 
 // Returns the number in a REG_DWORD value (RegQueryValueExW). Returns `defaultNumber` when the key
 // cannot be opened, or when the value is missing, has another type or has more than 4 bytes. When
@@ -12,15 +13,15 @@ namespace kelvo {
 DWORD RegistryReadDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                         DWORD defaultNumber);
 
-// Reads a REG_DWORD value by the rules of RegistryReadDword. Returns false when the number is 0,
-// and true when it is any other number. In the cases in which RegistryReadDword returns
-// `defaultNumber`, returns `defaultAnswer`.
+// Reads a REG_DWORD value as RegistryReadDword does. Returns false when the number is 0, and true
+// when it is any other number. In the cases in which RegistryReadDword returns `defaultNumber`,
+// returns `defaultAnswer`.
 bool RegistryReadBoolean(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                          bool defaultAnswer);
 
 // Writes a REG_DWORD value of 4 bytes (RegSetValueExW). When the key does not exist, first creates
-// the key and all missing keys on its path. Returns 0 or the error code of the write. Returns -1
-// when the key cannot be created or opened for KEY_WRITE.
+// the key and all missing keys on its path. Returns 0 on success, or the error code of
+// RegSetValueExW. Returns -1 when the key cannot be created or opened with KEY_WRITE.
 LSTATUS RegistryWriteDword(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                            DWORD number);
 

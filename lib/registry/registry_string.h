@@ -32,9 +32,9 @@ WString RegistryReadString(HKEY root, const wchar_t* subkey, const wchar_t* valu
 // characters, and returns the string's length in characters. Expands a REG_EXPAND_SZ value in the
 // same way as RegistryReadString. First fills the whole buffer with NULs. The buffer holds an empty
 // string when the key cannot be opened, or when the value is missing, has another type or has more
-// than 2 x `length` bytes. The buffer always contains a NUL: an expansion that does not fit is
-// cut off. If a string that is stored without a NUL fills the buffer, the string loses its last
-// character. When `buffer` is null or `length` is 0, returns 0 and writes nothing.
+// than 2 x `length` bytes. The string in the buffer always ends with a NUL. An expansion that does
+// not fit is truncated. If a string that is stored without a NUL fills the buffer, the string loses
+// its last character. When `buffer` is null or `length` is 0, returns 0 and writes nothing.
 std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length);
 
@@ -42,11 +42,12 @@ std::size_t RegistryReadStringBuffer(HKEY root, const wchar_t* subkey, const wch
 std::size_t RegistryReadStoredString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                                      wchar_t* buffer, std::size_t length);
 
-// Both functions write `text` with its NUL (RegSetValueExW): RegistryWriteString writes a REG_SZ
-// value, and RegistryWriteExpandString writes a REG_EXPAND_SZ value. Both create the key and all
-// missing keys on its path. A null `text` counts as empty. When the size of the string in bytes
-// does not fit in a DWORD, both return ERROR_INVALID_PARAMETER. When the key cannot be created or
-// opened for KEY_WRITE, both return -1. Otherwise, both return the result of RegSetValueExW.
+// RegistryWriteString writes `text` as a REG_SZ value, and RegistryWriteExpandString writes `text`
+// as a REG_EXPAND_SZ value. The following applies to both functions. The stored data includes the
+// NUL. If the key does not exist, the function creates it and all missing keys on its path. A null
+// `text` counts as empty. Returns ERROR_INVALID_PARAMETER when the size of the string in bytes does
+// not fit in a DWORD. Returns -1 when the key cannot be created or opened for KEY_WRITE. Otherwise,
+// returns the result of RegSetValueExW.
 LSTATUS RegistryWriteString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const wchar_t* text);
 LSTATUS RegistryWriteExpandString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,

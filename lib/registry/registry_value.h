@@ -4,16 +4,17 @@
 
 namespace kelvo {
 
-// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and RegistryAccessFlags,
-// which is ORed into the access mask of every key that these functions open.
+// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and RegistryAccessFlags. When
+// one of these functions opens or creates a key, it ORs RegistryAccessFlags into the access mask.
 
 // Returns true when the key can be opened with KEY_READ and has the value `valueName`, of any type
 // (RegQueryValueExW).
 bool RegistryValueExists(HKEY root, const wchar_t* subkey, const wchar_t* valueName);
 
-// Writes `size` bytes at `data` as a value of the given type (RegSetValueExW), creating the key and
-// all missing keys on its path. Returns 0 on success, or the error code of RegSetValueExW. Returns
-// -1 when the key cannot be created or opened with KEY_WRITE.
+// Reads `size` bytes from `data` and stores them as a value of the given type (RegSetValueExW). If
+// the key does not exist, first creates it and all missing keys on its path. Returns 0 on success,
+// or the error code of RegSetValueExW. Returns -1 when the key cannot be created or opened with
+// KEY_WRITE.
 LSTATUS WriteRegistryValue(HKEY root, const wchar_t* subkey, const wchar_t* valueName, DWORD type,
                            const void* data, DWORD size);
 

@@ -21,8 +21,8 @@ class ValueReader {
     nameLength_ = kBufferLength;
     size_ = kBufferLength * sizeof(wchar_t);
     name_.front() = L'\0';
-    // Clears only the first character. By design, the string of a REG_DWORD value may continue with
-    // data that earlier values left in this buffer, as ReadRegistryKeyValues documents.
+    // Clears only the first character: the rest of the buffer must keep the data of earlier values.
+    // The string of a REG_DWORD value may continue with that data, as registry_value_list.h says.
     data_.front() = L'\0';
     return RegEnumValueW(key_, index, name_.data(), &nameLength_, nullptr, &type_,
                          reinterpret_cast<BYTE*>(data_.data()), &size_) == ERROR_SUCCESS;
@@ -49,8 +49,8 @@ class ValueReader {
     return WString(std::wstring_view(name_.data(), nameLength_));
   }
 
-  // Returns the string in this value's data. The data may lack a NUL, or end with the first byte of
-  // a character. Ignores the rest of the buffer, which may contain data of earlier values.
+  // Returns the string in this value's data. The data may lack a NUL, or have an odd number of
+  // bytes. Ignores the rest of the buffer, which may contain data of earlier values.
   [[nodiscard]] WString StoredText() const {
     WString text(std::wstring_view(data_.data(), (size_ + 1) / sizeof(wchar_t)));
     if (size_ % sizeof(wchar_t) != 0) {

@@ -6,7 +6,7 @@ namespace kelvo {
 
 // Turns registry reflection on or off for an open key (RegEnableReflectionKey and
 // RegDisableReflectionKey of "Advapi32.DLL", looked up at run time). Returns true when Windows has
-// the function and it succeeds.
+// the function and the call succeeds.
 bool EnableRegistryReflection(HKEY key, bool enable);
 
 // Returns the access flag for a registry view: KEY_WOW64_32KEY for view 1, KEY_WOW64_64KEY for view

@@ -11,11 +11,12 @@ namespace kelvo {
 // std::nullopt for other types.
 std::optional<DWORD> CanonicalRank(const ACE_HEADER& ace);
 
-// Returns the index at which `ace` must be inserted to keep the ACL in canonical order: the index
-// of the first ACE with the same or a higher rank or, if there is none, the number of ACEs. Returns
-// kNoAceIndex (access_control_list.h) when the ACL is null or invalid, or when `ace` or an ACE
-// before the insertion index has no rank. When GetAce fails, returns the index at which it failed.
-// Traces these failures. If an exception occurs, returns kNoAceIndex and traces nothing.
+// Returns the index at which `ace` must be inserted to keep the ACL in canonical order. This is the
+// index of the first ACE whose rank is equal or higher. When there is no such ACE, returns the
+// number of ACEs. Returns kNoAceIndex (access_control_list.h) when the ACL is null or invalid, or
+// when `ace` or an ACE before the insertion index has no rank. When GetAce fails, returns the index
+// at which it failed. Traces these failures. If an exception occurs, returns kNoAceIndex and traces
+// nothing.
 DWORD GetACEInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 
 }  // namespace kelvo

@@ -22,8 +22,8 @@ namespace kelvo {
 // and leaves the DACL unchanged in these cases:
 //   - The DACL cannot be read, is malformed or cannot be written.
 //   - The DACL has no ACEs.
-//   - A deny ACE or an object deny ACE at index 1 or higher is too short for the SID that is
-//     expected after its mask.
+//   - A deny ACE or an object deny ACE at index 1 or higher is too short: the bytes that the
+//     function would compare with `sid` extend past the end of the ACE.
 BOOL DeleteDenyACEofObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type);
 
 }  // namespace kelvo

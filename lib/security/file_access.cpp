@@ -27,7 +27,8 @@ bool Allocate(DWORD size, OwnedProcessHeapMemory<Content>& memory) {
   return Check(static_cast<bool>(memory), L"HeapAlloc() failed. Error %d\n");
 }
 
-// A file's security descriptor, of which only the DACL is read: `size` bytes at `memory`.
+// A file's security descriptor: `size` bytes at `memory`. It contains only the DACL, because
+// nothing else is requested from Windows.
 struct Descriptor {
   OwnedProcessHeapMemory<void> memory;
   DWORD size = 0;
@@ -48,10 +49,9 @@ bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
                L"GetFileSecurity() failed. Error %d\n");
 }
 
-// Calls GetAclInformation and returns true when it succeeds. First checks that the DACL is inside
-// the descriptor, that every ACE is inside the DACL, and that no ACE is smaller than an ACE_HEADER.
-// If a check fails, does not call GetAclInformation: sets the last error to ERROR_INVALID_ACL and
-// returns false.
+// Checks that the DACL is inside the descriptor, that every ACE is inside the DACL, and that no ACE
+// is smaller than an ACE_HEADER. If a check fails, sets the last error to ERROR_INVALID_ACL and
+// returns false. Otherwise, calls GetAclInformation and returns whether that call succeeds.
 bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFORMATION& size) {
   const auto offset = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(dacl) -
                                                static_cast<const BYTE*>(descriptor.memory.get()));
@@ -153,7 +153,7 @@ bool CarryInheritanceOver(PSECURITY_DESCRIPTOR from, PSECURITY_DESCRIPTOR to) {
   auto* const setControl =
       KELVO_FIND_FUNCTION(GetModuleHandleW(L"advapi32.dll"), SetSecurityDescriptorControl);
   if (setControl == nullptr) {
-    // Windows NT 4.0 does not have this function. Its DACLs are never auto-inherited or protected.
+    // Windows NT 4.0 lacks this function. There, DACLs are never auto-inherited or protected.
     return true;
   }
   SECURITY_DESCRIPTOR_CONTROL old = 0;

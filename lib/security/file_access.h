@@ -7,14 +7,14 @@ namespace kelvo {
 // Grants an account the rights in `accessMask` by adding an ACE to the DACL of a file or directory.
 // `sid` is the account's SID in any form that ConvertStringSidToSidW accepts.
 //   - The new ACE is inserted before the first inherited ACE, or at the end if none is inherited.
-//     The account's old ACEs before the new ACE are removed, including deny ACEs. All other ACEs
-//     stay, in their order.
+//     Any other ACE of the account is removed if its position is before the new ACE, even if it
+//     is a deny ACE. All remaining ACEs keep their order.
 //   - A file without a DACL gets a DACL that contains only the new ACE.
 //   - An auto-inherited DACL stays auto-inherited. A protected DACL that is not auto-inherited
 //     stays protected. A DACL that is both protected and auto-inherited ("D:PAI") loses its
-//     protection and inherits the ACEs of the file's folder.
+//     protection, and the file inherits ACEs from its parent folder.
 //   - If `path` contains a link, the DACL of the file to which the link leads is changed. Therefore
-//     use a path that no other account can redirect to another file.
+//     use a path that no other user can redirect to another file.
 //
 // The caller needs READ_CONTROL and WRITE_DAC access to the file (GetFileSecurityW,
 // SetFileSecurityW). The new DACL is set in one call. Returns TRUE when that call succeeds. On any

@@ -6,7 +6,7 @@ namespace kelvo {
 
 // EnablePrivilege and EnablePrivilegeWithOutcome change a privilege in this process's token
 // (OpenProcessToken, LookupPrivilegeValueW on the local computer, AdjustTokenPrivileges). The
-// change lasts until the process exits. `name` is Windows' name of the privilege, such as
+// change lasts until the process exits. `name` is Windows' name for the privilege, such as
 // "SeShutdownPrivilege".
 
 // Enables or disables a privilege. Returns the result of AdjustTokenPrivileges, which is TRUE even
@@ -19,9 +19,9 @@ struct PrivilegeOutcome {
   // The result of AdjustTokenPrivileges, or FALSE when that function was not called. TRUE does not
   // mean that the token holds the privilege.
   BOOL adjusted = FALSE;
-  // The last error of the call that failed. When no call failed, the last error of
-  // AdjustTokenPrivileges, which is ERROR_NOT_ALL_ASSIGNED when the token does not hold the
-  // privilege.
+  // When a call fails, the error code of that call (GetLastError). When no call fails, the last
+  // error that AdjustTokenPrivileges sets: ERROR_NOT_ALL_ASSIGNED when the token does not hold the
+  // privilege, otherwise ERROR_SUCCESS.
   DWORD error = ERROR_SUCCESS;
 };
 

@@ -9,9 +9,10 @@ namespace kelvo {
 // handle needs TOKEN_QUERY or, for TokenSource, TOKEN_QUERY_SOURCE. Returns null, and traces why,
 // when the token cannot be read or memory runs out.
 //
-// Also returns null for some classes of fixed size, such as TokenElevation: when
-// GetTokenInformation is asked for the size of such a class, it fails with an error other than
-// ERROR_INSUFFICIENT_BUFFER. For these classes, call GetTokenInformation yourself.
+// Also returns null, and traces why, for some classes whose data has a fixed size, such as
+// TokenElevation. For these classes, GetTokenInformation fails with an error other than
+// ERROR_INSUFFICIENT_BUFFER when it is asked for the size of the data. To query such a class, call
+// GetTokenInformation yourself.
 void* GetFromToken(HANDLE token, TOKEN_INFORMATION_CLASS kind);
 
 }  // namespace kelvo

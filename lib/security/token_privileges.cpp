@@ -11,8 +11,8 @@ namespace kelvo {
 
 namespace {
 
-// The first three names are listed twice, so a set that CreateTokenPriv makes from this list
-// contains these privileges twice.
+// The first three names are listed twice. The TOKEN_PRIVILEGES that CreateTokenPriv makes from this
+// list therefore contains these three privileges twice.
 constexpr const wchar_t* kBuiltInPrivileges[] = {
     L"SeCreateTokenPrivilege",
     L"SeAssignPrimaryTokenPrivilege",
@@ -64,8 +64,8 @@ DWORD CountNames(const wchar_t* const* names) {
   return count;
 }
 
-// Fills `entries`, without gaps, with one entry for each name that this system supports. Returns
-// the number of entries written.
+// Writes one entry to `entries` for each name that this system supports, without gaps between the
+// entries. Returns the number of entries written.
 DWORD LookUpPrivileges(const wchar_t* const* names, DWORD count, LUID_AND_ATTRIBUTES* entries) {
   DWORD known = 0;
   for (DWORD index = 0; index < count; ++index) {

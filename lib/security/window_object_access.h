@@ -10,13 +10,14 @@ namespace kelvo {
 // nothing. The handle needs READ_CONTROL and WRITE_DAC. When the DACL cannot be read, rebuilt or
 // written, they trace the reason, return FALSE and leave the DACL unchanged.
 //
-// A call that has read the DACL allocates an ACE, whose memory is never freed. If the new DACL has
-// more than 1,008 bytes, its memory is never freed either.
+// Both functions leak memory. After a call has read the DACL, it allocates an ACE that is never
+// freed. If the new DACL has more than 1,008 bytes, the memory of the new DACL is not freed either.
 
-// Grants STANDARD_RIGHTS_REQUIRED and all rights of window stations: mask 0x000F037F.
+// Grants STANDARD_RIGHTS_REQUIRED and WINSTA_ALL_ACCESS: mask 0x000F037F.
 BOOL AllowAccessToWinSta(PSID sid, HWINSTA station);
 
-// Grants STANDARD_RIGHTS_REQUIRED and all rights of desktops: mask 0x000F01FF.
+// Grants STANDARD_RIGHTS_REQUIRED and all specific rights of a desktop (the constants that begin
+// with DESKTOP_): mask 0x000F01FF.
 BOOL AllowAccessToDesktop(PSID sid, HDESK desktop);
 
 }  // namespace kelvo

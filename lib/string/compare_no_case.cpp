@@ -15,9 +15,9 @@ namespace {
 // Maps every UTF-16 code unit to lower case.
 using Table = std::array<wchar_t, 0x10000>;
 
-// Maps all units in one call, because a call to Windows costs far more than mapping one unit. Two
-// neighbouring units could be mapped together if they were a surrogate pair. The units are in
-// order, so the only pair is U+DBFF U+DC00: a private-use character, which has no case.
+// Maps all units in one call, because a call to Windows costs far more than mapping one unit. In
+// such a call, Windows could map a surrogate pair as one character. But the units are in ascending
+// order. The only surrogate pair is therefore U+DBFF U+DC00, a private-use character without case.
 Table MakeTable() {
   Table units;
   const auto fill = [&] { std::iota(units.begin(), units.end(), L'\0'); };
@@ -51,8 +51,8 @@ bool AreCasesOfLetter(unsigned a, unsigned b) {
 template <typename Fold>
 std::int32_t Compare(const wchar_t* a, const wchar_t* b, bool foldsLetters, Fold fold) {
   const auto folded = [fold](wchar_t unit) { return unit == 0xFFFF ? unit : fold(unit); };
-  // Calls `fold` only when needed: in nearly all pairs, the units are equal or are the upper and
-  // lower case of one ASCII letter.
+  // Calls `fold` only when needed, to save time. Nearly always, the two units are equal or are the
+  // upper and lower case of one ASCII letter.
   for (; *a == *b || (foldsLetters && AreCasesOfLetter(*a, *b)) || folded(*a) == folded(*b);
        ++a, ++b) {
     if (*a == L'\0') {
@@ -65,7 +65,7 @@ std::int32_t Compare(const wchar_t* a, const wchar_t* b, bool foldsLetters, Fold
 }  // namespace
 
 std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b) {
-  // NOLINTNEXTLINE(concurrency-mt-unsafe): setlocale with null changes nothing
+  // With null, setlocale only returns the name of the current locale.
   const bool isDefaultLocale = std::string_view(std::setlocale(LC_CTYPE, nullptr)) == "C";
   return isDefaultLocale ? Compare(a, b, true, FoldInDefaultLocale)
                          : Compare(a, b, false, FoldInLocale);

@@ -26,11 +26,15 @@ class StringTokenizer {
   WString NextToken();
 
  private:
-  // When `collapse` is true, one of these functions handles runs of delimiters. SkipRun is for a
-  // delimiter of one wchar_t: it skips the run at `next_`, first at the start and then after each
-  // item. CollapseRuns is for longer delimiters, which may overlap themselves (such as "aa" in
-  // "aaa"): it replaces each run in `text_` with one delimiter.
+  // Replaces each run of adjacent delimiters in `text_` with one delimiter. The constructor calls
+  // this if `collapse` is true and the delimiter is longer than one wchar_t. Occurrences of such a
+  // delimiter may overlap, as those of "aa" in "aaa" do. They are matched from left to right
+  // without overlap: "aaa" contains the delimiter "aa" once.
   void CollapseRuns();
+
+  // Moves `next_` past the run of delimiters that starts at `next_`, if any. If `collapse` is true
+  // and the delimiter is one wchar_t, the constructor calls this, and NextToken calls it after each
+  // item.
   void SkipRun();
 
   WString text_;

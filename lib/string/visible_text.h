@@ -5,11 +5,13 @@
 
 namespace kelvo {
 
-// Converts `text` to UTF-8 for a terminal or a log. Replaces the following by codes such as
-// <U+001B>: characters that would change what a terminal does or shows (control characters, line
-// and paragraph separators, bidirectional formatting characters, the byte order mark), and unpaired
-// surrogates, which UTF-8 cannot express. Throws std::length_error when the text with these codes
-// is too long for ToUtf8.
+// Converts `text` to UTF-8 for a terminal or a log. Replaces the following with codes such as
+// <U+001B>:
+//   - characters that would change what a terminal does or shows: control characters, line and
+//     paragraph separators, bidirectional formatting characters and the byte order mark
+//   - unpaired surrogates, which UTF-8 cannot express
+// Throws std::length_error when the text with these codes is too long for ToUtf8
+// (lib/string/utf8.h).
 std::string ToVisibleUtf8(std::wstring_view text);
 
 // Returns the number of characters (code points) in valid UTF-8. On a terminal, the text takes that

@@ -9,17 +9,18 @@ namespace kelvo {
 
 // A string of UTF-16 code units, always followed by a NUL. Unlike std::wstring, it accepts a null
 // pointer, which counts as an empty string. The class has only the operations that this library
-// needs: use std::wstring_view for all others. With libstdc++, a string of up to seven units is
-// stored in the object itself. Positions and counts are in units. Operations behave as in
+// needs. For other operations, use std::wstring_view. With libstdc++, a string of up to seven units
+// is stored in the object itself. Positions and counts are in units. Operations behave as in
 // std::wstring:
 //   - In assign, erase and substr, a start position past the end throws std::out_of_range. With
 //     every standard library, the message is "invalid string position".
-//   - Growth beyond max_size() throws std::length_error. With every standard library, the message
-//     is "string too long". Only the constructor that takes a view throws std::length_error with
-//     the standard library's own message.
+//   - Growth beyond max_size() throws std::length_error. In the constructor that takes a view, the
+//     message depends on the standard library. In all other operations, the message is always
+//     "string too long".
 //   - A count that reaches past the end means all units up to the end.
-//   - When memory runs out, std::bad_alloc is thrown. All other functions of this library that make
-//     a string also throw std::bad_alloc, except those whose header says what they then return.
+//   - When memory runs out, std::bad_alloc is thrown. All other functions of this library that
+//     create a string also throw std::bad_alloc when memory runs out, unless their header says what
+//     they return in this case.
 //
 // When an operation throws, the string is unchanged.
 class WString {
@@ -30,12 +31,13 @@ class WString {
   WString() = default;
   // Copies a NUL-terminated string (null counts as empty) or a view, or makes a string that
   // consists of `count` copies of `unit`.
-  // NOLINTNEXTLINE(google-explicit-constructor): literals convert implicitly
+  // NOLINTNEXTLINE(google-explicit-constructor): string literals must convert implicitly
   WString(const wchar_t* text) { AssignCString(text); }
   explicit WString(std::wstring_view text) : text_(text) {}
   WString(std::size_t count, wchar_t unit) { resize(count, unit); }
 
-  // Copies a NUL-terminated string; null empties this string. `text` may point into this string.
+  // Copies a NUL-terminated string. If `text` is null, makes this string empty. `text` may point
+  // into this string.
   WString& AssignCString(const wchar_t* text);
 
   // Replaces the contents with `count` units of `text`, beginning with the unit at `start`. `text`
@@ -90,7 +92,7 @@ class WString {
   [[nodiscard]] const wchar_t* data() const { return text_.data(); }
 
   // Returns a view of the whole string.
-  // NOLINTNEXTLINE(google-explicit-constructor): the conversion loses nothing
+  // NOLINTNEXTLINE(google-explicit-constructor): implicit, as in std::wstring
   operator std::wstring_view() const { return text_; }
 
   // The operators == and <=> compare unit by unit, and + concatenates.

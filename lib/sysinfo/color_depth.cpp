@@ -6,7 +6,7 @@ namespace kelvo {
 
 namespace {
 
-// A device with 32 bits per pixel has 2 to the power of 32 colors. This limit is slightly lower.
+// Slightly less than 2 to the power of 32, the number of colors with 32 bits per pixel.
 constexpr double kMinFullColors = 4294697000.0;
 constexpr double kMaxLowColors = 65536.0;
 

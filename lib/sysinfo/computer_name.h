@@ -4,12 +4,12 @@
 
 namespace kelvo {
 
-// Returns the NetBIOS name (GetComputerNameW), at most 15 characters. Empty on failure.
+// Returns the computer's NetBIOS name (GetComputerNameW), at most 15 characters. Empty on failure.
 WString GetComputerNetbiosName();
 
-// Returns the fully qualified DNS name (GetComputerNameExW, looked up at run time). When Windows
-// lacks the function or the function gives no name, returns the NetBIOS name. Empty when
-// GetComputerNameW also fails.
+// Returns the computer's fully qualified DNS name (GetComputerNameExW, looked up at run time). When
+// Windows lacks GetComputerNameExW, or that function returns no name, returns the NetBIOS name.
+// Empty when GetComputerNameW also fails.
 WString GetComputerNameFQ();
 
 // Returns the DNS suffix of the computer's name (ComputerNameDnsDomain of GetComputerNameExW,

@@ -7,8 +7,8 @@ namespace kelvo {
 // These functions read a file's version from the VS_FIXEDFILEINFO block of its version resource
 // (GetFileVersionInfoW, VerQueryValueW). There is no version when the path is null, when the file
 // has no such block, or when the block is not completely inside the resource. The block's signature
-// is not checked: in an untrusted file, the block may hold other data, which then counts as the
-// version. Windows parses the resource; these functions do not check it first.
+// is not checked. If an untrusted file has arbitrary data in its block, the version is made from
+// this data. These functions do not validate the resource before they let Windows parse it.
 
 // Compares a file's version with major.minor.build.revision. Returns 1 when the file's version is
 // higher, 0 when it is equal, -1 when it is lower, and 2 when there is no version. When the result
@@ -27,7 +27,7 @@ constexpr std::size_t kFileVersionStringCapacity = 32;
 bool GetFileVersionString(wchar_t* text, const wchar_t* path);
 
 // Calls GetFileVersionString for the file `fileName` in the system directory, but always returns
-// true. Overwrites the buffer of GetSystemDirectoryPath.
+// true. Overwrites the process-wide buffer whose address GetSystemDirectoryPath returns.
 bool GetSystemFileVersionString(wchar_t* text, const wchar_t* fileName);
 
 }  // namespace kelvo

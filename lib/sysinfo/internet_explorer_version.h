@@ -2,7 +2,8 @@
 
 namespace kelvo {
 
-// Both functions ignore their first argument. `version` is major, minor, build and revision.
+// Both functions ignore their first argument. The numbers in `version` are major, minor, build and
+// revision, in this order.
 
 // Returns true when "Shdocvw.dll" in the system directory has this version or a higher one. Returns
 // false when the file has a lower version or no version, or is missing. Overwrites the buffer of

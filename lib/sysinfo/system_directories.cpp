@@ -44,8 +44,8 @@ WString GetSystemWow64DirectoryPath() {
   return EndsInSeparator(buffer.data(), length) ? path : path + L"\\";
 }
 
-// The library is built only for 64-bit Windows. Windows does not redirect the system directory for
-// a 64-bit process.
+// Windows redirects the system directory only for 32-bit processes. This library is built only for
+// 64-bit processes, so GetSystemDirectoryPath already returns the native directory.
 WString GetNativeSystemDirectoryPath() { return {GetSystemDirectoryPath()}; }
 
 }  // namespace kelvo

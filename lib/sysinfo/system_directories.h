@@ -9,14 +9,14 @@ namespace kelvo {
 // On failure, the path is empty. The functions' names end in Path because windows.h defines
 // GetSystemDirectory and GetSystemWow64Directory as macros.
 
-// Returns the system directory (GetSystemDirectoryW). The path is empty when Windows' path has more
-// than 510 characters. The string is in a process-wide buffer, which is overwritten by every call
-// and by the functions of this library that use the system directory.
+// Returns the system directory (GetSystemDirectoryW). The path is empty when the path from Windows
+// has more than 510 characters. The string is in a process-wide buffer. Every call of this function
+// overwrites the buffer, and so do the functions of this library that use the system directory.
 const wchar_t* GetSystemDirectoryPath();
 
 // Returns the directory of the 32-bit libraries on 64-bit Windows (GetSystemWow64DirectoryW, looked
-// up at run time). The path is empty when Windows' path has more than 1,023 characters, or when
-// Windows lacks the function.
+// up at run time). The path is empty when the path from Windows has more than 1,023 characters, or
+// when Windows lacks GetSystemWow64DirectoryW.
 WString GetSystemWow64DirectoryPath();
 
 // Returns the system directory that 64-bit programs see. A 64-bit process gets the same path from

@@ -13,8 +13,9 @@ namespace kelvo {
 //     "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). ReadRegistryKeyValues reads
 //     and expands them. A key that does not open adds no entries.
 //   - When the path of a shell folder cannot be read, the text of the entry is "failed to query "
-//     and the name of the entry. When any other queried function fails, the text of the entry is
-//     what that function returns on failure: for most functions, "0" (false) or an empty string.
+//     followed by the name of the entry. When any other function fails, the text of its entry is
+//     the result that the function returns on failure. For most functions, this is "0" (false) or
+//     an empty string.
 //   - When the call throws, `report` is incomplete.
 //
 //   NameTextList report;

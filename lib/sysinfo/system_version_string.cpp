@@ -21,8 +21,9 @@ namespace {
 constexpr const wchar_t* kHotfix =
     L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009";
 
-// The structure that GetVersionExW filled: OSVERSIONINFOEXW (284 bytes), OSVERSIONINFOW (276 bytes,
-// without suites and product type, which stay zero), or none.
+// The structure that GetVersionExW filled: OSVERSIONINFOEXW (284 bytes), OSVERSIONINFOW (276
+// bytes), or none. OSVERSIONINFOW has no suites and no product type: these fields of the
+// OSVERSIONINFOEXW variable then stay zero.
 enum class VersionRecord { kExtended, kShort, kNone };
 
 // The caller must have zeroed `version`.
@@ -75,7 +76,8 @@ void Append9xName(const OSVERSIONINFOEXW& version, WString& text) {
 }
 
 // Reads the product type from the registry, because OSVERSIONINFOW does not contain it. Appends the
-// product type and the version to `text`. On failure, appends a note instead and returns false.
+// product type and the version to `text`. On failure, appends an error message instead and returns
+// false.
 bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
   constexpr const wchar_t* kProductOptions = L"SYSTEM\\CurrentControlSet\\Control\\ProductOptions";
   if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, kProductOptions, 0, KEY_QUERY_VALUE, key.Receive()) !=
@@ -113,8 +115,9 @@ bool AppendProductType(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, W
 }
 
 void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WString& text) {
-  // One character more than szCSDVersion, for a NUL. This is an array, because a structured
-  // exception below would skip the destructor of a WString.
+  // The array has one character more than szCSDVersion, so that a NUL always follows the text. A
+  // WString is not used here, because a structured exception in a call below would skip its
+  // destructor.
   std::array<wchar_t, std::extent_v<decltype(version.szCSDVersion)> + 1> servicePack{};
   std::ranges::copy(version.szCSDVersion, servicePack.begin());
   if (version.dwMajorVersion == 4 && CompareNoCase(servicePack.data(), L"Service Pack 6") == 0) {
@@ -132,8 +135,8 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
   }
 }
 
-// Writes the version line to `text`, which must be empty. When an exception ends this function,
-// `key` owns the key that is open, if any.
+// Writes the version line to `text`, which must be empty. When an exception ends this function
+// while a registry key is open, `key` owns that registry key.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);
@@ -180,8 +183,8 @@ WString GetSystemVersionNumbers() {
       numbers = FormatNumbers(version);
     }
   });
-  // The code below allocates no memory: a string as short as "0.0.0.0" is stored inside the WString
-  // object, and the result is moved to the caller, not copied.
+  // Even when memory has run out, the code below succeeds, because it allocates no memory: a string
+  // as short as "0.0.0.0" is stored inside the WString object, and the result is moved, not copied.
   if (numbers.empty()) {
     numbers = L"0.0.0.0";
   }

@@ -15,17 +15,17 @@ namespace kelvo {
 //     Windows lacks that function, from GetSystemInfo.
 //   - To find the edition, this function calls GetSystemMetrics on NT 5.1 and 5.2, and
 //     GetProductInfo (looked up at run time) on NT 6.
-//   - When GetVersionExW does not fill OSVERSIONINFOEXW, as on Windows NT 4.0 before Service Pack
+//   - When GetVersionExW does not accept OSVERSIONINFOEXW, as on Windows NT 4.0 before Service Pack
 //     6, the product type comes from the registry value "ProductType" in the key
 //     HKEY_LOCAL_MACHINE\SYSTEM\CurrentControlSet\Control\ProductOptions. When the value cannot be
 //     read, the handle of this key is not closed.
 //   - On NT 4.0 with Service Pack 6, the line says "Service Pack 6a" when the registry key
 //     HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009 can be opened.
 //   - Both registry keys are opened with the access right KEY_QUERY_VALUE.
-//   - The line has a note when GetVersionExW fails, when the product type cannot be read, and when
-//     an exception ends a query. When any other query fails, or when Windows lacks the function
-//     that the query calls, only the result of that query is missing from the line. Throws only
-//     when there is no memory for the note about an exception.
+//   - The line contains an error message when GetVersionExW fails, when the product type cannot be
+//     read, or when an exception ends a query. When any other query fails, or when Windows lacks
+//     the function that the query calls, only the result of that query is missing from the line.
+//   - This function throws only when there is no memory for the error message about an exception.
 WString GetSystemVersionString();
 
 // Returns the version of the running Windows as "(major.minor.build)", with the low 16 bits of the

@@ -25,7 +25,7 @@ bool HasTerminalSuite() {
   return verifyVersion(&wanted, VER_SUITENAME, setCondition(0, VER_SUITENAME, VER_AND)) != FALSE;
 }
 
-// The list must end in two NULs.
+// `list` must end with two NULs.
 bool ListContains(const wchar_t* list, const wchar_t* text) {
   for (; *list != L'\0'; list += std::wcslen(list) + 1) {
     if (lstrcmpW(list, text) == 0) {
@@ -58,8 +58,9 @@ bool IsProductSuiteInstalled(const wchar_t* suiteName) {
       size == 0) {
     return false;
   }
-  // Doubles the size, because the value may grow before it is read. Also allocates two more
-  // characters. They stay zero and terminate a list that is stored without terminators.
+  // The value may grow before the second query, so the buffer gets twice the value's size. The
+  // buffer also gets two more characters. They stay zero and terminate a list that is stored
+  // without terminators.
   size *= 2;
   const OwnedLocalMemory<wchar_t> list(
       static_cast<wchar_t*>(LocalAlloc(LPTR, SIZE_T{size} + (2 * sizeof(wchar_t)))));

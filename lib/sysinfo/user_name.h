@@ -18,11 +18,12 @@ namespace kelvo {
 // string on failure.
 WString GetAccountName();
 
-// Returns the user's name in a format such as NameSamCompatible ("DOMAIN\name"). The name may have
-// any length. Calls GetUserNameExW of "secur32.dll". Loads this DLL without a path, so the
-// process's DLL search order decides which file is loaded. Unloads the DLL after the call. Returns
-// an empty string for NameUnknown, when the DLL does not load or lacks GetUserNameExW, and when
-// GetUserNameExW fails. For a local account, only NameSamCompatible succeeds.
+// Returns the user's name in a format such as NameSamCompatible ("DOMAIN\name"). The length of
+// the name is not limited. Calls GetUserNameExW of "secur32.dll". Loads this DLL without a path, so
+// the process's DLL search order decides which file is loaded. Unloads the DLL after the call.
+// Returns an empty string when `format` is NameUnknown, when the DLL does not load or lacks
+// GetUserNameExW, and when GetUserNameExW fails. For a local account, only NameSamCompatible
+// succeeds.
 WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
 // Returns the first of these names that can be read, or an empty string when neither can be read:

@@ -7,8 +7,8 @@
 namespace kelvo {
 
 // Writes the current UTC time and a message to the debugger (OutputDebugStringW). The message is
-// the text that FormatText (lib/string/format_text.h) returns for `format` and the arguments. It
-// may have any length. No line break is added.
+// the text that FormatText (lib/string/format_text.h) returns for `format` and the arguments. The
+// message may have any length. No line break is added.
 void DebugTrace(const wchar_t* format, ...);
 
 // Returns the line that DebugTrace writes at `time`: the time, a space and `message`. The format of

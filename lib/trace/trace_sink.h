@@ -7,7 +7,7 @@ namespace kelvo {
 using TraceSink = void (*)(const wchar_t* tag, const wchar_t* message);
 
 // Sets the sink for the messages of all threads of this process. Messages are discarded while the
-// sink is null, as it is initially.
+// sink is null, as it is initially. Example:
 //   SetTraceSink([](const wchar_t* tag, const wchar_t* message) {
 //     DebugTrace(L"%s: %s", tag, message);  // lib/trace/debug_trace.h
 //   });

@@ -4,8 +4,8 @@
 
 namespace kelvo {
 
-// Both functions search a table of 158 locales that have the same LCID and name in every version of
-// Windows since Vista.
+// The two functions below search a table of 158 locales. Each of these locales has kept its LCID
+// and its name in every version of Windows since Vista.
 
 // Returns the locale name for an LCID, such as "de-CH" for 0x0807, or null when the LCID is not in
 // the table. Ignores the sort identifier (SORTIDFROMLCID).

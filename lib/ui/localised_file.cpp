@@ -52,10 +52,10 @@ LANGID NumberOf(const WString& name) {
   return PRIMARYLANGID(language) != LANG_INVARIANT ? language : LANGID{0};
 }
 
-// Returns 0 when `name` is not the locale name of a language. For well-formed names that have no
-// LCID, such as "en-DE" and "old", Windows 10 gives a LANGID whose primary language is
-// LANG_NEUTRAL. In this case, looks up only the part of the name before its first "-". The result
-// is then English for "en-DE" and 0 for "old".
+// Returns 0 when `name` is not the locale name of a language. For a well-formed name that has no
+// LCID, Windows 10 gives a LANGID whose primary language is LANG_NEUTRAL. In this case, looks up
+// only the part of `name` before the first "-". For example, returns LANG_ENGLISH for "en-DE", and
+// 0 for "old" (from a file named "texts_old.dll").
 LANGID LanguageOf(const WString& name) {
   const LANGID language = NumberOf(name);
   return language == 0 || !IsNeutral(language)
@@ -63,13 +63,13 @@ LANGID LanguageOf(const WString& name) {
              : PRIMARYLANGID(NumberOf(name.substr(0, name.find(L"-"))));
 }
 
-// Replaces a constant such as LANG_NEUTRAL or LOCALE_USER_DEFAULT with the language that it stands
-// for.
+// Returns the language that a constant such as LANG_NEUTRAL or LOCALE_USER_DEFAULT stands for.
+// Returns any other LANGID unchanged.
 LANGID Resolved(LANGID language) {
   return IsNeutral(language) ? LanguageOf(GetLocaleInfoString(language, LOCALE_SNAME)) : language;
 }
 
-// Returns how poorly `language` matches `wanted`: 0 for the same primary language, 3 at most.
+// Returns how poorly `language` matches `wanted`: from 0 (same primary language) to 3.
 int Distance(LANGID language, LANGID wanted) {
   if (PRIMARYLANGID(language) == PRIMARYLANGID(wanted)) {
     return 0;

@@ -25,17 +25,18 @@ enum class LocalisedFileForm {
 WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                              LocalisedFileForm form);
 
-// Returns the path of the file for `language`. If that file does not exist, returns the path of an
-// existing file in another language. The order of preference is: the same primary language, English
-// (United States), another variety of English, any other language. Among files of the same rank,
-// chooses the file whose locale name sorts first. Returns an empty string when no file is found.
-// When `language` is LANG_NEUTRAL, LOCALE_USER_DEFAULT or LOCALE_SYSTEM_DEFAULT, uses the language
-// that this constant stands for.
+// Returns the path of the file for `language`. If that file does not exist, chooses among the
+// existing files for other locale names, in this order of preference: a file in the same primary
+// language, in English (United States), in another variety of English, in any other language. Among
+// files of the same rank, chooses the file whose locale name sorts first. Returns an empty string
+// when no file is found. When `language` is LANG_NEUTRAL, LOCALE_USER_DEFAULT or
+// LOCALE_SYSTEM_DEFAULT, uses the language that this constant stands for.
 //
-// GetLocaleInfoEx (looked up at run time) gives the language of each existing file from the locale
-// name in the file's path. When Windows lacks GetLocaleInfoEx, only the file for `language` itself
-// is found. If Windows has no LCID for a locale name, such as "en-DE", only the part of the name
-// before the first "-" determines the language.
+// The locale name in the path of an existing file determines the file's language. GetLocaleInfoEx
+// (looked up at run time) converts the locale name to a language. When Windows lacks
+// GetLocaleInfoEx, only the file for `language` itself is found. If Windows has no LCID for a
+// locale name, such as "en-DE", only the part of the name before the first "-" determines the
+// language.
 WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                           LocalisedFileForm form);
 

@@ -4,11 +4,11 @@
 
 namespace kelvo {
 
-// Both functions store an area of the monitor nearest to `point` in `rect`, in screen coordinates,
-// and always return true. They read the area with GetMonitorInfoA. When GetMonitorInfoA fails,
-// `rect` becomes all zeros. Both functions fall back to the primary monitor when there is only one
-// monitor, when user32.dll does not export MonitorFromPoint or GetMonitorInfoA (this is checked at
-// run time), or when MonitorFromPoint finds no monitor.
+// Both functions find the monitor nearest to `point` and store an area of this monitor in `rect`,
+// in screen coordinates. Both always return true. They read the area with GetMonitorInfoA. When
+// GetMonitorInfoA fails, `rect` becomes all zeros. Both functions fall back to the primary monitor
+// when there is only one monitor, when user32.dll does not export MonitorFromPoint or
+// GetMonitorInfoA (this is checked at run time), or when MonitorFromPoint finds no monitor.
 
 // Stores the monitor's area without the taskbar (rcWork). After falling back to the primary
 // monitor, stores the result of SystemParametersInfoW with SPI_GETWORKAREA instead. When

@@ -7,7 +7,9 @@ namespace kelvo {
 
 namespace {
 
-// No exception may leave the callbacks, so std::bad_alloc is thrown only after the enumeration.
+// The callbacks must not throw, because Windows calls them. When memory runs out, AppendLanguage
+// sets `isOutOfMemory`. GetStringResourceLanguages then throws std::bad_alloc after the
+// enumeration.
 struct Enumeration {
   std::vector<LANGID> languages;
   bool isOutOfMemory = false;

@@ -6,9 +6,9 @@
 
 namespace kelvo {
 
-// Returns the languages of the first string table of `module`, in the order of
-// EnumResourceLanguagesW. The other tables are assumed to have the same languages. Returns an empty
-// list for null and for a module without string tables.
+// Returns the languages of the first RT_STRING resource in `module`, in the order of
+// EnumResourceLanguagesW. The other RT_STRING resources are assumed to have the same languages.
+// Returns an empty list for null and for a module without RT_STRING resources.
 std::vector<LANGID> GetStringResourceLanguages(HMODULE module);
 
 // Returns the language in which to load resources: `requested` when `offered` contains it;

@@ -19,9 +19,10 @@ std::string WithCarriageReturns(std::string_view text) {
 }
 
 bool WriteToConsole(HANDLE console, const std::string& utf8) {
-  // 16 KiB. Before Windows 10, a console accepts at most 64 KiB in one call.
+  // 0x2000 UTF-16 code units are 16 KiB. Before Windows 10, a console accepts at most 64 KiB in one
+  // call.
   constexpr std::size_t kMostUnits = 0x2000;
-  // A text never has more units in UTF-16 than bytes in UTF-8.
+  // A text never has more code units in UTF-16 than bytes in UTF-8.
   std::wstring text(utf8.length(), L'\0');
   const auto size = static_cast<int>(utf8.length());
   const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text.data(), size);

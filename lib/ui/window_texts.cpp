@@ -26,8 +26,9 @@ bool IsLabelOrButton(HWND window) {
          std::wcsstr(className.data(), L"button") != nullptr;
 }
 
-// No exception may leave this callback. The callback instead sets the bool to which `isOutOfMemory`
-// points, and RewriteWindowTexts throws std::bad_alloc after the enumeration.
+// No exception may leave this callback, because Windows calls it. When an exception is thrown, the
+// callback sets the bool to which `isOutOfMemory` points. RewriteWindowTexts then throws
+// std::bad_alloc after the enumeration.
 BOOL CALLBACK RewriteChild(HWND child, LPARAM isOutOfMemory) {
   try {
     if (IsLabelOrButton(child)) {

@@ -4,14 +4,18 @@
 
 namespace kelvo {
 
-// Rewrites the text of `window`, which may be of any class, with ApplyTextSubstitutions
-// (lib/ui/text_substitution.h). Does the same for each child window, at any depth, whose class name
-// contains "static" or "button" in any letter case. Calls SetWindowTextW for each of these windows,
-// even when nothing was replaced. Other controls, such as edit boxes and lists, keep their texts. A
-// rewritten text has at most 1,022 characters. A text of 1,023 characters or more is not rewritten,
-// but is cut to 1,023 characters. Do not pass a window of another process: Windows does not let
-// this process read the texts of that window's controls, so the texts of these controls would
-// become empty. Returns the result of EnumChildWindows.
+// Rewrites the text of a window with ApplyTextSubstitutions (lib/ui/text_substitution.h). `window`
+// may be of any class. Does the same for each child window, at any depth, whose class name contains
+// "static" or "button" in any letter case. Calls SetWindowTextW for each of these windows, even
+// when nothing was replaced. Other controls, such as edit boxes and lists, keep their texts.
+//
+// If a window's text has at most 1,022 characters, the rewritten text is cut off after 1,022
+// characters. A longer text is cut off after 1,023 characters, and nothing in it is replaced.
+//
+// Do not pass a window of another process: its labels and buttons would lose their texts, because
+// Windows does not let this process read the texts of another process's controls.
+//
+// Returns the result of EnumChildWindows.
 BOOL RewriteWindowTexts(HWND window);
 
 }  // namespace kelvo

@@ -7,7 +7,7 @@
 
 namespace wsspi {
 
-// The codes of failures. Each code is also the index of its text in kSspiErrorTexts.
+// The error codes. Each code is also the index of its text in kSspiErrorTexts.
 enum SspiErrorCode : std::int32_t {
   ErrorSuccess = 0,
   ErrorNotInitialized = 1,

@@ -23,7 +23,7 @@ HMODULE securityLibrary = nullptr;
 PSecurityFunctionTableW functionTable = nullptr;
 
 [[noreturn]] void Fail(std::uint32_t line, SspiErrorCode code) {
-  // NOLINTNEXTLINE(misc-throw-by-value-catch-by-reference,cert-err*): by contract
+  // NOLINTNEXTLINE(misc-throw-by-value-catch-by-reference,cert-err*): callers catch a pointer
   throw new SspiException(kFile, line, code, 0);
 }
 

@@ -1,5 +1,5 @@
-# A consumer may enable tests and name a target `benchmarks`. The library must then add neither tests nor that target.
-# `whole_library` links all object files of the library: this fails if kelvo::kelvo lacks a Windows import library.
+# This consumer enables tests and has its own target `benchmarks`. The library must not add its tests or its benchmarks.
+# `whole_library` links all object files of the library. If kelvo::kelvo omits an import library, the link step fails.
 enable_testing()
 add_custom_target(benchmarks)
 add_executable(whole_library main.cpp ${all_headers})

@@ -24,7 +24,7 @@ static const auto kWatched = std::to_array<Watched>({
 #include "tests/fault_injection/watched.def"
 });
 
-// Replaces GetProcAddress: returns the replacement of a watched function (see WatchImports).
+// Is called instead of GetProcAddress. For a function in kWatched, returns its replacement.
 static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   const FARPROC found = GetProcAddress(module, name);
   const auto row = std::ranges::find(kWatched, std::string(name), &Watched::name);
@@ -35,13 +35,13 @@ static FARPROC WINAPI FindIntercepted(HMODULE module, LPCSTR name) {
   return reinterpret_cast<FARPROC>(row->instead);
 }
 
-// Makes calls of a watched function go to `instead`. The test can still make such a call fail.
+// Redirects calls to a watched function to `instead`. The test can still make such a call fail.
 #define SIMULATE(function, instead)   \
   interception.originals[#function] = \
       reinterpret_cast<void*>(static_cast<decltype(&::function)>(instead))
 
-// Simulates functions whose results depend on the machine. Collects the output in `written`.
 static Lines written;
+// Simulates functions whose results depend on the machine. Collects the output in `written`.
 static void SimulateMachine() {
   SIMULATE(GetProcAddress, FindIntercepted);
   SIMULATE(WriteFile, [](HANDLE file, auto bytes, DWORD size, DWORD* done, auto overlapped) {
@@ -98,9 +98,9 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
   return text;
 }
 
-// Prepares the state in which an operation starts: the list of applications, no test certificates,
-// and the registry values and files that operations read. Loads the simulator's bthprops.cpl: when
-// an operation loads a library by the name "bthprops.cpl", Windows then returns this library.
+// Prepares the machine for an operation: removes test certificates, and creates the list of
+// applications and the registry values and files that operations read. Loads the simulator's
+// bthprops.cpl, so that Windows returns this library when an operation loads "bthprops.cpl".
 struct Machine : ProgramFolder {
   Machine() : ProgramFolder({{L"versioned_english.dll", L"versioned_english.dll"}}) {
     LoadLibraryW((path / "bthprops.cpl").c_str());
@@ -130,9 +130,9 @@ struct Machine : ProgramFolder {
   // killed. kContinues: no call fails, and the run starts from the previous run's final state.
   enum class How { kFails, kEnds, kContinues };
 
-  // Loads the operations' DLL anew and runs operation `index`. Returns the outcome as lines: the
+  // Reloads the operations' DLL and runs operation `index`. Returns the outcome as lines: the
   // output, the result, the list of applications if it changed, the certificates, open handles and
-  // memory, and the simulator's journal. Returns no lines if `index` is past the end of the table.
+  // memory, and the simulator's journal. Returns no lines if there is no operation `index`.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
     const auto* const operation =
@@ -162,7 +162,7 @@ struct Machine : ProgramFolder {
         },
         reinterpret_cast<void*>(operation->run), 0, nullptr));
     WaitForSingleObject(thread.get(), INFINITE);
-    // Copies the counts of calls now, because unloading the DLL will make more calls.
+    // Copies the call counts before the DLL is unloaded, because unloading makes more calls.
     calls = interception.calls;
     std::string text = Joined("", written, "");
     text = (name.starts_with("sorrel_status") ? Named(text) : text) + "= " + Ascii(answer) + "\n";
@@ -186,7 +186,7 @@ struct Machine : ProgramFolder {
   OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo faults")};
   std::string name;
   std::map<std::string, int> calls;
-  // The outcome of the last run, without the lines for open handles and memory and the journal.
+  // The outcome of the last run, except for open handles, open memory and the journal.
   Lines reached;
 };
 
@@ -196,7 +196,7 @@ static void Append(std::string& text, const std::string& more) {
   text += (column + std::min(more.find('\r'), more.size()) > 120 ? "\r\n " : "") + more;
 }
 
-// If a call of one of these functions fails, the output lacks the line that needed the call.
+// If a call to one of these functions fails, the output lacks the line that needed the call.
 const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
 const Lines kNoMemory = {"sorrel_status: not enough memory", "= 3"};
 const std::string kNoChange = " no change\r\n";
@@ -226,9 +226,9 @@ static std::string Changes(const Lines& before, const Lines& after) {
 }
 
 // Checks the outcome of a run in which malloc failed: the result must be an exception, and all
-// other lines must occur in the undisturbed run. The list of applications is then the old or the
-// final one, and no more handles are open than in the undisturbed run. An operation without output
-// is not checked in this way if a failed call of another function has the same outcome.
+// other lines must occur in the undisturbed run. This proves that the list of applications is
+// the initial or the final one, and that no more handles are open than in the undisturbed run. Is
+// not called for an operation without output if a failed call to another function has this outcome.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -262,10 +262,10 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
         if (std::ranges::find(kWatched, function, &Watched::name)->closes) {
           CHECK(Changes(undisturbed, outcome) == kNoChange);
         } else if (isReport && function == "malloc") {
-          // The whole report fails, unless a guarded call in the library catches the exception.
+          // The whole report fails, unless GuardedCall in the library catches the exception.
           CHECK((outcome == kNoMemory || outcome.size() == undisturbed.size()));
         } else if (isReport && function.starts_with("_v")) {
-          // A text may be missing within a line, but no line is missing.
+          // A line may lack some text, but no line is missing.
           CHECK(outcome.size() == undisturbed.size());
         } else if (!isReport && kReporting.find(function) != std::string::npos &&
                    nth <= lineCount) {

@@ -15,27 +15,27 @@
 
 namespace kelvo::test {
 
-// Whether a function opens or closes handles. kLeftOut: neither, and calls.txt omits its calls, as
-// their arguments vary from machine to machine, or the outcome already shows the arguments' effect.
+// Whether a function opens or closes handles. kLeftOut: does neither, and calls.txt omits the calls
+// because the arguments depend on the machine or their effect is already visible in the outcome.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
-// A function of watched.def and its replacement.
+// A function in watched.def and its replacement.
 struct Watched {
   const char* name;
   void* instead;
   bool closes;
 };
 
-// The data of Intercept, which counts a module's calls of each function in watched.def, makes one
-// call fail, and records open handles and memory.
+// The data of Intercept. Intercept counts a module's calls to each function in watched.def, makes
+// one call fail, and records open handles and memory.
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
-  // The distinct calls, as text. Calls without a string or a nonzero number are omitted.
+  // The distinct calls, as text. Omits calls with neither a string nor a nonzero number.
   std::set<std::string> shown;
-  // The function and number (from 1) of the call that fails or, if `ends`, that ends the thread.
+  // The function and number (from 1) of the call that fails.
   std::pair<std::string, int> chosen;
-  bool ends = false;
+  bool ends = false;  // the chosen call ends the thread instead of failing
   // Open handles and memory, each with the function that opened it and the functions that close it.
   std::map<const void*, std::pair<std::string, std::string_view>> open;
 };
@@ -54,8 +54,8 @@ inline std::vector<const void*> HandlesAt(PROCESS_INFORMATION* started) {
   return {started->hProcess, started->hThread};
 }
 
-// `failure` is what the function returns when it fails, or kFailure if it returns an error code. If
-// the function opens handles, `closers` names the functions that close these handles.
+// `failure` is the function's return value on failure, or kFailure if the function returns an error
+// code. If the function opens handles, `closers` names the functions that close these handles.
 template <typename Function, typename... Given>
 auto Intercept(const char* name, long long failure, Handles handles, std::string_view closers,
                Given... given) {
@@ -63,7 +63,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  // Does not show calls of C runtime functions, whose names begin with a lower-case letter or "_".
+  // Does not show calls to C runtime functions, whose names begin with a lower-case letter or "_".
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
   const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {
@@ -109,7 +109,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
       })),                                                                                       \
       (handles) == kCloses} __VA_OPT__(, KELVO_WATCH_NEXT KELVO_NONE(failure, handles, closers,  \
                                                                      __VA_ARGS__))
-// A macro is not expanded within itself, so KELVO_64 scans repeatedly: one `Watched` per scan.
+// A macro is not expanded within itself. KELVO_64 forces more scans, and each adds one `Watched`.
 #define KELVO_WATCH_NEXT() KELVO_WATCH
 #define KELVO_NONE ()
 #define KELVO_64(...) KELVO_16(KELVO_16(KELVO_16(KELVO_16(__VA_ARGS__))))

@@ -44,7 +44,7 @@ using namespace kelvo;
 
 namespace {
 
-// Returns the result of `run`. If `run` throws, returns "an exception" (sorrel.exe: exit code 3).
+// When `run` throws, returns "an exception". In that case, sorrel.exe would end with exit code 3.
 template <typename Run>
 std::wstring Answer(Run run) {
   try {
@@ -57,7 +57,7 @@ std::wstring Answer(Run run) {
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
 TOKEN_ELEVATION_TYPE elevation;
-// Replaces a text that may differ from machine to machine, but keeps the simulated full name.
+// Replaces a text that may differ between machines, but keeps the simulated "full name".
 WString IsThere(const WString& text) {
   if (text.empty()) {
     return L"nothing";

@@ -2,9 +2,9 @@
 
 #include <string>
 
-// The test runs each operation and makes its calls fail. fault_injection_operations.dll exports the
-// operations as the array "operations". In the last element, `name` is null. The test reloads this
-// DLL for each run, so that no state of an earlier run is left.
+// The test makes the function calls in each operation fail, one call per run. Before each run, the
+// test reloads fault_injection_operations.dll, so that no state remains from an earlier run. The
+// DLL exports the array "operations". In the array's last element, `name` is null.
 struct Operation {
   const char* name;
   // The list of applications that the test stores in the registry before the operation runs.

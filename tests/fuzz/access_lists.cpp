@@ -33,7 +33,7 @@ static std::string AnyList(Input& input) {
   return list;
 }
 
-// Changes some bytes and sometimes the length.
+// Changes some bytes, and sometimes truncates the list.
 static void Corrupt(std::string& list, Input& input) {
   for (std::size_t left = input.Number(6); left > 0; --left) {
     list[input.Number(list.size() - 1)] = static_cast<char>(input.Number(0xFF));
@@ -41,7 +41,7 @@ static void Corrupt(std::string& list, Input& input) {
   if (input.Number(7) == 1) {
     list.resize(std::max(input.Number(list.size()), sizeof(ACL)) / 4 * 4);
   }
-  // Limits AclSize to the real size: the library cannot detect an AclSize beyond the ACL's memory.
+  // Limits AclSize to the real size, because the library cannot detect a larger AclSize.
   WORD claimed = 0;
   std::memcpy(&claimed, &list[2], sizeof(claimed));
   claimed = std::min(claimed, static_cast<WORD>(list.size()));

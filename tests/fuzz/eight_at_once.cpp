@@ -21,7 +21,7 @@ static std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   return process;
 }
 
-// Waits for processes to end, and checks and returns the application list.
+// Waits for processes to end. Checks the application list and returns it.
 static std::wstring ListAfter(const std::vector<std::intptr_t>& processes) {
   for (const std::intptr_t process : processes) {
     int code = -1;

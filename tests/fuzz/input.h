@@ -29,7 +29,7 @@ class Input {
 
   bool Chance() { return Number(1) == 1; }
 
-  // Returns up to `most` units from `alphabet`, or any UTF-16 units if `alphabet` is empty.
+  // Returns 0 to `most` UTF-16 units: from `alphabet`, or any if `alphabet` is empty.
   std::wstring Text(std::size_t most, const std::wstring& alphabet = L"") {
     std::wstring text(Number(most), L'\0');
     for (wchar_t& unit : text) {
@@ -43,8 +43,8 @@ class Input {
   std::mt19937_64 engine_;
 };
 
-// Memory of at most 0x10000 bytes, next to an inaccessible page. The page is behind the memory or,
-// if `atStart` is true, in front of the memory.
+// Memory of at most 0x10000 bytes with an inaccessible page directly after its last byte or, if
+// `atStart` is true, directly before its first byte.
 class GuardedMemory {
  public:
   GuardedMemory(std::size_t size, bool atStart)
@@ -72,7 +72,7 @@ class GuardedMemory {
   static constexpr std::size_t kRoom = 0x10000;
   // Fills the unused part of a block. A zero there could hide that a string has no terminator.
   static constexpr int kFiller = 0xA5;
-  // Blocks are reused: reserving a block takes longer than trying most inputs.
+  // Blocks are reused: reserving a block takes longer than most runs of a target.
   static inline std::vector<BYTE*> freeBlocks;
 
   static BYTE* TakeBlock() {

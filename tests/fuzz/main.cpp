@@ -1,6 +1,6 @@
 // fuzz                         lists the targets
 // fuzz TARGET NUMBER SECONDS   tries inputs on a target for SECONDS, starting with input NUMBER
-// Results go to standard error; standard output is for sorrel.exe, which one target starts.
+// Results go to standard error, because one target runs sorrel.exe, which uses standard output.
 
 #include <windows.h>
 
@@ -17,7 +17,7 @@ static std::uint64_t currentInput = 0;
 
 void Expect(bool holds, const char* what) {
   if (!holds) {
-    std::cerr << "FAILED: this does not hold: " << what << "\nRepeat with: scripts/fuzz \""
+    std::cerr << "FAILED: expected that " << what << "\nRepeat with: scripts/fuzz \""
               << currentTarget->name << "\" " << currentInput << "\n";
     TerminateProcess(GetCurrentProcess(), 1);
   }
@@ -33,7 +33,7 @@ static LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
   const DWORD code = exception->ExceptionRecord->ExceptionCode;
   Expect(code != EXCEPTION_ACCESS_VIOLATION && code != EXCEPTION_ILLEGAL_INSTRUCTION &&
              code != EXCEPTION_STACK_OVERFLOW,
-         "there is no fault");
+         "no fault occurs");
   return EXCEPTION_CONTINUE_SEARCH;
 }
 

@@ -1,4 +1,4 @@
-// Reads registry values of many types and sizes with the library.
+// Lets the library read registry values of many types and sizes.
 
 #include "lib/registry/registry_binary.h"
 #include "lib/registry/registry_number.h"
@@ -47,9 +47,9 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   if (!isExpanded && (type != REG_EXPAND_SZ || text.length() < 259)) {
     Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is the stored text");
   }
-  // In half of the runs, the value (without an odd last byte) fills the buffer exactly.
+  // In half of the runs, the buffer has exactly as many whole UTF-16 units as the value.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
-  // For a one-byte value, Wine reads in front of the buffer, so the guard page is behind it.
+  // For a 1-byte value, Wine reads memory before the buffer, so the guard page follows it.
   const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());
   const std::size_t stays =
       RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);

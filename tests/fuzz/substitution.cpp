@@ -29,7 +29,7 @@ static const Target kSubstitution("substitution", [](Input& input) {
                          GuardedText(replacement, input.Chance()));
   Expect((replaced != FALSE) == (occurs && fits), "the result says whether text was replaced");
   Expect(std::wstring(buffer.As<wchar_t>(), wcsnlen(buffer.As<wchar_t>(), capacity)) == expected,
-         "the buffer has the text of the reference replacement");
+         "the buffer has the result of the simple replacement");
 });
 
 }  // namespace kelvo::fuzz

@@ -17,7 +17,7 @@ function(expect code text)
   endif()
 endfunction()
 
-# nsis/build.sh warns if NSIS is older than 3.11, and requires -DX86 if this NSIS cannot make 64-bit setups.
+# nsis/build.sh warns if NSIS is older than 3.11, and requires -DX86 if NSIS cannot make 64-bit setups.
 expect(0 "CVE-2025-43715" ${nsis} "-X!define /redef NSIS_PACKEDVERSION 0x03010000")
 expect(0 "^$" ${nsis} -WX "-X!define /redef NSIS_PACKEDVERSION 0x03011000")
 file(GLOB stubs /usr/share/nsis/Stubs/zlib-x86-* /usr/share/nsis/Stubs/uninst)
@@ -30,7 +30,7 @@ if(NOT manifest OR NOT start MATCHES "504500004c01")
   message(SEND_ERROR "The setup does not ask for an administrator's rights, or is not a 32-bit program")
 endif()
 
-# The build.sh scripts refuse these settings, because a package with such a setting would be faulty.
+# The build.sh scripts refuse these settings, because the package would be faulty.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
 expect(2 "three numbers" ${msi} VERSION=1.0.0.1)
 foreach(changed UPGRADE_CODE COMPONENT)
@@ -60,7 +60,7 @@ if(left)
   message(SEND_ERROR "A build that failed has left: ${left}")
 endif()
 
-# The property Log must name the log that run_sorrel.cmd writes: the last action of an installation reads that file.
+# The property Log must name the log that run_sorrel.cmd writes, because AskForRestart, the last action, reads it.
 expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi" Property)
 
 # The custom actions that change the computer run as SYSTEM: their types contain the bit 2048. An upgrade removes the

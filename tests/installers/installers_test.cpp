@@ -11,9 +11,9 @@ static const std::wstring kStandIns = kLogs + L"stand_ins";
 static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
 // Copies of this program simulate pnputil and certutil, which Wine lacks or has only as stubs. A
-// copy appends its name and all but its last argument to the file kStandIns. If told to delete the
-// test's INF file or a stored certificate, it deletes the file or all certificates in the store.
-// If the environment variable "ends" is a failure code, the copy only exits with this code.
+// copy appends its name and all but its last argument to the file kStandIns. If told to delete
+// kPublishedInf, it does. If told to delete a stored certificate, it deletes all certificates in
+// the store. If the environment variable "ends" is a failure code, it only exits with this code.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
@@ -59,7 +59,7 @@ static const bool isStandIn = [] {
         if (!IsWindowEnabled(box) || !IsWindowVisible(button) || !IsWindowEnabled(button)) {
           continue;
         }
-        // Waits until the handler that enabled the button has ended, since it also sets the title.
+        // Waits until the handler that enabled the button ends, because it also sets the title.
         SendMessageTimeoutW(box, WM_NULL, 0, 0, 0, 5000, nullptr);
         const HWND message = GetDlgItem(box, 0xFFFF);
         wchar_t title[256];
@@ -212,8 +212,8 @@ static void PutInPlace(const ScratchFolder& scratch) {
 TEST_CASE("deploy.cmd, remove_all.cmd, setups: lifecycles match lifecycles.txt") {
   const CleanMachine machine;
   const ScratchFolder scratch;
-  // Unregisters the products of an earlier build. Otherwise, Windows Installer would keep the files
-  // that they share with the products of this build.
+  // Unregisters the products of an earlier build. Otherwise, Windows Installer would not remove the
+  // files that they share with this build's products.
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Installer");
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall");
   PutInPlace(scratch);

@@ -1,8 +1,8 @@
 # cmake -D source_folder=... -P check_includes.cmake   checks #include lines against the diagram in docs/development.md
 cmake_minimum_required(VERSION 3.25)
 
-# For each folder, collects all folders that its arrows reach. Above an arrow to a folder, the diagram must have the
-# arrows from that folder.
+# For each folder, collects all folders that its arrows reach, directly or not. In the diagram, arrows from a folder
+# must come before arrows to it.
 file(STRINGS ${source_folder}/docs/development.md arrows REGEX "^ +[a-z]+ --> ")
 foreach(arrow ${arrows})
   string(REGEX MATCHALL "[a-z]+" lower "${arrow}")
@@ -19,7 +19,7 @@ endforeach()
 file(GLOB_RECURSE files RELATIVE ${source_folder} ${patterns})
 list(LENGTH files count)
 if(count LESS 100)
-  message(FATAL_ERROR "only ${count} sources below ${source_folder}")
+  message(FATAL_ERROR "found only ${count} sources below ${source_folder}")
 endif()
 foreach(file ${files})
   string(REGEX MATCH "^([a-z]+)/([a-z]+)" place ${file})

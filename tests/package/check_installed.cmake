@@ -1,9 +1,9 @@
-# Installs into empty folders and checks the installed files:
+# Installs the project into empty folders and checks the files. Usage:
 # cmake -D project=... -D source_folder=... -D folder=... -D toolchain=... -D wine=... -P check_installed.cmake
 
 cmake_minimum_required(VERSION 3.25)
 
-# Runs cmake --install with the folder `prefix` and the further arguments. Sets `files` to the list of installed files.
+# Runs cmake --install with `prefix` and any further arguments. Sets `files` to the list of installed files.
 function(install_into prefix)
   file(REMOVE_RECURSE ${prefix})
   execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET
@@ -18,7 +18,7 @@ foreach(component "tool;bin/sorrel.exe;bin/sorrel_status.exe" "symbols;bin/sorre
   list(POP_FRONT component name)
   install_into(${folder}/${name} --component ${name})
   if(NOT files STREQUAL component)
-    message(SEND_ERROR "The component ${name} has the files ${files}, not ${component}")
+    message(SEND_ERROR "The component ${name} installs ${files}, not ${component}")
   endif()
 endforeach()
 
@@ -37,13 +37,13 @@ foreach(file ${files})
   endif()
 endforeach()
 
-# kelvo-config.cmake must reject every compiler other than mingw, and also this script, which has no compiler.
+# kelvo-config.cmake must set kelvo_FOUND to false unless the compiler is mingw. This script has no compiler.
 include(${folder}/all/lib/cmake/kelvo/kelvo-config.cmake)
 if(kelvo_FOUND OR NOT kelvo_NOT_FOUND_MESSAGE MATCHES "built for MINGW")
   message(SEND_ERROR "The package must accept only a mingw compiler: ${kelvo_NOT_FOUND_MESSAGE}")
 endif()
 
-# Builds the installed sample project with the installed library. The program whole_library includes each header.
+# Builds the installed sample project with the installed library. The program whole_library includes all headers.
 list(FILTER files INCLUDE REGEX "\\.h$")
 list(TRANSFORM files REPLACE "include/kelvo/(.*)" "#include \"\\1\"\n")
 string(JOIN "" includes ${files})

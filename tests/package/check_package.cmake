@@ -1,4 +1,4 @@
-# Runs CPack with signing (by a temporary certificate) and without signing, and checks the archives. Variables (-D):
+# Runs CPack once with a temporary signing certificate and once without signing. Checks the archives. Variables (-D):
 # source_folder, project, version, folder, osslsigncode, openssl, wine
 
 cmake_minimum_required(VERSION 3.25)
@@ -17,7 +17,7 @@ set(ENV{SORREL_SIGN_CERTIFICATE} ${folder}/certificate.pem)
 set(ENV{SORREL_SIGN_KEY} ${folder}/key.pem)
 set(ENV{SORREL_SUMS_KEY} ${folder}/key.pem)
 run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/signed)
-# Signing must fail if a program is missing, the key fits another certificate, or the signer's root is not trusted.
+# Signing must fail if a program is missing, the key does not match the certificate, or the signer's root is untrusted.
 run(${openssl} req -x509 -newkey rsa:2048 -nodes -keyout ${folder}/other_key.pem -out ${folder}/other.pem -subj "/CN=Other")
 foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${folder}/other.pem)
   file(COPY ${project}/bin/sorrel.exe DESTINATION ${folder}/to_sign/tool)
@@ -27,14 +27,14 @@ foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${fol
   execute_process(COMMAND ${CMAKE_COMMAND} -E env ${fault} ${CMAKE_COMMAND} -D CPACK_TEMPORARY_DIRECTORY=${folder}/to_sign
     -P ${source_folder}/cmake/sign_programs.cmake RESULT_VARIABLE code OUTPUT_QUIET ERROR_QUIET)
   if(code EQUAL 0)
-    message(SEND_ERROR "Signing must fail, but succeeded with this fault: \"${fault}\" (empty: a program is missing)")
+    message(SEND_ERROR "Signing succeeded with this wrong setting (if empty, with a missing program): \"${fault}\"")
   endif()
 endforeach()
 unset(ENV{SORREL_SIGN_CERTIFICATE})
 unset(ENV{SORREL_SUMS_KEY})
 run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/unsigned)
 
-# SHA256SUMS has each file's checksum. Signing changes only the programs' archive and the bill of materials.
+# SHA256SUMS lists each file's checksum. Signing changes only the programs' archive and the bill of materials.
 set(base sorrel-${version}-win64)
 foreach(kind signed unsigned)
   file(GLOB made RELATIVE ${folder}/${kind} ${folder}/${kind}/*.json ${folder}/${kind}/*.zip)
@@ -43,7 +43,7 @@ foreach(kind signed unsigned)
   list(SORT summed)
   foreach(files made summed)
     if(NOT ${files} STREQUAL "kelvo-${version}-win64-mingw-sdk.zip;${base}-simulator.zip;${base}-symbols.zip;${base}.spdx.json;${base}.zip")
-      message(SEND_ERROR "Wrong list ${files} (made: the folder; summed: SHA256SUMS) in ${folder}/${kind}: ${${files}}")
+      message(SEND_ERROR "${folder}/${kind}: wrong files (made) or wrong SHA256SUMS (summed). ${files}: ${${files}}")
     endif()
   endforeach()
   execute_process(COMMAND sha256sum -c SHA256SUMS WORKING_DIRECTORY ${folder}/${kind}
@@ -56,7 +56,7 @@ if(NOT signed STREQUAL "${base}.spdx.json;${base}.zip")
   message(SEND_ERROR "Signing must change only ${base}.spdx.json and ${base}.zip, but changed: ${signed}")
 endif()
 
-# Each local link in a Markdown page of the source folder or of an archive leads to an existing file and heading.
+# In the Markdown pages of the source folder and of the archives, each local link leads to an existing file and heading.
 file(GLOB archives ${folder}/unsigned/*.zip)
 foreach(archive ${archives})
   cmake_path(GET archive STEM LAST_ONLY name)

@@ -11,16 +11,16 @@ list(REMOVE_DUPLICATES needed)
 list(SORT needed)
 list(JOIN needed "," needed)
 if(NOT needed STREQUAL libraries)
-  message(SEND_ERROR "${program} must import exactly ${libraries}: further DLLs slow its start. It imports ${needed}")
+  message(SEND_ERROR "${program} must import exactly ${libraries} (more DLLs delay its start), but imports ${needed}")
 endif()
 if(facts MATCHES "\nDelayImport {")
-  message(SEND_ERROR "${program} has a delay-load import, which ends the process if it cannot be resolved")
+  message(SEND_ERROR "${program} has a delay-load import. If Windows cannot resolve this import, the process ends")
 endif()
 if(facts MATCHES "MEM_EXECUTE [^\n]*\n *IMAGE_SCN_MEM_READ [^\n]*\n *IMAGE_SCN_MEM_WRITE")
   message(SEND_ERROR "${program} has a section that can be written and executed")
 endif()
 # The patterns mean, in order: ASLR, high-entropy ASLR, DEP, the CET shadow stack, a .pdb name without a folder, a hash
-# in place of the build time, and the search for imported DLLs only in the system directory (which Wine ignores).
+# in place of the build time, and a search for imported DLLs only in the system directory (Wine ignores this setting).
 foreach(fact "_DYNAMIC_BASE " "_HIGH_ENTROPY_VA " "_NX_COMPAT " "_EX_CET_COMPAT " "PDBFileName: [^/\\\n]+\n" "Type: Repro "
     "DependentLoadFlags: 0x800\n")
   if(NOT facts MATCHES "${fact}")
@@ -39,10 +39,10 @@ string(REGEX MATCHALL "PE checksum *: [0-9A-F]+" checksums "${signature}")
 list(TRANSFORM checksums REPLACE ".* " "")
 list(REMOVE_DUPLICATES checksums)
 if(NOT checksums MATCHES "^[0-9A-F]+$" OR checksums STREQUAL "00000000")
-  message(SEND_ERROR "The header of ${program} lacks the right checksum: ${checksums}")
+  message(SEND_ERROR "The checksum in the header of ${program} is wrong or missing. osslsigncode shows: ${checksums}")
 endif()
 
-# The path of the source folder is private, and would make the files differ from those of a build in another folder.
+# The path of the source folder is private. It would also make two builds of the same sources in two folders differ.
 cmake_path(REPLACE_EXTENSION program LAST_ONLY pdb OUTPUT_VARIABLE pdb)
 foreach(file ${program} ${pdb})
   file(STRINGS ${file} found LIMIT_COUNT 1 REGEX "${source_folder}")

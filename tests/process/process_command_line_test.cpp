@@ -20,7 +20,7 @@ TEST_CASE("GetProcessCommandLine: on NT before Windows 7, reads the PEB at fixed
       {2, 0, find, 1, 16, 0},  {2, 0, find, 0, 16, 0},   {2, 1, find, 3, 16, 0},
       {1, 0, find, 3, 16, 0},  {2, 0, nullptr, 3, 16, 0}};
   for (const auto& [platform, minor, query, good, size, answer] : rows) {
-    INFO("platform ", platform, ", minor ", minor, ", good reads ", good, ", bytes ", size);
+    INFO("platform ", platform, ", minor ", minor, ", successful reads ", good, ", bytes ", size);
     const auto windows = PretendWindows(platform, 6, minor);
     std::vector<SIZE_T> reads;
     REPLACE(ReadProcessMemory,

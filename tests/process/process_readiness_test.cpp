@@ -13,8 +13,8 @@ TEST_CASE("StartProcessAndWaitForMutex: waits for the mutex, a WM_CLOSE or the t
     std::get<9>(std::tuple(given...))->hProcess = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     return isStarted;
   });
-  // Each search for the mutex takes a millisecond. Search number `mutexAt` finds the mutex. During
-  // search number `closeAt`, this thread gets a WM_CLOSE.
+  // Each call of OpenMutexW takes one simulated millisecond. Call number `mutexAt` finds the mutex.
+  // During call number `closeAt`, this thread gets a WM_CLOSE.
   int lookups = 0, mutexAt = 0, closeAt = 0;
   REPLACE(OpenMutexW, [&](auto, auto, auto, LPCWSTR name) {
     CHECK(name == std::wstring(L"Global\\name"));
@@ -26,7 +26,7 @@ TEST_CASE("StartProcessAndWaitForMutex: waits for the mutex, a WM_CLOSE or the t
     return lookups == mutexAt ? CreateMutexW(nullptr, FALSE, nullptr) : nullptr;
   });
   const auto wait = [&](bool pumps, DWORD timeoutMs) {
-    // Makes the tick count wrap to 0 soon.
+    // The tick count wraps to 0 after 151 ms.
     now = MAXDWORD - 150;
     lookups = 0;
     return StartProcessAndWaitForMutex(L"program", nullptr, pumps, L"name", timeoutMs);

@@ -7,8 +7,8 @@
 
 static std::string calls;
 
-// Adds `note` to `calls` and calls the original function. Then changes the last error, which
-// RunAsUser must set to 0 before it calls OpenDesktopW or CreateProcessAsUserW.
+// Adds `note` to `calls` and calls the original function. Then sets the last error, which
+// RunAsUser must reset to 0 before it calls OpenDesktopW or CreateProcessAsUserW.
 #define NOTE(function, note)                           \
   REPLACE(function, [](auto original, auto... given) { \
     calls += note;                                     \
@@ -17,7 +17,7 @@ static std::string calls;
     return result;                                     \
   })
 
-// Adds a use of token 1 (the session's) or 2 (a duplicate) to `calls`. Returns false for others.
+// Notes a use of token 1 (the session's) or 2 (a duplicate). Returns false for other handles.
 static bool NoteIfOurs(const char* note, HANDLE token) {
   const auto number = reinterpret_cast<std::uintptr_t>(token) - 0x7700;
   calls += number == 1 || number == 2 ? note + std::to_string(number) : "";
@@ -33,8 +33,8 @@ TEST_CASE("RunAsUser, LaunchInUserSession: run programs on WinSta0; can wait and
   const OwnedKernelObject done(CreateEventW(nullptr, FALSE, FALSE, (name + L"_done").c_str()));
   const std::wstring arguments = name + L" \"two  words\" \\\"quoted\\\" \"\" x ";
   const std::wstring command = L"\"" + program + L"\" " + arguments;
-  // Each row has the caller's station and desktop, and RunAsUser's calls before and after it waits.
-  // The first row is for LaunchInUserSession. The 0 before mask 393216 prevents handle inheritance.
+  // Columns: the caller's station and desktop, RunAsUser's calls before and after the wait. The
+  // first row is for LaunchInUserSession. The 0 before 393216 prevents handle inheritance.
   const std::tuple<const wchar_t*, const wchar_t*, std::string, std::string> places[] = {
       {nullptr, nullptr, "", ""},
       {nullptr, nullptr, "create free ", ""},
@@ -43,7 +43,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: run programs on WinSta0; can wait and
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  // Opens another station: RunAsUser would change the DACL of WinSta0, which all programs share.
+  // Opens a stand-in: RunAsUser would change the DACL of WinSta0, which all programs share.
   REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);
@@ -57,7 +57,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: run programs on WinSta0; can wait and
   NOTE(CloseDesktop, "close ");
   NOTE(CloseWindowStation, "close ");
   for (const auto& [station, desktop, callsBefore, callsAfter] : places) {
-    // Waits in the last rounds, because the folder cannot be deleted while a child is running.
+    // The rounds that wait are last: the folder cannot be deleted while a child is running.
     for (const auto& [waits, takesHandle] :
          {std::pair{false, true}, {false, false}, {true, true}, {true, false}}) {
       INFO(callsBefore, "waits: ", waits, ", takes the handle: ", takesHandle);
@@ -118,8 +118,8 @@ TEST_CASE("IsOnInteractiveDesktop: ignores letter case, unlike RunAsUser") {
   }
 }
 
-TEST_CASE("LaunchInUserSession: chooses a function by Windows version, session, token, desktop") {
-  // Each simulated function writes its output handle, even when the function fails.
+TEST_CASE("LaunchInUserSession: decides by Windows version, session, token, desktop how to start") {
+  // Even when they fail, the simulated functions store a handle, which must not be used.
   HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   auto* const session = +[]() -> DWORD { return 5; };
   const ReplacedExport query(
@@ -137,7 +137,7 @@ TEST_CASE("LaunchInUserSession: chooses a function by Windows version, session, 
   REPLACE(CreateProcessAsUserW, [=](auto, auto token, auto... given) {
     return !NoteIfOurs("start", token) || fail(given...);
   });
-  // Opening WinSta0 fails, so that RunAsUser cannot change its DACL.
+  // Makes OpenWindowStationW fail, so that RunAsUser cannot change WinSta0's DACL.
   REPLACE(OpenWindowStationW, [](auto...) { return nullptr; });
   REPLACE(CreateProcessW, [=](auto, auto... given) {
     CHECK(ShownCall("", given...) == "(0, given, 0, 0, 0, 0, 0, 0, size 104 on 0, given)");
@@ -145,7 +145,7 @@ TEST_CASE("LaunchInUserSession: chooses a function by Windows version, session, 
     calls += "caller";
     return fail(given...);
   });
-  // In the last row, no "close2" follows "start2", because RunAsUser keeps its token open.
+  // In the last row, no "close2" follows "start2", because RunAsUser keeps its duplicate open.
   using Path = std::tuple<DWORD, DWORD, bool, bool, const wchar_t*, std::string>;
   for (const auto& [minor, ownSession, hasSession, duplicates, desktop, expected] :
        {Path{1, 5, true, true, nullptr, "close1start2close2"},

@@ -4,8 +4,8 @@
 #include "tests/support/desktop_scope.h"
 
 // The first thread stores its desktop's name, starts a second thread and ends. The second thread
-// waits for the event NAME (the first argument), writes the command line and that desktop's name to
-// a file next to the program, sets the event NAME_done and ends the process with exit code 7.
+// waits for the event NAME (the first argument), writes the command line and the stored name to a
+// file next to the program, sets the event NAME_done and ends the process with exit code 7.
 static std::wstring desktop;
 
 static DWORD WINAPI Work(void* arguments) {

@@ -18,7 +18,7 @@ TEST_CASE("EnableShutdownPrivilege: fails if AdjustTokenPrivileges sets a nonzer
 }
 
 TEST_CASE(
-    "GetActiveConsoleSessionId, QueryUserTokenOfSession: return 0 if Windows lacks the exports") {
+    "GetActiveConsoleSessionId, QueryUserTokenOfSession: return 0 or false without the exports") {
   const ReplacedExport console("WTSGetActiveConsoleSessionId", nullptr);
   const ReplacedExport query("WTSQueryUserToken", nullptr);
   HANDLE token = INVALID_HANDLE_VALUE;
@@ -26,7 +26,7 @@ TEST_CASE(
   CHECK(!token);
 }
 
-TEST_CASE("GetRemoteClientName: accepts any name except an empty one and this computer's") {
+TEST_CASE("GetRemoteClientName: rejects only an empty name and this computer's name") {
   static const wchar_t* clientName = nullptr;
   static int textsOut = 0;
   const ReplacedExport query(

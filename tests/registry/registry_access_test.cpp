@@ -5,11 +5,10 @@
 #include "lib/registry/registry_write_access.h"
 #include "tests/support/testing.h"
 
-// Each test case replaces this key with a StandInKey, so no mistake can delete the user's data.
+// Each test case replaces this key with a StandInKey, so that no bug can delete the user's data.
 HKEY const kRoot = HKEY_CURRENT_USER;
 
-TEST_CASE("RegistryCanWrite: tries a write if elevated or if Windows is older than Vista") {
-  // Major version, elevation, whether a write succeeds; expected answer, whether a write is tried.
+TEST_CASE("RegistryCanWrite: tries to write only in an elevated process or before Windows Vista") {
   const DWORD rows[][5] = {
       {5, 0, 1, 0, 1}, {5, 0, 0, 1, 1}, {6, 1, 1, 0, 1}, {6, 1, 0, 1, 1}, {6, 0, 1, 1, 0}};
   for (const auto& [major, elevated, isWritable, answer, tries] : rows) {

@@ -10,7 +10,7 @@ static std::wstring Expanded(const wchar_t* text) {
   return buffer;
 }
 
-TEST_CASE("RegistryReadString: returns the whole text or the default") {
+TEST_CASE("RegistryReadString: returns the text up to its first NUL, or the default") {
   const ScratchKey key;
   const auto readBack = [&](const wchar_t* defaultText) {
     return RegistryReadString(HKEY_CURRENT_USER, key.c_str(), L"value", defaultText);
@@ -37,7 +37,7 @@ TEST_CASE("RegistryReadString: returns the whole text or the default") {
   }
 }
 
-TEST_CASE("RegistryReadStringBuffer: fills and terminates the buffer, never writes past it") {
+TEST_CASE("RegistryReadStringBuffer: terminates the text and never writes past the buffer") {
   const ScratchKey key;
   wchar_t old[] = L"old";
   CHECK(RegistryReadStringBuffer(HKEY_CURRENT_USER, key.c_str(), L"value", old, 4) == 0);

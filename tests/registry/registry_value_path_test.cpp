@@ -3,7 +3,6 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("ParseRegistryValuePath: splits a path into root, key path and value name") {
-  // Rejects incomplete paths. Sets the path and the name only after a known root and two "\".
   const std::tuple<const wchar_t*, bool, HKEY, WString, WString> rows[] = {
       {L"HKEY_CURRENT_USER\\Software\\App\\x", true, HKEY_CURRENT_USER, L"Software\\App", L"x"},
       {L"HKEY_CLASSES_ROOT\\.x\\y", true, HKEY_CLASSES_ROOT, L".x", L"y"},

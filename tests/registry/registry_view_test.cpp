@@ -17,7 +17,7 @@ TEST_CASE("EnableRegistryReflection: reports the result; GetRegistryViewAccess: 
   CHECK_BOTH(GetRegistryViewAccess(0) == 0, GetRegistryViewAccess(3) == 0);
 }
 
-TEST_CASE("GetMuiCacheKeyName: returns one name on XP, another from Vista on, none before XP") {
+TEST_CASE("GetMuiCacheKeyName: returns one name since Vista, another on XP, none before XP") {
   const std::tuple<DWORD, DWORD, WString> rows[] = {
       {6, 0, L"Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"},
       {5, 2, L"Software\\Microsoft\\Windows\\ShellNoRoam\\MUICache"},

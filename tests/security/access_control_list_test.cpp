@@ -20,7 +20,7 @@ static void DeleteDenyAces(const TestAcl& list, PSID sid) {
 }
 
 TEST_CASE(
-    "FindACEInACL, CopyACL, CalculateACLSize: find the last equal ACE, copy all ACEs, add sizes") {
+    "FindACEInACL, CopyACL, CalculateACLSize: find the last equal ACE, copy all ACEs, sum sizes") {
   TestAce wanted{.flags = 2, .mask = 7};
   TestAce other{.flags = 2, .mask = 7, .sid = {SID_REVISION, 1, {SECURITY_NT_AUTHORITY}, {18}}};
   const TestAcl list({wanted, wanted, {.type = 1, .flags = 2, .mask = 7}, {.mask = 7}, other});
@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: returns the index of the first ACE of the same 
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // A read past the end would be an access violation. No message with "Failed" would be traced.
+  // A read past the end is an access violation, after which no "... Failed" message is traced.
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

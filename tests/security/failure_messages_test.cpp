@@ -33,15 +33,16 @@ constexpr FailingCall kWatched[] = {
     // Must be last: if this call fails, RunAsUser may close the station that later runs need.
     SETS_LAST_ERROR(SetProcessWindowStation)};
 
-// The operation under test, and its messages without those of the operations that it calls.
+// The operation under test, and those traced messages that begin with the operation's name.
 static std::wstring operation, traced;
 
-// In each run of an operation, one call to a function of kWatched fails or throws. Outcomes:
-//   as a rule: the operation fails, and traces only "FUNCTION Failed", or nothing after a throw
-//   fails: then also traces "exception caught in __finally"; fails at once: does not trace this
+// In each run of an operation, at most one call of a kWatched function fails or throws. Outcomes:
+//   fails: the operation fails, and its last message is "exception caught in __finally"
+//   fails at once: the operation fails without this message
+//   as a rule: the only other message is "FUNCTION Failed" or, after a throw, there is none
 // failure_messages.txt lists, for each outcome and function, the first call with that outcome.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
-  // Uses a new station in place of the interactive one, which all programs share.
+  // Uses a new window station instead of the interactive one, which all programs share.
   const DesktopScope standIn(L"kelvo stand-in", L"Default");
   REPLACE(OpenWindowStationW,
           [](auto original, auto, auto... rest) { return original(L"kelvo stand-in", rest...); });
@@ -90,12 +91,11 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
     traced += text.starts_with(operation + L" ") ? L"," + text.substr(operation.length()) : L"";
     throw 1;  // must not affect the operation
   });
-  // The calls that failed and the calls that threw, for each operation and each outcome.
   std::map<std::wstring, std::map<std::wstring, std::array<std::wstring, 2>>> outcomes;
   for (const auto& [name, succeeds] : operations) {
     operation = name;
     const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
-      // Restores the station and the desktop, which the previous run may have failed to restore.
+      // The previous run may have changed the station, the desktop and their DACLs.
       SetProcessWindowStation(scope.station);
       SetThreadDesktop(scope.desktop);
       for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
@@ -131,7 +131,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       }
     }
   }
-  // No call fails: RunAsUser grants this process's user all rights on the interactive desktop.
+  // When no call fails, RunAsUser grants this process's user all rights on the interactive desktop.
   WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
   RunAsUser(command, TRUE, nullptr);
   CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);

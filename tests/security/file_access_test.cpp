@@ -9,8 +9,8 @@
 
 static BOOL isWritten = FALSE;
 
-// Runs an action with a simulated file whose DACL is `list`, in SDDL. A real file would not work:
-// Wine does not store its DACL, but converts the DACL to Unix permission bits.
+// Runs an action with a simulated file. `list` is its DACL, in SDDL. A real file would not work:
+// Wine does not store a file's DACL, but converts it to Unix permission bits.
 static void WithFile(std::wstring& list, const std::function<void()>& action) {
   REPLACE(GetFileSecurityW, [&](auto, auto, auto, void* descriptor, DWORD length, DWORD* size) {
     const OwnedLocalMemory<void> made = FromSddl(list, size);

@@ -38,7 +38,7 @@ struct TestAcl {
   TestAce* aces = nullptr;
 };
 
-// ToSddl converts a descriptor's DACL to SDDL; FromSddl does the reverse. "none" means no DACL.
+// Convert a DACL to SDDL and back. FromSddl(L"none") returns a descriptor without a DACL.
 inline std::wstring ToSddl(PSECURITY_DESCRIPTOR descriptor) {
   OwnedLocalMemory<wchar_t> text;
   ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor, 1, DACL_SECURITY_INFORMATION,
@@ -56,7 +56,7 @@ inline OwnedLocalMemory<void> FromSddl(const std::wstring& sddl, DWORD* size = n
 const std::wstring kAllOfStation = L"(A;;0xf037f;;;";
 const std::wstring kAllOfDesktop = L"(A;;CCDCLCSWRPWPDTLOCRSDRCWDWO;;;";
 
-// Returns the DACL of an object of any type in SDDL, or "none" when it is missing or null.
+// Returns an object's DACL in SDDL, or "none" when the DACL is missing or null.
 inline std::wstring ReadDacl(HANDLE object) {
   std::vector<BYTE> descriptor(0x10000);
   DWORD size = 0x10000;
@@ -76,14 +76,14 @@ inline OwnedKernelObject OwnToken() {
   return token;
 }
 
-// A window station and a desktop. Wine 10 finds their DACLs only with the type SE_KERNEL_OBJECT,
-// so the code under test, which passes SE_WINDOW_OBJECT, is made to use that type.
+// A window station and a desktop. Wine 10 finds their DACLs only with SE_KERNEL_OBJECT. Therefore,
+// GetSecurityInfo and SetSecurityInfo get this type when the code passes SE_WINDOW_OBJECT.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 
   static constexpr auto kAsKernelObject = [](auto original, HANDLE object, SE_OBJECT_TYPE type,
                                              SECURITY_INFORMATION what, auto... rest) {
-    // The code under test must use only the DACL, and must not protect it from inheritance.
+    // The code under test must access only the DACL, and must not protect it from inheritance.
     CHECK(what == DACL_SECURITY_INFORMATION);
     return original(object, type == SE_WINDOW_OBJECT ? SE_KERNEL_OBJECT : type, what, rest...);
   };

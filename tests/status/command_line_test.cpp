@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("ParseCommandLine: returns the application names unchanged, or the mistake") {
+TEST_CASE("ParseCommandLine: returns the application names unchanged, or describes the mistake") {
   using Kind = CommandLine::Kind;
   struct Row {
     std::vector<const wchar_t*> arguments;

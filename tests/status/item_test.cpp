@@ -13,7 +13,7 @@
 #include "tests/support/testing.h"
 #include "tool/dependent_applications.h"
 
-TEST_CASE("QueryApplications: reports the list, or why sorrel.exe treats the value as empty") {
+TEST_CASE("QueryApplications: reports the list, or why sorrel.exe treats it as empty") {
   struct Row {
     DWORD type;
     std::wstring stored;
@@ -55,7 +55,7 @@ TEST_CASE("IsPublishedName: accepts only oemNUMBER.inf") {
   }
 }
 
-TEST_CASE("QueryService: finds a device of the service unless its ids show a remote device") {
+TEST_CASE("QueryService: finds the local service's device, ignores devices of remote services") {
   const std::wstring id = L"BTHENUM\\{3abb9028-beae-4bf1-acd7-5cd7d5e4e0ca}";
   struct Row {
     std::wstring ids, instanceId;
@@ -123,7 +123,7 @@ TEST_CASE("QueryService: finds a device of the service unless its ids show a rem
   }
 }
 
-// The program's last output. The buffer is static because Run can make allocations fail.
+// AnswerCommandLine's last output, in a fixed buffer, since Run can make allocations fail.
 static char written[0x1000];
 
 struct Conditions {
@@ -162,7 +162,7 @@ TEST_CASE("AnswerCommandLine: returns 3 if there is no memory, and writes the re
   CHECK(std::string(written) == "sorrel_status: not enough memory\r\n");
 }
 
-TEST_CASE("AnswerCommandLine: names Windows 10, searches 200 token groups, reads the elevation") {
+TEST_CASE("AnswerCommandLine: reports Windows 10, searches all token groups, reads the elevation") {
   constexpr DWORD kCount = 200;
   struct {
     TOKEN_GROUPS first;

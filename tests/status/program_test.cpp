@@ -17,9 +17,9 @@ static std::wstring FromUtf8(const std::string& text) {
   return std::filesystem::path(std::u8string(text.begin(), text.end()));
 }
 
-// Cleans the machine. Makes a new current folder with certificates, INF files, both programs and
-// the simulator's libraries. Its subfolder "versioned" has a second sorrel_status.exe, and a copy
-// of sorrel.exe named difxapi.dll, because sorrel.exe has a version resource.
+// A ProgramFolder that also has sorrel_status.exe, INF files and copies of two certificates. Its
+// subfolder "versioned" has a second sorrel_status.exe and a difxapi.dll with a version resource (a
+// copy of sorrel.exe).
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -84,8 +84,8 @@ static std::string ShownOnPage(const std::string& kind) {
   return Replaced(page.substr(from, page.find("```", from) - from), "\n", "\r\n");
 }
 
-// Checks that the JSON report is ASCII, that the text report contains the values of its items, and
-// that docs/administrators.md lists every key of these items.
+// Checks that the JSON report is ASCII. For each item in the JSON report, checks that the text
+// report contains the values, and that docs/administrators.md lists the keys.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;
   const Json report = Json::parse(json.output);
@@ -110,7 +110,7 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
 }
 
 TEST_CASE(
-    "sorrel_status.exe: its reports match lifecycle.txt, also as JSON; it loads no simulator DLL") {
+    "sorrel_status.exe: text reports match lifecycle.txt and the JSON; loads no simulator DLL") {
   const Machine machine;
   std::istringstream lifecycle(ReadBytes(ProgramPath(L"expected\\lifecycle.txt")));
   std::string seen;
@@ -124,7 +124,7 @@ TEST_CASE(
       ProgramFolder::Run(FromUtf8(line.substr(2)));
       seen += line + "\r\n\r\n";
     } else if (line.starts_with("> ")) {
-      // A line in lifecycle.txt ends with --json if docs/administrators.md shows its JSON report.
+      // A command in lifecycle.txt ends with --json if docs/administrators.md shows its report.
       const std::wstring command = FromUtf8(Replaced(line.substr(2), " --json$", ""));
       std::filesystem::remove("journal");
       const ChildResult text = ProgramFolder::Run(command);

@@ -29,7 +29,7 @@ inline std::string Replaced(const std::string& text, const std::string& pattern,
   return std::regex_replace(text, std::regex(pattern), by);
 }
 
-// In a sorrel_status.exe report, replaces what differs between runs with words such as TIME.
+// In a sorrel_status.exe report, replaces parts that vary between runs with words such as TIME.
 inline std::string Named(std::string report) {
   report = Replaced(report, "[0-9A-F]{40}", "THUMBPRINT");
   report = Replaced(report, "\\d{4}-[-0-9T:]{14}Z", "TIME");
@@ -52,9 +52,9 @@ struct CleanMachine {
   }
 };
 
-// Cleans the machine. Creates a folder with certificates, sorrel.exe and the simulator's libraries.
-// The new folder is the current folder until this object is destroyed. `further` lists more files
-// to copy, each with its path in the test program's folder and its path in the new folder.
+// Cleans the machine and creates a folder with certificates, sorrel.exe and the simulator's
+// libraries. This folder is the current folder until this object is destroyed. `further` lists more
+// files to copy, each with its path in the test program's folder and its path in this folder.
 struct ProgramFolder : CleanMachine, ScratchFolder {
   ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {
     for (const wchar_t* const file :

@@ -6,7 +6,7 @@
 
 namespace kelvo::test {
 
-// Converts each UTF-16 code unit to its low byte, so that ASCII text stays the same.
+// Converts each UTF-16 code unit to its low byte. ASCII text therefore stays the same.
 inline std::string Ascii(std::wstring_view text) {
   // If the string were constructed from wide iterators, the standard library would convert the
   // characters without a cast, and the compiler would warn.

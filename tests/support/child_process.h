@@ -15,9 +15,9 @@ struct ChildResult {
   std::string output, errors;
 };
 
-// Runs a command line to its end, and returns the exit code and all output bytes. If `program` is
-// given, runs that file; otherwise, Windows searches for the command line's program, in this test
-// program's folder first. `access` is the access mask of the child's output handles.
+// Runs `program` with a command line, waits until the process ends, and returns the exit code and
+// the output. If `program` is null, Windows searches for the program that the command line names,
+// first in this test program's folder. `access` is the access mask of the child's output handles.
 inline ChildResult RunChild(std::wstring commandLine, const wchar_t* program = nullptr,
                             DWORD access = GENERIC_WRITE) {
   const ScratchFolder folder;

@@ -26,7 +26,7 @@ struct DesktopScope {
     }
   }
   // Uses a new desktop, which Wine opens on this process's X11 display. The initial desktop uses
-  // the display of the first process in the Wine prefix, which may have had no display. A process
+  // the display of the first process in the prefix; that process may have had none. A process
   // keeps the display of its first window, so create this object before any window.
   DesktopScope()
       : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}

@@ -14,7 +14,7 @@ namespace kelvo::test {
 
 // A new folder, deleted with all its contents when this object is destroyed.
 struct ScratchFolder {
-  // Skips folder names that already exist: those folders belong to running or crashed tests.
+  // Skips existing folders, because other tests are using them or left them behind in a crash.
   ScratchFolder() {
     do {
       path = std::filesystem::temp_directory_path() / (L"kelvo test " + std::to_wstring(++made));
@@ -51,8 +51,8 @@ inline std::wstring ProgramPath(const std::wstring& name) {
   return std::filesystem::path(self.c_str()).replace_filename(name);
 }
 
-// Compares `seen` byte by byte with an expected file (EXPECTED in kelvo_add_test). If the contents
-// differ, shows the first difference and writes `seen` to the same path with ".seen" appended.
+// Checks that `seen` has the same bytes as `file`, which kelvo_add_test lists under EXPECTED. On
+// failure, shows the first difference and writes `seen` to the path of `file` plus ".seen".
 inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);
   const std::string expected = ReadBytes(path);

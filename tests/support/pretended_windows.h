@@ -15,7 +15,7 @@ inline auto PretendWindows(DWORD platform, DWORD major, DWORD minor,
     const DWORD size = record->dwOSVersionInfoSize;
     *record = {size, major, minor, 0xABCD0000 + 1381, platform, L""};
     lstrcpyW(record->szCSDVersion, servicePack);
-    // For 4.x, rejects the longer structure, OSVERSIONINFOEXW, as NT 4.0 does.
+    // For 4.x, rejects OSVERSIONINFOEXW, as NT 4.0 before Service Pack 6 does.
     return major != 4 || size == sizeof(*record);
   };
   return ReplaceImport<decltype(::GetVersionExW)>("GetVersionExW", report);

@@ -8,12 +8,12 @@
 #include <string>
 #include <utility>
 
-// Replaces Windows functions for the code under test until the end of a block.
+// REPLACE and ReplacedExport replace Windows functions until the end of a block.
 //
-// Replaces an imported function with a lambda that takes the original function and the arguments:
+// REPLACE replaces an imported function. The lambda takes the original function and the arguments:
 //   REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
-// Makes GetProcAddress return another function of the same type or, as here, null, which simulates
-// a Windows version that lacks the function:
+// ReplacedExport makes GetProcAddress return another function of the same type. Null simulates a
+// Windows version that lacks the function:
 //   const ReplacedExport native("GetNativeSystemInfo", nullptr);
 
 namespace kelvo::test {
@@ -45,7 +45,7 @@ void VisitImports(HMODULE module, Visit visit) {
   }
 }
 
-// Redirects a module's calls to an imported function to `target`. Returns the previous target.
+// Makes a module call `target` instead of an imported function. Returns the previous target.
 inline void* SwapImport(const std::string& function, void* target,
                         HMODULE module = GetModuleHandleW(nullptr)) {
   void* previous = nullptr;
@@ -63,8 +63,8 @@ inline void* SwapImport(const std::string& function, void* target,
                              : throw std::runtime_error("the module does not import " + function);
 }
 
-// Calls `replacement` in place of an imported function until this object is destroyed. The
-// arguments of `replacement` are the original function and then the arguments of the call.
+// Until this object is destroyed, `replacement` is called in place of an imported function. The
+// arguments of `replacement` are the original function, then the arguments of the call.
 template <typename Function, typename Replacement>
 struct ReplacedImport;
 
@@ -100,7 +100,7 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
   const auto replaced##function = \
       ::kelvo::test::ReplaceImport<decltype(::function)>(#function, __VA_ARGS__)
 
-// Counts the calls of an imported function. Each call still reaches the original function.
+// Counts the calls to an imported function. Each call still reaches the original function.
 #define COUNT_CALLS(function, count)                         \
   REPLACE(function, [&](auto original, auto... parameters) { \
     ++(count);                                               \

@@ -9,8 +9,8 @@
 
 namespace kelvo::test {
 
-// The path, below HKEY_CURRENT_USER, of a registry key that does not exist at first. The key is
-// deleted with everything below it when this object is destroyed.
+// The path, below HKEY_CURRENT_USER, of a registry key that does not exist yet. When this object is
+// destroyed, the key is deleted with all its values and subkeys.
 //
 // This type does not use the library under test: if a bug in the library made the path empty, the
 // destructor would delete everything below HKEY_CURRENT_USER.
@@ -24,8 +24,8 @@ struct ScratchKey : std::wstring {
   static inline int made = 0;
 };
 
-// Stores `units`, without their last `cutBytes` bytes, as a value. In the buffer, "#" follows
-// `units` but is not stored: if a NUL followed the stored bytes, Windows would also store that NUL.
+// Stores `units`, without their last `cutBytes` bytes, as a registry value. Appends "#", which is
+// not stored: if a NUL followed the stored bytes in memory, Windows would also store that NUL.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);
@@ -33,8 +33,8 @@ inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DW
   REQUIRE(RegSetKeyValueW(root, subkey, name, type, units.data(), size) == ERROR_SUCCESS);
 }
 
-// Until this object is destroyed, this process uses `key`, which is empty at first, in place of a
-// predefined key such as HKEY_CURRENT_USER. Changes to the predefined key then affect only `key`.
+// In this process, redirects a predefined key, such as HKEY_CURRENT_USER, to `key`, a new, empty
+// key (RegOverridePredefKey). The redirection ends when this object is destroyed.
 struct StandInKey {
   explicit StandInKey(HKEY replaced) : predefined(replaced) {
     HKEY created = nullptr;

@@ -10,12 +10,12 @@
 
 namespace kelvo::test {
 
-// Returns an argument as text to compare: a number, a constant string (without the folder if it
-// is a full path), a key, or fields of a structure. Null is "0". Any other pointer is "given".
+// Describes an argument: shows a number, a constant string (a full path without its folder), a
+// registry key, or fields of a structure. Null is "0". Any other pointer is "given".
 template <typename Argument>
 std::string Shown(Argument argument) {
   if constexpr (std::is_same_v<Argument, SIZE_T>) {
-    return "size";  // some sizes, such as that of a token's groups, depend on the machine
+    return "size";  // some sizes, such as the size of a token's groups, depend on the machine
   } else if constexpr (std::is_integral_v<Argument> || std::is_enum_v<Argument>) {
     return std::to_string(static_cast<long long>(argument));
   } else if constexpr (std::is_same_v<Argument, LPCSTR> || std::is_same_v<Argument, LPCWSTR>) {

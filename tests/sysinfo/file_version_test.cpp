@@ -11,12 +11,11 @@
 #include "lib/sysinfo/internet_explorer_version.h"
 #include "tests/sysinfo/simulated_cases.h"
 
-TEST_CASE(
-    "CompareFileVersion, GetFileVersionString: valid and malformed files as in file_versions.txt") {
+TEST_CASE("CompareFileVersion, GetFileVersionString: the results match file_versions.txt") {
   int freed = 0;
   COUNT_CALLS(GlobalUnlock, freed);
   COUNT_CALLS(GlobalFree, freed);
-  // Fills allocated memory with a value other than 0. Makes each version resource end in "!!".
+  // Fills new memory with 0x11, and makes each version resource end in "!!".
   REPLACE(GlobalLock, [](auto original, auto memory) {
     return std::memset(original(memory), 0x11, GlobalSize(memory));
   });
@@ -27,8 +26,9 @@ TEST_CASE(
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // For a path of `pathLength` units, VerQueryValueW returns `from` + `offset` bytes, and `length`.
-  char name[99] = "", from[9] = "";  // from: "start" or "end" (of the resource), or "found"
+  // For a path of `pathLength` characters, VerQueryValueW stores `length` and a pointer to `offset`
+  // bytes after the "start" or "end" of the resource, or after the start of the value "found".
+  char name[99] = "", from[9] = "";  // from: "start", "end" or "found"
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
   UINT length = 0;
@@ -60,7 +60,7 @@ TEST_CASE(
   });
 }
 
-TEST_CASE("IsIEVersionAtLeast: reads the system DLL; GetIEVersionName: keeps the last name found") {
+TEST_CASE("IsIEVersionAtLeast: reads Shdocvw.dll; GetIEVersionName: keeps the last name found") {
   wchar_t text[kFileVersionStringCapacity];
   int version[4];
   CHECK(GetSystemFileVersionString(text, L"Shdocvw.dll"));
@@ -80,7 +80,7 @@ TEST_CASE("IsIEVersionAtLeast: reads the system DLL; GetIEVersionName: keeps the
   CHECK(WString(GetIEVersionName(nullptr, {6, 0, 0, 0})) == L"Internet Explorer 5.5");
 }
 
-TEST_CASE("GetComCtlVersion: returns the library's version, or 4.0 if DllGetVersion is missing") {
+TEST_CASE("GetComCtlVersion: returns comctl32.dll's version, or 4.0 if DllGetVersion is missing") {
   static HRESULT result;
   const auto report = +[](DLLVERSIONINFO* version) -> HRESULT {
     *version = {version->cbSize, version->cbSize == 20 ? 6UL : 0, 0x1000A, 0, 0};

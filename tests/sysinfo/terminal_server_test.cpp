@@ -4,7 +4,7 @@
 
 TEST_CASE("IsProductSuiteInstalled: finds a suite in the list") {
   const StandInKey machine(HKEY_LOCAL_MACHINE);
-  // The last two sizes leave out the terminators; 33 also leaves out half of the last character.
+  // The last two sizes exclude "!" and the NUL after it; 33 also excludes half of the last "r".
   const std::tuple<DWORD, const wchar_t*, DWORD, bool> lists[] = {
       {REG_SZ, L"Terminal Server\0", 34, false},
       {REG_MULTI_SZ, L"A\0terminal Server\0", 38, false},

@@ -31,7 +31,7 @@ struct Rehearsal : ProgramFolder {
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
 
-  // Runs a command line. NAME=value before the program sets an environment variable for this run.
+  // Runs a command line. Each prefix "NAME=value " sets an environment variable for this run.
   // Returns the output, the exit code, the list of applications, the certificates in the stores
   // "TrustedPublisher" and "CA", and the simulator's journal.
   static std::string Run(std::wstring line) {
@@ -60,8 +60,8 @@ TEST_CASE("sorrel.exe: lines, exit codes, calls and state match transcript.txt")
   std::string bytes = ReadBytes(ProgramPath(L"expected\\transcript.txt"));
   std::erase(bytes, '\r');  // An editor may have written CRLF or LF.
   std::istringstream transcript(bytes);
-  // The lines and the name of each block. In transcript.txt, a block consists of a line "@NAME:",
-  // the lines and an empty line.
+  // The text and the name of each block. In transcript.txt, a block consists of a line "@NAME:",
+  // the text and an empty line.
   std::vector<std::pair<std::string, std::string>> named;
   std::string seen;
   for (std::string line; std::getline(transcript, line);) {

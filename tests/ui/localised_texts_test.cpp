@@ -6,7 +6,7 @@
 #include "tests/support/desktop_scope.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("ChooseResourceLanguage: exact, else same primary language, else English, else first") {
+TEST_CASE("ChooseResourceLanguage: falls back on primary language, then English, then first") {
   using Languages = std::vector<LANGID>;
   const auto languagesOf = [](const wchar_t* library) {
     return GetStringResourceLanguages(LoadLibraryW(ProgramPath(library).c_str()));
@@ -27,7 +27,7 @@ TEST_CASE("LocaleNameFromLcid: returns an empty string if LCIDToLocaleName is mi
 }
 
 TEST_CASE("ReplaceAllInBuffer: replaces all occurrences in a buffer of eight characters") {
-  // The text, the search text, the replacement, and the result (null if the text stays the same).
+  // If the result is null, the text must stay the same.
   const std::array<const wchar_t*, 4> rows[] = {
       {L"a.b.c", L".", L"--", L"a--b--c"}, {L"aaa", L"aa", L"a", L"aa"},
       {L"abab", L"ab", nullptr, L""},      {L"abc", L"x", L"y", nullptr},

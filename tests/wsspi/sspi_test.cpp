@@ -2,7 +2,7 @@
 #include "lib/wsspi/sspi_loader.h"
 #include "tests/support/testing.h"
 
-// Runs all steps in one test case, because each step depends on the state after the previous step.
+// This is one test case, because each step depends on the state that the previous step leaves.
 TEST_CASE("SspiInitialize: tries again after a failure, but not after a success") {
   int loads = 0;
   bool isMissing = true;

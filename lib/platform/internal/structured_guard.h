@@ -4,8 +4,9 @@
 extern "C" {
 #endif
 
-// Calls run(context). Returns 1 when `run` returns, 0 when a structured exception leaves `run`.
-// `run` must catch all C++ exceptions, since none of them may cross the __except frame.
+// Calls run(context) in a __try block. Returns 1 when `run` returns, and 0 when a structured
+// exception leaves `run`. `run` must catch all C++ exceptions, because a C++ exception must not
+// propagate into the __try block.
 int RunUnderStructuredGuard(void (*run)(void* context), void* context);
 
 #ifdef __cplusplus

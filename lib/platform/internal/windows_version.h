@@ -4,8 +4,8 @@
 
 namespace kelvo::internal {
 
-// Returns the OSVERSIONINFOW (276 bytes) that GetVersionExW fills; each call queries the version
-// anew. When GetVersionExW fails, all fields are 0. On Windows 8.1 and later, GetVersionExW reports
+// Returns the OSVERSIONINFOW (276 bytes) that GetVersionExW fills. The result is not cached.
+// When GetVersionExW fails, all fields are 0. On Windows 8.1 and later, GetVersionExW reports
 // version 6.2 to a program whose manifest does not list Windows 8.1 or later.
 OSVERSIONINFOW QueryWindowsVersion();
 

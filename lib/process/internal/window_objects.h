@@ -6,9 +6,9 @@
 
 namespace kelvo::internal {
 
-// Types that own the handles of window stations and desktops. They may even own a handle from
-// GetProcessWindowStation or GetThreadDesktop: closing it does no harm, because Windows refuses to
-// close a handle that the process or a thread is using.
+// Types that own the handles of window stations and desktops. Objects of these types can safely own
+// a handle from GetProcessWindowStation or GetThreadDesktop: Windows does not close a handle that
+// this process or one of its threads is using.
 struct WindowStationTraits {
   using Handle = HWINSTA;
   static Handle None() { return nullptr; }

@@ -7,11 +7,12 @@
 namespace kelvo::internal {
 
 // ACLs may come from other processes or from disk, and Windows' own functions trust the sizes that
-// an ACL contains. The functions below never read past the end of an ACL or an ACE: the first two
-// return false for a malformed ACL, and the others must be called only for the ACEs of a
-// well-formed ACL. Every type of ACE is read with the layout of ACCESS_ALLOWED_ACE: header, mask,
-// SID. An ACE may be at any address, even an unaligned one, because the ACE before it may have any
-// size.
+// an ACL contains. AreAcesInsideAcl and QueryAclSize check these sizes, and return false for a
+// malformed ACL. They read the ACL's header, which must be readable, and never read an ACE past the
+// AclSize bytes of the ACL.
+//
+// Every type of ACE is read with the layout of ACCESS_ALLOWED_ACE: header, mask, SID. An ACE may be
+// at any address, even an unaligned one, because the ACE before it may have any size.
 
 // The offset of the SID in an ACE, after the header and the mask.
 constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
@@ -21,21 +22,22 @@ constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
 // `acl` is null. Does not check the contents of the ACEs.
 bool AreAcesInsideAcl(const ACL* acl);
 
-// Calls GetAclInformation (AclSizeInformation) when AreAcesInsideAcl returns true. Returns false
-// and leaves `size` unchanged when AreAcesInsideAcl returns false (the last error is then
-// ERROR_INVALID_ACL) or GetAclInformation fails.
+// Stores the ACL's size information in `size` (GetAclInformation with AclSizeInformation) and
+// returns true. When AreAcesInsideAcl returns false, does not call GetAclInformation, sets the last
+// error to ERROR_INVALID_ACL and returns false. When GetAclInformation fails, returns false. In
+// both cases, leaves `size` unchanged.
 bool QueryAclSize(const ACL* acl, ACL_SIZE_INFORMATION& size);
 
 // Returns the ACE at `index` (GetAce), or null when there is none. Call this function only after
 // QueryAclSize has returned true for `acl`.
 void* AceAt(const ACL* acl, DWORD index);
 
-// Returns an ACE's header.
+// Returns an ACE's header. All bytes of the header must be readable.
 ACE_HEADER HeaderOfAce(const void* ace);
 
-// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. An
-// object ACE has other data at kSidOffset, and this function treats that data as a SID. That data
-// never equals the SID of an account.
+// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. Never
+// reads past these bytes, which must all be readable. An object ACE has other data at kSidOffset.
+// This function treats that data as a SID, which never equals the SID of an account.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal

@@ -14,9 +14,9 @@ bool Check(bool succeeded, const wchar_t* message);
 // result is FALSE, traces `cleanUpMessage` last, after `cleanUp` has run. An exception that leaves
 // `cleanUp` is swallowed and does not change the result.
 //
-// After a structured exception, destructors in `steps` do not run. Therefore resources that `steps`
-// allocates must belong to Owned objects (lib/platform/owned.h) that are declared outside `steps`,
-// and `cleanUp` must reset these objects.
+// After a structured exception, destructors in `steps` do not run. Therefore, resources that
+// `steps` allocates must belong to Owned objects (lib/platform/owned.h) that are declared outside
+// `steps`. Let `cleanUp` reset these objects, so that an exception during the release is swallowed.
 template <typename Steps, typename CleanUp>
 BOOL GuardedOperation(const wchar_t* cleanUpMessage, const Steps& steps, const CleanUp& cleanUp) {
   const bool succeeded = GuardedAnswer(false, steps);

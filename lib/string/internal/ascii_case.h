@@ -5,8 +5,8 @@
 
 namespace kelvo::internal {
 
-// Returns true when two strings are equal, ignoring the case of the letters A to Z. The locale has
-// no effect.
+// Returns true when two strings are equal or differ only in the case of the letters A to Z. The
+// locale has no effect.
 inline bool EqualsIgnoringAsciiCase(std::wstring_view a, std::wstring_view b) {
   constexpr auto fold = [](wchar_t unit) {
     return unit >= L'A' && unit <= L'Z' ? static_cast<wchar_t>(unit - L'A' + L'a') : unit;

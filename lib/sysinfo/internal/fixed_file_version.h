@@ -32,8 +32,8 @@ struct FixedFileVersion {
   std::optional<FileVersionNumbers> numbers;
 };
 
-// Reads the version resource of a file (GetFileVersionInfoW) and the numbers in its
-// VS_FIXEDFILEINFO block.
+// Reads the version resource of a file (GetFileVersionInfoW) and finds the numbers in the
+// resource's VS_FIXEDFILEINFO block.
 FixedFileVersion ReadFixedFileVersion(const wchar_t* path);
 
 }  // namespace kelvo::internal

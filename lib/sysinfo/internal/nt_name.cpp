@@ -39,7 +39,7 @@ void AppendServerMode(const OSVERSIONINFOEXW& version, WString& text) {
   }
 }
 
-// Handles NT 6: Windows Vista to 8.1 and the server releases of the same versions.
+// Handles NT 6.x: Windows Vista to 8.1, and the server releases with the same version numbers.
 void AppendNt6Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& text) {
   static constexpr const wchar_t* kWorkstations[] = {L"Windows Vista ", L"Windows 7 ",
                                                      L"Windows 8 ", L"Windows 8.1 "};
@@ -65,7 +65,8 @@ void AppendNt6Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& 
   AppendArchitecture(architecture, text);
 }
 
-// 64-bit Windows XP has the version number of Windows Server 2003 (5.2), so it gets the same names.
+// Also returns a name of Windows Server 2003 when the system is 64-bit Windows XP, because both
+// have the version number 5.2.
 const wchar_t* Server2003Name(const OSVERSIONINFOEXW& version) {
   if (GetSystemMetrics(SM_SERVERR2) != 0) {
     return L"Microsoft Windows Server 2003 R2 ";

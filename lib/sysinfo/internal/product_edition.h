@@ -4,8 +4,8 @@
 
 namespace kelvo::internal {
 
-// Returns the edition name for a product type from GetProductInfo, or an empty string when the type
-// is not in the table in product_edition.cpp.
+// Returns the name of the edition with this product type, which is a number from GetProductInfo.
+// Returns an empty string when the table in product_edition.cpp does not contain the type.
 const wchar_t* ProductEditionText(DWORD productType);
 
 }  // namespace kelvo::internal

@@ -11,8 +11,8 @@ std::span<const BYTE> FindVersionValue(std::span<const BYTE> resource, const wch
   if (VerQueryValueW(resource.data(), path, &found, &length) == FALSE) {
     return {};
   }
-  // Subtracts unsigned integers: when `found` is before the resource, the offset wraps around to a
-  // number past the resource's end.
+  // If `found` is before the resource, the unsigned subtraction wraps around. The offset is then
+  // greater than the size of the resource.
   const std::size_t offset =
       reinterpret_cast<ULONG_PTR>(found) - reinterpret_cast<ULONG_PTR>(resource.data());
   if (offset >= resource.size()) {
