@@ -2,9 +2,9 @@
 
 namespace kelvo {
 
-// Runs a command line of sorrel_status.exe. Checks the items that the command line names, and
-// writes the report to standard output. Changes nothing on the computer. The first of the `count`
-// arguments is the program's own path.
+// Carries out a command line of sorrel_status.exe. Checks the items that the command line names,
+// and writes the report to standard output. Changes nothing on the computer. The first of the
+// `count` arguments is the program's own path.
 //
 // A command line that names no item asks for a general report. This report covers the list of
 // applications, the certificate stores "TrustedPublisher" (item "publisher") and "CA" (item

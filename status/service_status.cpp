@@ -168,7 +168,7 @@ Item QueryService(DeviceSearch search) {
   Item item{"service", State::kInfo, {}, {}};
   if (search == DeviceSearch::kNone) {
     AddLibrary(item);
-    item.details.push_back({{}, {}, L"use --service to search for its device"});
+    item.details.push_back({{}, {}, L"use --service to search for the service's device"});
     return item;
   }
   bool isThere = false;
@@ -177,7 +177,8 @@ Item QueryService(DeviceSearch search) {
   } else {
     item.state = isThere ? State::kPresent : State::kAbsent;
     item.details.push_back(
-        {"device", isThere, isThere ? L"Bluetooth has a device for it" : L"no device for it"});
+        {"device", isThere,
+         isThere ? L"Bluetooth has a device for the service" : L"no device for the service"});
   }
   AddLibrary(item);
   return item;

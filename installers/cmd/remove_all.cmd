@@ -1,6 +1,6 @@
 @echo off
-rem remove_all.cmd   removes the product's name from the list of applications ("sorrel.exe uninstall"). If no name is
-rem                  left on the list, removes the two certificates with certutil.exe, and the driver package with
+rem remove_all.cmd   removes the application's name from the list of applications ("sorrel.exe uninstall"). If no name
+rem                  is left on the list, removes the two certificates with certutil.exe, and the driver package with
 rem                  pnputil.exe. Returns 1603 if "sorrel.exe uninstall" failed, if something that had to be removed is
 rem                  still present, or if that could not be checked. Otherwise returns 3010 if a restart is needed, or
 rem                  0 if no restart is needed.
@@ -69,7 +69,7 @@ for /f "usebackq tokens=1,2 delims=:, " %%A in ("%answer%") do if "%%~A"=="state
 for /f "usebackq tokens=1,2 delims=:, " %%A in ("%answer%") do if "%%~A"=="%3" set "value=%%~B"
 exit /b
 
-rem :windows PROGRAM ARGUMENTS   runs a program in the folder System32, shows its output and appends the output to the
+rem :windows PROGRAM ARGUMENTS   runs a program from the folder System32, shows its output and appends the output to the
 rem log. Sets "restart" if the program returns 3010.
 :windows
 >"%answer%" "%system%\%1" %~2

@@ -25,10 +25,9 @@ if not exist "%run%" exit /b 1603
 
 rem An empty output is a failure: every run of sorrel.exe writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem If product.cmd sets radio_off to "spared", only one failure is ignored: the Bluetooth radio is missing or off. For
-rem this failure, sorrel.exe writes an error line with the code 00000490 or 00000014 (hexadecimal). The commands
-rem "register" and "unregister" also exit with this code (1168 or 20 in decimal). A missing bthprops.cpl is never a
-rem failure.
+rem A missing bthprops.cpl is never a failure. A Bluetooth radio that is missing or off is a failure, unless product.cmd
+rem sets radio_off to "spared". For such a radio, sorrel.exe writes an error line with the code 00000490 or 00000014
+rem (hexadecimal), and the commands "register" and "unregister" also exit with this code (1168 or 20 in decimal).
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
 rem cmd.exe parses each line below before it expands FOR variables such as %%A. Therefore, text from the output is never

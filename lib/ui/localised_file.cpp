@@ -86,8 +86,8 @@ bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
                               static_cast<int>(b.length()), TRUE) == CSTR_EQUAL;
 }
 
-// Returns the locale name in `found`, which is the name of a file or folder that FindFirstFileW has
-// found. Returns an empty string when `found` does not fit the pattern. This can happen because
+// `found` is the name of a file or folder that FindFirstFileW has found. Returns the locale name in
+// it. Returns an empty string when `found` does not fit the pattern. This can happen because
 // FindFirstFileW also matches short (8.3) names.
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
