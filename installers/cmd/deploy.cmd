@@ -2,15 +2,15 @@
 rem deploy.cmd          copies the product's files to the product's folder and runs "sorrel.exe install". If a first
 rem                     installation fails, runs "sorrel.exe uninstall" and deletes the copies. If a later installation
 rem                     (such as an upgrade) fails, removes nothing: the copies stay.
-rem deploy.cmd remove   runs "sorrel.exe uninstall" for the application. Also deletes the product's files from the
-rem                     product's folder, unless this script itself is in that folder.
+rem deploy.cmd remove   runs "sorrel.exe uninstall" with the application's name. Also deletes the product's files from
+rem                     the product's folder, unless this script itself is in that folder.
 rem Both commands return 0, 3010 or 1603. These exit codes mean the same as those of run_sorrel.cmd.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
 set "product="
 call "%here%product.cmd"
-rem If this folder's name has a percent sign or a caret, the command "call" changes the name and finds no product.cmd.
+rem If the path of this folder has a percent sign or a caret, "call" changes the path and does not find product.cmd.
 if not defined product exit /b 1603
 rem Prefers ProgramW6432: if a 32-bit program starts this script, ProgramFiles is the folder for 32-bit programs.
 if not defined ProgramW6432 set "ProgramW6432=%ProgramFiles%"
@@ -20,8 +20,9 @@ set "shell=%SystemRoot%\System32\cmd.exe"
 set "code=0"
 if "%~1"=="remove" goto remove
 
-rem An installation counts as a first installation only if sorrel_status.exe returns 1: the application is not on the
-rem list. The variable errorlevel is also 1 if Windows does not allow the program to run, so --version is tried first.
+rem An installation counts as a first installation only if sorrel_status.exe returns 1: the application's name is not on
+rem the list of applications. The variable errorlevel is also 1 if Windows does not allow sorrel_status.exe to run. The
+rem call with --version detects this case, and the installation then does not count as a first installation.
 set "first="
 "%here%sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto copy

@@ -9,7 +9,7 @@ set "errorlevel="
 set "here=%~dp0"
 set "product="
 call "%here%product.cmd"
-rem If this folder's name has a percent sign or a caret, "call" changes the path and does not find product.cmd.
+rem If the path of this folder has a percent sign or a caret, "call" changes the path and does not find product.cmd.
 if not defined product exit /b 1603
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "answer=%log%.answer"

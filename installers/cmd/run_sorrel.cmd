@@ -1,6 +1,6 @@
 @echo off
-rem run_sorrel.cmd ARGUMENT...   runs the sorrel.exe in this folder with these arguments, shows the output and appends
-rem it to the product's log. Returns 1603 if a step failed, otherwise 3010 if a restart is needed, otherwise 0.
+rem run_sorrel.cmd ARGUMENT...   runs the sorrel.exe beside this script with these arguments, shows the output and
+rem appends it to the product's log. Returns 1603 if a step failed, otherwise 3010 if a restart is needed, otherwise 0.
 setlocal EnableExtensions DisableDelayedExpansion
 rem Deletes any environment variable named errorlevel, because it would hide the exit codes of programs.
 set "errorlevel="

@@ -18,8 +18,9 @@ declare -A setting=(
   # Make your own two GUIDs with uuidgen, and keep them for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
-  # sorrel.exe keeps a list of the applications that use the hands-free service. This is the product's name on the list.
-  # The name must be ASCII, the same for all versions, and not part of another application's name.
+  # The application's name: the product's name on the list in which sorrel.exe records the applications that use the
+  # hands-free service. The name must be ASCII and the same for all versions. It must neither contain nor be part of
+  # another application's name.
   [APPLICATION]='brindle'
   # The driver package's INF file, the certificate of the package's signer, and the certificate of the authority that
   # issued the signer's certificate.
@@ -27,7 +28,7 @@ declare -A setting=(
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
   # What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-  # installation ignores this failure, but no other.
+  # installation ignores the resulting error. The setting has no effect on other errors.
   [RADIO_OFF]='fails'
 )
 
@@ -79,7 +80,8 @@ add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
 # These actions run functions of service.js. Type 3077 is JScript in the package (5), deferred (1024), as SYSTEM (2048).
 # A missing radio must not prevent the removal of the product. Therefore the function ReleaseService always returns
 # success, and the type of its action also has the flag "ignore errors" (64). ReleaseService does not run when an
-# upgrade removes the old version: if the upgrade fails, the old version is restored and needs its name on the list.
+# upgrade removes the old version: if the upgrade then fails, the old version is restored, and the application's name
+# must still be on the list.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 

@@ -12,8 +12,9 @@
 !insertmacro Setting PRODUCT "Brindle"
 !insertmacro Setting VERSION "1.0.0"
 !insertmacro Setting MAKER "The sorrel authors"
-; The product's name on the list in which sorrel.exe records the applications that use the hands-free service. The name
-; must be ASCII, the same for all versions, and not part of another application's name.
+; The application's name: the product's name on the list in which sorrel.exe records the applications that use the
+; hands-free service. The name must be ASCII and the same for all versions. It must neither contain nor be part of
+; another application's name.
 !insertmacro Setting APPLICATION "brindle"
 ; The driver package's INF file, the certificate of the package's signer, and the certificate of the authority that
 ; issued the signer's certificate.
@@ -21,7 +22,7 @@
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
 ; What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-; installation ignores this failure, but no other.
+; installation ignores the resulting error. The setting has no effect on other errors.
 !insertmacro Setting RADIO_OFF "fails"
 ; Add the driver package's other files here.
 !macro EachFile DO
@@ -37,7 +38,7 @@
 ; have copied a program.
 !ifndef OLD_NSIS_ACCEPTED
   !if ${NSIS_PACKEDVERSION} < 0x03011000
-    !warning "NSIS ${NSIS_VERSION} lets a user of the computer gain the setup's rights (CVE-2025-43715): use 3.11 or later."
+    !warning "A setup made by NSIS ${NSIS_VERSION} lets users gain the setup's rights (CVE-2025-43715): use 3.11 or later."
   !endif
 !endif
 
@@ -166,7 +167,9 @@ Section
   WriteRegStr HKLM "${UNINSTALL_KEY}" QuietUninstallString '"$INSTDIR\$8" /S _?=$INSTDIR'
 
   StrCpy $0 1603
+  StrCpy $1 "A file or a registry value could not be written. The folder is $INSTDIR."
   ${IfNot} ${Errors}
+    StrCpy $1 "The hands-free service could not be prepared. The log has the reason: ${LOG}"
     !insertmacro RunSorrel 'install "$INSTDIR\${INF}" "$INSTDIR\${PUBLISHER}" "$INSTDIR\${INTERMEDIATE}" "${APPLICATION}"'
   ${EndIf}
   ; Compares $0 as a string, not as a number: if nsExec cannot start cmd.exe, $0 is "error".
@@ -179,8 +182,8 @@ Section
       !insertmacro RemoveProduct
     ${EndIf}
     SetErrorLevel 1603
-    MessageBox MB_ICONSTOP "The hands-free service could not be prepared.$\r$\nThe log has the reason:$\r$\n${LOG}" /SD IDOK
-    Abort "The hands-free service could not be prepared."
+    MessageBox MB_ICONSTOP "$1" /SD IDOK
+    Abort "$1"
   ${EndIf}
   WriteRegStr HKLM "${UNINSTALL_KEY}" DisplayVersion "${VERSION}"
   SetErrorLevel $0

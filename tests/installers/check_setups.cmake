@@ -60,7 +60,7 @@ if(left)
   message(SEND_ERROR "A build that failed has left: ${left}")
 endif()
 
-# The property Log must name the log that run_sorrel.cmd writes, because AskForRestart, the last action, reads it.
+# The property Log must name the log that run_sorrel.cmd writes: AskForRestart, the last action, reads that log.
 expect(0 "\nLog\tsorrel_Merlin Car[.]log" msiinfo export "für andere/setup.msi" Property)
 
 # The custom actions that change the computer run as SYSTEM: their types contain the bit 2048. An upgrade removes the

@@ -10,10 +10,10 @@ static const std::wstring kLogs = L"C:\\windows\\logs\\";
 static const std::wstring kStandIns = kLogs + L"stand_ins";
 static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
-// Copies of this program simulate pnputil and certutil, which Wine lacks or has only as stubs. A
-// copy appends its name and all but its last argument to the file kStandIns. If told to delete
-// kPublishedInf, it does. If told to delete a stored certificate, it deletes all certificates in
-// the store. If the environment variable "ends" is a failure code, it only exits with this code.
+// Copies of this program simulate pnputil and certutil, which Wine lacks or has only as stubs. If
+// the environment variable "ends" is a failure code, a copy only exits with this code. Otherwise,
+// it appends its name and all its arguments except the last to the file kStandIns. If told to
+// delete kPublishedInf, it does so. If told to delete a stored certificate, it empties the store.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
