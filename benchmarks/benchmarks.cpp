@@ -7,8 +7,9 @@
 // time. In a group that compares functions, the first contender is the library's function. All
 // contenders of a group run once, then all of them run again, and so on.
 //
-// The title of a group may state a goal: the range in which the ratio of the named contenders
-// should be. If the goal names no contender, the goal is for the second one.
+// The title of a group may state a goal. The goal "_wcsicmp at least 1" means that the ratio of the
+// contender _wcsicmp should be at least 1. A goal may give a range for each of several contenders.
+// If the goal names no contender, the range is for the second one.
 
 #include <windows.h>
 

@@ -33,10 +33,10 @@ extern "C" int wmain(int /*count*/, wchar_t** /*arguments*/) {
   }
   Print("as bytes:    ", kelvo::BytesToHex(list.c_str(), 4 * sizeof(wchar_t)));
   Print("long path:   ", kelvo::AddLongPathPrefix(L"C:\\setup/../data"));
-  Print("and back:    ", kelvo::RemoveLongPathPrefix(L"\\\\?\\UNC\\server\\share"));
+  Print("short path:  ", kelvo::RemoveLongPathPrefix(L"\\\\?\\UNC\\server\\share"));
   const LCID locale = kelvo::FindLocaleId(L"de-ch");
   Print("locale:      ", kelvo::FindLocaleName(locale));
-  Print("its texts:   ",
+  Print("file path:   ",
         kelvo::GetLocalisedFilePath(L"C:\\setup", L"texts.dll", LANGIDFROMLCID(locale),
                                     kelvo::LocalisedFileForm::kFolder));
   return 0;

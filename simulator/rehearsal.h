@@ -13,7 +13,7 @@ DWORD NumberFromEnvironment(const wchar_t* name);
 // Returns the value of an environment variable, or an empty string when the variable is not set.
 WString TextFromEnvironment(const wchar_t* name);
 
-// Appends `line` and CR LF, in UTF-8, to the journal. The path of this file is in the environment
+// Appends `line` and CR LF, in UTF-8, to the journal, the file whose path is in the environment
 // variable SORREL_SIMULATOR_JOURNAL. Does nothing when the variable is not set or the file cannot
 // be opened.
 void WriteToJournal(const WString& line);

@@ -2,11 +2,12 @@
 
 namespace kelvo {
 
-// Carries out a command line of sorrel_status.exe. Checks the items that the command line names,
-// and writes the report to standard output. Changes nothing on the computer. The first of the
-// `count` arguments is the program's own path.
+// Carries out a command line of sorrel_status.exe. The first of the `count` arguments is the
+// program's own path. Changes nothing on the computer.
 //
-// A command line that names no item asks for a general report. This report covers the list of
+// With --help or --version, writes the usage text or the version to standard output. Without these
+// options, checks the items that the command line names, and writes the report to standard output.
+// If the command line names no item, writes a general report. This report covers the list of
 // applications, the certificate stores "TrustedPublisher" (item "publisher") and "CA" (item
 // "intermediate"), bthprops.cpl (item "service"), difxapi.dll (item "interface") and Windows itself
 // (item "system").

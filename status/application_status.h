@@ -16,7 +16,7 @@ namespace kelvo {
 //   - Each item has the detail "list". This detail says whether the list exists, and whether the
 //     list's type or size makes sorrel.exe treat the list as empty.
 //   - When the list's key or value exists but cannot be opened or queried, every item has the state
-//     kUnknown. It then has the details of the error (UnknownItem) instead of the detail "list".
+//     kUnknown, and has the details of the error (UnknownItem) instead of the detail "list".
 std::vector<Item> QueryApplications(const std::vector<WString>& names);
 
 }  // namespace kelvo

@@ -65,9 +65,9 @@ cxxopts::Options MakeParser() {
       "                    [--application NAME]... [--service] [--json]");
   const auto text = [] { return cxxopts::value<std::string>(); };
   parser.add_options()  //
-      ("publisher", "check TrustedPublisher for its certificate", text(), "FILE")(
-          "intermediate", "check the store CA for its certificate", text(), "FILE")(
-          "inf", "check the driver store for its package", text(), "FILE")(
+      ("publisher", "check TrustedPublisher for FILE's certificate", text(), "FILE")(
+          "intermediate", "check the store CA for FILE's certificate", text(), "FILE")(
+          "inf", "check the driver store for FILE's package", text(), "FILE")(
           "application", "check the list of applications for this name", text(), "NAME")(
           "service", "check for the Bluetooth device of the service")(
           "json", "write one JSON object in ASCII")("help", "show this text")(

@@ -181,7 +181,7 @@ Item QueryDriverPackage(const WString& infPath) {
              TextDetail("provider", L"provider", provider),
              TextDetail("driver_version", L"version", driverVersion)}};
   if (error != ERROR_SUCCESS) {
-    AddError(item, "version_error", L"some of it could not be read: ", error);
+    AddError(item, "version_error", L"provider or version could not be read: ", error);
   }
   return item;
 }

@@ -7,8 +7,8 @@
 
 namespace kelvo {
 
-// Returns the item for the driver package of the INF file `infPath`. For each package in the driver
-// store, Windows copies the package's INF file to Windows' INF folder under a name such as
+// Returns the item for the driver package of the INF file `infPath`. When a package is added to the
+// driver store, Windows copies the package's INF file to Windows' INF folder under a name such as
 // oem12.inf. Such a copy is called a published INF file.
 //   - The item is present when a published INF file has the same bytes as the file `infPath`. Two
 //     packages with equal INF files therefore count as the same package here. In Windows, they are
@@ -18,8 +18,8 @@ namespace kelvo {
 //   - If no published file matches, the item is also unknown when the INF folder cannot be searched
 //     or a published file cannot be compared. A published file cannot be compared when it cannot be
 //     opened, or when it has the size of the file `infPath` and cannot be read.
-//   - A present item has the published file's name. It also has the provider and the version from
-//     the section [Version], with %string% tokens expanded (SetupGetLineTextW). To read the
+//   - The details of a present item are the published file's name, and the provider and the version
+//     from the section [Version], with %string% tokens expanded (SetupGetLineTextW). To read the
 //     section, this function loads setupapi.dll and then frees it.
 Item QueryDriverPackage(const WString& infPath);
 

@@ -24,7 +24,7 @@ DWORD SetServiceInfo(HMODULE library, bool enable) {
 DWORD RegisterHandsfreeService(bool enable) {
   const OwnedModule library(LoadLibraryW(L"bthprops.cpl"));
   if (!library) {
-    // Missing Bluetooth support does not count as a failure, so sorrel.exe exits with 0.
+    // A missing bthprops.cpl does not count as a failure, so sorrel.exe exits with 0.
     Report(L"ERR: no Bluetooth available, bthprops.cpl missing\n");
     return ERROR_SUCCESS;
   }

@@ -82,7 +82,7 @@ DWORD ImportCertToSystemStore(const wchar_t* file, const wchar_t* storeName) {
   if (!wsspi::IsSspiInitialized()) {
     wsspi::SspiInitialize();
   }
-  // Looks up all functions before any store is opened. If one is missing, no store changes.
+  // Looks up all functions before any store is opened. If a function is missing, no store changes.
   Crypt32 crypt32;
   if (!crypt32.Bind()) {
     return GetLastError();

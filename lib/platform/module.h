@@ -27,7 +27,7 @@ using OwnedModule = Owned<internal::ModuleTraits>;
 
 // Returns the function that `module` exports as `name` (GetProcAddress). Returns null when `module`
 // is null or has no such export. GetLastError then returns the error of GetProcAddress or, for a
-// null module, the error of the earlier call that should have loaded the module.
+// null module, the error of the earlier call that failed to load or find the module.
 template <typename Function>
 Function* FindFunction(HMODULE module, const char* name) {
   return module == nullptr

@@ -120,12 +120,12 @@ using OwnedFile = Owned<internal::FileTraits>;
 using OwnedFileSearch = Owned<internal::FileSearchTraits>;
 
 // Memory from LocalAlloc, or from a Windows function that allocates such memory for its caller.
-// Freed with LocalFree; null means "no memory".
+// Freed with LocalFree; null means that no memory is owned.
 template <typename Content>
 using OwnedLocalMemory = Owned<internal::LocalMemoryTraits<Content>>;
 
-// Memory from HeapAlloc in the process heap (GetProcessHeap). Freed with HeapFree; null means "no
-// memory".
+// Memory from HeapAlloc in the process heap (GetProcessHeap). Freed with HeapFree; null means that
+// no memory is owned.
 template <typename Content>
 using OwnedProcessHeapMemory = Owned<internal::ProcessHeapMemoryTraits<Content>>;
 

@@ -7,17 +7,18 @@ namespace kelvo {
 // Copies the command line of another process into `buffer`, as UTF-16 without a terminator, and
 // returns the number of bytes copied. The handle `process` needs the access rights
 // PROCESS_QUERY_INFORMATION and PROCESS_VM_READ. Returns 0 in these cases:
-//   - GetVersionExW fails, reports Windows 9x, or reports Windows 7 or later. The function then
-//     does not try to read the other process.
+//   - GetVersionExW fails, reports Windows 9x, or reports Windows 7 or later. GetProcessCommandLine
+//     then does not try to read the other process.
 //   - `bufferBytes` is less than the command line's length in bytes.
 //   - NtQueryInformationProcess (looked up at run time) is missing or fails.
 //   - The memory of the other process cannot be read (ReadProcessMemory). `buffer` may then contain
 //     a part of the command line.
 //
-// NtQueryInformationProcess returns the address of the process environment block (PEB). The pointer
-// to the process parameters, which contain the command line, is read from offset 0x18 of the PEB.
-// However, a 64-bit PEB usually has that pointer at offset 0x20. The function then reads the wrong
-// pointer, and any bytes that it copies are not the command line.
+// NtQueryInformationProcess returns the address of the process environment block (PEB). From offset
+// 0x18 of the PEB, GetProcessCommandLine reads the pointer to the process parameters, which contain
+// the command line. However, a 64-bit PEB usually has that pointer at offset 0x20.
+// GetProcessCommandLine then reads the wrong pointer, and any bytes that it copies are not the
+// command line.
 DWORD GetProcessCommandLine(HANDLE process, void* buffer, DWORD bufferBytes);
 
 }  // namespace kelvo

@@ -4,12 +4,12 @@
 
 namespace kelvo {
 
-// Runs a command line on the interactive desktop, "WinSta0\Default", with a copy of this process's
-// token. The caller may be on any desktop. Returns TRUE when the new process was started,
-// otherwise FALSE. `commandLine` must be writable, because CreateProcessAsUserW may change it. If
-// `wait` is TRUE, returns only after the new process has ended. When `process` is not null,
-// `*process` receives the new process's handle, which the caller closes. On failure, `*process` is
-// unchanged. For example:
+// Starts a program on the interactive desktop, "WinSta0\Default", with the given command line and a
+// copy of this process's token. The caller may be on any desktop. Returns TRUE when the new process
+// was started, otherwise FALSE. `commandLine` must be writable, because CreateProcessAsUserW may
+// change it. If `wait` is TRUE, returns only after the new process has ended. When `process` is not
+// null, `*process` receives the new process's handle, which the caller closes. On failure,
+// `*process` is unchanged. For example:
 //   wchar_t command[] = L"\"C:\\Program Files\\App\\app.exe\" /start";
 //   OwnedKernelObject process;
 //   const BOOL isStarted = RunAsUser(command, FALSE, process.Receive());

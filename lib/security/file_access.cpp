@@ -101,7 +101,7 @@ bool IsOfAccount(const void* ace, PSID account) {
 // `oldDacl`, which may be null when `count` is 0.
 //   1. The ACEs of `oldDacl` before its first inherited ACE, except those of `account`.
 //   2. The new ACE.
-//   3. That inherited ACE and all ACEs after it, including those of `account`.
+//   3. The first inherited ACE of `oldDacl` and all ACEs after it, including those of `account`.
 bool FillDacl(const ACL* oldDacl, DWORD count, PSID account, DWORD accessMask, ACL* newDacl) {
   void* ace = nullptr;
   DWORD index = 0;

@@ -6,13 +6,12 @@ namespace kelvo {
 
 // Returns one class of information about a token (GetTokenInformation). The structure and the data
 // to which it points are in one memory block, which the caller frees with LocalFree. The token
-// handle needs TOKEN_QUERY or, for TokenSource, TOKEN_QUERY_SOURCE. Returns null, and traces why,
-// when the token cannot be read or memory runs out.
+// handle needs TOKEN_QUERY or, for TokenSource, TOKEN_QUERY_SOURCE. When the token cannot be read
+// or memory runs out, traces the failure (lib/trace/trace_sink.h) and returns null.
 //
-// Also returns null, and traces why, for some classes whose data has a fixed size, such as
-// TokenElevation. For these classes, GetTokenInformation fails with an error other than
-// ERROR_INSUFFICIENT_BUFFER when it is asked for the size of the data. To query such a class, call
-// GetTokenInformation yourself.
+// Also fails in this way for some classes whose data has a fixed size, such as TokenElevation. For
+// these classes, GetTokenInformation fails with an error other than ERROR_INSUFFICIENT_BUFFER when
+// it is asked for the size of the data. To query such a class, call GetTokenInformation yourself.
 void* GetFromToken(HANDLE token, TOKEN_INFORMATION_CLASS kind);
 
 }  // namespace kelvo

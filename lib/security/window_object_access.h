@@ -10,8 +10,8 @@ namespace kelvo {
 // nothing. The handle needs READ_CONTROL and WRITE_DAC. When the DACL cannot be read, rebuilt or
 // written, they trace the reason, return FALSE and leave the DACL unchanged.
 //
-// Both functions leak memory. After a call has read the DACL, it allocates an ACE that is never
-// freed. If the new DACL has more than 1,008 bytes, the memory of the new DACL is not freed either.
+// Both functions leak memory. Each call that can read the DACL allocates an ACE and never frees the
+// ACE. If the new DACL has more than 1,008 bytes, the memory of the new DACL is not freed either.
 
 // Grants STANDARD_RIGHTS_REQUIRED and WINSTA_ALL_ACCESS: mask 0x000F037F.
 BOOL AllowAccessToWinSta(PSID sid, HWINSTA station);

@@ -9,10 +9,11 @@ namespace kelvo {
 // the folded unit of `a` minus the folded unit of `b` at the first position where the folded
 // strings differ. The result is negative when `a` sorts before `b`.
 //
-// Folding depends on the C runtime's LC_CTYPE locale (setlocale). Each call reads this locale once.
-// In the default locale "C", A to Z become a to z, and other units below U+0100 stay as they are.
-// The units from U+0100 up are folded by LCMapStringW with LCMAP_LOWERCASE. In any other locale,
-// towlower folds the units. In every locale, U+FFFF stays as it is.
+// Folding depends on the C runtime's LC_CTYPE locale (setlocale). Each call checks once whether
+// this locale is the default locale "C". In the locale "C", A to Z become a to z, and other units
+// below U+0100 stay as they are. The units from U+0100 up are folded by LCMapStringW with
+// LCMAP_LOWERCASE. In any other locale, towlower folds the units. In every locale, U+FFFF stays as
+// it is.
 std::int32_t CompareNoCase(const wchar_t* a, const wchar_t* b);
 
 }  // namespace kelvo

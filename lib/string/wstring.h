@@ -17,7 +17,7 @@ namespace kelvo {
 //   - Growth beyond max_size() throws std::length_error. In the constructor that takes a view, the
 //     message depends on the standard library. In all other operations, the message is always
 //     "string too long".
-//   - A count that reaches past the end means all units up to the end.
+//   - In assign, erase and substr, a count that reaches past the end means all units up to the end.
 //   - When memory runs out, std::bad_alloc is thrown. All other functions of this library that
 //     create a string also throw std::bad_alloc when memory runs out, unless their header says what
 //     they return in this case.

@@ -12,7 +12,8 @@ namespace kelvo {
 // these:
 //   - the success code that DllGetVersion returned, or S_OK when the library does not export
 //     that function
-//   - E_INVALIDARG when a pointer is null or cannot be written to (IsBadWritePtr)
+//   - E_INVALIDARG when `major` or `minor` is null or points to memory that cannot be written to
+//     (IsBadWritePtr)
 //   - E_FAIL when the library cannot be loaded or DllGetVersion fails
 HRESULT GetComCtlVersion(DWORD* major, DWORD* minor);
 

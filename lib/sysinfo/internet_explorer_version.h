@@ -7,8 +7,8 @@ namespace kelvo {
 
 // Returns true when "Shdocvw.dll" in the system directory has this version or a higher one. Returns
 // false when the file has a lower version or no version, or is missing. Overwrites the buffer of
-// GetSystemDirectoryPath (lib/sysinfo/system_directories.h). When the result is true, the memory
-// that holds the file's version resource stays allocated.
+// GetSystemDirectoryPath (lib/sysinfo/system_directories.h). Each call that returns true leaks the
+// memory that holds the file's version resource.
 bool IsIEVersionAtLeast(const void* ignored, const int (&version)[4]);
 
 // Returns the name of the Internet Explorer release that has exactly this version. Knows the

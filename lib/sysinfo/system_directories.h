@@ -11,7 +11,8 @@ namespace kelvo {
 
 // Returns the system directory (GetSystemDirectoryW). The path is empty when the path from Windows
 // has more than 510 characters. The string is in a process-wide buffer. Every call of this function
-// overwrites the buffer, and so do the functions of this library that use the system directory.
+// overwrites the buffer. Some other functions of this library, for example
+// GetSystemFileVersionString, call this function and therefore overwrite the buffer too.
 const wchar_t* GetSystemDirectoryPath();
 
 // Returns the directory of the 32-bit libraries on 64-bit Windows (GetSystemWow64DirectoryW, looked

@@ -22,8 +22,8 @@ constexpr const wchar_t* kHotfix =
     L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009";
 
 // The structure that GetVersionExW filled: OSVERSIONINFOEXW (284 bytes), OSVERSIONINFOW (276
-// bytes), or none. OSVERSIONINFOW has no suites and no product type: these fields of the
-// OSVERSIONINFOEXW variable then stay zero.
+// bytes), or none. When GetVersionExW filled OSVERSIONINFOW, the suite mask and the product type of
+// the OSVERSIONINFOEXW variable stay zero, because OSVERSIONINFOW lacks these fields.
 enum class VersionRecord { kExtended, kShort, kNone };
 
 // The caller must have zeroed `version`.

@@ -86,9 +86,9 @@ bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
                               static_cast<int>(b.length()), TRUE) == CSTR_EQUAL;
 }
 
-// `found` is the name of a file or folder that FindFirstFileW has found. Returns the locale name in
-// it. Returns an empty string when `found` does not fit the pattern. This can happen because
-// FindFirstFileW also matches short (8.3) names.
+// `found` is the name of a file or folder that FindFirstFileW has found. Returns the locale name
+// that `found` contains. Returns an empty string when `found` does not fit the pattern. This can
+// happen because FindFirstFileW also matches short (8.3) names.
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
     return found;

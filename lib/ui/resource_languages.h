@@ -6,8 +6,8 @@
 
 namespace kelvo {
 
-// Returns the languages of the first RT_STRING resource in `module`, in the order of
-// EnumResourceLanguagesW. The other RT_STRING resources are assumed to have the same languages.
+// Returns the languages of the first RT_STRING resource in `module`. The languages are in the order
+// of EnumResourceLanguagesW. The other RT_STRING resources are assumed to have the same languages.
 // Returns an empty list for null and for a module without RT_STRING resources.
 std::vector<LANGID> GetStringResourceLanguages(HMODULE module);
 

@@ -1,6 +1,6 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# If `prefix` is set (by check_installed.cmake), the package installed there contains `source`, and find_package must
-# find that package. If `prefix` is not set, the consumer builds the library from this project's sources.
+# If check_installed.cmake has set `prefix`, the consumer (the project in `source`) is part of the package installed in
+# `prefix`, and must find that package. Without `prefix`, the consumer builds the library from this project's sources.
 
 if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON

@@ -31,7 +31,7 @@ struct Watched {
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
-  // The distinct calls, as text. Omits calls with neither a string nor a nonzero number.
+  // The distinct calls for calls.txt, as text: only calls with a string or a nonzero number.
   std::set<std::string> shown;
   // The function and number (from 1) of the call that fails.
   std::pair<std::string, int> chosen;
@@ -63,7 +63,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  // Does not show calls to C runtime functions, whose names begin with a lower-case letter or "_".
+  // Also omits C runtime functions: their names begin with a lower-case letter or "_".
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
   const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {

@@ -121,7 +121,7 @@ WString WriteAndDelete() {
       return Answer([&] { return Text(RunCommandLine(arguments.size(), arguments.data())); }); \
     }                                                                                          \
   }
-// Runs a command line of sorrel_status.exe, which writes its report with one call of WriteFile.
+// Carries out a command line of sorrel_status.exe, which calls WriteFile once for the whole report.
 #define REPORT(...)                                                                               \
   Operation {                                                                                     \
     "sorrel_status " #__VA_ARGS__, L"kite", [] {                                                  \

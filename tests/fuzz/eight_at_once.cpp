@@ -45,7 +45,7 @@ static const Target kEightAtOnce("eight at once", [](Input& input) {
     processes.push_back(Start(input.Chance() ? L"register" : L"unregister", name));
   }
   ListAfter(processes);
-  Expect(ListAfter({Start(L"register", L"owl")}).ends_with(L"owl"), "the next run adds its name");
+  Expect(ListAfter({Start(L"register", L"owl")}).ends_with(L"owl"), "the next run adds owl");
   ListAfter({Start(L"unregister", L"owl")});
 });
 

@@ -49,7 +49,7 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   }
   // In half of the runs, the buffer has exactly as many whole UTF-16 units as the value.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
-  // For a 1-byte value, Wine reads memory before the buffer, so the guard page follows it.
+  // For a 1-byte value, Wine reads memory below the buffer, so the guard page is above it.
   const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());
   const std::size_t stays =
       RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);

@@ -27,7 +27,7 @@ foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${fol
   execute_process(COMMAND ${CMAKE_COMMAND} -E env ${fault} ${CMAKE_COMMAND} -D CPACK_TEMPORARY_DIRECTORY=${folder}/to_sign
     -P ${source_folder}/cmake/sign_programs.cmake RESULT_VARIABLE code OUTPUT_QUIET ERROR_QUIET)
   if(code EQUAL 0)
-    message(SEND_ERROR "Signing succeeded with this wrong setting (if empty, with a missing program): \"${fault}\"")
+    message(SEND_ERROR "Signing succeeded but this setting is wrong (if empty: a program is missing): \"${fault}\"")
   endif()
 endforeach()
 unset(ENV{SORREL_SIGN_CERTIFICATE})

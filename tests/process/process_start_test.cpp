@@ -118,7 +118,7 @@ TEST_CASE("IsOnInteractiveDesktop: ignores letter case, unlike RunAsUser") {
   }
 }
 
-TEST_CASE("LaunchInUserSession: decides by Windows version, session, token, desktop how to start") {
+TEST_CASE("LaunchInUserSession: picks a function by Windows version, session, token and desktop") {
   // Even when they fail, the simulated functions store a handle, which must not be used.
   HANDLE const ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   auto* const session = +[]() -> DWORD { return 5; };

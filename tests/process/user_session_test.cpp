@@ -18,7 +18,7 @@ TEST_CASE("EnableShutdownPrivilege: fails if AdjustTokenPrivileges sets a nonzer
 }
 
 TEST_CASE(
-    "GetActiveConsoleSessionId, QueryUserTokenOfSession: return 0 or false without the exports") {
+    "GetActiveConsoleSessionId, QueryUserTokenOfSession: return 0 or false for missing exports") {
   const ReplacedExport console("WTSGetActiveConsoleSessionId", nullptr);
   const ReplacedExport query("WTSQueryUserToken", nullptr);
   HANDLE token = INVALID_HANDLE_VALUE;
@@ -26,7 +26,7 @@ TEST_CASE(
   CHECK(!token);
 }
 
-TEST_CASE("GetRemoteClientName: rejects only an empty name and this computer's name") {
+TEST_CASE("GetRemoteClientName: returns -1 for an empty name, this computer's name, an exception") {
   static const wchar_t* clientName = nullptr;
   static int textsOut = 0;
   const ReplacedExport query(

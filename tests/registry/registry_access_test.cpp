@@ -53,7 +53,7 @@ TEST_CASE("RegistryDeleteKeyTree: deletes a key and its subkeys, with or without
   }
 }
 
-TEST_CASE("RegistryDeleteKeyTree: deletes a tree of any depth without recursion") {
+TEST_CASE("RegistryDeleteKeyTree: deletes a very deep tree without recursion") {
   const StandInKey user(kRoot);
   const std::wstring path = L"key\\tree\\" + std::wstring(254, L'n');
   OwnedRegistryKey deepest;

@@ -3,7 +3,7 @@
 #include "lib/registry/mui_cache_key.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("EnableRegistryReflection: reports the result; GetRegistryViewAccess: returns a flag") {
+TEST_CASE("EnableRegistryReflection: detects failures; GetRegistryViewAccess: returns a flag") {
   const auto succeed = +[](HKEY key) { return key == HKEY_USERS ? 0L : 6L; };
   const auto fail = +[](HKEY) { return 5L; };
   for (const auto function : {succeed, fail, decltype(fail){}}) {

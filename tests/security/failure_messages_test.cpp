@@ -39,7 +39,7 @@ static std::wstring operation, traced;
 // In each run of an operation, at most one call of a kWatched function fails or throws. Outcomes:
 //   fails: the operation fails, and its last message is "exception caught in __finally"
 //   fails at once: the operation fails without this message
-//   as a rule: the only other message is "FUNCTION Failed" or, after a throw, there is none
+//   ... as a rule: a failing call adds only "FUNCTION Failed"; a throwing call adds no message
 // failure_messages.txt lists, for each outcome and function, the first call with that outcome.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new window station instead of the interactive one, which all programs share.

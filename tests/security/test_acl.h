@@ -77,7 +77,7 @@ inline OwnedKernelObject OwnToken() {
 }
 
 // A window station and a desktop. Wine 10 finds their DACLs only with SE_KERNEL_OBJECT. Therefore,
-// GetSecurityInfo and SetSecurityInfo get this type when the code passes SE_WINDOW_OBJECT.
+// GetSecurityInfo and SetSecurityInfo get SE_KERNEL_OBJECT when callers pass SE_WINDOW_OBJECT.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 

@@ -18,8 +18,8 @@ static std::wstring FromUtf8(const std::string& text) {
 }
 
 // A ProgramFolder that also has sorrel_status.exe, INF files and copies of two certificates. Its
-// subfolder "versioned" has a second sorrel_status.exe and a difxapi.dll with a version resource (a
-// copy of sorrel.exe).
+// subfolder "versioned" has a second sorrel_status.exe, and sorrel.exe as a difxapi.dll with a
+// version resource.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -68,9 +68,9 @@ static const std::map<std::string, std::function<void()>> kChanges = {
        std::filesystem::copy_file("incomplete.inf", kInfFolder + L"oem9.inf");
        std::filesystem::create_directory(kInfFolder + L"oem7.inf");
      }},
-    {"* oem6.inf, whose size is not unpublished.inf's, cannot be read",
+    {"* oem6.inf cannot be read; its size differs from unpublished.inf's",
      [] { Machine::PublishLocked(L"binary.cer"); }},
-    {"* oem6.inf, whose size is unpublished.inf's, cannot be read",
+    {"* oem6.inf cannot be read; its size equals unpublished.inf's",
      [] { Machine::PublishLocked(L"unpublished.inf"); }},
     {"* the store CA is deleted",
      [] { RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\SystemCertificates\\CA"); }},

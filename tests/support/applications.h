@@ -29,7 +29,7 @@ inline std::string Replaced(const std::string& text, const std::string& pattern,
   return std::regex_replace(text, std::regex(pattern), by);
 }
 
-// In a sorrel_status.exe report, replaces parts that vary between runs with words such as TIME.
+// In a sorrel_status.exe report, puts words such as TIME in place of parts that vary between runs.
 inline std::string Named(std::string report) {
   report = Replaced(report, "[0-9A-F]{40}", "THUMBPRINT");
   report = Replaced(report, "\\d{4}-[-0-9T:]{14}Z", "TIME");
@@ -52,9 +52,9 @@ struct CleanMachine {
   }
 };
 
-// Cleans the machine and creates a folder with certificates, sorrel.exe and the simulator's
+// Cleans the machine and creates a new folder with certificates, sorrel.exe and the simulator's
 // libraries. This folder is the current folder until this object is destroyed. `further` lists more
-// files to copy, each with its path in the test program's folder and its path in this folder.
+// files to copy, each with its path in the test program's folder and its path in the new folder.
 struct ProgramFolder : CleanMachine, ScratchFolder {
   ProgramFolder(std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> further) {
     for (const wchar_t* const file :
@@ -70,7 +70,7 @@ struct ProgramFolder : CleanMachine, ScratchFolder {
   }
   ~ProgramFolder() { std::filesystem::current_path(ProgramPath(L"")); }
 
-  // Runs a command line that begins with a program's path, relative to this folder.
+  // Runs `commandLine`. It begins with the program's path, relative to this folder.
   static ChildResult Run(const std::wstring& commandLine) {
     const std::filesystem::path program = commandLine.substr(0, commandLine.find(L' '));
     return RunChild(commandLine, absolute(program).c_str());

@@ -26,8 +26,8 @@ TEST_CASE("CompareFileVersion, GetFileVersionString: the results match file_vers
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // For a path of `pathLength` characters, VerQueryValueW stores `length` and a pointer to `offset`
-  // bytes after the "start" or "end" of the resource, or after the start of the value "found".
+  // For a path of `pathLength` characters, VerQueryValueW stores `length` and the address `offset`
+  // bytes after `from`: the resource's "start" or "end", or the start of the value it "found".
   char name[99] = "", from[9] = "";  // from: "start", "end" or "found"
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;

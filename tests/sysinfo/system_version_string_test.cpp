@@ -4,7 +4,7 @@
 
 #include "tests/sysinfo/simulated_cases.h"
 
-// The queries that the simulated Windows received, in order.
+// The queries to the simulated Windows, in order, except those about the architecture.
 static std::string asked;
 static void NoteQuery(const std::string& question, const std::string& function) {
   asked += " " + question;

@@ -5,13 +5,13 @@
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// Removes the list of applications and the test certificates. Creates a folder with certificates
-// and the programs below, and makes it the current folder:
+// Removes the list of applications and the test certificates. Creates a folder and makes it the
+// current folder. Puts certificates and these programs into the folder:
 //   sorrel.exe, with the simulator's two libraries
 //   alone\sorrel.exe, without these libraries
 //   swapped\sorrel.exe, with the libraries' names swapped: each lacks the expected functions
-//   without_security.exe and without_crypt32.exe, copies of sorrel.exe for which Wine loads no
-//   security.dll and no crypt32.dll, respectively
+//   without_security.exe, a copy of sorrel.exe for which Wine loads no security.dll
+//   without_crypt32.exe, a copy of sorrel.exe for which Wine loads no crypt32.dll
 struct Rehearsal : ProgramFolder {
   Rehearsal()
       : ProgramFolder({{L"sorrel.exe", L"alone\\sorrel.exe"},
@@ -31,7 +31,7 @@ struct Rehearsal : ProgramFolder {
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
 
-  // Runs a command line. Each prefix "NAME=value " sets an environment variable for this run.
+  // Runs a command. Each prefix "NAME=value " sets an environment variable for this command only.
   // Returns the output, the exit code, the list of applications, the certificates in the stores
   // "TrustedPublisher" and "CA", and the simulator's journal.
   static std::string Run(std::wstring line) {

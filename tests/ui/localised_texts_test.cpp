@@ -56,7 +56,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only the texts of the window, its labels
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
-  // Each is applied once, to the previous one's result, in alphabetical order of search texts.
+  // Each substitution is applied once, in the order of the keys, to the previous one's result.
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},

@@ -11,7 +11,7 @@ namespace kelvo::internal {
 //   - From NT 5.1 on, the name can include the edition.
 //   - For NT 5.2 and 6.x, the name includes the processor architecture, and can include suites.
 //   - For NT 5.1 and 5.2, calls GetSystemMetrics. When this call causes an exception, appends a
-//     note and the name of the release without these details.
+//     note and the name of the release, but no edition, architecture or suites.
 //   - For NT 6.x, calls GetProductInfo (looked up at run time), and does not catch exceptions from
 //     that function.
 void AppendNtName(const OSVERSIONINFOEXW& version, WORD architecture, WString& text);
