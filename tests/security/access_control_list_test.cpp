@@ -37,7 +37,7 @@ TEST_CASE(
   CHECK(denying.acl->AceCount == 3);
 }
 
-TEST_CASE("GetACEInsertionIndex: returns the index of the first ACE of the same or a higher rank") {
+TEST_CASE("GetACEInsertionIndex: finds the first ACE whose rank number is equal or greater") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
   const std::tuple<BYTE, BYTE, DWORD> cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
                                                  {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: returns the index of the first ACE of the same 
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // A read past the end is an access violation, after which no "... Failed" message is traced.
+  // Each access violation would leave out the message "... Failed" of the call.
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};
