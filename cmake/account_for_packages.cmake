@@ -16,8 +16,8 @@ macro(append array kind)
   list(APPEND ${array} "${object}")
 endmacro()
 
-# A packed file must contain neither a private key nor the path of the source folder. (Debug information can contain
-# this path.) Keys (*.key, *.pem) and files of the tests must not be packed: `secret_file` matches their paths.
+# A packed file must contain neither a private key nor the path of the source folder (not even in debug information).
+# Keys (*.key, *.pem) and files of the tests must not be packed: `secret_file` matches their paths.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")
 set(secret_file "test|\\.(key|pem)$")
@@ -69,7 +69,7 @@ function(describe package)
   set(purl ${purl} PARENT_SCOPE)
 endfunction()
 
-# Adds to the bill of materials the third-party code in our programs and in the simulator's DLLs. Each entry lists a
+# Adds to the bill of materials the third-party code in our programs and in the simulator's DLLs. Each `part` lists a
 # file of the third-party code (a header or a static library), the code's name in the bill of materials, the code's
 # licence, and the programs and DLLs that contain the code.
 set(all "sorrel;sorrel_status;bthprops;difxapi")

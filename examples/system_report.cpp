@@ -17,8 +17,8 @@ namespace kelvo {
 
 namespace {
 
-// The maximum width of the name column. When a name is wider than the column, only the value on the
-// same line starts farther to the right.
+// The maximum width of the name column. When a name is wider, the value on its line starts farther
+// to the right than the other values.
 constexpr std::size_t kWidestColumn = 40;
 
 using Line = std::pair<std::string, std::string>;

@@ -20,7 +20,8 @@ namespace kelvo {
 //   1  something is absent
 //   2  the command line is wrong; standard error has the reason and the usage text
 //   3  something could not be checked (then 3 is returned even if something else is absent), or
-//      part of the report could not be written, or memory ran out (standard error then says so)
+//      part of the output could not be written, or memory ran out (in this last case, standard
+//      error says so)
 // If the process has no standard output, no report is written. The exit code is not affected.
 int AnswerCommandLine(int count, const wchar_t* const* arguments);
 

@@ -12,19 +12,21 @@ namespace kelvo {
 namespace {
 
 constexpr const char* kNotes = R"(
-Without options, reports the list of the applications that use the service, the
-number of certificates in each store, bthprops.cpl, difxapi.dll and Windows
-itself, but checks no driver package, device or certificate of the service.
+Without options, or with --json alone, reports the applications that use the
+service, the number of certificates in the stores TrustedPublisher and CA,
+whether bthprops.cpl and difxapi.dll can be found, the version of Windows, and
+whether the user is an administrator. This report covers no driver package,
+device or certificate of the service.
 
-With --service, ignores the devices that Windows makes for paired remote
-devices. Windows removes the service's device while the radio is off or
-unplugged, and may add it only some time after the service was registered: in
+With --service, ignores the device nodes that Windows creates for paired remote
+devices. Windows removes the service's own device node while the radio is off or
+unplugged, and may create it only some time after the service was registered: in
 these cases "absent" proves nothing. This has not been tested with a real radio.
 
 Exit code: 0 if everything asked for is present, 1 if something is absent, 2 if
 the command line is wrong, 3 if something could not be checked (even if
-something is absent) or the report could not be written completely. Without a
-standard output, the program only returns the exit code.
+something else is absent) or the output could not be written completely. Without
+a standard output, the program only returns the exit code.
 )";
 
 // Encodes an argument for the parser, which takes bytes. A UTF-16 unit outside ASCII becomes three

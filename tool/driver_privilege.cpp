@@ -6,7 +6,7 @@
 namespace kelvo {
 
 bool EnableLoadDriverPrivilege() {
-  // Checks `error` and not `adjusted`, because AdjustTokenPrivileges returns TRUE even when the
+  // Checks `error`, because `adjusted` (the result of AdjustTokenPrivileges) is TRUE even when the
   // token does not hold the privilege.
   const DWORD error = EnablePrivilegeWithOutcome(L"SeLoadDriverPrivilege").error;
   if (error != ERROR_SUCCESS) {

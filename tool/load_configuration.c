@@ -1,8 +1,8 @@
 // Defines the load configuration structure of a shipped program. With this structure, Windows 10
 // version 1607 and later load the DLLs in the program's import table only from the system
 // directory. NarrowLibrarySearch (tool/library_search.h), which wmain calls, comes too late for
-// these DLLs: Windows loads them before wmain starts. A build with Visual Studio leaves out this
-// file, because Visual Studio's linker writes the structure (/DEPENDENTLOADFLAG).
+// these DLLs: Windows loads them before wmain starts. A build with MSVC or clang-cl leaves out this
+// file, because the linker option /DEPENDENTLOADFLAG has the same effect.
 
 #include <windows.h>
 

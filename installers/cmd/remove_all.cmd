@@ -55,9 +55,9 @@ if exist "%answer%" del /f /q "%answer%"
 exit /b %code%
 
 rem :ask OPTION ARGUMENT [KEY]   runs sorrel_status.exe --OPTION ARGUMENT, and sets two variables from its report. The
-rem variable "state" gets the item's state, and "value" gets the value of KEY. If there is no report, both variables
-rem are empty. Ignores the exit code: it is 1 if the item is absent, but also if Windows does not allow the program to
-rem run.
+rem variable "state" gets the state in the report ("present", "absent" or "unknown"), and "value" gets the value of KEY.
+rem If there is no report, both variables are empty. Ignores the exit code: it is 1 if the state is "absent", but also
+rem if Windows does not allow the program to run.
 :ask
 set "state="
 set "value="

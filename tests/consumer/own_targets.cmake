@@ -1,4 +1,4 @@
-# This consumer enables tests and has its own target `benchmarks`. The library must not add its tests or its benchmarks.
+# This consumer enables tests, but the library must add none. CMake fails if both have a target named `benchmarks`.
 # `whole_library` links all object files of the library. If kelvo::kelvo omits an import library, the link step fails.
 enable_testing()
 add_custom_target(benchmarks)

@@ -98,9 +98,9 @@ static std::string Joined(const char* before, const auto& lines, const char* aft
   return text;
 }
 
-// Prepares the machine for an operation: removes test certificates, and creates the list of
-// applications and the registry values and files that operations read. Loads the simulator's
-// bthprops.cpl, so that Windows returns this library when an operation loads "bthprops.cpl".
+// Prepares the machine for an operation (operations.h): removes test certificates, and creates the
+// list of applications and the registry values and files that operations read. Loads the
+// simulator's bthprops.cpl, so that an operation that loads "bthprops.cpl" gets this library.
 struct Machine : ProgramFolder {
   Machine() : ProgramFolder({{L"versioned_english.dll", L"versioned_english.dll"}}) {
     LoadLibraryW((path / "bthprops.cpl").c_str());
@@ -130,8 +130,8 @@ struct Machine : ProgramFolder {
   // killed. kContinues: no call fails, and the run starts from the previous run's final state.
   enum class How { kFails, kEnds, kContinues };
 
-  // Reloads the operations' DLL and runs operation `index`. Returns the outcome as lines: the
-  // output, the result, the list of applications if it changed, the certificates, open handles and
+  // Reloads fault_injection_operations.dll and runs operation `index`. Returns the outcome as
+  // lines: output, result, list of applications if it changed, certificates, open handles, unfreed
   // memory, and the simulator's journal. Returns no lines if there is no operation `index`.
   Lines Run(int index, const std::pair<std::string, int>& chosen, How how = How::kFails) {
     const OwnedModule library(LoadLibraryW(ProgramPath(L"fault_injection_operations.dll").c_str()));
@@ -186,7 +186,7 @@ struct Machine : ProgramFolder {
   OwnedKernelObject mutex{CreateMutexW(nullptr, FALSE, L"Global\\kelvo faults")};
   std::string name;
   std::map<std::string, int> calls;
-  // The outcome of the last run, except for open handles, open memory and the journal.
+  // The outcome of the last run, except for open handles, unfreed memory and the journal.
   Lines reached;
 };
 
@@ -196,7 +196,7 @@ static void Append(std::string& text, const std::string& more) {
   text += (column + std::min(more.find('\r'), more.size()) > 120 ? "\r\n " : "") + more;
 }
 
-// If a call to one of these functions fails, the output lacks the line that needed the call.
+// If a call to one of these functions fails, sorrel.exe omits the line that needed the call.
 const std::string kReporting = "GetStdHandle WriteFile _vscwprintf _vsnwprintf";
 const Lines kNoMemory = {"sorrel_status: not enough memory", "= 3"};
 const std::string kNoChange = " no change\r\n";

@@ -15,8 +15,8 @@
 
 namespace kelvo::test {
 
-// Whether a function opens or closes handles. kLeftOut: does neither, and calls.txt omits the calls
-// because the arguments depend on the machine or their effect is already visible in the outcome.
+// Whether a function opens or closes handles. kLeftOut: neither; calls.txt omits the calls, because
+// their arguments depend on the machine, or because the outcome shows their effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
 // A function in watched.def and its replacement.
@@ -63,7 +63,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  // Also omits C runtime functions: their names begin with a lower-case letter or "_".
+  // calls.txt also omits C runtime functions. Their names begin with a lower-case letter or "_".
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
   const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {

@@ -2,9 +2,9 @@
 
 #include <string>
 
-// The test makes the function calls in each operation fail, one call per run. Before each run, the
-// test reloads fault_injection_operations.dll, so that no state remains from an earlier run. The
-// DLL exports the array "operations". In the array's last element, `name` is null.
+// A program's command line, or calls to the library. The test makes function calls in an operation
+// fail, one call per run. Before each run, the test reloads fault_injection_operations.dll, so that
+// no old state remains. The DLL exports the array "operations". The last element has a null `name`.
 struct Operation {
   const char* name;
   // The list of applications that the test stores in the registry before the operation runs.

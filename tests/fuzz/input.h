@@ -69,10 +69,10 @@ class GuardedMemory {
 
  private:
   static constexpr std::size_t kPage = 0x1000;
-  static constexpr std::size_t kRoom = 0x10000;
+  static constexpr std::size_t kRoom = 0x10000;  // the size of a block
   // Fills the unused part of a block. A zero there could hide that a string has no terminator.
   static constexpr int kFiller = 0xA5;
-  // Blocks are reused: reserving a block takes longer than most runs of a target.
+  // Blocks are reused: allocating a new block takes longer than most runs of a target.
   static inline std::vector<BYTE*> freeBlocks;
 
   static BYTE* TakeBlock() {
@@ -98,7 +98,7 @@ struct GuardedText : GuardedMemory {
   operator const wchar_t*() const { return As<wchar_t>(); }
 };
 
-// An operation to try on random input. `all` lists the targets.
+// A fuzz target: an operation that is tried on random input. `all` lists the targets.
 struct Target {
   Target(const char* itsName, void (*itsRun)(Input&)) : name(itsName), run(itsRun) {
     all.push_back(this);

@@ -1,4 +1,4 @@
-// fuzz                         lists the targets
+// fuzz                         lists the targets: the operations that it can try
 // fuzz TARGET NUMBER SECONDS   tries inputs on a target for SECONDS, starting with input NUMBER
 // Results go to standard error, because one target runs sorrel.exe, which uses standard output.
 

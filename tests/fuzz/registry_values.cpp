@@ -45,11 +45,11 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   const bool fits = isText && data.size() <= 2048;
   // Does not check a REG_EXPAND_SZ text that has a "%" or may be too long to be expanded.
   if (!isExpanded && (type != REG_EXPAND_SZ || text.length() < 259)) {
-    Expect(std::wstring_view(read) == (fits ? text : L"default"), "the text is the stored text");
+    Expect(std::wstring_view(read) == (fits ? text : L"default"), "stored text or default is read");
   }
   // In half of the runs, the buffer has exactly as many whole UTF-16 units as the value.
   const std::size_t length = input.Chance() ? input.Number(1100) : data.size() / 2;
-  // For a 1-byte value, Wine reads memory below the buffer, so the guard page is above it.
+  // For a 1-byte value, Wine reads memory before the buffer, so the guard page is after the buffer.
   const GuardedMemory buffer(std::wstring(length, L'x'), data.size() != 1 && input.Chance());
   const std::size_t stays =
       RegistryReadStoredString(HKEY_CURRENT_USER, kKey, kName, buffer.As<wchar_t>(), length);
@@ -63,7 +63,7 @@ static const Target kRegistryValues("registry values", [](Input& input) {
   std::string bytes = "untouched";
   RegistryReadBinary(HKEY_CURRENT_USER, kKey, kName, bytes);
   Expect(bytes == (type == REG_BINARY && !data.empty() ? data : "untouched"),
-         "the bytes are the stored bytes");
+         "the bytes are the stored or old bytes");
   RegistryReadDword(HKEY_CURRENT_USER, kKey, kName, 7);
   const NameTextList list = ReadRegistryKeyValues(HKEY_CURRENT_USER, kKey);
   Expect(list.size() == (isText || type == REG_DWORD ? 1 : 0), "only texts and numbers are listed");

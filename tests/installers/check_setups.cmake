@@ -1,4 +1,4 @@
-# Checks the build.sh scripts in installers/: their errors and warnings, and the contents of the packages. Usage:
+# Checks the build.sh scripts in installers/: their errors and warnings, and the setups that they make. Usage:
 # cmake -D source_folder=... -D setups=... -P check_setups.cmake
 
 cmake_minimum_required(VERSION 3.25)
@@ -30,7 +30,7 @@ if(NOT manifest OR NOT start MATCHES "504500004c01")
   message(SEND_ERROR "The setup does not ask for an administrator's rights, or is not a 32-bit program")
 endif()
 
-# The build.sh scripts refuse these settings, because the package would be faulty.
+# The build.sh scripts refuse these settings, because the setup would be faulty.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
 expect(2 "three numbers" ${msi} VERSION=1.0.0.1)
 foreach(changed UPGRADE_CODE COMPONENT)
@@ -79,6 +79,6 @@ file(GLOB_RECURSE samples ${source_folder}/installers/*)
 foreach(sample ${samples})
   file(STRINGS ${sample} wrong REGEX "(cmd\\.exe|shell%)[^ ]* /[^d]|[\"=]cmd|MessageBox [^/]*$|\"CustomActionData\"., [^0]")
   if(wrong)
-    message(SEND_ERROR "${sample} starts cmd.exe without /d, asks in a silent setup, or shows a console: ${wrong}")
+    message(SEND_ERROR "${sample} starts cmd.exe without /d, makes a silent setup wait, or shows a console: ${wrong}")
   endif()
 endforeach()

@@ -37,13 +37,13 @@ foreach(file ${files})
   endif()
 endforeach()
 
-# kelvo-config.cmake must set kelvo_FOUND to false unless the compiler is mingw. This script has no compiler.
+# kelvo-config.cmake must set kelvo_FOUND to false unless the compiler is mingw. This script sets no compiler.
 include(${folder}/all/lib/cmake/kelvo/kelvo-config.cmake)
 if(kelvo_FOUND OR NOT kelvo_NOT_FOUND_MESSAGE MATCHES "built for MINGW")
   message(SEND_ERROR "The package must accept only a mingw compiler: ${kelvo_NOT_FOUND_MESSAGE}")
 endif()
 
-# Builds the installed sample project with the installed library. The program whole_library includes all headers.
+# Uses the installed library to build the installed sample project and whole_library, which includes all headers.
 list(FILTER files INCLUDE REGEX "\\.h$")
 list(TRANSFORM files REPLACE "include/kelvo/(.*)" "#include \"\\1\"\n")
 string(JOIN "" includes ${files})

@@ -42,7 +42,7 @@ if(NOT checksums MATCHES "^[0-9A-F]+$" OR checksums STREQUAL "00000000")
   message(SEND_ERROR "The checksum in the header of ${program} is wrong or missing. osslsigncode shows: ${checksums}")
 endif()
 
-# The path of the source folder is private. It would also make two builds of the same sources in two folders differ.
+# The source folder's path is private. If a file contained it, builds of the same sources in two folders would differ.
 cmake_path(REPLACE_EXTENSION program LAST_ONLY pdb OUTPUT_VARIABLE pdb)
 foreach(file ${program} ${pdb})
   file(STRINGS ${file} found LIMIT_COUNT 1 REGEX "${source_folder}")

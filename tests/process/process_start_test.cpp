@@ -17,7 +17,7 @@ static std::string calls;
     return result;                                     \
   })
 
-// Notes a use of token 1 (the session's) or 2 (a duplicate). Returns false for other handles.
+// Notes a use of token 1 (the session user's) or 2 (a duplicate). Returns false for other handles.
 static bool NoteIfOurs(const char* note, HANDLE token) {
   const auto number = reinterpret_cast<std::uintptr_t>(token) - 0x7700;
   calls += number == 1 || number == 2 ? note + std::to_string(number) : "";

@@ -37,7 +37,7 @@ TEST_CASE(
   CHECK(denying.acl->AceCount == 3);
 }
 
-TEST_CASE("GetACEInsertionIndex: finds the first ACE whose rank number is equal or greater") {
+TEST_CASE("GetACEInsertionIndex: finds the first ACE whose rank number is at least the new ACE's") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
   const std::tuple<BYTE, BYTE, DWORD> cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
                                                  {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: finds the first ACE whose rank number is equal 
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // Each access violation would leave out the message "... Failed" of the call.
+  // If a function swallowed an access violation, `traced` would lack its message "... Failed".
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

@@ -50,7 +50,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   const OwnedKernelObject token = OwnToken();
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   // `many` does not fit in the stack buffer of AllowAccessToWinSta and AllowAccessToDesktop, so
-  // they call HeapAlloc. The other operations use `few`.
+  // they call HeapAlloc. For other operations, `few` is the DACL of the station and the desktop.
   const TestAcl many(std::vector<TestAce>(51));
   const TestAcl few(std::vector<TestAce>(3));
   TestAce ace{.mask = 9};

@@ -18,8 +18,8 @@ static std::wstring FromUtf8(const std::string& text) {
 }
 
 // A ProgramFolder that also has sorrel_status.exe, INF files and copies of two certificates. Its
-// subfolder "versioned" has a second sorrel_status.exe, and sorrel.exe as a difxapi.dll with a
-// version resource.
+// subfolder "versioned" has a second sorrel_status.exe and a file difxapi.dll. This file is a copy
+// of sorrel.exe, because sorrel.exe has a version resource.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},

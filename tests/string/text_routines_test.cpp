@@ -4,7 +4,7 @@
 #include "lib/string/hex_text.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("SubstringClamped, FormatText, BytesToHex: clamp, format, write two digits per byte") {
+TEST_CASE("SubstringClamped clamps, FormatText formats, BytesToHex writes two digits per byte") {
   CHECK(FormatText(L"%s", L"x") == L"x");
   CHECK(SubstringClamped(L"kite", 1, 2) == L"it");
   CHECK(SubstringClamped(L"kite", 3, 9) == L"e");

@@ -44,14 +44,14 @@ inline std::string ReadBytes(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// Returns a path in this test program's folder. All programs and test files are in that folder.
+// Returns the path of `name` in this program's folder, which has all programs and test data.
 inline std::wstring ProgramPath(const std::wstring& name) {
   std::wstring self(32768, L'\0');
   GetModuleFileNameW(nullptr, self.data(), 32768);
   return std::filesystem::path(self.c_str()).replace_filename(name);
 }
 
-// Checks that `seen` has the same bytes as `file`, which kelvo_add_test lists under EXPECTED. On
+// Checks that `seen` has the same bytes as `file`, which CMakeLists.txt lists under EXPECTED. On
 // failure, shows the first difference and writes `seen` to the path of `file` plus ".seen".
 inline void CheckAgainstFile(const std::string& seen, const std::wstring& file) {
   const std::wstring path = ProgramPath(L"expected\\" + file);

@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-// REPLACE and ReplacedExport replace Windows functions until the end of a block.
+// REPLACE and ReplacedExport replace Windows functions until the end of the enclosing block.
 //
 // REPLACE replaces an imported function. The lambda takes the original function and the arguments:
 //   REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });

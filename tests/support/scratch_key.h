@@ -12,8 +12,8 @@ namespace kelvo::test {
 // The path, below HKEY_CURRENT_USER, of a registry key that does not exist yet. When this object is
 // destroyed, the key is deleted with all its values and subkeys.
 //
-// This type does not use the library under test: if a bug in the library made the path empty, the
-// destructor would delete everything below HKEY_CURRENT_USER.
+// This type does not use the library under test, because a bug in the library could make the path
+// empty. The destructor would then delete everything below HKEY_CURRENT_USER.
 struct ScratchKey : std::wstring {
   ScratchKey()
       : std::wstring(L"Software\\kelvo test " + std::to_wstring(GetCurrentProcessId()) + L" " +

@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("ListWithApplication: is case-sensitive; ListWithoutApplication: ignores letter case") {
+TEST_CASE("ListWithApplication: is case-sensitive; ListWithoutApplication: uses CompareNoCase") {
   struct Row {
     WString list, name, result;
   };

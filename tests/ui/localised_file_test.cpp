@@ -12,7 +12,7 @@ TEST_CASE("FindLocaleName, FindLocaleId: return the same names and LCIDs as Wind
     }
     ++count;
     CHECK(FindLocaleId(name) == id);
-    // Skips Konkani, because its locale name in Wine 10 includes the script.
+    // Skips Konkani, because its locale name in Wine 10 contains a script subtag.
     if (id != 0x0457) {
       wchar_t known[LOCALE_NAME_MAX_LENGTH] = L"";
       LCIDToLocaleName(id, known, LOCALE_NAME_MAX_LENGTH, 0);
