@@ -15,13 +15,14 @@ constexpr const char* kNotes = R"(
 Without options, or with --json alone, reports the applications that use the
 service, the number of certificates in the stores TrustedPublisher and CA,
 whether bthprops.cpl and difxapi.dll can be found, the version of Windows, and
-whether the user is an administrator. This report covers no driver package,
-device or certificate of the service.
+whether the user is an administrator. This report does not say whether the
+driver package, device and certificates of the service are present.
 
 With --service, ignores the device nodes that Windows creates for paired remote
 devices. Windows removes the service's own device node while the radio is off or
-unplugged, and may create it only some time after the service was registered: in
-these cases "absent" proves nothing. This has not been tested with a real radio.
+unplugged, and can take some time to create it after the service is registered:
+in these cases "absent" proves nothing. This has not been tested with a real
+radio.
 
 Exit code: 0 if everything asked for is present, 1 if something is absent, 2 if
 the command line is wrong, 3 if something could not be checked (even if

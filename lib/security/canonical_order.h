@@ -6,8 +6,8 @@
 
 namespace kelvo {
 
-// Returns an ACE's rank in canonical order: explicit deny 0, explicit object deny 1, explicit allow
-// 2, explicit object allow 3. Inherited ACEs of these four types have the ranks 4 to 7. Returns
+// Returns an ACE's rank in canonical order. For an explicit ACE: deny is 0, object deny is 1, allow
+// is 2, and object allow is 3. Inherited ACEs of these four types have the ranks 4 to 7. Returns
 // std::nullopt for other types.
 std::optional<DWORD> CanonicalRank(const ACE_HEADER& ace);
 

@@ -1,6 +1,6 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# If check_installed.cmake has set `prefix`, the consumer (the project in `source`) is part of the package installed in
-# `prefix`, and must find that package. Without `prefix`, the consumer builds the library from this project's sources.
+# Builds the sample project in `source`. If check_installed.cmake has set `prefix`, the sample must find the library
+# that is installed there. Without `prefix`, the sample builds the library from this project's sources.
 
 if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON

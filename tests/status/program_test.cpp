@@ -18,8 +18,8 @@ static std::wstring FromUtf8(const std::string& text) {
 }
 
 // A ProgramFolder that also has sorrel_status.exe, INF files and copies of two certificates. Its
-// subfolder "versioned" has a second sorrel_status.exe and a file difxapi.dll. This file is a copy
-// of sorrel.exe, because sorrel.exe has a version resource.
+// subfolder "versioned" has a second sorrel_status.exe and a difxapi.dll. That DLL is a copy of
+// sorrel.exe, which has a version resource.
 struct Machine : ProgramFolder {
   Machine()
       : ProgramFolder({{L"certificates\\binary.cer", L"trusted.cer"},
@@ -85,7 +85,7 @@ static std::string ShownOnPage(const std::string& kind) {
 }
 
 // Checks that the JSON report is ASCII. For each item in the JSON report, checks that the text
-// report contains the values, and that docs/administrators.md lists the keys.
+// report contains its strings and numbers, and that docs/administrators.md lists its keys.
 static void CheckJson(const ChildResult& json, const ChildResult& text) {
   using Json = nlohmann::ordered_json;
   const Json report = Json::parse(json.output);

@@ -10,8 +10,8 @@
 
 namespace kelvo::test {
 
-// Describes an argument: shows a number, a read-only string (of a full path, only the part from the
-// last "\"), a registry key, or fields of a structure. Null is "0". Any other pointer is "given".
+// Describes an argument: a number, a read-only string (for a full path, the part from its last
+// backslash), a registry key, or fields of a structure. Null is "0". Any other pointer is "given".
 template <typename Argument>
 std::string Shown(Argument argument) {
   if constexpr (std::is_same_v<Argument, SIZE_T>) {
