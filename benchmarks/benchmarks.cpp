@@ -8,8 +8,8 @@
 // contenders of a group run once, then all of them run again, and so on.
 //
 // The title of a group may state a goal. The goal "_wcsicmp at least 1" means that the ratio of the
-// contender _wcsicmp should be at least 1. A goal may give a range for each of several contenders.
-// If the goal names no contender, the range is for the second one.
+// contender _wcsicmp should be at least 1. A goal may give limits for several contenders. If a goal
+// names no contender, its limit applies to the second contender.
 
 #include <windows.h>
 
@@ -40,7 +40,7 @@ using kelvo::WString;
 
 constexpr std::size_t kRuns = 21;
 
-// Keeps the compiler from optimising the measured work away.
+// Keeps the compiler from optimizing the measured work away.
 volatile std::size_t sink = 0;
 
 struct Contender {

@@ -4,7 +4,7 @@
 #   simulator      the simulated libraries. They are in a separate archive, because even a signed sorrel.exe would load
 #                  them if they were in its folder
 #   sdk            the library, as the CMake package kelvo
-#   symbols        the .pdb files
+#   symbols        the .pdb files. `cmake --install` without --component does not install them
 
 include(CMakePackageConfigHelpers)
 

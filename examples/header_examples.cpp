@@ -86,7 +86,8 @@ void TraceSinkExample() {
       [](const wchar_t* tag, const wchar_t* message) { DebugTrace(L"%s: %s", tag, message); });
 }
 
-// This example is not in any header. It shows that a WString can be used like a std::wstring.
+// Unlike the other examples in this file, this example is not in any header. It shows that a
+// WString can be used like a std::wstring.
 std::size_t WStringExample(const WString& text) {
   std::size_t blanks = 0;
   for (const wchar_t unit : text) {

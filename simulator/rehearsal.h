@@ -13,9 +13,9 @@ DWORD NumberFromEnvironment(const wchar_t* name);
 // Returns the value of an environment variable, or an empty string when the variable is not set.
 WString TextFromEnvironment(const wchar_t* name);
 
-// Appends `line` and CR LF, in UTF-8, to the journal, the file whose path is in the environment
-// variable SORREL_SIMULATOR_JOURNAL. Does nothing when the variable is not set or the file cannot
-// be opened.
+// Appends `line` and CR LF, in UTF-8, to the journal. The journal is the file whose path is in the
+// environment variable SORREL_SIMULATOR_JOURNAL. Does nothing when the variable is not set or the
+// file cannot be opened.
 void WriteToJournal(const WString& line);
 
 // The DllMain of each simulated library calls this function. `reason` and `processEnds` are the

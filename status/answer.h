@@ -12,8 +12,8 @@ namespace kelvo {
 // "intermediate"), bthprops.cpl (item "service"), difxapi.dll (item "interface") and Windows itself
 // (item "system").
 //
-// Each report has the items in this order: application, publisher, intermediate, driver package,
-// service, interface, system. Items of the same kind are in the order of the command line.
+// In every report, the items are in this order: application, publisher, intermediate, driver
+// package, service, interface, system. Items of the same kind are in the order of the command line.
 //
 // Returns the exit code:
 //   0  everything asked for is present

@@ -33,8 +33,9 @@ struct Detail {
 
 // One line of the text report, and one object in the array "items" of the JSON report. `kind` is a
 // stable name in lower case that has "_" between its words; the text report shows a space for each
-// "_". `name` is the name or path of the thing that the item describes, as it was asked for or
-// found; `name` may be empty.
+// "_". `name` is the name or path of the thing that the item describes: as given on the command
+// line, as fixed in the program (such as a certificate store's name), or as found on the computer.
+// `name` may be empty.
 struct Item {
   const char* kind;
   State state;

@@ -1,7 +1,8 @@
 #pragma once
 
-// Declares those functions and types of difxapi.dll that sorrel.exe uses. The DLL installs drivers.
-// It comes from the Windows Driver Kit; the Windows SDKs have no header for it.
+// Declares those functions and types of difxapi.dll that sorrel.exe uses. The DLL is part of
+// Windows and installs drivers. Its header comes from the Windows Driver Kit; the Windows SDKs do
+// not have this header.
 
 #include <windows.h>
 

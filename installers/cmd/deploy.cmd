@@ -20,9 +20,10 @@ set "shell=%SystemRoot%\System32\cmd.exe"
 set "code=0"
 if "%~1"=="remove" goto remove
 
-rem An installation counts as a first installation only if sorrel_status.exe returns 1: the application's name is not on
-rem the list of applications. The variable errorlevel is also 1 if Windows does not allow sorrel_status.exe to run. The
-rem call with --version detects this case, and the installation then does not count as a first installation.
+rem An installation counts as a first installation only if sorrel_status.exe returns 1, which means that the name of the
+rem application is not on the list of applications. The variable errorlevel is also 1 if Windows does not allow
+rem sorrel_status.exe to run. The call with --version detects this case, and the installation then does not count as a
+rem first installation.
 set "first="
 "%here%sorrel_status.exe" --version >nul 2>&1
 if not "%errorlevel%"=="0" goto copy
@@ -31,8 +32,8 @@ if "%errorlevel%"=="1" set "first=1"
 
 :copy
 rem Copies the files before sorrel.exe runs, because a deployment system's detection rule compares the computer with the
-rem files in the product's folder. If an upgrade failed and the old files were still there, the rule could report
-rem success.
+rem files in the product's folder. If sorrel.exe ran first, the old version's files would still be in the product's
+rem folder after a failed upgrade, and the rule could report success.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F

@@ -2,8 +2,8 @@ rem Change these settings for your product. The other batch files in this folder
 
 rem The product's name, which is also the name of its folder below Program Files.
 set "product=Brindle"
-rem The application's name: the product's name on the list in which sorrel.exe records the applications that use the
-rem hands-free service. The name must be the same for all versions of the product. It must neither contain nor be part
+rem The application's name, under which sorrel.exe records the product on the list of applications that use the
+rem hands-free service. This name must be the same for all versions of the product. It must neither contain nor be part
 rem of another application's name.
 set "application=brindle"
 rem The driver package's INF file, the certificate of the package's signer, and the certificate of the authority that

@@ -18,8 +18,8 @@ declare -A setting=(
   # Make your own two GUIDs with uuidgen, and keep them for all versions.
   [UPGRADE_CODE]=${guids[0]}
   [COMPONENT]=${guids[1]}
-  # The application's name: the product's name on the list in which sorrel.exe records the applications that use the
-  # hands-free service. The name must be ASCII and the same for all versions. It must neither contain nor be part of
+  # The application's name, under which sorrel.exe records the product on the list of applications that use the
+  # hands-free service. This name must be ASCII and the same for all versions. It must neither contain nor be part of
   # another application's name.
   [APPLICATION]='brindle'
   # The driver package's INF file, the certificate of the package's signer, and the certificate of the authority that
@@ -78,11 +78,11 @@ add_action() {  # NAME TYPE SOURCE TARGET CONDITION SEQUENCE
   msibuild "$package" -q "INSERT INTO InstallExecuteSequence (Action, Condition, Sequence) VALUES ('$1', '$5', $6)"
 }
 
-# These actions run functions of service.js. Type 3077 is JScript in the package (5), deferred (1024), as SYSTEM (2048).
-# A missing radio must not prevent the removal of the product. Therefore the function ReleaseService always returns
-# success, and the type of its action also has the flag "ignore errors" (64). ReleaseService does not run when an
-# upgrade removes the old version: if the upgrade then fails, the old version is restored, and the application's name
-# must still be on the list.
+# The actions PrepareService and ReleaseService run the functions of the same names in service.js. Type 3077 is
+# JScript in the package (5), deferred (1024), as SYSTEM (2048). A missing radio must not prevent the removal of the
+# product. Therefore the function ReleaseService always returns success, and the type of its action also has the flag
+# "ignore errors" (64). ReleaseService does not run when an upgrade removes the old version: if the upgrade then fails,
+# the old version is restored, and the application's name must still be on the list.
 add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 

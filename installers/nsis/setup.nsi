@@ -12,8 +12,8 @@
 !insertmacro Setting PRODUCT "Brindle"
 !insertmacro Setting VERSION "1.0.0"
 !insertmacro Setting MAKER "The sorrel authors"
-; The application's name: the product's name on the list in which sorrel.exe records the applications that use the
-; hands-free service. The name must be ASCII and the same for all versions. It must neither contain nor be part of
+; The application's name, under which sorrel.exe records the product on the list of applications that use the
+; hands-free service. This name must be ASCII and the same for all versions. It must neither contain nor be part of
 ; another application's name.
 !insertmacro Setting APPLICATION "brindle"
 ; The driver package's INF file, the certificate of the package's signer, and the certificate of the authority that

@@ -13,7 +13,8 @@ std::array<wchar_t, 255> moduleDirectory{};
 }  // namespace
 
 const wchar_t* GetModuleDirectory(const HMODULE* module) {
-  // The module's path may be too long for `moduleDirectory` even when the directory part fits.
+  // Reads the path into a WString, not into `moduleDirectory`: the path can be too long for that
+  // buffer even when its directory part fits.
   WString path = ReadModulePath(module == nullptr ? nullptr : *module);
   const std::size_t lastBackslash = path.rfind(L"\\");
   if (lastBackslash != WString::npos) {

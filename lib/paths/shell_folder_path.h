@@ -13,13 +13,13 @@ namespace kelvo {
 //   2. HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Explorer\User Shell Folders
 //   3. HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders
 //   4. HKEY_LOCAL_MACHINE\Software\Microsoft\Windows\CurrentVersion\Explorer\Shell Folders
-// The path is the first string that is not empty. Environment variables in the string are not
-// expanded. A string that is too long for `out` (including the backslash and a NUL) counts as
-// empty.
+// The path is the first value that is not empty. A value counts as empty when it is missing or
+// cannot be read, is not a string (REG_SZ or REG_EXPAND_SZ), or is too long for `out` (including
+// the backslash and a NUL). Environment variables in the path are not expanded.
 //
-// When none of the four values contains such a string, writes the result of
-// GetModuleDirectory(module) (lib/paths/module_directory.h) to `out`. Returns true if this result
-// is not empty, otherwise false.
+// When all four values are empty, writes the result of GetModuleDirectory(module)
+// (lib/paths/module_directory.h) to `out`. Returns true if this result is not empty, otherwise
+// false.
 bool GetShellFolderPath(const HMODULE* module, std::span<wchar_t, MAX_PATH> out,
                         const wchar_t* valueName);
 

@@ -8,9 +8,8 @@ bool RunGuarded(void (*run)(const void* context), const void* context);
 
 // Calls `action`. Returns true when `action` returns. When a C++ or structured exception (such as
 // an access violation) leaves `action`, swallows the exception and returns false. After a
-// structured exception, destructors of local objects do not run, neither in `action` nor in the
-// functions that `action` calls. Therefore create every object that owns a resource outside
-// `action`.
+// structured exception, the destructors of local objects in `action`, and in the functions that
+// `action` calls, do not run. Therefore, create every object that owns a resource outside `action`.
 template <typename Action>
 bool GuardedCall(const Action& action) {
   return internal::RunGuarded([](const void* context) { (*static_cast<const Action*>(context))(); },

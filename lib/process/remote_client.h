@@ -6,8 +6,9 @@ namespace kelvo {
 
 // Checks whether this process's session is a remote session. Copies the name of the client computer
 // to `buffer` (WTSQuerySessionInformationW, looked up at run time, with WTSClientName for the
-// current session). Returns 0 when this name is not empty and is not this computer's NetBIOS name.
-// The comparison ignores letter case. Returns -1 when the name is empty or is this computer's name.
+// current session). Returns 0 (a remote session) when the client's name is not empty and differs
+// from this computer's NetBIOS name. Returns -1 (not a remote session) when the client's name is
+// empty or is this computer's name. The comparison ignores letter case.
 //
 // `capacity` is the size of `buffer` in characters, including the NUL. A name that does not fit is
 // truncated before the comparison. Returns -1 and leaves `buffer` unchanged when `buffer` is null,

@@ -20,8 +20,9 @@ namespace kelvo {
 //     and its desktop "Default" until the session ends (see AllowTokenFullAccessToObject in
 //     lib/security/token_object_access.h).
 //   - The call fails when Windows does not know SeTakeOwnershipPrivilege, but this process need not
-//     hold that privilege. This process must hold SeAssignPrimaryTokenPrivilege, unless Windows
-//     lets it start a process with the copied token without that privilege.
+//     hold that privilege. The call also fails when CreateProcessAsUserW requires
+//     SeAssignPrimaryTokenPrivilege for the copied token and this process does not hold that
+//     privilege.
 //   - The new process and its thread get a null DACL, which gives everyone full access to them. If
 //     SYSTEM calls this function, every user of the computer can thus control a process that has
 //     SYSTEM's rights.

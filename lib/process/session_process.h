@@ -8,12 +8,12 @@ namespace kelvo {
 // caller may be a service in another session. Returns true when the process was created. The
 // command line consists of `exePath` in double quotes, followed by a space and the unchanged
 // `arguments`. Null strings count as empty. `exePath` should be a full path.
-//   - On Windows XP and later, the program runs in that user's session, under that user's account.
-//     It is started by CreateProcessAsUserW with the token from QueryUserTokenOfSession
-//     (lib/process/user_session.h). When QueryUserTokenOfSession fails, the program instead runs in
-//     the caller's session, under the caller's account (CreateProcessW). QueryUserTokenOfSession
-//     fails, for example, when nobody is logged on to the session, or when the caller lacks the
-//     privilege that QueryUserTokenOfSession needs.
+//   - On Windows XP and later, the program runs in the console session, under the account of that
+//     session's user. It is started by CreateProcessAsUserW with the token from
+//     QueryUserTokenOfSession (lib/process/user_session.h). When QueryUserTokenOfSession fails, the
+//     program instead runs in the caller's session, under the caller's account (CreateProcessW).
+//     QueryUserTokenOfSession fails, for example, when nobody is logged on to the session, or when
+//     the caller lacks the privilege that QueryUserTokenOfSession needs.
 //   - On Windows 2000, the program always runs in the caller's session, under the caller's account.
 //     When the caller is in the console session but not on the interactive desktop, RunAsUser
 //     (lib/process/run_as_user.h) starts the program. Otherwise, CreateProcessW starts it.

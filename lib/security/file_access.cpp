@@ -99,7 +99,8 @@ bool IsOfAccount(const void* ace, PSID account) {
 
 // Adds the following ACEs to `newDacl`, which must be empty. `count` is the number of ACEs in
 // `oldDacl`, which may be null when `count` is 0.
-//   1. The ACEs of `oldDacl` before its first inherited ACE, except those of `account`.
+//   1. The ACEs of `oldDacl` before its first inherited ACE, except those of `account`. Object ACEs
+//      of `account` are kept.
 //   2. The new ACE.
 //   3. The first inherited ACE of `oldDacl` and all ACEs after it, including those of `account`.
 bool FillDacl(const ACL* oldDacl, DWORD count, PSID account, DWORD accessMask, ACL* newDacl) {

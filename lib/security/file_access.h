@@ -7,8 +7,8 @@ namespace kelvo {
 // Grants an account the rights in `accessMask` by adding an ACE to the DACL of a file or directory.
 // `sid` is the account's SID in any form that ConvertStringSidToSidW accepts.
 //   - The new ACE is inserted before the first inherited ACE, or at the end if none is inherited.
-//     Any other ACE of the account is removed if its position is before the new ACE, even if it
-//     is a deny ACE. All remaining ACEs keep their order.
+//     The account's other ACEs before the new ACE are removed, even deny ACEs. However, object
+//     ACEs are kept. All remaining ACEs keep their order.
 //   - A file without a DACL gets a DACL that contains only the new ACE.
 //   - An auto-inherited DACL stays auto-inherited. A protected DACL that is not auto-inherited
 //     stays protected. A DACL that is both protected and auto-inherited ("D:PAI") loses its

@@ -9,9 +9,10 @@ namespace kelvo {
 // (GetUserNameW), which is ambiguous if a local account and a domain account have the same name.
 // The handle needs READ_CONTROL and WRITE_DAC. Always returns TRUE: a failed step is reported only
 // with TraceMessage (lib/trace/trace_sink.h).
-// An object without a DACL is left unchanged. A DACL that is present but null, which gives everyone
-// access, is replaced with a DACL that contains only the new ACE: all other accounts lose their
-// access. Each call leaks the buffers that it allocates.
+// If the object's security descriptor has no DACL (SE_DACL_PRESENT is not set), the object is left
+// unchanged. A null DACL (SE_DACL_PRESENT is set), which gives everyone access, is replaced with a
+// DACL that contains only the new ACE: all other accounts lose their access. Each call leaks the
+// buffers that it allocates.
 BOOL ModifySecurity(HANDLE object, DWORD mask);
 
 }  // namespace kelvo

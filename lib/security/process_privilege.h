@@ -19,9 +19,9 @@ struct PrivilegeOutcome {
   // The result of AdjustTokenPrivileges, or FALSE when that function was not called. TRUE does not
   // mean that the token holds the privilege.
   BOOL adjusted = FALSE;
-  // When a call fails, the error code of that call (GetLastError). When no call fails, the last
-  // error that AdjustTokenPrivileges sets: ERROR_NOT_ALL_ASSIGNED when the token does not hold the
-  // privilege, otherwise ERROR_SUCCESS.
+  // When a call fails, the error code of that call (GetLastError). When no call fails, the
+  // last-error code that AdjustTokenPrivileges sets: ERROR_NOT_ALL_ASSIGNED when the token does not
+  // hold the privilege, otherwise ERROR_SUCCESS.
   DWORD error = ERROR_SUCCESS;
 };
 

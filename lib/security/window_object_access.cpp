@@ -50,8 +50,8 @@ constexpr WindowObjectKind kDesktop = {
     .writeFailed = L"AllowAccessToDesktop SetSecurityInfo Failed",
     .cleanUp = L"AllowAccessToDesktop exception caught in __finally"};
 
-// A new DACL of up to kStackSize bytes is built on the stack, and a larger one on the heap. On
-// x64, _malloca has the same limit: 1,024 bytes, of which _malloca uses 16 for a marker.
+// A new DACL of up to kStackSize bytes is built on the stack, and a larger one on the heap.
+// kStackSize is the limit of _malloca on x64: 1,024 bytes, minus 16 bytes for _malloca's marker.
 constexpr std::size_t kStackSize = 1024 - 16;
 
 bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,

@@ -20,7 +20,7 @@ int CompareFileVersion(const wchar_t* path, int major, int minor, int build, int
   if (order < 0) {
     return -1;
   }
-  // As the header says, the memory of the version resource is leaked when the result is 1 or 0.
+  // As file_version.h says, the memory of the version resource is leaked when the result is 1 or 0.
   version.memory.release();
   return order > 0 ? 1 : 0;
 }

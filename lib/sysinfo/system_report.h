@@ -13,10 +13,10 @@ namespace kelvo {
 //     (HKEY_CURRENT_USER "Environment") and for the system (HKEY_LOCAL_MACHINE
 //     "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). ReadRegistryKeyValues reads
 //     and expands them. A key that does not open adds no entries.
-//   - When the path of a shell folder cannot be read, the text of the entry is "failed to query "
-//     followed by the name of the entry. When the function of another entry fails, the text of
-//     that entry is the result that the function returns on failure. For most functions, this is
-//     "0" (false) or an empty string.
+//   - When the path of a shell folder cannot be read, the text of its entry is "failed to query "
+//     followed by the name of the entry. When one of the functions fails, its entry shows the
+//     result that the function returns on failure. For most functions, this is "0" (false) or an
+//     empty string.
 //   - When the call throws, `report` is incomplete.
 //
 //   NameTextList report;

@@ -22,11 +22,11 @@ constexpr const wchar_t* kHotfix =
     L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Hotfix\\Q246009";
 
 // The structure that GetVersionExW filled: OSVERSIONINFOEXW (284 bytes), OSVERSIONINFOW (276
-// bytes), or none. When GetVersionExW filled OSVERSIONINFOW, the suite mask and the product type of
-// the OSVERSIONINFOEXW variable stay zero, because OSVERSIONINFOW lacks these fields.
+// bytes), or none.
 enum class VersionRecord { kExtended, kShort, kNone };
 
-// The caller must have zeroed `version`.
+// The caller must have zeroed `version`. When the result is kShort, the suite mask and the product
+// type in `version` stay zero, because OSVERSIONINFOW lacks these fields.
 VersionRecord QueryVersionRecord(OSVERSIONINFOEXW& version) {
   auto* const record = reinterpret_cast<OSVERSIONINFOW*>(&version);
   version.dwOSVersionInfoSize = sizeof(OSVERSIONINFOEXW);

@@ -1,4 +1,4 @@
-# This consumer enables tests, but the library must add none. CMake fails if both have a target named `benchmarks`.
+# This consumer enables tests, but the library must add none. If the library has a target `benchmarks` too, CMake fails.
 # `whole_library` links all object files of the library. If kelvo::kelvo omits an import library, the link step fails.
 enable_testing()
 add_custom_target(benchmarks)

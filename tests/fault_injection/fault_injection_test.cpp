@@ -227,8 +227,8 @@ static std::string Changes(const Lines& before, const Lines& after) {
 
 // Checks the outcome of a run in which malloc failed: the result must be an exception, and all
 // other lines must occur in the undisturbed run. This proves that the list of applications is
-// the initial or the final one, and that no more handles are open than in the undisturbed run. Is
-// not called if the operation has no output and another function's failure has the same outcome.
+// the initial or the final one, and that no more handles are open than in the undisturbed run. The
+// check is skipped if the operation has no output and another function's failure has this outcome.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));
@@ -249,10 +249,10 @@ TEST_CASE("failing calls: each outcome follows a rule or is in fault_injection.t
     const int lineCount = static_cast<int>(written.size());
     const auto calls = machine.calls;
     const bool isReport = machine.name.starts_with("sorrel_status");
-    // The distinct outcomes, each with the failing calls that cause it.
+    // The distinct outcomes for fault_injection.txt, each with the failing calls that cause it.
     std::vector<std::pair<Lines, std::string>> outcomes;
-    // Outcomes whose output lacks a line of the driver log. A failed malloc can cause them, too,
-    // because DifxLogCallback catches the exception.
+    // Outcomes that lack a line of the driver log because a function in kReporting failed. A failed
+    // malloc can cause them, too, because DifxLogCallback catches the exception.
     std::set<Lines> withoutLogged;
     for (const auto& [function, made] : calls) {
       for (int nth = 1; nth <= made; ++nth) {
@@ -314,7 +314,7 @@ TEST_CASE("install, uninstall: if a run is killed at any call, the next run comp
         INFO(function, "-", nth);
         const Lines ended = machine.Run(index, {function, nth}, Machine::How::kEnds);
         REQUIRE(std::ranges::count(ended, "= ended") == 1);
-        // BluetoothSetLocalServiceInfo is called only after the application is on the list.
+        // install calls BluetoothSetLocalServiceInfo only after adding the application to the list.
         const bool isServiceSet = ended.back().starts_with("BluetoothSetLocalServiceInfo ");
         CHECK((!isServiceSet || std::ranges::count(ended, "list: kite;brindle") == 1));
         machine.Run(index, {}, Machine::How::kContinues);

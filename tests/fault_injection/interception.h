@@ -15,8 +15,8 @@
 
 namespace kelvo::test {
 
-// Whether a function opens or closes handles. kLeftOut: neither; calls.txt omits the calls, because
-// their arguments depend on the machine, or because the outcome shows their effect.
+// Whether a function opens or closes handles. kNone and kLeftOut: neither. calls.txt omits kLeftOut
+// functions: their arguments depend on the machine, or the outcome shows their effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
 // A function in watched.def and its replacement.
@@ -33,7 +33,7 @@ struct Interception {
   std::map<std::string, int> calls;
   // The distinct calls for calls.txt, as text: only calls with a string or a nonzero number.
   std::set<std::string> shown;
-  // The function and number (from 1) of the call that fails.
+  // The call that fails: the function, and which call of that function (1 is the first).
   std::pair<std::string, int> chosen;
   bool ends = false;  // the chosen call ends the thread instead of failing
   // Open handles and memory, each with the function that opened it and the functions that close it.
@@ -63,7 +63,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  // calls.txt also omits C runtime functions. Their names begin with a lower-case letter or "_".
+  // calls.txt omits C runtime functions, whose names begin with a lower-case letter or "_".
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
   const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {

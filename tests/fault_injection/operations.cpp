@@ -57,7 +57,7 @@ std::wstring Answer(Run run) {
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
 TOKEN_ELEVATION_TYPE elevation;
-// Replaces a text that varies by machine. Keeps "full name", which the test simulates.
+// Replaces a text that varies by machine. Keeps "full name", which simulated functions return.
 WString IsThere(const WString& text) {
   if (text.empty()) {
     return L"nothing";

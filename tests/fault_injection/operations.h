@@ -2,9 +2,9 @@
 
 #include <string>
 
-// A program's command line, or calls to the library. The test makes function calls in an operation
-// fail, one call per run. Before each run, the test reloads fault_injection_operations.dll, so that
-// no old state remains. The DLL exports the array "operations". The last element has a null `name`.
+// Runs a program's command line, or calls the library. In each run, the test makes at most one of
+// the operation's function calls fail. Before each run, it reloads fault_injection_operations.dll
+// to reset its state. This DLL exports the array "operations". The last element has a null `name`.
 struct Operation {
   const char* name;
   // The list of applications that the test stores in the registry before the operation runs.

@@ -57,7 +57,7 @@ file(REMOVE ${setups}/made.msi)
 expect(1 "absent.inf" ${msi} INF=absent.inf)
 file(GLOB left ${setups}/made.msi ${setups}/scratch/*)
 if(left)
-  message(SEND_ERROR "A build that failed has left: ${left}")
+  message(SEND_ERROR "msi/build.sh left temporary files or an incomplete package: ${left}")
 endif()
 
 # The property Log must name the log that run_sorrel.cmd writes: AskForRestart, the last action, reads that log.

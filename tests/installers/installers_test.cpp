@@ -11,7 +11,7 @@ static const std::wstring kStandIns = kLogs + L"stand_ins";
 static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 
 // Copies of this program simulate pnputil and certutil, which Wine lacks or has only as stubs. If
-// the environment variable "ends" is a failure code, a copy only exits with this code. Otherwise,
+// the environment variable "ends" is a failure code, a copy exits with it at once. Otherwise,
 // it appends its name and all its arguments except the last to the file kStandIns. If told to
 // delete kPublishedInf, it does so. If told to delete a stored certificate, it empties the store.
 static const bool isStandIn = [] {
@@ -59,7 +59,7 @@ static const bool isStandIn = [] {
         if (!IsWindowEnabled(box) || !IsWindowVisible(button) || !IsWindowEnabled(button)) {
           continue;
         }
-        // Waits until the handler that enabled the button ends, because it also sets the title.
+        // The handler that enables a button also sets the title. Waits until that handler returns.
         SendMessageTimeoutW(box, WM_NULL, 0, 0, 0, 5000, nullptr);
         const HWND message = GetDlgItem(box, 0xFFFF);
         wchar_t title[256];

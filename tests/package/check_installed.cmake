@@ -33,7 +33,7 @@ endforeach()
 foreach(file ${files})
   file(STRINGS ${folder}/all/${file} found LIMIT_COUNT 1 REGEX "${source_folder}")
   if(file MATCHES "internal|_test|\\.pdb$" OR found)
-    message(SEND_ERROR "${file} must not be installed, or must not contain the source folder's path: ${found}")
+    message(SEND_ERROR "${file} must not be installed (internal, test, .pdb) or has the source folder's path: ${found}")
   endif()
 endforeach()
 
@@ -43,7 +43,7 @@ if(kelvo_FOUND OR NOT kelvo_NOT_FOUND_MESSAGE MATCHES "built for MINGW")
   message(SEND_ERROR "The package must accept only a mingw compiler: ${kelvo_NOT_FOUND_MESSAGE}")
 endif()
 
-# Uses the installed library to build the installed sample project and whole_library, which includes all headers.
+# Uses the installed library to build the installed sample and whole_library, a program that includes all headers.
 list(FILTER files INCLUDE REGEX "\\.h$")
 list(TRANSFORM files REPLACE "include/kelvo/(.*)" "#include \"\\1\"\n")
 string(JOIN "" includes ${files})

@@ -34,7 +34,7 @@ unset(ENV{SORREL_SIGN_CERTIFICATE})
 unset(ENV{SORREL_SUMS_KEY})
 run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/unsigned)
 
-# SHA256SUMS lists each file's checksum. Signing changes only the programs' archive and the bill of materials.
+# SHA256SUMS has each expected file's checksum. Signing changes only the programs' archive and the bill of materials.
 set(base sorrel-${version}-win64)
 foreach(kind signed unsigned)
   file(GLOB made RELATIVE ${folder}/${kind} ${folder}/${kind}/*.json ${folder}/${kind}/*.zip)

@@ -11,7 +11,7 @@ TEST_CASE("GetLocalServerPath: returns the path of a ProgID's COM local server")
   const ScratchFolder folder;
   const WString server = folder.Write("the server.exe", "").c_str();
   const WString filling(261 - server.length(), L'/');
-  // Not a WString: a bug in that class must not make this test delete other keys.
+  // Not the library's WString: if WString had a bug, RegDeleteTreeW could delete other keys.
   const std::wstring classKey = L"CLSID\\{6B2C2B6E-0B62-4C5B-9E0A-2F4B0C1D2E3F}";
   WString path;
   CHECK(GetLocalServerPath(L"kelvo.test", path) == 0x80110411);

@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: finds the first ACE whose rank number is at lea
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // If a function swallowed an access violation, `traced` would lack its message "... Failed".
+  // A function that swallowed an access violation would not trace its own message "... Failed".
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

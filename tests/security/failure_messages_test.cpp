@@ -39,7 +39,7 @@ static std::wstring operation, traced;
 // In each run of an operation, at most one call of a kWatched function fails or throws. Outcomes:
 //   fails: the operation fails, and its last message is "exception caught in __finally"
 //   fails at once: the operation fails without this message
-//   ... as a rule: a failing call adds only "FUNCTION Failed"; a throwing call adds no message
+//   ... as a rule: the only other message is "FUNCTION Failed"; if the call throws, there is none
 // failure_messages.txt lists, for each outcome and function, the first call with that outcome.
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new window station instead of the interactive one, which all programs share.
@@ -49,8 +49,8 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   const WindowObjects scope;
   const OwnedKernelObject token = OwnToken();
   const OwnedKernelObject event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
-  // `many` does not fit in the stack buffer of AllowAccessToWinSta and AllowAccessToDesktop, so
-  // they call HeapAlloc. For other operations, `few` is the DACL of the station and the desktop.
+  // `many` does not fit in the stack buffers of AllowAccessToWinSta and AllowAccessToDesktop, so
+  // these two call HeapAlloc. For other operations, the station and desktop have the DACL `few`.
   const TestAcl many(std::vector<TestAce>(51));
   const TestAcl few(std::vector<TestAce>(3));
   TestAce ace{.mask = 9};

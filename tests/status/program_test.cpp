@@ -103,7 +103,7 @@ static void CheckJson(const ChildResult& json, const ChildResult& text) {
                                 : value.is_string()
                                     ? ToVisibleUtf8(FromUtf8(value.get<std::string>()))
                                     : "";
-      // The text report may express the values of these two keys in other words.
+      // The text report may express the values of "item" and "list" in other words.
       CHECK((key == "item" || key == "list" || line.find(shown) != std::string::npos));
     }
   }
@@ -124,7 +124,7 @@ TEST_CASE(
       ProgramFolder::Run(FromUtf8(line.substr(2)));
       seen += line + "\r\n\r\n";
     } else if (line.starts_with("> ")) {
-      // A command in lifecycle.txt ends with --json if docs/administrators.md shows its report.
+      // A command in lifecycle.txt ends with --json if administrators.md shows its JSON report.
       const std::wstring command = FromUtf8(Replaced(line.substr(2), " --json$", ""));
       std::filesystem::remove("journal");
       const ChildResult text = ProgramFolder::Run(command);

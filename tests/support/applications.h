@@ -70,7 +70,7 @@ struct ProgramFolder : CleanMachine, ScratchFolder {
   }
   ~ProgramFolder() { std::filesystem::current_path(ProgramPath(L"")); }
 
-  // Runs `commandLine`. It begins with the program's path, relative to this folder.
+  // Runs a command line that begins with the program's path, relative to this folder.
   static ChildResult Run(const std::wstring& commandLine) {
     const std::filesystem::path program = commandLine.substr(0, commandLine.find(L' '));
     return RunChild(commandLine, absolute(program).c_str());

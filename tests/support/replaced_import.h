@@ -12,8 +12,8 @@
 //
 // REPLACE replaces an imported function. The lambda takes the original function and the arguments:
 //   REPLACE(RegDeleteValueW, [](auto original, HKEY key, auto name) { return 5L; });
-// ReplacedExport makes GetProcAddress return another function of the same type. Null simulates a
-// Windows version that lacks the function:
+// ReplacedExport makes GetProcAddress return a replacement, which must have the type of the
+// exported function. A null replacement simulates a Windows version that lacks the function:
 //   const ReplacedExport native("GetNativeSystemInfo", nullptr);
 
 namespace kelvo::test {

@@ -26,7 +26,7 @@ struct Rehearsal : ProgramFolder {
       RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), library.c_str(), REG_SZ, L"", 2);
     }
     Write("garbage.cer", "-----BEGIN CERTIFICATE-----\nx");
-    // Not a file of 0 bytes: for such a file, Wine 8 would import uninitialised stack data.
+    // One line break: from a file of 0 bytes, Wine 8 would import uninitialised stack data.
     Write("empty.cer", "\n");
     SetEnvironmentVariableW(L"SORREL_SIMULATOR_JOURNAL", L"journal");
   }
