@@ -24,6 +24,7 @@ namespace kelvo {
 //   - The DACL has no ACEs.
 //   - A deny ACE or an object deny ACE at index 1 or higher is too short: the bytes that the
 //     function would compare with `sid` extend past the end of the ACE.
+//   - An exception occurs, for example because `sid` cannot be read.
 BOOL DeleteDenyACEofObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type);
 
 }  // namespace kelvo

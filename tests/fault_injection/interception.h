@@ -16,7 +16,7 @@
 namespace kelvo::test {
 
 // Whether a function opens or closes handles. kNone and kLeftOut: neither. calls.txt omits kLeftOut
-// functions: their arguments depend on the machine, or the outcome shows their effect.
+// functions: their arguments depend on the machine, or fault_injection.txt shows their effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
 // A function in watched.def and its replacement.
@@ -27,7 +27,7 @@ struct Watched {
 };
 
 // The data of Intercept. Intercept counts a module's calls to each function in watched.def, makes
-// one call fail, and records open handles and memory.
+// one call fail, and records open handles and unfreed memory.
 struct Interception {
   std::map<std::string, void*> originals;
   std::map<std::string, int> calls;
@@ -36,7 +36,7 @@ struct Interception {
   // The call that fails: the function, and which call of that function (1 is the first).
   std::pair<std::string, int> chosen;
   bool ends = false;  // the chosen call ends the thread instead of failing
-  // Open handles and memory, each with the function that opened it and the functions that close it.
+  // Open handles and unfreed memory, each with the function that opened it and those that close it.
   std::map<const void*, std::pair<std::string, std::string_view>> open;
 };
 inline Interception interception;
@@ -63,7 +63,7 @@ auto Intercept(const char* name, long long failure, Handles handles, std::string
   auto& [originals, calls, shown, chosen, ends, open] = interception;
   const bool fails = chosen == std::pair<std::string, int>(name, ++calls[name]);
   const bool closes = handles == Handles::kCloses;
-  // calls.txt omits C runtime functions, whose names begin with a lower-case letter or "_".
+  // calls.txt also omits C runtime functions. Their names begin with a lower-case letter or "_".
   const bool isShown = std::isupper(*name) != 0 && !closes && handles != Handles::kLeftOut;
   const std::string call = isShown ? ShownCall(name, given...) : "";
   if (call.find_first_of("123456789'") != std::string::npos) {
