@@ -70,7 +70,7 @@ cxxopts::Options MakeParser() {
   parser.add_options()  //
       ("publisher", "check TrustedPublisher for FILE's certificate", text(), "FILE")(
           "intermediate", "check the store CA for FILE's certificate", text(), "FILE")(
-          "inf", "check the driver store for FILE's package", text(), "FILE")(
+          "inf", "check the published INF files for a copy of FILE", text(), "FILE")(
           "application", "check the list of applications for this name", text(), "NAME")(
           "service", "check for the Bluetooth device of the service")(
           "json", "write one JSON object in ASCII")("help", "show this text")(

@@ -49,7 +49,7 @@ call :ask inf "%here%%inf%"
 if not "%state%"=="absent" set "code=1603"
 
 :end
-if "%uninstalled%"=="1603" set "code=1603"
+if not "%uninstalled%"=="0" if not "%uninstalled%"=="3010" set "code=1603"
 if exist "%answer%" del /f /q "%answer%"
 >>"%log%" echo === remove_all.cmd ends with %code%
 exit /b %code%

@@ -169,7 +169,7 @@ Section
   StrCpy $0 1603
   StrCpy $1 "A file or a registry value could not be written. The folder is $INSTDIR."
   ${IfNot} ${Errors}
-    StrCpy $1 "The hands-free service could not be prepared. The log has the reason: ${LOG}"
+    StrCpy $1 "The hands-free service could not be prepared. See the log: ${LOG}"
     !insertmacro RunSorrel 'install "$INSTDIR\${INF}" "$INSTDIR\${PUBLISHER}" "$INSTDIR\${INTERMEDIATE}" "${APPLICATION}"'
   ${EndIf}
   ; Compares $0 as a string, not as a number: if nsExec cannot start cmd.exe, $0 is "error".

@@ -13,8 +13,8 @@ namespace kelvo {
 namespace {
 
 // The part of the process environment block (PEB) that ReadParameters reads. As documented in
-// process_command_line.h, the pointer to the process parameters is read from offset 0x18. A 64-bit
-// PEB usually has that pointer at offset 0x20.
+// process_command_line.h, the pointer to the process parameters is read from offset 0x18. In
+// a 64-bit PEB (winternl.h), that pointer is at offset 0x20.
 struct EnvironmentBlock {
   std::byte before[0x18];
   const void* parameters;

@@ -14,11 +14,11 @@ namespace kelvo {
 //   - The memory of the other process cannot be read (ReadProcessMemory). `buffer` may then contain
 //     a part of the command line.
 //
-// NtQueryInformationProcess returns the address of the process environment block (PEB). From offset
-// 0x18 of the PEB, GetProcessCommandLine reads the pointer to the process parameters, which contain
-// the command line. However, a 64-bit PEB usually has that pointer at offset 0x20.
-// GetProcessCommandLine then reads the wrong pointer, and any bytes that it copies are not the
-// command line.
+// NtQueryInformationProcess returns the address of the process environment block (PEB). A pointer
+// in the PEB leads to the process parameters, which contain the command line. GetProcessCommandLine
+// reads this pointer from offset 0x18, but in a 64-bit PEB (winternl.h) it is at offset 0x20.
+// Therefore, any bytes that GetProcessCommandLine copies from a 64-bit process are not the command
+// line.
 DWORD GetProcessCommandLine(HANDLE process, void* buffer, DWORD bufferBytes);
 
 }  // namespace kelvo
