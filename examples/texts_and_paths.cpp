@@ -32,8 +32,8 @@ extern "C" int wmain(int /*count*/, wchar_t** /*arguments*/) {
     Print("item:        ", items.NextToken());
   }
   Print("as bytes:    ", kelvo::BytesToHex(list.c_str(), 4 * sizeof(wchar_t)));
-  Print("long path:   ", kelvo::AddLongPathPrefix(L"C:\\setup/../data"));
-  Print("short path:  ", kelvo::RemoveLongPathPrefix(L"\\\\?\\UNC\\server\\share"));
+  Print("with prefix: ", kelvo::AddLongPathPrefix(L"C:\\setup/../data"));
+  Print("no prefix:   ", kelvo::RemoveLongPathPrefix(L"\\\\?\\UNC\\server\\share"));
   const LCID locale = kelvo::FindLocaleId(L"de-ch");
   Print("locale:      ", kelvo::FindLocaleName(locale));
   Print("file path:   ",

@@ -17,8 +17,7 @@ namespace kelvo {
 // NtQueryInformationProcess returns the address of the process environment block (PEB). A pointer
 // in the PEB leads to the process parameters, which contain the command line. GetProcessCommandLine
 // reads this pointer from offset 0x18, but in a 64-bit PEB (winternl.h) it is at offset 0x20.
-// Therefore, any bytes that GetProcessCommandLine copies from a 64-bit process are not the command
-// line.
+// Therefore, any bytes that GetProcessCommandLine copies are not the command line.
 DWORD GetProcessCommandLine(HANDLE process, void* buffer, DWORD bufferBytes);
 
 }  // namespace kelvo

@@ -7,8 +7,9 @@
 
 namespace kelvo {
 
-// A string of UTF-16 code units, always followed by a NUL. Unlike std::wstring, it accepts a null
-// pointer, which counts as an empty string. The class has only the operations that this library
+// A string of UTF-16 code units, always followed by a NUL. Unlike with std::wstring, a null
+// pointer converts to an empty string. (It does not convert to a std::wstring_view, which append,
+// find and rfind take.) The class has only the operations that this library
 // needs. For other operations, use std::wstring_view. With libstdc++, a string of up to seven units
 // is stored in the object itself. Positions and counts are in units. Operations behave as in
 // std::wstring:

@@ -12,7 +12,7 @@ TEST_CASE("RegistryCanWrite: tries to write only in an elevated process or befor
   const DWORD rows[][5] = {
       {5, 0, 1, 0, 1}, {5, 0, 0, 1, 1}, {6, 1, 1, 0, 1}, {6, 1, 0, 1, 1}, {6, 0, 1, 1, 0}};
   for (const auto& [major, elevated, isWritable, answer, tries] : rows) {
-    INFO("Windows ", major, ", elevated ", elevated, ", writable ", isWritable);
+    INFO("NT ", major, ", elevated ", elevated, ", writable ", isWritable);
     const StandInKey user(kRoot);
     DWORD tried = 0;
     const auto windows = PretendWindows(2, major, 0);
@@ -53,7 +53,7 @@ TEST_CASE("RegistryDeleteKeyTree: deletes a key and its subkeys, with or without
   }
 }
 
-TEST_CASE("RegistryDeleteKeyTree: deletes a very deep tree without recursion") {
+TEST_CASE("RegistryDeleteKeyTree: deletes a very deep tree without overflowing the stack") {
   const StandInKey user(kRoot);
   const std::wstring path = L"key\\tree\\" + std::wstring(254, L'n');
   OwnedRegistryKey deepest;
