@@ -1,5 +1,5 @@
 // Demonstrates some of the library's functions for strings, long paths and locales. Prints each
-// result on its own line, in UTF-8.
+// result on its own line. Output to a file or a pipe is in UTF-8.
 
 #include <windows.h>
 

@@ -17,7 +17,7 @@ namespace kelvo {
 
 namespace {
 
-// The size limit for INF files. Real INF files are far smaller.
+// The size limit for INF files. Most INF files are far smaller.
 constexpr LONGLONG kMostBytes = LONGLONG{4} * 1024 * 1024;
 
 // Opens a file and gets its size. If `path` is the path of a named pipe, SECURITY_ANONYMOUS
@@ -171,8 +171,8 @@ Item QueryDriverPackage(const WString& infPath) {
   }
   WString provider;
   WString driverVersion;
-  // Reads the file `infPath` and not the published copy, because opening the copy could make
-  // Windows write a .pnf file next to the copy.
+  // Reads the file `infPath` and not the published copy: if SetupOpenInfFileW opened the copy,
+  // Windows could write a .pnf file next to the copy.
   error = ReadVersion(infPath, provider, driverVersion);
   Item item{kKind,
             State::kPresent,

@@ -136,8 +136,8 @@ DWORD QueryServiceDevice(bool& isThere) {
   HDEVINFO const devices =
       functions.getDevices(nullptr, L"BTHENUM", nullptr, DIGCF_ALLCLASSES | DIGCF_PRESENT);
   if (devices == INVALID_HANDLE_VALUE) {
-    // ERROR_INVALID_DATA means that no Bluetooth bus was ever enumerated on this computer. There is
-    // then no device, which is not an error.
+    // ERROR_INVALID_DATA means that the enumerator BTHENUM has never reported a device on this
+    // computer. There is then no device, which is not an error.
     const DWORD error = GetLastError();
     return error == ERROR_INVALID_DATA ? ERROR_SUCCESS : error;
   }

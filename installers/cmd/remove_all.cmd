@@ -13,8 +13,8 @@ rem If the path of this folder has a percent sign or a caret, "call" changes the
 if not defined product exit /b 1603
 set "log=%SystemRoot%\Logs\sorrel_%application%.log"
 set "answer=%log%.answer"
-rem If a 32-bit program starts this script, Windows redirects System32 to a folder without pnputil. Sysnative then leads
-rem to the real System32.
+rem If a 32-bit program starts this script on 64-bit Windows, System32 is redirected to a folder without pnputil.
+rem Sysnative then leads to the real System32.
 set "system=%SystemRoot%\System32"
 if exist "%SystemRoot%\Sysnative\cmd.exe" set "system=%SystemRoot%\Sysnative"
 set "code=1603"

@@ -24,8 +24,8 @@ namespace kelvo {
 //     SeAssignPrimaryTokenPrivilege for the copied token and this process does not hold that
 //     privilege.
 //   - The new process and its thread get a null DACL, which gives everyone full access to them. If
-//     SYSTEM calls this function, every user of the computer can thus control a process that has
-//     SYSTEM's rights.
+//     SYSTEM calls this function, every user of the computer can thus control a process that runs
+//     as SYSTEM.
 //   - Begin the command line with a full path in quotation marks. Without the quotation marks,
 //     Windows tries "C:\Program.exe" before "C:\Program Files\...".
 //   - The following privileges, if this process holds them, are enabled and stay enabled until this

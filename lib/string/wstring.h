@@ -7,12 +7,11 @@
 
 namespace kelvo {
 
-// A string of UTF-16 code units, always followed by a NUL. Unlike with std::wstring, a null
-// pointer converts to an empty string. (It does not convert to a std::wstring_view, which append,
-// find and rfind take.) The class has only the operations that this library
-// needs. For other operations, use std::wstring_view. With libstdc++, a string of up to seven units
-// is stored in the object itself. Positions and counts are in units. Operations behave as in
-// std::wstring:
+// A string of UTF-16 code units, always followed by a NUL. Unlike with std::wstring, a null pointer
+// converts to an empty string. Do not pass a null pointer to append, find or rfind: they take a
+// std::wstring_view. The class has only the operations that this library needs. For other
+// operations, use std::wstring_view. With libstdc++, a string of up to seven units is stored in the
+// object itself. Positions and counts are in units. Operations behave as in std::wstring:
 //   - In assign, erase and substr, a start position past the end throws std::out_of_range. With
 //     every standard library, the message is "invalid string position".
 //   - Growth beyond max_size() throws std::length_error. In the constructor that takes a view, the

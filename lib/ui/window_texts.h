@@ -12,8 +12,8 @@ namespace kelvo {
 // If a window's text has at most 1,022 characters, the rewritten text is cut off after 1,022
 // characters. A longer text is cut off after 1,023 characters, and nothing in it is replaced.
 //
-// Do not pass a window of another process: its labels and buttons would lose their texts, because
-// Windows does not let this process read the texts of another process's controls.
+// Do not pass a window of another process. GetWindowTextW and SetWindowTextW do not support the
+// controls of another process, so the window's labels and buttons could lose their texts.
 //
 // Returns the result of EnumChildWindows.
 BOOL RewriteWindowTexts(HWND window);

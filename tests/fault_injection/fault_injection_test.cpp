@@ -174,7 +174,7 @@ struct Machine : ProgramFolder {
       text += subjects.empty() ? "" : Ascii(store + (L": " + subjects)) + "\n";
     }
     reached = LinesOf(text);
-    // Sorts open handles by the function that opened them, because the order of handles varies.
+    // Sorts open handles and unfreed memory by function name, because their order varies.
     std::multiset<std::string> open;
     for (const auto& [handle, functions] : interception.open) {
       open.insert("open " + functions.first);

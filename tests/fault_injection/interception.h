@@ -36,7 +36,7 @@ struct Interception {
   // The call that fails: the function, and which call of that function (1 is the first).
   std::pair<std::string, int> chosen;
   bool ends = false;  // the chosen call ends the thread instead of failing
-  // Open handles and unfreed memory, each with the function that opened it and those that close it.
+  // Open handles and unfreed memory, each with the function it came from and those that release it.
   std::map<const void*, std::pair<std::string, std::string_view>> open;
 };
 inline Interception interception;

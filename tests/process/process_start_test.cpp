@@ -43,7 +43,7 @@ TEST_CASE("RunAsUser, LaunchInUserSession: run programs on WinSta0; can wait and
        "open('WinSta0', 0, 393216) station open('Default', 0, 0, 393216) create free station "
        "desktop ",
        "close close "}};
-  // Opens a stand-in for WinSta0: all programs share WinSta0, and RunAsUser would change its DACL.
+  // Opens a stand-in: other programs use WinSta0 too, and RunAsUser would change WinSta0's DACL.
   REPLACE(OpenWindowStationW, [](auto original, auto name, auto... rest) {
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);

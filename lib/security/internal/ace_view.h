@@ -37,7 +37,7 @@ ACE_HEADER HeaderOfAce(const void* ace);
 
 // Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. Never
 // reads past these bytes, which must all be readable. An object ACE has other data at kSidOffset.
-// This function treats that data as a SID, which never equals the SID of an account.
+// This function treats that data as a SID. Such a SID never equals the SID of an account.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal
