@@ -16,7 +16,8 @@ macro(append array kind)
   list(APPEND ${array} "${object}")
 endmacro()
 
-# A packed file must contain neither a private key nor the path of the source folder (not even in debug information).
+# A packed file must contain neither a private key nor the path of a compiled or built file in the source folder (not
+# even in debug information).
 # Keys (*.key, *.pem) and files of the tests must not be packed: `secret_file` matches their paths.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")

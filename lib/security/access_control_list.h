@@ -4,27 +4,27 @@
 
 namespace kelvo {
 
-// These functions treat an ACL as unreadable when one of its ACEs extends past the end of the ACL.
+// These functions treat an ACL as malformed when one of its ACEs extends past the end of the ACL.
 // They trace each failure (lib/trace/trace_sink.h), unless an exception caused the failure.
 
 // Means "no index". When AddAce receives this value as the index, it appends the ACE.
 constexpr DWORD kNoAceIndex = MAXDWORD;
 
 // Returns the index of the last ACE that equals `ace` (EqualACE), or kNoAceIndex when there is none
-// or the ACL is unreadable.
+// or the ACL is malformed.
 DWORD FindACEInACL(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 
 // Appends all ACEs of `source`, in their order, to `destination`, which must be an initialized ACL
-// with enough room. Returns TRUE on success. Returns FALSE when either ACL is unreadable or AddAce
+// with enough room. Returns TRUE on success. Returns FALSE when either ACL is malformed or AddAce
 // fails, for example because an ACE does not fit. ACEs that were appended before the failure stay
-// in `destination`. However, when `source` is readable and has no ACEs, always returns TRUE, even
-// if `destination` is null or unreadable.
+// in `destination`. However, when `source` is well-formed and has no ACEs, always returns TRUE,
+// even if `destination` is null or malformed.
 BOOL CopyACL(ACL* destination, const ACL* source);
 
 // Returns the size in bytes of a new ACL that holds the ACEs of `acl` (which may be null), an allow
 // or deny ACE for each SID in `sids`, and the ACEs in `aces`. If `acl` is not null, the result
 // counts two ACL headers: the header of `acl` and the header of the new ACL. Either array may be
-// null when its count is 0. Returns 0 when `acl` is unreadable or a SID is invalid.
+// null when its count is 0. Returns 0 when `acl` is malformed or a SID is invalid.
 DWORD CalculateACLSize(const ACL* acl, const PSID* sids, DWORD sidCount,
                        const ACCESS_ALLOWED_ACE* const* aces, DWORD aceCount);
 

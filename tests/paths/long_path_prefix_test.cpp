@@ -2,7 +2,7 @@
 
 #include "tests/support/testing.h"
 
-TEST_CASE("AddLongPathPrefix, RemoveLongPathPrefix: convert fully qualified paths both ways") {
+TEST_CASE("AddLongPathPrefix, RemoveLongPathPrefix: convert some paths, return others unchanged") {
   const wchar_t* const rows[][3] = {
       {nullptr, L"", L""},
       {L"Z:\\x", L"\\\\?\\Z:\\x", L"Z:\\x"},
