@@ -12,9 +12,9 @@ namespace kelvo {
 
 namespace {
 
-// The part of the process environment block (PEB) that ReadParameters reads. As documented in
-// process_command_line.h, the pointer to the process parameters is read from offset 0x18. In
-// a 64-bit PEB (winternl.h), that pointer is at offset 0x20.
+// The part of the process environment block (PEB) that ReadParameters reads. The pointer to the
+// process parameters is read from offset 0x18, although a 64-bit PEB (winternl.h) has it at offset
+// 0x20: see process_command_line.h.
 struct EnvironmentBlock {
   std::byte before[0x18];
   const void* parameters;

@@ -136,7 +136,8 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
 }
 
 // Writes the version line to `text`, which must be empty. When an exception ends this function
-// while a registry key is open, `key` owns that registry key.
+// while a registry key is open, `key` owns that registry key, unless AppendProductType has released
+// it.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);

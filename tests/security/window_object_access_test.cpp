@@ -39,7 +39,7 @@ TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: add one explicit ACE to a 
   CHECK(ReadDacl(scope.desktop) == L"none");
 }
 
-TEST_CASE("AllowAccessToDesktop: uses the heap for ACLs of more than 1,008 bytes") {
+TEST_CASE("AllowAccessToDesktop: uses the heap if CalculateACLSize is above 1,008") {
   const WindowObjects scope;
   int allocated = 0, freed = 0;
   COUNT_CALLS(HeapAlloc, allocated);
