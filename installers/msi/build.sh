@@ -2,6 +2,7 @@
 # build.sh FOLDER OUTPUT.msi [NAME=VALUE...]   makes a package from brindle.wxs. NAME=VALUE replaces a setting below.
 # FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver package and the certificates.
 set -euo pipefail
+[ $# -ge 2 ] || { sed -n '1d;/^#/!q;s/^# \{0,1\}//p' "$0" >&2; exit 2; }
 # In the POSIX locale, wixl stops at the first letter that is not ASCII.
 export LC_ALL=C.UTF-8 CHARSET=UTF-8
 

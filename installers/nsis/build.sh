@@ -3,6 +3,7 @@
 # of setup.nsi; -OPTION is an option of makensis. FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver
 # package and the certificates.
 set -euo pipefail
+[ $# -ge 2 ] || { sed -n '1d;/^#/!q;s/^# \{0,1\}//p' "$0" >&2; exit 2; }
 # In the POSIX locale, makensis fails if an argument contains a character that is not ASCII.
 export LC_ALL=C.UTF-8
 files=$(realpath "$1")
