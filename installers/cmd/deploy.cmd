@@ -15,7 +15,7 @@ if not defined product exit /b 1603
 rem Prefers ProgramW6432: if a 32-bit program starts this script, ProgramFiles is the folder for 32-bit programs.
 if not defined ProgramW6432 set "ProgramW6432=%ProgramFiles%"
 set "folder=%ProgramW6432%\%product%"
-set files=sorrel.exe sorrel_status.exe run_sorrel.cmd remove_all.cmd deploy.cmd product.cmd "%inf%" "%publisher%" "%intermediate%"
+set files=sorrel.exe sorrel_status.exe run_sorrel.cmd remove_all.cmd deploy.cmd "%inf%" "%publisher%" "%intermediate%"
 set "shell=%SystemRoot%\System32\cmd.exe"
 set "code=0"
 if "%~1"=="remove" goto remove
@@ -43,14 +43,19 @@ rem The carets escape the outer quotation marks, so that only the inner quotatio
 rem a "&" in the folder's name would be outside the quotation marks and would split the command.
 if "%code%"=="0" "%shell%" /d /s /c ^""%here%run_sorrel.cmd" install "%here%%inf%" "%here%%publisher%" "%here%%intermediate%" "%application%"^"
 if "%code%"=="0" set "code=%errorlevel%"
+if "%code%"=="1603" goto undo
+rem Copies product.cmd last: its version shows a detection rule which version was installed successfully.
+if /i not "%here%"=="%folder%\" call :lay product.cmd
 if not "%code%"=="1603" exit /b %code%
+
+:undo
 if not defined first exit /b %code%
 
 :remove
 "%shell%" /d /s /c ^""%here%run_sorrel.cmd" uninstall none "%application%"^"
 if "%code%"=="0" set "code=%errorlevel%"
 if /i "%here%"=="%folder%\" exit /b %code%
-for %%F in (%files%) do if exist "%folder%\%%~F" del /f /q "%folder%\%%~F"
+for %%F in (product.cmd %files%) do if exist "%folder%\%%~F" del /f /q "%folder%\%%~F"
 rd "%folder%" 2>nul
 exit /b %code%
 

@@ -2,6 +2,9 @@ rem Change these settings for your product. The other batch files in this folder
 
 rem The product's name, which is also the name of its folder below Program Files.
 set "product=Brindle"
+rem The product's version. Only detection rules read it: the version in the product's folder is the one that deploy.cmd
+rem last installed successfully.
+set "version=1.0.0"
 rem The application's name, under which sorrel.exe records the product on the list of applications that use the
 rem hands-free service. This name must be the same for all versions of the product. It must neither contain nor be part
 rem of another application's name.

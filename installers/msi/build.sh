@@ -45,8 +45,11 @@ for name in "${!setting[@]}"; do
   [[ $value != *[\"\'\$%\;\&\<\>\|^\!/\\[{}]* && $value != *]* ]] || refuse "$name=$value: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\ [ ] { }"
   iconv -f UTF-8 -t CP1252 <<<"$value" >/dev/null 2>&1 || refuse "$name=$value: wixl writes no characters outside of code page 1252."
   [[ $name != RADIO_OFF || $value =~ ^(fails|spared)$ ]] || refuse "$name=$value: RADIO_OFF must be fails or spared."
-  [[ $name != VERSION || $value =~ ^[0-9]+\.[0-9]+\.[0-9]+$ ]] ||
-    refuse "$name=$value: VERSION must be three numbers, such as 1.2.3. Windows Installer ignores a fourth one."
+  if [[ $name == VERSION ]]; then
+    [[ $value =~ ^([0-9]{1,3})\.([0-9]{1,3})\.([0-9]{1,5})$ ]] &&
+      ((10#${BASH_REMATCH[1]} < 256 && 10#${BASH_REMATCH[2]} < 256 && 10#${BASH_REMATCH[3]} < 65536)) ||
+      refuse "$name=$value: VERSION must be three numbers, at most 255.255.65535. Windows Installer ignores a fourth one."
+  fi
   [[ $name != APPLICATION || $value != *[^\ -~]* ]] || refuse "$name=$value: the name must be ASCII."
   [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" ${value,,} "* ]] || refuse "$name is still the GUID of Brindle: make another with uuidgen."
   settings+=(-D "$name=$value")

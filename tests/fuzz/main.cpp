@@ -57,6 +57,6 @@ int main(int count, char** arguments) {
   if (count == 1) {
     return 0;
   }
-  std::cerr << "There is no such target.\n";
+  std::cerr << "No target has this name, or the number of arguments is not 3.\n";
   return 2;
 }

@@ -32,7 +32,9 @@ endif()
 
 # The build.sh scripts refuse these settings, because the setup would be faulty.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
-expect(2 "three numbers" ${msi} VERSION=1.0.0.1)
+foreach(version 1.0.0.1 1.256.0 1.0.65536)
+  expect(2 "at most 255.255.65535" ${msi} VERSION=${version})
+endforeach()
 foreach(changed UPGRADE_CODE COMPONENT)
   expect(2 "with uuidgen" ${msi} PRODUCT=Kite ${changed}=0b9e8a52-5a35-4c5c-8e5f-8b8ad9b5b0a1)
 endforeach()

@@ -165,10 +165,10 @@ static DWORD Run(std::wstring line) {
   return code;
 }
 
-// Returns the command line of the detection rule in administrators.md.
-static std::wstring Rule() {
+// Returns the command line of the detection rule in administrators.md that begins with `program`.
+static std::wstring Rule(const std::string& program) {
   const std::string page = ReadBytes(ProgramPath(L"installers\\good\\files\\administrators.md"));
-  const std::size_t start = page.find("\n\"%ProgramW6432%\\Brindle\\sorrel_status.exe\"") + 1;
+  const std::size_t start = page.find("\n" + program + " ") + 1;
   REQUIRE(start != 0);
   const std::string rule = page.substr(start, page.find('\n', start) - start);
   return Expand({rule.begin(), rule.end()});
@@ -196,7 +196,8 @@ static void PutInPlace(const ScratchFolder& scratch) {
     std::filesystem::copy_file(ProgramPath(source), file);
   }
   for (const auto& [name, value] :
-       {std::pair(L"RULE", Rule()),
+       {std::pair(L"RULE", Rule("\"%ProgramW6432%\\Brindle\\sorrel_status.exe\"")),
+        {L"VERSION_RULE", Rule("find")},
         {L"GOOD", installers + L"good"},
         {L"BAD", installers + L"bad"},
         {L"OTHER", installers + L"f\u00FCr andere"},
