@@ -1,8 +1,8 @@
 #pragma once
 
-// Declares those functions and types of difxapi.dll that sorrel.exe uses. The DLL is part of
-// Windows and installs drivers. Its header comes from the Windows Driver Kit; the Windows SDKs do
-// not have this header.
+// Declares those functions, types and constants of difxapi.dll that sorrel.exe uses. The DLL is
+// part of Windows and installs drivers. Its header comes from the Windows Driver Kit; the Windows
+// SDKs do not have this header.
 
 #include <windows.h>
 
@@ -26,6 +26,7 @@ struct INSTALLERINFO_W {
 };
 
 inline constexpr DWORD DRIVER_PACKAGE_SILENT = 0x00000002;
+inline constexpr DWORD ERROR_NO_DEVICE_ID = 0xE0000301;
 
 // Sets the callback for log events; null removes it.
 void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);

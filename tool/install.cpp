@@ -1,5 +1,7 @@
 #include "tool/install.h"
 
+#include <setupapi.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -19,17 +21,12 @@ struct DriverOutcome {
   const wchar_t* text;
 };
 
-// These codes are defined here because not every SDK declares all of them.
-constexpr DWORD kNoSuchDeviceInstance = 0xE000020B;
-constexpr DWORD kPackagePreinstalled = 0xE0000301;
-constexpr DWORD kPublisherNotTrusted = 0xE0000242;
-
 constexpr DriverOutcome kDriverOutcomes[] = {
     {ERROR_SUCCESS, L"INFO: Driver Install Success\n"},
-    {kNoSuchDeviceInstance, L"INFO: Driver preinstalled OK\n"},
-    {kPackagePreinstalled, L"INFO: Driver preinstalled OK\n"},
+    {ERROR_NO_SUCH_DEVINST, L"INFO: Driver preinstalled OK\n"},
+    {ERROR_NO_DEVICE_ID, L"INFO: Driver preinstalled OK\n"},
     {ERROR_NO_MORE_ITEMS, L"INFO: Driver is installed - No Update needed\n"},
-    {kPublisherNotTrusted, L"ERR: The drivers publisher is not trusted\n"},
+    {ERROR_AUTHENTICODE_TRUST_NOT_ESTABLISHED, L"ERR: The drivers publisher is not trusted\n"},
 };
 
 void ReportDriverFailure(DWORD code) {
