@@ -7,7 +7,7 @@
 //     starts a program as the user of the console session, or as the caller if that user's token
 //     is unavailable; waits until the program ends, and returns the program's exit code
 //   setup_helper ready PROGRAM MUTEX
-//     starts a program and waits, for at most ten seconds, until a mutex named MUTEX exists
+//     starts a program and waits, for at most ten seconds, until the mutex Global\MUTEX exists
 // "read", "grant" and "ready" return 0 for success and 1 for failure. "start" returns 1 if the
 // program cannot be started. For a wrong command line, the exit code is also 1.
 

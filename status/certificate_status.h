@@ -7,7 +7,8 @@
 
 namespace kelvo {
 
-// Both functions open the local machine's system store `storeName` read-only (CertOpenStore).
+// QueryCertificate and QueryStore open the local machine's system store `storeName` read-only
+// (CertOpenStore).
 
 // Reads the certificate in `file` (CryptQueryObject) and returns an item whose kind is `kind`. The
 // state is kPresent when the store contains this certificate (CertFindCertificateInStore with

@@ -137,7 +137,7 @@ DWORD QueryServiceDevice(bool& isThere) {
       functions.getDevices(nullptr, L"BTHENUM", nullptr, DIGCF_ALLCLASSES | DIGCF_PRESENT);
   if (devices == INVALID_HANDLE_VALUE) {
     // ERROR_INVALID_DATA means that the enumerator BTHENUM has never reported a device on this
-    // computer. There is then no device, which is not an error.
+    // computer. This is not an error: the service's device is absent.
     const DWORD error = GetLastError();
     return error == ERROR_INVALID_DATA ? ERROR_SUCCESS : error;
   }

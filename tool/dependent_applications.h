@@ -40,8 +40,8 @@ std::optional<WString> ListWithApplication(const WString& list, const wchar_t* n
 // keep their order, with one ";" between them. Returns an empty string when no item remains.
 WString ListWithoutApplication(const WString& list, const wchar_t* name);
 
-// Adds `name` to the list in the registry, unless the list already contains `name`, that is, unless
-// ListWithApplication returns nullopt. Always returns true, even when the write fails.
+// Adds `name` to the list in the registry. Leaves the list unchanged if it already contains `name`,
+// that is, if ListWithApplication returns nullopt. Always returns true, even when the write fails.
 bool AddDependentApplication(const wchar_t* name);
 
 // Removes `name` from the list in the registry. When no name remains, deletes the value and sets

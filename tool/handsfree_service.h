@@ -4,7 +4,8 @@
 
 namespace kelvo {
 
-// The service class GUID with which the hands-free service is registered with the Bluetooth stack.
+// The service class GUID of the hands-free service. RegisterHandsfreeService passes this GUID to
+// BluetoothSetLocalServiceInfo to register the service with the Bluetooth stack.
 inline constexpr GUID HandsfreeServiceClassGuid = {
     0x3ABB9028, 0xBEAE, 0x4BF1, {0xAC, 0xD7, 0x5C, 0xD7, 0xD5, 0xE4, 0xE0, 0xCA}};
 

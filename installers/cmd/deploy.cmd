@@ -31,9 +31,9 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before sorrel.exe runs, because a deployment system's detection rule compares the computer with the
-rem files in the product's folder. If sorrel.exe ran first, the old version's files would still be in the product's
-rem folder after a failed upgrade, and the rule could report success.
+rem Copies the files before sorrel.exe runs. A deployment system's detection rule checks whether the certificates and
+rem the driver package in the product's folder are installed. If sorrel.exe ran first and an upgrade failed, the folder
+rem would still hold the old version's files, and the rule could report success.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F

@@ -1,9 +1,9 @@
 @echo off
 rem remove_all.cmd   removes the application's name from the list of applications ("sorrel.exe uninstall"). If no name
 rem                  is left on the list, removes the two certificates with certutil.exe, and the driver package with
-rem                  pnputil.exe. Returns 1603 if "sorrel.exe uninstall" failed, if something that had to be removed is
-rem                  still present, or if that could not be checked. Otherwise returns 3010 if a restart is needed, or
-rem                  0 if no restart is needed.
+rem                  pnputil.exe. Returns 1603 if "sorrel.exe uninstall" failed, or if something that had to be removed
+rem                  is still present or could not be checked. Otherwise returns 3010 if a restart is needed, or 0 if
+rem                  no restart is needed.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"

@@ -91,7 +91,7 @@ add_action PrepareService 3077 service PrepareService 'NOT REMOVE="ALL"' 4003
 add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGRADINGPRODUCTCODE' 3400
 
 # Removes the application from the list when a first installation fails. Runs the copy of sorrel.exe in the package,
-# since the installed copy may be deleted by then. Type 3394 is a program in the package (2) that runs deferred (1024),
+# which does not depend on the installed files. Type 3394 is a program in the package (2) that runs deferred (1024),
 # only on rollback (256) and as SYSTEM (2048); errors are ignored (64). The program shows a console window that belongs
 # to SYSTEM. This is safe, because only an administrator can start a first installation.
 add_action UndoPrepareService 3394 sorrel "uninstall none \"${setting[APPLICATION]}\"" \

@@ -12,7 +12,7 @@ namespace kelvo {
 namespace {
 
 // The flags of the content types 1 to 13 (CERT_QUERY_CONTENT_FLAG_*). CERT_QUERY_CONTENT_FLAG_ALL
-// is not used, because it contains more types in newer versions of wincrypt.h.
+// is not used, because its value can differ between versions of wincrypt.h.
 constexpr DWORD kContentTypes = 0x3FFE;
 
 // The functions of crypt32.dll that this file calls. They are looked up at run time, so a program
@@ -61,8 +61,7 @@ DWORD AddFromFile(const Crypt32& crypt32, const wchar_t* file, BoundStore& syste
                           0, &encodingType, &contentType, &formatType, &store, nullptr,
                           &context) == FALSE) {
     const DWORD error = GetLastError();
-    // Leaves the system store open on purpose, as certificate_import.h says. Each call with an
-    // unreadable file therefore leaks one handle.
+    // Leaves the system store open on purpose, as certificate_import.h says.
     static_cast<void>(systemStore.release());  // NOLINT(bugprone-unused-return-value): stays open
     return error;
   }

@@ -14,9 +14,9 @@ namespace kelvo {
 //
 // On NT, the move is scheduled with MoveFileExW, which needs administrative rights. On Windows 9x,
 // an entry with the short forms of both paths (GetShortPathNameW) is written to the section
-// "Rename" of "WININIT.INI" in the Windows directory. If GetShortPathNameW fails for a path, for
-// example because the file does not exist, or if the short form has more than 254 characters, the
-// path is written unchanged.
+// "Rename" of "WININIT.INI" in the Windows directory. If GetShortPathNameW fails for a path, or if
+// the short form has more than 254 characters, the path is written unchanged. GetShortPathNameW
+// fails, for example, when the file does not exist.
 bool ScheduleFileReplace(const void* unused, const wchar_t* source, const wchar_t* target,
                          bool copyFirst);
 

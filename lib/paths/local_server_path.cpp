@@ -31,8 +31,9 @@ DWORD FindClassKey(const wchar_t* progId, WString& classKey) {
   return ERROR_SUCCESS;
 }
 
-// Calls RegOpenKeyExW instead of OpenRegistryKey, which would add RegistryAccessFlags to the
-// registry view of each attempt.
+// Tries both registry views for each subkey. Calls RegOpenKeyExW, because OpenRegistryKey would add
+// RegistryAccessFlags to `view`. These flags can already contain KEY_WOW64_64KEY or
+// KEY_WOW64_32KEY.
 LSTATUS OpenServerKey(const WString& classKey, OwnedRegistryKey& key) {
   LSTATUS status = ERROR_SUCCESS;
   for (const wchar_t* const server : {L"\\LocalServer32", L"\\LocalServer"}) {

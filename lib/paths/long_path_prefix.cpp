@@ -26,7 +26,7 @@ bool BeginsWithDrive(std::wstring_view path) {
          IsSeparator(path[2]);
 }
 
-// Returns true when `path` begins with a server name. `path` is the part of a path after "\\" or
+// Returns true when `path` begins with a server name. The callers have removed the leading "\\" or
 // "\\?\UNC\". "." and "?" are not server names, because paths that begin with "\\.\" or "\\?\" are
 // device paths.
 bool BeginsWithName(std::wstring_view path) {

@@ -25,9 +25,10 @@ struct ModuleTraits {
 //   const bool isKnown = getName != nullptr && getName(NameDisplay, name, &size) != FALSE;
 using OwnedModule = Owned<internal::ModuleTraits>;
 
-// Returns the function that `module` exports as `name` (GetProcAddress). Returns null when `module`
-// is null or has no such export. GetLastError then returns the error of GetProcAddress or, for a
-// null module, the error of the earlier call that failed to load or find the module.
+// Returns the function that `module` exports as `name` (GetProcAddress). If `module` has no such
+// export, returns null, and GetLastError returns the error of GetProcAddress. If `module` is null,
+// returns null and does not change the last error (GetLastError), for example the error of the call
+// that failed to load or find the module.
 template <typename Function>
 Function* FindFunction(HMODULE module, const char* name) {
   return module == nullptr

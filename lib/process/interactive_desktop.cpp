@@ -30,7 +30,7 @@ bool ReadDesktopNames(HWINSTA station, HDESK desktop, DesktopNames& names) {
 }
 
 BOOL IsOnInteractiveDesktop() {
-  // The variables are declared in this order so that the station is closed before the desktop.
+  // Declared in this order so that CloseWindowStation is called before CloseDesktop.
   internal::OwnedDesktop desktop;
   internal::OwnedWindowStation station;
   DesktopNames names;

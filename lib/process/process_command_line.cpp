@@ -34,8 +34,7 @@ static_assert(sizeof(ProcessParameters) == 240);
 static_assert(sizeof(PROCESS_BASIC_INFORMATION) == 48 &&
               offsetof(PROCESS_BASIC_INFORMATION, PebBaseAddress) == 8);
 
-// The address of NtQueryInformationProcess. Each call of GetProcessCommandLine looks up the address
-// again, unless the Windows version makes the call return early.
+// GetProcessCommandLine sets this address before each attempt to read the other process.
 decltype(&::NtQueryInformationProcess) queryProcess = nullptr;
 
 // Returns the number of bytes read, or 0 on failure.

@@ -4,15 +4,16 @@
 
 namespace kelvo {
 
-// Copies the command line of another process into `buffer`, as UTF-16 without a terminator, and
-// returns the number of bytes copied. The handle `process` needs the access rights
-// PROCESS_QUERY_INFORMATION and PROCESS_VM_READ. Returns 0 in these cases:
+// Tries to copy the command line of another process into `buffer`, as UTF-16 without a terminator.
+// This does not work: see the last paragraph. Returns the number of bytes copied. The handle
+// `process` needs the access rights PROCESS_QUERY_INFORMATION and PROCESS_VM_READ. Returns 0 in
+// these cases:
 //   - GetVersionExW fails, reports Windows 9x, or reports Windows 7 or later. GetProcessCommandLine
 //     then does not try to read the other process.
 //   - `bufferBytes` is less than the command line's length in bytes.
 //   - NtQueryInformationProcess (looked up at run time) is missing or fails.
 //   - The memory of the other process cannot be read (ReadProcessMemory). `buffer` may then contain
-//     a part of the command line.
+//     some bytes of that memory.
 //
 // NtQueryInformationProcess returns the address of the process environment block (PEB). A pointer
 // in the PEB leads to the process parameters, which contain the command line. GetProcessCommandLine

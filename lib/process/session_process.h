@@ -19,9 +19,9 @@ namespace kelvo {
 //     (lib/process/run_as_user.h) starts the program. Otherwise, CreateProcessW starts it.
 //   - The program inherits the caller's environment and current directory, but no handles. Do not
 //     keep secrets in the caller's environment, because the program can read them there.
-//   - A service must call QueryUserTokenOfSession before this function. If QueryUserTokenOfSession
-//     fails, the service must not call this function, because the program would run under the
-//     service's account.
+//   - Before a service calls LaunchInUserSession, it must call QueryUserTokenOfSession for the
+//     console session (GetActiveConsoleSessionId). If QueryUserTokenOfSession fails, the service
+//     must not call LaunchInUserSession, because the program would run under the service's account.
 //
 // With `wait`, returns only after the program has ended. When `processHandle` is not null,
 // `*processHandle` receives the process's handle, which the caller closes. On failure,

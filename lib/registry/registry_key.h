@@ -10,9 +10,8 @@ namespace kelvo {
 //   - `root` is an open key or a predefined key. `subkey` is the path of a key below `root`, with
 //     backslashes between the key names. `valueName` is a value's name; null or an empty string
 //     means the key's default value. All strings are NUL-terminated.
-//   - Every function that opens a key ORs RegistryAccessFlags (below) into the access mask. Only
-//     OpenRegistryKey and CreateRegistryKey leave a key open; every other function closes the keys
-//     that it opened.
+//   - Only OpenRegistryKey and CreateRegistryKey leave a key open; every other function closes the
+//     keys that it opened.
 //   - An LSTATUS is 0 on success. On failure, it is the Windows error code of the failed call,
 //     unless the function's comment names another number, such as -1.
 
@@ -38,12 +37,12 @@ using OwnedRegistryKey = Owned<internal::RegistryKeyTraits>;
 // or empty, opens `root` itself. On failure, `key` owns nothing.
 LSTATUS OpenRegistryKey(HKEY root, const wchar_t* subkey, REGSAM access, OwnedRegistryKey& key);
 
-// Opens a key for KEY_WRITE | RegistryAccessFlags (RegCreateKeyExW). If the key does not exist,
+// Opens a key with KEY_WRITE | RegistryAccessFlags (RegCreateKeyExW). If the key does not exist,
 // first creates it and all missing keys on its path (non-volatile, default security). `subkey` must
 // not be null. On failure, `key` owns nothing.
 LSTATUS CreateRegistryKey(HKEY root, const wchar_t* subkey, OwnedRegistryKey& key);
 
-// Returns true when the key can be opened for KEY_READ.
+// Returns true when the key can be opened with KEY_READ access.
 bool RegistryKeyExists(HKEY root, const wchar_t* subkey);
 
 }  // namespace kelvo

@@ -68,7 +68,7 @@ LSTATUS RegistryDeleteKeyTree(HKEY root, const wchar_t* parentPath, const wchar_
   }
   // `path` is the path of the current key. `parentLengths` has the lengths of the paths of its
   // ancestors, from `parentPath` down to the direct parent. The code uses a loop, because recursion
-  // could overflow the stack: other programs may have made the tree very deep.
+  // could overflow the stack when the tree is very deep.
   WString path = WString(parentPath) + L"\\" + keyName;
   std::vector<std::size_t> parentLengths{WString(parentPath).length()};
   while (!parentLengths.empty()) {

@@ -4,8 +4,7 @@
 
 namespace kelvo {
 
-// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and RegistryAccessFlags. When
-// one of these functions opens or creates a key, it ORs RegistryAccessFlags into the access mask.
+// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
 
 // Returns the number in a REG_DWORD value (RegQueryValueExW). Returns `defaultNumber` when the key
 // cannot be opened, or when the value is missing, has another type or has more than 4 bytes. When

@@ -46,8 +46,8 @@ std::size_t RegistryReadStoredString(HKEY root, const wchar_t* subkey, const wch
 // as a REG_EXPAND_SZ value. The following applies to both functions. The stored data includes the
 // NUL. If the key does not exist, the function creates it and all missing keys on its path. A null
 // `text` counts as empty. Returns ERROR_INVALID_PARAMETER when the size of the string in bytes does
-// not fit in a DWORD. Returns -1 when the key cannot be created or opened for KEY_WRITE. Otherwise,
-// returns the result of RegSetValueExW.
+// not fit in a DWORD. Returns -1 when the key cannot be created or opened with KEY_WRITE access.
+// Otherwise, returns the result of RegSetValueExW.
 LSTATUS RegistryWriteString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,
                             const wchar_t* text);
 LSTATUS RegistryWriteExpandString(HKEY root, const wchar_t* subkey, const wchar_t* valueName,

@@ -4,8 +4,7 @@
 
 namespace kelvo {
 
-// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and RegistryAccessFlags. When
-// one of these functions opens or creates a key, it ORs RegistryAccessFlags into the access mask.
+// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
 
 // Returns true when the key can be opened with KEY_READ and has the value `valueName`, of any type
 // (RegQueryValueExW).

@@ -16,10 +16,9 @@ namespace kelvo {
 using NameTextList = std::vector<std::pair<WString, WString>>;
 
 // Returns the name and the string of every REG_SZ, REG_EXPAND_SZ and REG_DWORD value of a key, in
-// the order of RegEnumValueW. Returns an empty list when the key cannot be opened for KEY_READ |
-// RegistryAccessFlags, or when RegQueryInfoKeyW fails. Skips a value whose name has more than
-// 16,382 characters or whose data has more than 32,766 bytes. The string of a value depends on its
-// type:
+// the order of RegEnumValueW. Returns an empty list when the key cannot be opened with KEY_READ
+// access, or when RegQueryInfoKeyW fails. Skips a value whose name has more than 16,382 characters
+// or whose data has more than 32,766 bytes. The string of a value depends on its type:
 //   - REG_SZ: the data up to its first NUL or, when there is no NUL, all the data. If the number of
 //     bytes is odd, the last byte becomes one more character.
 //   - REG_EXPAND_SZ: the string is read as for REG_SZ and then expanded with

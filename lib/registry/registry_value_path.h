@@ -12,7 +12,7 @@ namespace kelvo {
 // upper case and must not be abbreviated. Returns true when neither the key path nor the value name
 // is empty. Returns false in these cases:
 //   - The full path does not start with one of these roots and a backslash. Assigns nothing.
-//   - There is no backslash after the one that follows the root. Assigns only `root`.
+//   - The backslash after the root is the only backslash in the full path. Assigns only `root`.
 //   - The key path or the value name is empty. Assigns all three results.
 bool ParseRegistryValuePath(const WString& fullPath, HKEY& root, WString& keyPath,
                             WString& valueName);

@@ -30,7 +30,6 @@ DWORD FindInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace) {
     if (!internal::Check(presentRank.has_value(), L"GetACEInsertionIndex Bad Src Ace Type")) {
       return kNoAceIndex;
     }
-    // The new ACE is inserted before ACEs of equal rank, not after them.
     if (presentRank >= rank) {
       return index;
     }

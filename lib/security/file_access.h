@@ -12,7 +12,7 @@ namespace kelvo {
 //   - A file without a DACL gets a DACL that contains only the new ACE.
 //   - An auto-inherited DACL stays auto-inherited. A protected DACL that is not auto-inherited
 //     stays protected. A DACL that is both protected and auto-inherited ("D:PAI") loses its
-//     protection, and the file inherits ACEs from its parent folder.
+//     protection: the file can again inherit ACEs from its parent folder.
 //   - Symbolic links and junctions in `path` are followed: the DACL of the file to which `path`
 //     finally leads is changed. Therefore use a path that no other user can redirect to another
 //     file.

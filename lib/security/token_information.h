@@ -9,9 +9,10 @@ namespace kelvo {
 // handle needs TOKEN_QUERY or, for TokenSource, TOKEN_QUERY_SOURCE. When the token cannot be read
 // or memory runs out, traces the failure (lib/trace/trace_sink.h) and returns null.
 //
-// Also fails in this way for some classes whose data has a fixed size, such as TokenElevation. For
-// these classes, GetTokenInformation fails with an error other than ERROR_INSUFFICIENT_BUFFER when
-// it is asked for the size of the data. To query such a class, call GetTokenInformation yourself.
+// GetFromToken first asks GetTokenInformation for the size of the data. For some classes whose data
+// has a fixed size, such as TokenElevation, this first call of GetTokenInformation fails with an
+// error other than ERROR_INSUFFICIENT_BUFFER. Then GetFromToken also traces the failure and returns
+// null. To query such a class, call GetTokenInformation yourself.
 void* GetFromToken(HANDLE token, TOKEN_INFORMATION_CLASS kind);
 
 }  // namespace kelvo

@@ -11,8 +11,7 @@ namespace kelvo {
 
 namespace {
 
-// The first three names are listed twice. The TOKEN_PRIVILEGES that CreateTokenPriv makes from this
-// list therefore contains these three privileges twice.
+// The first three names are listed twice, as token_privileges.h says.
 constexpr const wchar_t* kBuiltInPrivileges[] = {
     L"SeCreateTokenPrivilege",
     L"SeAssignPrimaryTokenPrivilege",

@@ -5,10 +5,12 @@
 namespace kelvo {
 
 // Both functions grant `sid` access to a window station or a desktop: they add an explicit allow
-// ACE to the object's DACL, at the position that canonical order requires, and return TRUE. When
-// the DACL already has an equal ACE, or the object has no DACL, they return TRUE and change
-// nothing. The handle needs READ_CONTROL and WRITE_DAC. When the DACL cannot be read, rebuilt or
-// written, they trace the reason, return FALSE and leave the DACL unchanged.
+// ACE to the object's DACL and return TRUE. The ACE is inserted at the index that canonical order
+// requires (GetACEInsertionIndex in canonical_order.h). If GetACEInsertionIndex returns
+// kNoAceIndex, the ACE is appended. When the DACL already has an equal ACE, or the object has no
+// DACL, the functions return TRUE and change nothing. The handle needs READ_CONTROL and WRITE_DAC.
+// When the DACL cannot be read, when the ACE cannot be created, or when the new DACL cannot be
+// built or written, the functions trace the failure, return FALSE and leave the DACL unchanged.
 //
 // Both functions leak memory. Each call that can read the DACL allocates an ACE and never frees the
 // ACE. If the new DACL has more than 1,008 bytes, the memory of the new DACL is not freed either.

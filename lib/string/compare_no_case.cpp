@@ -51,8 +51,7 @@ bool AreCasesOfLetter(unsigned a, unsigned b) {
 template <typename Fold>
 std::int32_t Compare(const wchar_t* a, const wchar_t* b, bool foldsLetters, Fold fold) {
   const auto folded = [fold](wchar_t unit) { return unit == 0xFFFF ? unit : fold(unit); };
-  // Calls `fold` only when needed, to save time. Nearly always, the two units are equal or are the
-  // upper and lower case of one ASCII letter.
+  // The first two conditions only save time: they avoid most calls of `fold`.
   for (; *a == *b || (foldsLetters && AreCasesOfLetter(*a, *b)) || folded(*a) == folded(*b);
        ++a, ++b) {
     if (*a == L'\0') {

@@ -22,8 +22,7 @@ WString FormatTextV(const wchar_t* format, std::va_list arguments) {
   }
   const auto units = static_cast<std::size_t>(length);
   WString text(units, L'\0');
-  // The standard vswprintf is unsuitable. In mingw, this function expects a narrow string for "%s",
-  // and stops at the first UTF-16 code unit above U+00FF.
+  // The standard vswprintf is unsuitable: in mingw, it expects a narrow string for "%s".
   if (_vsnwprintf(text.data(), units, format, arguments) != length) {
     text.clear();
   }

@@ -26,15 +26,14 @@ class StringTokenizer {
   WString NextToken();
 
  private:
-  // Replaces each run of adjacent delimiters in `text_` with one delimiter. The constructor calls
-  // this if `collapse` is true and the delimiter is longer than one wchar_t. Occurrences of such a
-  // delimiter may overlap, as those of "aa" in "aaa" do. They are matched from left to right
-  // without overlap: "aaa" contains the delimiter "aa" once.
+  // Replaces each run of adjacent delimiters in `text_` with one delimiter. Called only by the
+  // constructor, when `collapse` is true and the delimiter is longer than one wchar_t. Delimiters
+  // are matched from left to right without overlap: "aaa" contains the delimiter "aa" once.
   void CollapseRuns();
 
-  // Moves `next_` past the run of delimiters that starts at `next_`, if any. If `collapse` is true
-  // and the delimiter is one wchar_t, the constructor calls this, and NextToken calls it after each
-  // item.
+  // Moves `next_` past the run of delimiters that starts at `next_`, if any. Called only when
+  // `collapse` is true and the delimiter is one wchar_t: by the constructor, and by NextToken after
+  // an item that ends at a delimiter.
   void SkipRun();
 
   WString text_;

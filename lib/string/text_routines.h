@@ -15,10 +15,10 @@ namespace kelvo {
 WString SubstringClamped(const WString& text, std::size_t start, std::size_t count = WString::npos);
 
 // Replaces every occurrence of `search` in `text` with `replacement`, from left to right without
-// overlap, and returns the number of replacements. Inserted text is not searched again. When
-// `search` is empty, replaces nothing and returns 0. `search` and `replacement` may point into
-// `text`. Throws std::length_error when the result would be too long. When ReplaceAll throws,
-// `text` is unchanged.
+// overlap, and returns the number of replacements. Inserted text is not searched. When `search`
+// is empty, replaces nothing and returns 0. `search` and `replacement` may point into `text`.
+// Throws std::length_error when the result would be too long. When ReplaceAll throws, `text` is
+// unchanged.
 std::size_t ReplaceAll(WString& text, const wchar_t* search, const wchar_t* replacement);
 
 // Returns the number of items that a StringTokenizer (lib/string/string_tokenizer.h) with the same

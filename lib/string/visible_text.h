@@ -10,7 +10,7 @@ namespace kelvo {
 //   - characters that would change what a terminal does or shows: control characters, line and
 //     paragraph separators, bidirectional formatting characters and the byte order mark
 //   - unpaired surrogates, which UTF-8 cannot express
-// Throws std::length_error when the text with these codes is too long for ToUtf8
+// Throws std::length_error when the text, with these codes in it, is too long for ToUtf8
 // (lib/string/utf8.h).
 std::string ToVisibleUtf8(std::wstring_view text);
 

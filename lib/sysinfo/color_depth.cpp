@@ -6,7 +6,7 @@ namespace kelvo {
 
 namespace {
 
-// Slightly less than the number of colors with 32 bits per pixel (2 to the power of 32).
+// Slightly less than 2 to the power of 32, the number of colors at 32 bits per pixel.
 constexpr double kMinFullColors = 4294697000.0;
 constexpr double kMaxLowColors = 65536.0;
 

@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// Returns the value of the string "FileVersion" in the first translation of a file's version
+// Returns the value of the string "FileVersion" for the first translation in a file's version
 // resource (GetFileVersionInfoW, VerQueryValueW). Returns an empty string for a null path, and
 // when there is no resource, no translation or no such string. A value that extends past the
 // resource is cut at the resource's end.

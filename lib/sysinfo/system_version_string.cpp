@@ -135,9 +135,9 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
   }
 }
 
-// Writes the version line to `text`, which must be empty. When an exception ends this function
-// while a registry key is open, `key` owns that registry key, unless AppendProductType has released
-// it.
+// Writes the version line to `text`, which must be empty. If an exception ends this function while
+// a registry key is open, `key` owns that registry key, and the caller should reset `key`. But a
+// registry key that AppendProductType has released stays open.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);

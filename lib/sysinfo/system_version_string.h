@@ -23,8 +23,9 @@ namespace kelvo {
 //     HKEY_LOCAL_MACHINE\SOFTWARE\Microsoft\Windows NT\CurrentVersion\Hotfix\Q246009 can be opened.
 //   - Both registry keys are opened with the access right KEY_QUERY_VALUE.
 //   - The line contains an error message when GetVersionExW fails, when the product type cannot be
-//     read, or when an exception ends a query. When any other query fails, or when Windows lacks
-//     the function that the query calls, only the result of that query is missing from the line.
+//     read, or when an exception ends a query. When any other query fails, the line lacks the
+//     result of that query and contains no error message. The same applies when Windows lacks
+//     GetProductInfo.
 //   - This function throws only when there is no memory for the error message about an exception.
 WString GetSystemVersionString();
 

@@ -20,7 +20,7 @@ WString GetAccountName();
 
 // Returns the user's name in a format such as NameSamCompatible ("DOMAIN\name"). The length of
 // the name is not limited. Calls GetUserNameExW of "secur32.dll". Loads this DLL without a path, so
-// the process's DLL search order decides which file is loaded. Unloads the DLL after the call.
+// the process's DLL search order decides which file is loaded. Calls FreeLibrary after the call.
 // Returns an empty string when `format` is NameUnknown, when the DLL does not load or lacks
 // GetUserNameExW, and when GetUserNameExW fails. For a local account, only NameSamCompatible
 // succeeds.
@@ -28,7 +28,7 @@ WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
 // Returns the first of these names that can be read, or an empty string when neither can be read:
 //   - The user principal name, such as "name@domain" (GetUserNameInFormat with NameUserPrincipal).
-//     A user outside a domain has none.
+//     A local account has none.
 //   - The account name (GetUserNameW), if it has at most 100 characters.
 WString GetUserNameFQ();
 

@@ -19,7 +19,7 @@ std::string WithCarriageReturns(std::string_view text) {
 }
 
 bool WriteToConsole(HANDLE console, const std::string& utf8) {
-  // 0x2000 UTF-16 code units are 16 KiB. Before Windows 10, WriteConsoleW fails when the text does
+  // 0x2000 UTF-16 code units are 16 KiB. Before Windows 8, WriteConsoleW fails when the text does
   // not fit into a heap of 64 KiB.
   constexpr std::size_t kMostUnits = 0x2000;
   // A text never has more code units in UTF-16 than bytes in UTF-8.

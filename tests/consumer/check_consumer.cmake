@@ -1,6 +1,6 @@
 # cmake -D source=... -D build=... -D toolchain=... -D compiler=... -D wine=... -P check_consumer.cmake
-# Builds the sample project in `source`. If check_installed.cmake has set `prefix`, the sample must find the library
-# that is installed there. Without `prefix`, the sample builds the library from this project's sources.
+# Builds and runs the sample project in `source`. If check_installed.cmake has set `prefix`, the sample must use the
+# library installed in `prefix`. Otherwise, the sample builds the library from this project's sources.
 
 if(prefix)
   set(library -D CMAKE_REQUIRE_FIND_PACKAGE_kelvo=ON

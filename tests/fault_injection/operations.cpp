@@ -44,7 +44,6 @@ using namespace kelvo;
 
 namespace {
 
-// When `run` throws, returns "an exception". In that case, sorrel.exe would end with exit code 3.
 template <typename Run>
 std::wstring Answer(Run run) {
   try {
@@ -114,6 +113,7 @@ WString WriteAndDelete() {
   return answers;
 }
 
+// An exception that leaves RunCommandLine would end sorrel.exe with exit code 3.
 #define COMMAND(list, ...)                                                                     \
   Operation {                                                                                  \
     #__VA_ARGS__, list, [] {                                                                   \
@@ -121,7 +121,7 @@ WString WriteAndDelete() {
       return Answer([&] { return Text(RunCommandLine(arguments.size(), arguments.data())); }); \
     }                                                                                          \
   }
-// Carries out a command line of sorrel_status.exe, which calls WriteFile once for the whole report.
+// sorrel_status.exe writes a whole report with one call to WriteFile.
 #define REPORT(...)                                                                               \
   Operation {                                                                                     \
     "sorrel_status " #__VA_ARGS__, L"kite", [] {                                                  \

@@ -2,9 +2,9 @@
 
 #include <string>
 
-// Runs a program's command line, or calls the library. In each run, the test makes at most one of
-// the operation's function calls fail. Before each run, it reloads fault_injection_operations.dll
-// to reset its state. This DLL exports the array "operations". The last element has a null `name`.
+// Runs a program's command line or calls the library. In each run, the test makes at most one of
+// the operation's calls fail. Before each run, the test reloads fault_injection_operations.dll to
+// reset the DLL's state. The DLL exports the array "operations". Its last element's `name` is null.
 struct Operation {
   const char* name;
   // The list of applications that the test stores in the registry before the operation runs.

@@ -3,9 +3,9 @@
 #include "tests/support/ascii.h"
 #include "tests/support/desktop_scope.h"
 
-// The first thread stores the names of its station and desktop, starts a second thread and ends.
-// The second thread waits for the event NAME (the first argument), writes the command line and the
-// stored names to a file next to the program, sets the event NAME_done and exits with code 7.
+// The first thread stores the names of the window station and desktop, starts the thread Work
+// and ends. Work waits for the event NAME (first argument), writes the command line and the names
+// to a file next to the program, sets the event NAME_done and ends the process with exit code 7.
 static std::wstring desktop;
 
 static DWORD WINAPI Work(void* arguments) {

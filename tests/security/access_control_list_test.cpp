@@ -37,7 +37,7 @@ TEST_CASE(
   CHECK(denying.acl->AceCount == 3);
 }
 
-TEST_CASE("GetACEInsertionIndex: finds the first ACE whose rank number is at least the new ACE's") {
+TEST_CASE("GetACEInsertionIndex: finds the first ACE with an equal or greater rank") {
   const TestAcl list({{.type = 1}, {}, {}, {.type = 5}, {.flags = INHERITED_ACE}});
   const std::tuple<BYTE, BYTE, DWORD> cases[] = {{1, 0, 0},    {6, 0, 1},    {0, 0, 1},
                                                  {5, 0x0F, 3}, {1, 0x10, 4}, {6, 0x10, 4},
@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: finds the first ACE whose rank number is at lea
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // A function that swallowed an access violation would not trace its own message "... Failed".
+  // If a function read past the end, it would swallow the exception and not trace "... Failed".
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

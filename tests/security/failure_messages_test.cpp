@@ -131,7 +131,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       }
     }
   }
-  // When no call fails, RunAsUser grants this process's user all rights on the interactive desktop.
+  // RunAsUser first grants this process's user all rights on the interactive desktop.
   WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
   RunAsUser(command, TRUE, nullptr);
   CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);

@@ -12,7 +12,7 @@ static TestAce localService;
 TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: add one explicit ACE to a DACL") {
   const WindowObjects scope;
   // In this DACL, canonical order puts the new ACE last. The results below therefore also hold on
-  // Wine, whose AddAce ignores the index and always appends.
+  // Wine, whose AddAce ignores the index and appends.
   const std::wstring before = L"D:(D;;CC;;;LS)(D;;CC;;;WD)";
   WriteDacl(scope.station, before);
   WriteDacl(scope.desktop, before);
@@ -39,7 +39,7 @@ TEST_CASE("AllowAccessToWinSta, AllowAccessToDesktop: add one explicit ACE to a 
   CHECK(ReadDacl(scope.desktop) == L"none");
 }
 
-TEST_CASE("AllowAccessToDesktop: uses the heap if CalculateACLSize is above 1,008") {
+TEST_CASE("AllowAccessToDesktop: uses the heap if CalculateACLSize returns over 1,008") {
   const WindowObjects scope;
   int allocated = 0, freed = 0;
   COUNT_CALLS(HeapAlloc, allocated);

@@ -6,7 +6,6 @@
 #include "tests/support/testing.h"
 
 TEST_CASE("CompareNoCase: in the C locale, folds only A to Z and the units from U+0100 up") {
-  // From U+0100 up, LCMapStringW folds the units to lower case.
   CHECK(CompareNoCase(L"Foo\u0100B", L"fOO\u0101") == L'b');
   CHECK(CompareNoCase(L"a", L"ab") == -L'b');
   CHECK(CompareNoCase(L"Z", L"[") == L'z' - L'[');

@@ -10,8 +10,8 @@
 
 namespace kelvo::test {
 
-// Returns the display names of all certificates' subjects in a local-machine system store, joined,
-// or an empty string if the store does not exist. Does not create the store.
+// Returns the display names of all certificates' subjects in a local-machine system store, joined.
+// If the store does not exist, returns L"" and does not create the store.
 inline std::wstring SubjectsInStore(const wchar_t* name) {
   HCERTSTORE store =
       CertOpenStore(CERT_STORE_PROV_SYSTEM_W, 0, 0,

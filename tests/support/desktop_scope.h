@@ -26,8 +26,8 @@ struct DesktopScope {
     }
   }
   // Uses a new desktop, which Wine opens on this process's X11 display. The initial desktop uses
-  // the display of the Wine prefix's first process, if that process had one. A process's first
-  // window fixes the process's display, so create this object before any window.
+  // the display of the Wine prefix's first process, if that process had one. A process keeps the
+  // display of its first window, so create this object before any window.
   DesktopScope()
       : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}
   DesktopScope(const DesktopScope&) = delete;

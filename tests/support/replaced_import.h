@@ -84,7 +84,7 @@ struct ReplacedImport<Result(Parameters...), Replacement> {
                                parameters...);
   }
 
-  // Each lambda has a different type, so each replacement has a separate `active`.
+  // Each lambda has its own type, and so its own `active`.
   static inline ReplacedImport* active = nullptr;
   const char* function;
   Replacement replacement;

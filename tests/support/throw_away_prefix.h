@@ -7,8 +7,8 @@
 namespace kelvo::test {
 
 // Ends this program unless it runs in a throw-away Wine prefix, which scripts/wine marks with a
-// file. Tests that change HKEY_LOCAL_MACHINE, a certificate store, the Windows folder or WinSta0
-// call this function first, in case somebody starts the test program on a real computer.
+// file. Tests that change HKEY_LOCAL_MACHINE, a certificate store or the Windows folder call
+// this function first, in case somebody starts the test program on a real computer.
 inline void RequireThrowAwayPrefix() {
   static const bool isThrownAway =
       GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr &&

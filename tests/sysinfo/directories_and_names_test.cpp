@@ -12,7 +12,7 @@ static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
 }
 
 // Stores simulatedText, but replaces its first character with the digit of `format`. For
-// ComputerNameDnsHostname, sets `size` to 2: code that reads another format with this size fails.
+// ComputerNameDnsHostname, sets `size` to 2: too small for a longer name in another format.
 static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
   const std::size_t length = format == ComputerNameDnsHostname ? 1 : simulatedText.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));

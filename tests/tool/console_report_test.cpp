@@ -6,7 +6,7 @@
 TEST_CASE("FormatSystemMessage: returns the message, or an empty string if FormatMessageW fails") {
   DWORD answer = 0;
   REPLACE(FormatMessageW, [&](auto, auto, auto, auto, auto, LPWSTR buffer, auto, auto) {
-    // Even a call that fails (returns 0) leaves text in the buffer.
+    // Leaves text in the buffer even when it fails (returns 0).
     lstrcpyW(buffer, L"half a text");
     return answer;
   });

@@ -3,7 +3,7 @@
 #include "tests/support/testing.h"
 #include "tool/driver_interface.h"
 
-TEST_CASE("NarrowLibrarySearch: only program and system folders; on failure, all but the current") {
+TEST_CASE("NarrowLibrarySearch: only program and system folders, or at least not the current one") {
   static DWORD directories;
   static BOOL isSupported;
   const auto set = +[](DWORD given) { return directories = given, isSupported; };

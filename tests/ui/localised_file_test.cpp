@@ -38,8 +38,8 @@ TEST_CASE("FindLocalisedFile: finds the file for the language, or for the neares
   CHECK(GetLocalisedFilePath(nullptr, L"a", 0x0407, kSuffix) == L"a_de-DE");
   CHECK(GetLocalisedFilePath(L"C:\\x", L"a", 0xFFFF, kSuffix) == L"");
   CHECK(GetLocalisedFilePath(L"C:\\x", nullptr, 0x0407, kSuffix) == L"");
-  // Each step creates a file, or only a folder if the path ends in a backslash. The second column
-  // is the file then found for German (Germany) in the form (folder or suffix) of the step's path.
+  // Each step creates a file, or only a folder if its path ends in a backslash. The second column
+  // is the file then found for German (Germany) and the path's form (kFolder or kSuffix).
   const wchar_t* const steps[][2] = {
       {L"\u00E9_old.x", L""},
       {L"\u00E9_de-DE.x\\", L""},
@@ -54,7 +54,7 @@ TEST_CASE("FindLocalisedFile: finds the file for the language, or for the neares
       {L"resources\\en-US\\\u00E9.x", L"resources\\en-US\\\u00E9.x"},
       {L"resources\\de-CH\\\u00E9.x", L"resources\\de-CH\\\u00E9.x"},
       {L"resources\\de-DE\\\u00E9.x", L"resources\\de-DE\\\u00E9.x"}};
-  // Simulates Windows 10, where "en-DE" and "old" have no LCID, and a German user (0x0400).
+  // As on Windows 10, "en-DE" and "old" have no LCID. The user's language (0x0400) is German.
   const auto getNumber = +[](LPCWSTR name, LCTYPE type, LPWSTR number, int size) {
     const bool hasNone = name == std::wstring(L"en-DE") || name == std::wstring(L"old");
     *reinterpret_cast<DWORD*>(number) = LOCALE_CUSTOM_UNSPECIFIED;

@@ -56,7 +56,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only the texts of the window, its labels
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
-  // Each substitution is applied once, in the order of the keys, to the previous one's result.
+  // Each key applies once, in sorted order: "a kelvo! b", "b kelvo! b", "c kelvo! c", "c ab c".
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},
@@ -84,7 +84,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only the texts of the window, its labels
 }
 
 TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw only after the enumeration") {
-  // Throws once while malloc works: for its first exception, the C++ runtime allocates memory.
+  // Throws while malloc works, because the C++ runtime allocates memory for its first exception.
   CHECK_THROWS(throw 1);
   bool hasMemory = true, isThrown = false;
   REPLACE(malloc,
@@ -159,7 +159,7 @@ TEST_CASE("WriteUtf8: writes a long text to a console in pieces, and splits no s
             seen.append(static_cast<const wchar_t*>(text), length);
             CHECK_FALSE(IS_HIGH_SURROGATE(seen.back()));
             *done = length;
-            // Before Windows 10, WriteConsoleW fails for 0x8000 or more UTF-16 code units.
+            // Before Windows 8, WriteConsoleW fails for 64 KiB (0x8000 units) or more.
             return length < 0x8000;
           });
   std::wstring expected = L"a";

@@ -5,8 +5,7 @@ extern "C" {
 #endif
 
 // Calls run(context) in a __try block. Returns 1 when `run` returns, and 0 when a structured
-// exception leaves `run`. `run` must catch all C++ exceptions, because a C++ exception must not
-// propagate into the __try block.
+// exception leaves `run`. `run` must catch all C++ exceptions.
 int RunUnderStructuredGuard(void (*run)(void* context), void* context);
 
 #ifdef __cplusplus

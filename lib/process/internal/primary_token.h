@@ -9,11 +9,11 @@ namespace kelvo::internal {
 // the duplication fails, returns `token` itself. When `token` is null, returns null.
 OwnedKernelObject DuplicateAsPrimary(OwnedKernelObject token);
 
-// Enables, in this process's token, the privileges that help to start a process with another token.
-// Calls EnablePrivilege (lib/security/process_privilege.h), which does not fail for a privilege
-// that the token does not hold. When EnablePrivilege fails for SeTakeOwnershipPrivilege, traces the
-// failure (lib/trace/trace_sink.h) and returns false. Otherwise returns true: a failure for any
-// other privilege is ignored.
+// Enables, in this process's token, the privileges that lib/process/run_as_user.h lists. Calls
+// EnablePrivilege (lib/security/process_privilege.h), which does not fail for a privilege that the
+// token does not hold. When EnablePrivilege fails for SeTakeOwnershipPrivilege, traces the failure
+// (lib/trace/trace_sink.h) and returns false. Otherwise returns true: a failure for any other
+// privilege is ignored.
 bool EnableStartPrivileges();
 
 }  // namespace kelvo::internal

@@ -8,8 +8,8 @@ namespace kelvo::internal {
 
 // ACLs may come from other processes or from disk, and Windows' own functions trust the sizes that
 // an ACL contains. AreAcesInsideAcl and QueryAclSize check these sizes, and return false for a
-// malformed ACL. They read the ACL's header, which must be readable, and never read an ACE past the
-// AclSize bytes of the ACL.
+// malformed ACL. The ACL's header must be readable. Apart from the header, these two functions read
+// nothing beyond the AclSize bytes of the ACL.
 //
 // Every type of ACE is read with the layout of ACCESS_ALLOWED_ACE: header, mask, SID. An ACE may be
 // at any address, even an unaligned one, because the ACE before it may have any size.

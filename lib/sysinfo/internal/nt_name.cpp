@@ -65,8 +65,8 @@ void AppendNt6Name(const OSVERSIONINFOEXW& version, WORD architecture, WString& 
   AppendArchitecture(architecture, text);
 }
 
-// Also returns a name of Windows Server 2003 when the system is a 64-bit Windows XP with the
-// version number 5.2, such as Windows XP Professional x64 Edition.
+// A 64-bit Windows XP with the version number 5.2, such as Windows XP Professional x64 Edition,
+// also gets one of these names of Windows Server 2003.
 const wchar_t* Server2003Name(const OSVERSIONINFOEXW& version) {
   if (GetSystemMetrics(SM_SERVERR2) != 0) {
     return L"Microsoft Windows Server 2003 R2 ";
