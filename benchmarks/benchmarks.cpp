@@ -131,7 +131,7 @@ std::function<std::size_t()> WalkOwnInput(const std::wstring& list, bool collaps
 }
 
 void MeasureSplitting(const std::wstring& list) {
-  Measure("split 100,000 items with collapse (goal: bare loop at least 0.67, Boost lines above 1)",
+  Measure("split 100,000 items with collapse (goal: bare loop at least 0.67, boost::* above 1)",
           {{"StringTokenizer", WalkOwnInput(list, true)},
            {"find and substr in a bare loop", [&] { return BareLoop(list, true); }},
            {"views::split into std::wstring",
@@ -204,7 +204,7 @@ void MeasureReplacing(const std::wstring& text) {
   std::wstring buffer = text;
   buffer.resize(text.length() * 2);
   Measure(
-      "replace 50,000 matches (goal: Boost lines above 1)",
+      "replace 50,000 matches (goal: boost::* above 1)",
       {{"ReplaceAll",
         WithOwnInput(WString(text),
                      [](WString& own) { return kelvo::ReplaceAll(own, L"kite", L"heron"); })},

@@ -43,8 +43,10 @@ rem The carets escape the outer quotation marks, so that only the inner quotatio
 rem a "&" in the folder's name would be outside the quotation marks and would split the command.
 if "%code%"=="0" "%shell%" /d /s /c ^""%here%run_sorrel.cmd" install "%here%%inf%" "%here%%publisher%" "%here%%intermediate%" "%application%"^"
 if "%code%"=="0" set "code=%errorlevel%"
+if not "%code%"=="0" if not "%code%"=="3010" set "code=1603"
 if "%code%"=="1603" goto undo
-rem Copies product.cmd last: its version shows a detection rule which version was installed successfully.
+rem Copies product.cmd last, so that the copy contains the version that was last installed successfully. Detection rules
+rem compare this version.
 if /i not "%here%"=="%folder%\" call :lay product.cmd
 if not "%code%"=="1603" exit /b %code%
 
@@ -54,6 +56,7 @@ if not defined first exit /b %code%
 :remove
 "%shell%" /d /s /c ^""%here%run_sorrel.cmd" uninstall none "%application%"^"
 if "%code%"=="0" set "code=%errorlevel%"
+if not "%code%"=="0" if not "%code%"=="3010" set "code=1603"
 if /i "%here%"=="%folder%\" exit /b %code%
 for %%F in (product.cmd %files%) do if exist "%folder%\%%~F" del /f /q "%folder%\%%~F"
 rd "%folder%" 2>nul

@@ -10,7 +10,8 @@ namespace kelvo {
 // when nothing was replaced. Other controls, such as edit boxes and lists, keep their texts.
 //
 // If a window's text has at most 1,022 characters, the rewritten text is cut off after 1,022
-// characters. A longer text is cut off after 1,023 characters, and nothing in it is replaced.
+// characters. If a window's text is longer, nothing in it is replaced, and it is cut off after
+// 1,023 characters.
 //
 // Do not pass a window of another process. GetWindowTextW and SetWindowTextW do not support the
 // controls of another process, so the window's labels and buttons could lose their texts.

@@ -1,5 +1,5 @@
 # Installs the project into empty folders and checks the files. Usage:
-# cmake -D project=... -D source_folder=... -D folder=... -D toolchain=... -D wine=... -P check_installed.cmake
+# cmake -D build_folder=... -D source_folder=... -D folder=... -D toolchain=... -D wine=... -P check_installed.cmake
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -7,7 +7,7 @@ cmake_minimum_required(VERSION 3.25)
 function(install_into prefix)
   file(REMOVE_RECURSE ${prefix})
   execute_process(COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET
-    COMMAND ${CMAKE_COMMAND} --install ${project} --prefix ${prefix} ${ARGN})
+    COMMAND ${CMAKE_COMMAND} --install ${build_folder} --prefix ${prefix} ${ARGN})
   file(GLOB_RECURSE found LIST_DIRECTORIES false RELATIVE ${prefix} ${prefix}/*)
   set(files ${found} PARENT_SCOPE)
 endfunction()
@@ -33,7 +33,7 @@ endforeach()
 foreach(file ${files})
   file(STRINGS ${folder}/all/${file} found LIMIT_COUNT 1 REGEX "${source_folder}")
   if(file MATCHES "internal|_test|\\.pdb$" OR found)
-    message(SEND_ERROR "${file} must not be installed (internal, test, .pdb) or has the source folder's path: ${found}")
+    message(SEND_ERROR "The installed ${file} is an internal, test or .pdb file, or contains the source folder's path: ${found}")
   endif()
 endforeach()
 

@@ -16,13 +16,13 @@ set(ENV{SOURCE_DATE_EPOCH} 1700000000)
 set(ENV{SORREL_SIGN_CERTIFICATE} ${folder}/certificate.pem)
 set(ENV{SORREL_SIGN_KEY} ${folder}/key.pem)
 set(ENV{SORREL_SUMS_KEY} ${folder}/key.pem)
-run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/signed)
+run(${CMAKE_CPACK_COMMAND} --config ${build_folder}/CPackConfig.cmake -B ${folder}/signed)
 # Signing must fail if a program is missing, the key does not match the certificate, or the signer's root is untrusted.
 run(${openssl} req -x509 -newkey rsa:2048 -nodes -keyout ${folder}/other_key.pem -out ${folder}/other.pem -subj "/CN=Other")
 foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${folder}/other.pem)
-  file(COPY ${project}/bin/sorrel.exe DESTINATION ${folder}/to_sign/tool)
+  file(COPY ${build_folder}/bin/sorrel.exe DESTINATION ${folder}/to_sign/tool)
   if(fault)
-    file(COPY ${project}/bin/sorrel_status.exe DESTINATION ${folder}/to_sign/tool)
+    file(COPY ${build_folder}/bin/sorrel_status.exe DESTINATION ${folder}/to_sign/tool)
   endif()
   execute_process(COMMAND ${CMAKE_COMMAND} -E env ${fault} ${CMAKE_COMMAND} -D CPACK_TEMPORARY_DIRECTORY=${folder}/to_sign
     -P ${source_folder}/cmake/sign_programs.cmake RESULT_VARIABLE code OUTPUT_QUIET ERROR_QUIET)
@@ -32,7 +32,7 @@ foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${fol
 endforeach()
 unset(ENV{SORREL_SIGN_CERTIFICATE})
 unset(ENV{SORREL_SUMS_KEY})
-run(${CMAKE_CPACK_COMMAND} --config ${project}/CPackConfig.cmake -B ${folder}/unsigned)
+run(${CMAKE_CPACK_COMMAND} --config ${build_folder}/CPackConfig.cmake -B ${folder}/unsigned)
 
 # SHA256SUMS has each expected file's checksum. Signing changes only the programs' archive and the bill of materials.
 set(base sorrel-${version}-win64)
