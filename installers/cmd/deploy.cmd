@@ -4,7 +4,7 @@ rem                     installation fails, runs "sorrel.exe uninstall" and dele
 rem                     (such as an upgrade) fails, removes nothing: the copies stay.
 rem deploy.cmd remove   runs "sorrel.exe uninstall" with the application's name. Also deletes the product's files from
 rem                     the product's folder, unless this script itself is in that folder.
-rem Both commands return 0, 3010 or 1603. These exit codes mean the same as those of run_sorrel.cmd.
+rem Both commands return 0, 3010 or 1603, as run_sorrel.cmd does. If a file cannot be copied, deploy.cmd returns 1603.
 setlocal EnableExtensions DisableDelayedExpansion
 set "errorlevel="
 set "here=%~dp0"
@@ -31,9 +31,9 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before sorrel.exe runs. A deployment system's detection rule checks whether the certificates and
-rem the driver package in the product's folder are installed. If sorrel.exe ran first and an upgrade failed, the folder
-rem would still hold the old version's files, and the rule could report success.
+rem Copies the files before sorrel.exe runs. A detection rule compares what is installed with the certificates and the
+rem INF in the product's folder. If sorrel.exe ran first and an upgrade failed, the folder would still hold the old
+rem version's files, and the rule could report success.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F
@@ -46,7 +46,7 @@ if "%code%"=="0" set "code=%errorlevel%"
 if not "%code%"=="0" if not "%code%"=="3010" set "code=1603"
 if "%code%"=="1603" goto undo
 rem Copies product.cmd last, so that the copy contains the version that was last installed successfully. Detection rules
-rem compare this version.
+rem read the version from this copy.
 if /i not "%here%"=="%folder%\" call :lay product.cmd
 if not "%code%"=="1603" exit /b %code%
 

@@ -2,8 +2,8 @@ rem Change these settings for your product. The other batch files in this folder
 
 rem The product's name, which is also the name of its folder below Program Files.
 set "product=Brindle"
-rem The product's version. Only detection rules read it: the version in the product's folder is the one that deploy.cmd
-rem last installed successfully.
+rem The product's version. Only detection rules read it. deploy.cmd copies this file last, so the copy in the product's
+rem folder contains the version that was last installed successfully.
 set "version=1.0.0"
 rem The application's name, under which sorrel.exe records the product on the list of applications that use the
 rem hands-free service. This name must be the same for all versions of the product. It must neither contain nor be part
@@ -15,5 +15,5 @@ set "inf=Tessalin.inf"
 set "publisher=trusted.cer"
 set "intermediate=trusted_i.cer"
 rem What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-rem installation ignores the resulting error. The setting has no effect on other errors.
+rem installation ignores the two error codes for a missing radio. The setting has no effect on other errors.
 set "radio_off=fails"

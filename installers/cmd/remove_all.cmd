@@ -24,7 +24,8 @@ set "restart="
 set "uninstalled=%errorlevel%"
 call :ask application "%application%" list
 if not "%state%"=="absent" goto end
-rem The value "text" means that other applications are on the list. They need the certificates and the driver package.
+rem The value "text" means that other applications are on the list. Because they need the certificates and the driver
+rem package, the script removes neither.
 if "%value%"=="text" set "code=0"
 if not "%value%"=="none" if not "%value%"=="empty" goto end
 

@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# build.sh FOLDER OUTPUT.msi [NAME=VALUE...]   makes a package from brindle.wxs. NAME=VALUE replaces a setting below.
+# build.sh FOLDER OUTPUT.msi [NAME=VALUE...]   makes a package from brindle.wxs. NAME=VALUE replaces a setting.
 # FOLDER holds sorrel.exe, sorrel_status.exe, run_sorrel.cmd, the driver package and the certificates.
 set -euo pipefail
 [ $# -ge 2 ] || { sed -n '1d;/^#/!q;s/^# \{0,1\}//p' "$0" >&2; exit 2; }
 # In the POSIX locale, wixl stops at the first letter that is not ASCII.
 export LC_ALL=C.UTF-8 CHARSET=UTF-8
 
-# These GUIDs are only for Brindle. Windows Installer treats two products with the same GUIDs as versions of one
-# product: the installation of one can remove the other.
+# These GUIDs are only for Brindle. Windows Installer treats two products with the same upgrade code as versions of one
+# product: the installation of one can remove the other. If two products have the same component GUID, the removal of one
+# can delete files that the other needs.
 guids=(6e1c1df6-6f3d-4f0e-9a5b-8b6d1f8a3c21 2f0a1a54-0c3b-4d57-9a53-6f1a3e7f1b11)
 
 # Change these settings.
@@ -93,11 +94,11 @@ add_action ReleaseService 3141 service ReleaseService 'REMOVE="ALL" AND NOT UPGR
 # Removes the application from the list when a first installation fails. Runs the copy of sorrel.exe in the package,
 # which does not depend on the installed files. Type 3394 is a program in the package (2) that runs deferred (1024),
 # only on rollback (256) and as SYSTEM (2048); errors are ignored (64). The program shows a console window that belongs
-# to SYSTEM. This is safe, because only an administrator can start a first installation.
+# to SYSTEM. Normally, only an administrator can start a first installation and see this window.
 add_action UndoPrepareService 3394 sorrel "uninstall none \"${setting[APPLICATION]}\"" \
   'NOT Installed AND NOT WIX_UPGRADE_DETECTED' 4002
 
-# Runs a function of service.js at the end, and ignores errors.
+# Runs the function AskForRestart of service.js after all other actions. Ignores errors (64).
 add_action AskForRestart 69 service AskForRestart 'NOT REMOVE="ALL"' 6601
 
 mv "$package" "$output"

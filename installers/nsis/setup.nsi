@@ -22,7 +22,7 @@
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
 ; What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-; installation ignores the resulting error. The setting has no effect on other errors.
+; installation ignores the two error codes for a missing radio. The setting has no effect on other errors.
 !insertmacro Setting RADIO_OFF "fails"
 ; Add the driver package's other files here.
 !macro EachFile DO

@@ -28,9 +28,10 @@ inline constexpr const wchar_t* kTrustedPublisherStore = L"TrustedPublisher";
 inline constexpr const wchar_t* kIntermediateCaStore = L"CA";
 
 // Calls ImportCertToSystemStore for "TrustedPublisher", the store of trusted publishers. Windows
-// does not prompt before it installs a driver package that a trusted publisher has signed. For
-// every user of the computer, Windows also trusts other files that the publisher signs, such as
-// scripts, macros and ClickOnce applications. Use a certificate with which only drivers are signed.
+// does not prompt before it installs a driver package that is signed with a certificate in this
+// store. For every user of the computer, Windows also trusts other files that are signed with the
+// certificate, such as scripts, macros and ClickOnce applications. Use a certificate with which
+// only drivers are signed.
 DWORD ImportCertToTrustedPublishers(const wchar_t* file);
 
 // Calls ImportCertToSystemStore for "CA", the store of intermediate certification authorities.
