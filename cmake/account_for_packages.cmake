@@ -16,8 +16,8 @@ macro(append array kind)
   list(APPEND ${array} "${object}")
 endmacro()
 
-# `secret` matches what no packed file may contain: a private key, or the full path of a compiled or built file in the
-# source folder on this machine. Debug information could contain such a path.
+# `secret` matches what no packed file may contain: a private key, or the full path of a source file or
+# a build output on this machine. Debug information could contain such a path.
 # `secret_file` matches the paths of files that must not be packed: keys (*.key, *.pem) and files of the tests.
 string(REGEX REPLACE "([][+.*^$()|?\\])" "\\\\\\1" folder "${CPACK_SOURCE_FOLDER}")
 set(secret "${folder}/(build|lib|simulator|status|tool)/|BEGIN [A-Z ]*PRIVATE KEY")

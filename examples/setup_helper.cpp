@@ -2,8 +2,8 @@
 //   setup_helper read HKEY_CURRENT_USER\Software\App\Setting
 //     prints the string in a registry value
 //   setup_helper grant FILE SID
-//     lets the account with this SID read and write a file
-//   setup_helper start PROGRAM [ARGUMENTS]
+//     lets the account with this SID read a file and write its data
+//   setup_helper start PROGRAM ["ARGUMENTS"]
 //     starts a program as the user of the console session, or as the caller if that user's token
 //     is unavailable; waits until the program ends, and returns the program's exit code
 //   setup_helper ready PROGRAM MUTEX

@@ -7,8 +7,8 @@ set -euo pipefail
 export LC_ALL=C.UTF-8 CHARSET=UTF-8
 
 # These GUIDs are only for Brindle. Windows Installer treats two products with the same upgrade code as versions of one
-# product: the installation of one can remove the other. If two products have the same component GUID, the removal of one
-# can delete files that the other needs.
+# product: the installation of one can remove the other. If two products have the same component GUID, the removal of
+# one can delete files that the other needs.
 guids=(6e1c1df6-6f3d-4f0e-9a5b-8b6d1f8a3c21 2f0a1a54-0c3b-4d57-9a53-6f1a3e7f1b11)
 
 # Change these settings.
@@ -30,7 +30,7 @@ declare -A setting=(
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
   # What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-  # installation ignores the resulting error. The setting has no effect on other errors.
+  # installation ignores the two error codes for a missing radio. The setting has no effect on other errors.
   [RADIO_OFF]='fails'
 )
 

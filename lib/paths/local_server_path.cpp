@@ -31,9 +31,8 @@ DWORD FindClassKey(const wchar_t* progId, WString& classKey) {
   return ERROR_SUCCESS;
 }
 
-// Tries both registry views for each subkey. Calls RegOpenKeyExW, because OpenRegistryKey would add
-// RegistryAccessFlags to `view`. These flags can already contain KEY_WOW64_64KEY or
-// KEY_WOW64_32KEY.
+// Tries both registry views for each subkey. Does not call OpenRegistryKey, which would add
+// RegistryAccessFlags: these flags can contain the flag of the other view.
 LSTATUS OpenServerKey(const WString& classKey, OwnedRegistryKey& key) {
   LSTATUS status = ERROR_SUCCESS;
   for (const wchar_t* const server : {L"\\LocalServer32", L"\\LocalServer"}) {

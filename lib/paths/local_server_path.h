@@ -13,7 +13,8 @@ namespace kelvo {
 // the path is the part before the first "/", including any spaces at the end of that part.
 // Otherwise, the path is the whole value. On failure, leaves `path` unchanged and returns one of
 // these:
-//   0x80110411  CLSIDFromProgID finds no class for `progId`, or `progId` is null
+//   0x80110411  `progId` is null, or CLSIDFromProgID fails, for example because no class has this
+//               `progId`
 //   0x80040011  the class identifier cannot be converted to a string (StringFromCLSID)
 //   3           the path does not exist (FileExists), for example because the value has quotation
 //               marks around the path

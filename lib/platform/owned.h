@@ -45,10 +45,11 @@ class Owned {
     return &handle_;
   }
 
-  // Call this after calling a Windows function with the pointer from Receive(). `succeeded` tells
-  // whether that function succeeded. If `succeeded` is true, this object keeps the handle that the
-  // function stored. If `succeeded` is false, this object discards any value that the function
-  // stored, and closes nothing. Returns `succeeded`.
+  // Call KeepIf after a Windows function that got the pointer from Receive(), if that function may
+  // store a value even when it fails. `succeeded` tells whether the function succeeded. If
+  // `succeeded` is true, this object keeps the handle that the function stored. If `succeeded` is
+  // false, this object discards any value that the function stored, and closes nothing. Returns
+  // `succeeded`.
   bool KeepIf(bool succeeded) {
     if (!succeeded) {
       release();

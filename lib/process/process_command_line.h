@@ -4,13 +4,13 @@
 
 namespace kelvo {
 
-// Tries to copy the command line of another process into `buffer`, as UTF-16 without a terminator.
-// This does not work: see the last paragraph. Returns the number of bytes copied. The handle
+// Was meant to copy the command line of another process into `buffer`, as UTF-16 without a
+// terminator. Does not work: see the last paragraph. Returns the number of bytes copied. The handle
 // `process` needs the access rights PROCESS_QUERY_INFORMATION and PROCESS_VM_READ. Returns 0 in
 // these cases:
 //   - GetVersionExW fails, reports Windows 9x, or reports Windows 7 or later. GetProcessCommandLine
 //     then does not try to read the other process.
-//   - `bufferBytes` is less than the command line's length in bytes.
+//   - `bufferBytes` is less than the length in bytes that was read from the other process.
 //   - NtQueryInformationProcess (looked up at run time) is missing or fails.
 //   - The memory of the other process cannot be read (ReadProcessMemory). `buffer` may then contain
 //     some bytes of that memory.

@@ -33,8 +33,8 @@ namespace kelvo {
 //   - The following privileges, if this process holds them, are enabled and stay enabled until this
 //     process exits: SeTakeOwnershipPrivilege, SeTcbPrivilege, SeChangeNotifyPrivilege,
 //     SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege and SeCreateTokenPrivilege.
-//   - The handle of the copied token stays open. If the call opens a window station or a desktop,
-//     the handle of that object also stays open.
+//   - The handle of the copied token stays open. If the call moves this process to "WinSta0", the
+//     handles of this station and its desktop also stay open.
 //   - Failures are traced (lib/trace/trace_sink.h).
 BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process);
 
