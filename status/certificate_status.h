@@ -18,7 +18,8 @@ namespace kelvo {
 // certificate or its thumbprint cannot be read, or when an existing store cannot be opened, the
 // state is kUnknown and the details are "error_code" and "error_text" (UnknownItem).
 //
-// The file may contain the certificate in binary, Base64 or hexadecimal form. If the file contains
+// The file may contain the certificate in binary (DER), Base64 or, with the prefix
+// "{ASN}", hexadecimal form. If the file contains
 // several certificates in Base64, as a PEM file with a chain does, only the first is read. If the
 // file is a PKCS #7 message or a serialized store, the state is kUnknown and the error code is
 // CRYPT_E_NO_MATCH.

@@ -21,8 +21,8 @@ driver package, device and certificates of the service are present.
 With --service, ignores the device nodes that Windows creates for paired remote
 devices. Windows removes the service's own device node while the radio is off or
 unplugged, and can take some time to create it after the service is registered:
-in these cases "absent" proves nothing. This has not been tested with a real
-radio.
+in these cases "absent" proves nothing. --service has not been tested with a
+real radio.
 
 Exit code: 0 if everything asked for is present, 1 if something is absent, 2 if
 the command line is wrong, 3 if something could not be checked (even if
@@ -31,7 +31,7 @@ a standard output, the program only returns the exit code.
 )";
 
 // Encodes an argument for the parser, which takes bytes. A UTF-16 unit outside ASCII becomes three
-// bytes of at least 0x80, which contain 4, 6 and 6 bits of the unit. FromBytes restores every
+// bytes with 4, 6 and 6 bits of the unit; each byte is 0x80 or higher. FromBytes restores every
 // argument exactly, even one with unpaired surrogates.
 std::string ToBytes(std::wstring_view argument) {
   std::string bytes;

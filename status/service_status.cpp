@@ -55,8 +55,8 @@ std::vector<wchar_t> ReadHardwareIds(const DeviceFunctions& functions, HDEVINFO 
                                      SP_DEVINFO_DATA& device) {
   DWORD size = 0;
   functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr, nullptr, 0, &size);
-  // Adds two NULs, which terminate the list even if the stored list has no terminator.
-  std::vector<wchar_t> ids((size / sizeof(wchar_t)) + 2);
+  // Ends the list even if the stored list has no terminator or ends in the middle of a character.
+  std::vector<wchar_t> ids((size / sizeof(wchar_t)) + 3);
   if (functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr,
                             reinterpret_cast<BYTE*>(ids.data()), size, nullptr) == FALSE) {
     ids.assign(2, L'\0');
@@ -178,7 +178,7 @@ Item QueryService(DeviceSearch search) {
     item.state = isThere ? State::kPresent : State::kAbsent;
     item.details.push_back(
         {"device", isThere,
-         isThere ? L"Bluetooth has a device for the service" : L"no device for the service"});
+         isThere ? L"the service has a device node" : L"no device node for the service"});
   }
   AddLibrary(item);
   return item;

@@ -27,7 +27,7 @@ WString ReadApplicationList();
 // Returns the names in a list, in order. Consecutive ";" count as one separator.
 std::vector<WString> ApplicationsInList(const WString& list);
 
-// Returns whether `item`, one of the names in a list, equals `name` regardless of letter case.
+// Returns whether `item`, one of the names in a list, equals `name` (CompareNoCase is 0).
 // ListWithoutApplication removes the items for which this function returns true.
 bool IsSameApplication(const WString& item, const wchar_t* name);
 
@@ -36,7 +36,7 @@ bool IsSameApplication(const WString& item, const wchar_t* name);
 // case-sensitive. An empty `name` is always found.
 std::optional<WString> ListWithApplication(const WString& list, const wchar_t* name);
 
-// Returns the list without the items that equal `name` regardless of letter case. The other items
+// Returns the list without the items that equal `name` (IsSameApplication). The other items
 // keep their order, with one ";" between them. Returns an empty string when no item remains.
 WString ListWithoutApplication(const WString& list, const wchar_t* name);
 

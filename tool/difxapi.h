@@ -33,7 +33,7 @@ void WINAPI SetDifxLogCallbackW(DIFXAPILOGCALLBACK_W callback, PVOID context);
 
 // Installs the driver package of the INF file at `infPath`, a fully qualified path. Stores in
 // `needReboot` whether the installation needs a restart. Returns 0 on success, otherwise
-// an error code of Win32 or SetupAPI.
+// an error code of Win32, SetupAPI or difxapi.dll.
 DWORD WINAPI DriverPackageInstallW(PCWSTR infPath, DWORD flags,
                                    const INSTALLERINFO_W* installerInfo, BOOL* needReboot);
 }

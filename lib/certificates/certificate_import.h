@@ -8,7 +8,8 @@ namespace kelvo {
 // certificate, replaces it. Both strings are NUL-terminated. `storeName` is Windows' name for the
 // store, such as "CA". The store must exist; changing it needs administrative rights.
 //
-// The file may hold the certificate in binary (DER), Base64 or hexadecimal form. For a PFX
+// The file may hold the certificate in binary (DER), Base64 or, with the prefix "{ASN}",
+// hexadecimal form. For a PFX
 // file, a PKCS #7 message or a serialized store, adds nothing and returns 0. Do not pass a
 // certificate revocation list (CRL) or a certificate trust list (CTL): the function would use the
 // CRL_CONTEXT or CTL_CONTEXT as a CERT_CONTEXT.

@@ -15,9 +15,9 @@ namespace kelvo {
 //   - An LSTATUS is 0 on success. On failure, it is the Windows error code of the failed call,
 //     unless the function's comment names another number, such as -1.
 
-// The functions in this folder OR these flags into the access mask when they open or create a key,
-// and pass the flags to RegDeleteKeyExW when they delete a key. To choose a registry view, set this
-// variable to KEY_WOW64_64KEY or KEY_WOW64_32KEY before other threads use the registry.
+// When the functions in this folder open or create a key, their access mask includes these flags.
+// When they delete a key, they pass these flags to RegDeleteKeyExW. To choose a registry view, set
+// this variable to KEY_WOW64_64KEY or KEY_WOW64_32KEY before other threads use the registry.
 extern REGSAM RegistryAccessFlags;
 
 namespace internal {

@@ -4,9 +4,10 @@
 
 namespace kelvo {
 
-// An ACL is malformed when an ACE extends past the end of the ACL, when an ACE is smaller than an
-// ACE_HEADER, or when GetAclInformation fails. The functions below trace each failure
-// (lib/trace/trace_sink.h), unless an exception caused the failure.
+// An ACL is malformed when AclSize is less than the size of an ACL header, when an ACE extends past
+// the end of the ACL, when an ACE is smaller than an ACE_HEADER, or when GetAclInformation fails.
+// The functions below trace each failure (lib/trace/trace_sink.h), unless an exception caused the
+// failure.
 
 // Means "no index". When AddAce receives this value as the index, it appends the ACE.
 constexpr DWORD kNoAceIndex = MAXDWORD;
@@ -23,8 +24,9 @@ DWORD FindACEInACL(const ACL* acl, const ACCESS_ALLOWED_ACE* ace);
 BOOL CopyACL(ACL* destination, const ACL* source);
 
 // Returns the size in bytes of a new ACL that holds the ACEs of `acl` (which may be null), an allow
-// or deny ACE for each SID in `sids`, and the ACEs in `aces`. If `acl` is not null, the result
-// counts two ACL headers: the header of `acl` and the header of the new ACL. Either array may be
+// or deny ACE for each SID in `sids`, and the ACEs in `aces`. If `acl` is not null, the result is
+// larger than necessary by the size of an ACL header, because it also counts the header of `acl`.
+// Either array may be
 // null when its count is 0. Returns 0 when `acl` is malformed or a SID is invalid.
 DWORD CalculateACLSize(const ACL* acl, const PSID* sids, DWORD sidCount,
                        const ACCESS_ALLOWED_ACE* const* aces, DWORD aceCount);

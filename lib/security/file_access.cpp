@@ -49,9 +49,10 @@ bool ReadDescriptor(const wchar_t* path, Descriptor& read) {
                L"GetFileSecurity() failed. Error %d\n");
 }
 
-// Checks that the DACL is inside the descriptor, that every ACE is inside the DACL, and that no ACE
-// is smaller than an ACE_HEADER. If a check fails, sets the last error to ERROR_INVALID_ACL and
-// returns false. Otherwise, calls GetAclInformation and returns whether that call succeeds.
+// Checks that the DACL is inside the descriptor, that every ACE is inside the DACL, and that
+// neither the DACL nor an ACE is smaller than its header. If a check fails, sets the last error to
+// ERROR_INVALID_ACL and returns false. Otherwise, calls GetAclInformation and returns whether that
+// call succeeds.
 bool QueryDaclSize(const Descriptor& descriptor, const ACL* dacl, ACL_SIZE_INFORMATION& size) {
   const auto offset = static_cast<std::size_t>(reinterpret_cast<const BYTE*>(dacl) -
                                                static_cast<const BYTE*>(descriptor.memory.get()));

@@ -13,9 +13,9 @@ namespace kelvo {
 //   - An auto-inherited DACL stays auto-inherited. A protected DACL that is not auto-inherited
 //     stays protected. A DACL that is both protected and auto-inherited ("D:PAI") loses its
 //     protection: the file can again inherit ACEs from its parent folder.
-//   - Symbolic links and junctions in `path` are followed: the DACL of the file to which `path`
-//     finally leads is changed. Therefore use a path that no other user can redirect to another
-//     file.
+//   - Symbolic links and junctions in `path` are followed. (Windows' documentation says that a
+//     symbolic link at the end of `path` is not followed.) Therefore use a path that no other user
+//     can redirect to another file.
 //
 // The caller needs READ_CONTROL and WRITE_DAC access to the file (GetFileSecurityW,
 // SetFileSecurityW). The new DACL is set in one call. Returns TRUE when that call succeeds. On any
@@ -24,9 +24,9 @@ namespace kelvo {
 // Except in the two cases below, a failure prints one line to the C runtime's standard output. The
 // line contains the name of the call that failed and the last error. If the DACL is malformed, the
 // line names GetAclInformation. A DACL is malformed when it extends past the end of the security
-// descriptor, when an ACE extends past the end of the DACL, or when an ACE is smaller than an
-// ACE_HEADER. Nothing is printed in these cases:
-//   - `sid` is null or invalid.
+// descriptor, when AclSize is less than the size of an ACL header, when an ACE extends past the end
+// of the DACL, or when an ACE is smaller than an ACE_HEADER. Nothing is printed in these cases:
+//   - `sid` is null, or ConvertStringSidToSidW fails.
 //   - The file has no security descriptor. The call of GetFileSecurityW that asks for the
 //     descriptor's size then succeeds, so there is no error to print.
 //

@@ -4,8 +4,8 @@
 
 namespace kelvo {
 
-// Grants the current user the rights in `mask` by adding an ACE to a kernel object's DACL
-// (SetEntriesInAclW, SetKernelObjectSecurity). The user is identified by a name without a domain
+// Grants the current user the rights in `mask` in a kernel object's DACL (SetEntriesInAclW with
+// GRANT_ACCESS, SetKernelObjectSecurity). The user is identified by a name without a domain
 // (GetUserNameW), which is ambiguous if a local account and a domain account have the same name.
 // The handle needs READ_CONTROL and WRITE_DAC. Always returns TRUE, even when a step fails or an
 // exception occurs. Traces a failed step (lib/trace/trace_sink.h), but not an exception.

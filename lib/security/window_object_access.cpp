@@ -15,7 +15,9 @@ namespace kelvo {
 
 namespace {
 
-// The values that differ between window stations and desktops.
+// The values that differ between window stations and desktops. The texts are traced after failures.
+// `allocationFailed` is for the memory of the new DACL. `cleanUp` is traced last, even without an
+// exception.
 struct WindowObjectKind {
   ACCESS_MASK mask;
   const wchar_t* readFailed;
@@ -51,7 +53,8 @@ constexpr WindowObjectKind kDesktop = {
     .cleanUp = L"AllowAccessToDesktop exception caught in __finally"};
 
 // A new DACL of up to kStackSize bytes is built on the stack, and a larger one on the heap.
-// kStackSize is the limit of _malloca on x64: 1,024 bytes, minus 16 bytes for _malloca's marker.
+// kStackSize is the size of the largest block that _malloca takes from the stack on x64: 1,024
+// bytes, minus 16 bytes for _malloca's marker.
 constexpr std::size_t kStackSize = 1024 - 16;
 
 bool BuildAcl(const WindowObjectKind& kind, const ACL* dacl, ACCESS_ALLOWED_ACE* ace, ACL* built,

@@ -13,7 +13,8 @@ namespace kelvo {
 // built or written, the functions trace the failure, return FALSE and leave the DACL unchanged.
 //
 // Both functions leak memory. Each call that can read the DACL allocates an ACE and never frees the
-// ACE. If the new DACL has more than 1,008 bytes, the memory of the new DACL is not freed either.
+// ACE. If CalculateACLSize gives more than 1,008 bytes for the new DACL, its memory is not freed
+// either.
 
 // Grants STANDARD_RIGHTS_REQUIRED and WINSTA_ALL_ACCESS: mask 0x000F037F.
 BOOL AllowAccessToWinSta(PSID sid, HWINSTA station);

@@ -6,9 +6,9 @@ namespace kelvo {
 
 // These functions read a file's version from the VS_FIXEDFILEINFO block of its version resource
 // (GetFileVersionInfoW, VerQueryValueW). There is no version when the path is null, when the file
-// has no such block, or when the block is not completely inside the resource. The dwSignature in
-// the block is not checked, so arbitrary data in an untrusted file can be taken for a version.
-// These functions do not validate the resource before they let Windows parse it.
+// cannot be read or has no such block, or when the block is not completely inside the resource. The
+// dwSignature in the block is not checked, so arbitrary data in an untrusted file can be taken for
+// a version. These functions do not validate the resource before they let Windows parse it.
 
 // Compares a file's version with major.minor.build.revision. Returns 1 when the file's version is
 // higher, 0 when it is equal, -1 when it is lower, and 2 when there is no version. When the result

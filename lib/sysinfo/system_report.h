@@ -11,8 +11,8 @@ namespace kelvo {
 //     are not created.
 //   - The other entries are the environment variables that the registry stores for the user
 //     (HKEY_CURRENT_USER "Environment") and for the system (HKEY_LOCAL_MACHINE
-//     "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). ReadRegistryKeyValues reads
-//     them, and expands those of type REG_EXPAND_SZ. A key that does not open adds no entries.
+//     "SYSTEM\CurrentControlSet\Control\Session Manager\Environment"). ReadRegistryKeyValues
+//     (lib/registry/registry_value_list.h) reads them. A key that does not open adds no entries.
 //   - When the path of a shell folder cannot be read, the text of its entry is "failed to query "
 //     followed by the name of the entry. When one of the functions fails, its entry shows the
 //     result that the function returns on failure. For most functions, this is "0" (false) or an

@@ -137,7 +137,7 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
 
 // Writes the version line to `text`, which must be empty. If an exception ends this function while
 // a registry key is open, `key` owns that registry key, and the caller should reset `key`. But a
-// registry key that AppendProductType has released stays open.
+// registry key that `key` no longer owns (see AppendProductType) stays open.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);

@@ -5,8 +5,8 @@
 namespace kelvo {
 
 // Returns one line with the name, the edition and the version numbers of the running Windows, such
-// as "Windows 7 Professional x64 (6.1.7601 Service Pack 1)". Returns an empty string for a platform
-// other than Win32s, Windows 9x and NT.
+// as "Windows 7 Professional x64 (6.1.7601 Service Pack 1)". For Win32s and Windows 9x, the line
+// has no version numbers. For an unknown platform or an unknown version of Windows 9x, it is empty.
 //   - The version comes from GetVersionExW. On Windows 8.1 and later, GetVersionExW reports 6.2 to
 //     a program whose manifest does not declare support for Windows 8.1 or later. The line then
 //     says "Windows 8" or "Windows Server 2012". On Windows 10 and later, if the manifest declares
@@ -26,13 +26,14 @@ namespace kelvo {
 //     read, or when an exception ends a query. When any other query fails, the line lacks the
 //     result of that query and contains no error message. The same applies when Windows lacks
 //     GetProductInfo.
-//   - This function throws only when there is no memory for the error message about an exception.
+//   - This function catches exceptions. It throws only when memory runs out while it adds an error
+//     message to the line.
 WString GetSystemVersionString();
 
 // Returns the version of the running Windows as "(major.minor.build)", with the low 16 bits of the
 // build number. Uses GetVersionExW, which on Windows 8.1 and later reports 6.2 to a program whose
 // manifest does not declare support for Windows 8.1 or later. Returns "0.0.0.0" when GetVersionExW
-// fails or memory runs out.
+// fails or an exception occurs.
 WString GetSystemVersionNumbers();
 
 }  // namespace kelvo

@@ -39,7 +39,7 @@ bool IsFile(const WString& path) {
 
 bool IsNeutral(LANGID language) { return PRIMARYLANGID(language) == LANG_NEUTRAL; }
 
-// Returns 0 when Windows gives no language for the locale name.
+// Returns 0 when Windows gives no language, or LANG_INVARIANT, for the locale name.
 LANGID NumberOf(const WString& name) {
   auto* const getInfo = KELVO_FIND_FUNCTION(GetModuleHandleW(L"kernel32.dll"), GetLocaleInfoEx);
   DWORD number = 0;
@@ -88,7 +88,7 @@ bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
 
 // `found` is the name of a file or folder that FindFirstFileW has found. Returns the locale name
 // that `found` contains. Returns an empty string when `found` does not fit the pattern. This can
-// happen because FindFirstFileW also matches short (8.3) names.
+// happen because FindFirstFileW also matches short (8.3) names, and "*" also matches nothing.
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
     return found;

@@ -127,7 +127,7 @@ struct Machine : ProgramFolder {
   }
 
   // kFails: the chosen call fails. kEnds: the run ends before that call, as if the process were
-  // killed. kContinues: no call fails, and the run starts from the previous run's final state.
+  // killed. kContinues: like kFails, but the run starts from the previous run's final state.
   enum class How { kFails, kEnds, kContinues };
 
   // Reloads fault_injection_operations.dll and runs operation `index`. Returns the outcome as
@@ -227,8 +227,7 @@ static std::string Changes(const Lines& before, const Lines& after) {
 
 // Checks the outcome of a run in which malloc failed: the result must be an exception, and all
 // other lines must occur in the undisturbed run. This proves that the list of applications is
-// the initial or the final one, and that no more handles are open than in the undisturbed run. The
-// check is skipped if the operation has no output and another function's failure has this outcome.
+// the initial or the final one, and that no more handles are open than in the undisturbed run.
 static void CheckException(const Lines& undisturbed, const Lines& outcome) {
   const auto [first, instead] = std::ranges::mismatch(outcome, undisturbed);
   CHECK((first != outcome.end() && *first == "= an exception"));

@@ -113,7 +113,7 @@ WString WriteAndDelete() {
   return answers;
 }
 
-// An exception that leaves RunCommandLine would end sorrel.exe with exit code 3.
+// "an exception" stands for exit code 3, with which sorrel.exe would then end.
 #define COMMAND(list, ...)                                                                     \
   Operation {                                                                                  \
     #__VA_ARGS__, list, [] {                                                                   \

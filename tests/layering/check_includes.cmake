@@ -1,8 +1,8 @@
 # cmake -D source_folder=... -P check_includes.cmake   checks #include lines against the diagram in docs/development.md
 cmake_minimum_required(VERSION 3.25)
 
-# For each folder, collects all folders that its arrows reach, directly or not. In the diagram, arrows from a folder
-# must come before arrows to it.
+# For each folder, collects all folders that its arrows reach, directly or not. In the diagram's text, lines with
+# arrows from a folder must precede lines with arrows to it.
 file(STRINGS ${source_folder}/docs/development.md arrows REGEX "^ +[a-z]+ --> ")
 foreach(arrow ${arrows})
   string(REGEX MATCHALL "[a-z]+" lower "${arrow}")

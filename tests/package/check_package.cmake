@@ -27,7 +27,7 @@ foreach(fault "" SORREL_SIGN_KEY=${folder}/other_key.pem SORREL_SIGN_ROOTS=${fol
   execute_process(COMMAND ${CMAKE_COMMAND} -E env ${fault} ${CMAKE_COMMAND} -D CPACK_TEMPORARY_DIRECTORY=${folder}/to_sign
     -P ${source_folder}/cmake/sign_programs.cmake RESULT_VARIABLE code OUTPUT_QUIET ERROR_QUIET)
   if(code EQUAL 0)
-    message(SEND_ERROR "Signing must not succeed. Wrong setting (if empty: a program is missing): \"${fault}\"")
+    message(SEND_ERROR "Signing succeeded despite this fault (if empty, a missing program): \"${fault}\"")
   endif()
 endforeach()
 unset(ENV{SORREL_SIGN_CERTIFICATE})
@@ -43,7 +43,7 @@ foreach(kind signed unsigned)
   list(SORT summed)
   foreach(files made summed)
     if(NOT ${files} STREQUAL "kelvo-${version}-win64-mingw-sdk.zip;${base}-simulator.zip;${base}-symbols.zip;${base}.spdx.json;${base}.zip")
-      message(SEND_ERROR "${folder}/${kind}: wrong files (made: on disk; summed: in SHA256SUMS). ${files}: ${${files}}")
+      message(SEND_ERROR "${folder}/${kind}: wrong list of files \"${files}\" (made: on disk; summed: SHA256SUMS): ${${files}}")
     endif()
   endforeach()
   execute_process(COMMAND sha256sum -c SHA256SUMS WORKING_DIRECTORY ${folder}/${kind}

@@ -44,7 +44,7 @@ TEST_CASE("StartProcessAndWaitForMutex: waits for the mutex, a WM_CLOSE or the t
   CHECK_BOTH(wait(false, 303) == 0, lookups == 1);
 }
 
-TEST_CASE("PumpWaitingMessages: dispatches all waiting messages; stops after a WM_CLOSE") {
+TEST_CASE("PumpWaitingMessages: dispatches waiting messages, up to and including a WM_CLOSE") {
   PostThreadMessageW(GetCurrentThreadId(), WM_CLOSE, 0, 0);
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
   std::string calls;

@@ -48,19 +48,19 @@ TEST_CASE("RunAsUser, LaunchInUserSession: run programs on WinSta0; can wait and
     calls += ShownCall("open", name, rest...) + " ";
     return original(L"kelvo stand-in", rest...);
   });
-  NOTE(OpenDesktopW, GetLastError() == 0 ? ShownCall("open", given...) + " " : "late ");
-  NOTE(CreateProcessAsUserW, GetLastError() == 0 ? "create " : "late ");
+  NOTE(OpenDesktopW, GetLastError() == 0 ? ShownCall("open", given...) + " " : "with old error ");
+  NOTE(CreateProcessAsUserW, GetLastError() == 0 ? "create " : "with old error ");
   NOTE(HeapFree, "free ");
   NOTE(SetProcessWindowStation, "station ");
   NOTE(SetThreadDesktop, "desktop ");
-  NOTE(WaitForSingleObject, std::get<1>(std::tuple(given...)) == INFINITE ? "wait " : "late ");
+  NOTE(WaitForSingleObject, std::get<1>(std::tuple(given...)) == INFINITE ? "wait " : "timed ");
   NOTE(CloseDesktop, "close ");
   NOTE(CloseWindowStation, "close ");
   for (const auto& [station, desktop, callsBefore, callsAfter] : places) {
     // The rounds that wait are last: the folder cannot be deleted while a child is running.
     for (const auto& [waits, takesHandle] :
          {std::pair{false, true}, {false, false}, {true, true}, {true, false}}) {
-      INFO(callsBefore, "waits: ", waits, ", takes the handle: ", takesHandle);
+      INFO(callsBefore, "; waits: ", waits, ", takes the handle: ", takesHandle);
       const bool moves = station != nullptr;
       const DesktopScope standIn(moves ? L"kelvo stand-in" : nullptr, moves ? L"Default" : nullptr);
       const DesktopScope scope(station, desktop);

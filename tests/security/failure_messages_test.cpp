@@ -36,11 +36,11 @@ constexpr FailingCall kWatched[] = {
 // The operation under test, and those traced messages that begin with the operation's name.
 static std::wstring operation, traced;
 
-// In each run of an operation, at most one call of a kWatched function fails or throws. Outcomes:
+// In each run of an operation, at most one call of a kWatched function is made to fail or throw.
+// For each operation and outcome, failure_messages.txt lists each function's first such call:
 //   fails: the operation fails, and its last message is "exception caught in __finally"
-//   fails at once: the operation fails without this message
-//   ... as a rule: the only other message is "FUNCTION Failed"; if the call throws, there is none
-// failure_messages.txt lists, for each outcome and function, the first call with that outcome.
+//   fails without clean-up: the operation fails without this message
+//   ..., usual message: the only other message is "FUNCTION Failed", or none if the call throws
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new window station instead of the interactive one, which all programs share.
   const DesktopScope standIn(L"kelvo stand-in", L"Default");
@@ -95,7 +95,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   for (const auto& [name, succeeds] : operations) {
     operation = name;
     const auto isReached = [&](const FailingCall& failing, int nth, bool throws) {
-      // The previous run may have changed the station, the desktop and their DACLs.
+      // The previous run may have switched the station and the desktop, and changed their DACLs.
       SetProcessWindowStation(scope.station);
       SetThreadDesktop(scope.desktop);
       for (const HANDLE object : {HANDLE{scope.station}, HANDLE{scope.desktop}}) {
@@ -108,15 +108,15 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       if (!wasReached && succeeded) {
         return false;
       }
-      std::wstring outcome = succeeded ? L"succeeds" : L"fails at once";
+      std::wstring outcome = succeeded ? L"succeeds" : L"fails without clean-up";
       const std::wstring cleanUp = L", exception caught in __finally";
       if (!succeeded && traced.ends_with(cleanUp)) {
         outcome = L"fails";
         traced.erase(traced.length() - cleanUp.length());
       }
       const WString named = throws ? L"" : FormatText(L", %hs Failed", failing.function);
-      const bool isRule = wasReached && !succeeded && traced == named.c_str();
-      outcome += isRule ? L" as a rule" : traced;
+      const bool isUsual = wasReached && !succeeded && traced == named.c_str();
+      outcome += isUsual ? L", usual message" : traced;
       std::wstring& calls = outcomes[name][outcome][throws ? 1 : 0];
       const WString call = FormatText(L" %hs-", failing.function);
       if (wasReached && calls.find(call.c_str()) == std::wstring::npos) {
@@ -131,7 +131,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       }
     }
   }
-  // RunAsUser first grants this process's user all rights on the interactive desktop.
+  // Before it starts the program, RunAsUser grants its user all rights on the interactive desktop.
   WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
   RunAsUser(command, TRUE, nullptr);
   CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);

@@ -29,6 +29,6 @@ TEST_CASE("StringTokenizer: splits at the whole delimiter, in linear time") {
   const std::wstring run(1'000'000, L';');
   CHECK(Split(run, L";", true) == L"");
   CHECK(Split(run, L";", false) == std::wstring(1'000'000, L'|'));
-  // Only CountTokens accepts an empty delimiter. A StringTokenizer would loop forever.
+  // Only CountTokens accepts an empty delimiter. Splitting would never end.
   CHECK_BOTH(CountTokens(L"a;b", L"", true) == 1, CountTokens(L"", L"", true) == 0);
 }

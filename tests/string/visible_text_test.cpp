@@ -3,7 +3,7 @@
 #include "lib/string/utf8.h"
 #include "tests/support/testing.h"
 
-TEST_CASE("ToVisibleUtf8: puts codes in place of characters that control a terminal") {
+TEST_CASE("ToVisibleUtf8: shows characters that control a terminal as <U+XXXX>") {
   const std::tuple<std::wstring, std::string, std::string, std::size_t> rows[] = {
       {L"", "", "", 0},
       {L"a \u00E9\u0416\u20AC", "a \xC3\xA9\xD0\x96\xE2\x82\xAC", "a \xC3\xA9\xD0\x96\xE2\x82\xAC",

@@ -15,7 +15,7 @@
 
 namespace kelvo::test {
 
-// Returns the registry's list of dependent applications, or "none" if the list is missing.
+// Returns the registry's list of dependent applications, or "none" if there is no readable list.
 inline std::wstring Applications() {
   wchar_t list[2048];
   DWORD size = sizeof(list);

@@ -5,8 +5,8 @@
 #include "tests/support/applications.h"
 #include "tests/support/testing.h"
 
-// Removes the list of applications and the test certificates. Creates a folder and makes it the
-// current folder. Puts certificates and these programs into the folder:
+// Removes the list of applications, and the test certificates from the stores. Creates a folder and
+// makes it the current folder. Puts certificate files and these programs into the folder:
 //   sorrel.exe, with the simulator's two libraries
 //   alone\sorrel.exe, without these libraries
 //   swapped\sorrel.exe, with the libraries' names swapped: each lacks the expected functions

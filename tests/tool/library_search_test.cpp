@@ -59,6 +59,5 @@ TEST_CASE("BindDriverInterface: loads the library by full path, from the program
   isPathKnown = false;
   BindDriverInterface(driver);
   CHECK(asked == L"S:\\system\\difxapi.dll");
-  isPathKnown = true;
-  std::filesystem::current_path(ProgramPath(L""));
+  std::filesystem::current_path(folder.path.parent_path());
 }

@@ -8,8 +8,8 @@ namespace kelvo::internal {
 
 // ACLs may come from other processes or from disk, and Windows' own functions trust the sizes that
 // an ACL contains. AreAcesInsideAcl and QueryAclSize check these sizes, and return false for a
-// malformed ACL. The ACL's header must be readable. Apart from the header, these two functions read
-// nothing beyond the AclSize bytes of the ACL.
+// malformed ACL. These two functions read only the ACL's header, which must be readable, and the
+// AclSize bytes of the ACL.
 //
 // Every type of ACE is read with the layout of ACCESS_ALLOWED_ACE: header, mask, SID. An ACE may be
 // at any address, even an unaligned one, because the ACE before it may have any size.
@@ -18,8 +18,8 @@ namespace kelvo::internal {
 constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
 
 // Returns true when all ACEs, each of AceSize bytes, are inside the AclSize bytes of the ACL.
-// Returns false when they are not, when an AceSize is less than the size of an ACE_HEADER, or when
-// `acl` is null. Does not check the contents of the ACEs.
+// Returns false when they are not, when AclSize or an AceSize is less than the size of its header,
+// or when `acl` is null. Does not check the contents of the ACEs.
 bool AreAcesInsideAcl(const ACL* acl);
 
 // Stores the ACL's size information in `size` (GetAclInformation with AclSizeInformation) and
@@ -37,7 +37,8 @@ ACE_HEADER HeaderOfAce(const void* ace);
 
 // Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. Never
 // reads past these bytes, which must all be readable. An object ACE has other data at kSidOffset.
-// This function treats that data as a SID. Such a SID never equals the SID of an account.
+// This function treats that data as a SID. If the object ACE's Flags are valid, such a SID never
+// equals the SID of an account.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal
