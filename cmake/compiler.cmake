@@ -58,7 +58,7 @@ endif()
 #   kelvo_program          hardening, a checksum in the header (-release), and reproducible output: the same bytes in
 #                          every build folder. Control Flow Guard is off: Debian 12's mingw runtime lacks the guard's
 #                          dispatch function
-#   kelvo_wide_program     as kelvo_program, with wmain as the entry point
+#   kelvo_wide_program     as kelvo_program, with wmain instead of main
 #   kelvo_shipped_program  as kelvo_wide_program, with a .pdb file for debuggers
 add_library(kelvo_program INTERFACE)
 target_link_libraries(kelvo_program INTERFACE kelvo_build_options)

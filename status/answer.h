@@ -13,8 +13,8 @@ namespace kelvo {
 // (item "system").
 //
 // In every report, the items are in this order: application, publisher, intermediate, driver
-// package, service, interface, system. Items of the same kind are in the order of the command line
-// or, in a general report, of the list of applications.
+// package, service, interface, system. Items of the same kind are in the order of the command line.
+// In a general report, the applications are in the order of the list of applications.
 //
 // Returns the exit code:
 //   0  everything asked for is present

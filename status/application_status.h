@@ -10,7 +10,7 @@ namespace kelvo {
 // Reads the list of dependent applications (ReadApplicationList in tool/dependent_applications.h).
 // Never creates the registry key that contains the list.
 //   - Returns one item for each of `names`. The item's state is kPresent when the list contains the
-//     name, regardless of letter case (IsSameApplication). Otherwise, the state is kAbsent.
+//     name (IsSameApplication). Otherwise, the state is kAbsent.
 //   - If `names` is empty, returns one item for each application in the list. If the list is also
 //     empty, returns a single item with the state kAbsent.
 //   - Each item has the detail "list". This detail says whether the list exists, and whether the

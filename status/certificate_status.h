@@ -18,11 +18,10 @@ namespace kelvo {
 // certificate or its thumbprint cannot be read, or when an existing store cannot be opened, the
 // state is kUnknown and the details are "error_code" and "error_text" (UnknownItem).
 //
-// The file may contain the certificate in binary (DER), Base64 or, with the prefix
-// "{ASN}", hexadecimal form. If the file contains
-// several certificates in Base64, as a PEM file with a chain does, only the first is read. If the
-// file is a PKCS #7 message or a serialized store, the state is kUnknown and the error code is
-// CRYPT_E_NO_MATCH.
+// The file may contain the certificate in binary (DER), Base64 or hexadecimal form. The hexadecimal
+// form must begin with "{ASN}". If the file contains several certificates in Base64, as a PEM file
+// with a chain does, only the first is read. If the file is a PKCS #7 message or a serialized
+// store, the state is kUnknown and the error code is CRYPT_E_NO_MATCH.
 Item QueryCertificate(const char* kind, const WString& file, const wchar_t* storeName);
 
 // Returns an item with the number of certificates in the store.

@@ -17,7 +17,7 @@ namespace kelvo {
 //     section [Version] (ERROR_SECTION_NOT_FOUND).
 //   - If no published file matches, the item is also unknown when the INF folder cannot be searched
 //     or a published file cannot be compared. A published file cannot be compared when it cannot be
-//     opened, or when it has the size of the file `infPath` and cannot be read.
+//     opened, or when it is as large as the file `infPath` but cannot be read.
 //   - The details of a present item are the published file's name, and the provider and the version
 //     from the section [Version], with %string% tokens expanded (SetupGetLineTextW). To read the
 //     section, this function loads setupapi.dll and then frees it.

@@ -55,7 +55,8 @@ std::vector<wchar_t> ReadHardwareIds(const DeviceFunctions& functions, HDEVINFO 
                                      SP_DEVINFO_DATA& device) {
   DWORD size = 0;
   functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr, nullptr, 0, &size);
-  // Ends the list even if the stored list has no terminator or ends in the middle of a character.
+  // Leaves at least two NULs after the stored data. They end the list even if the stored list has
+  // no terminator or ends in the middle of a character.
   std::vector<wchar_t> ids((size / sizeof(wchar_t)) + 3);
   if (functions.getProperty(devices, &device, SPDRP_HARDWAREID, nullptr,
                             reinterpret_cast<BYTE*>(ids.data()), size, nullptr) == FALSE) {

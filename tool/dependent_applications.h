@@ -27,8 +27,8 @@ WString ReadApplicationList();
 // Returns the names in a list, in order. Consecutive ";" count as one separator.
 std::vector<WString> ApplicationsInList(const WString& list);
 
-// Returns whether `item`, one of the names in a list, equals `name` (CompareNoCase is 0).
-// ListWithoutApplication removes the items for which this function returns true.
+// Returns whether `item`, one of the names in a list, equals `name` when letter case is ignored
+// (CompareNoCase). ListWithoutApplication removes the items for which this function returns true.
 bool IsSameApplication(const WString& item, const wchar_t* name);
 
 // Returns the list with `name` appended and without any ";" at either end. Returns nullopt when the

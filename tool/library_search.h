@@ -13,7 +13,8 @@ void NarrowLibrarySearch();
 
 // Returns the full path of the DLL `name`: in the program's own folder if the file exists there,
 // otherwise in the system directory. In the second case, overwrites the buffer of
-// GetSystemDirectoryPath (lib/sysinfo/system_directories.h).
+// GetSystemDirectoryPath (lib/sysinfo/system_directories.h). If that function fails, returns
+// `name`.
 WString LibraryPath(const wchar_t* name);
 
 }  // namespace kelvo

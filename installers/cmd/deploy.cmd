@@ -31,8 +31,8 @@ if not "%errorlevel%"=="0" goto copy
 if "%errorlevel%"=="1" set "first=1"
 
 :copy
-rem Copies the files before sorrel.exe runs. A detection rule compares what is installed with the certificates and the
-rem INF in the product's folder. If sorrel.exe ran first and an upgrade failed, the folder would still hold the old
+rem Copies the files before sorrel.exe runs. A detection rule compares the certificates and the INF in the product's
+rem folder with what is installed. If sorrel.exe ran first and an upgrade failed, the folder would still hold the old
 rem version's files, and the rule could report success.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"

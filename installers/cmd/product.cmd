@@ -15,5 +15,5 @@ set "inf=Tessalin.inf"
 set "publisher=trusted.cer"
 set "intermediate=trusted_i.cer"
 rem What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-rem installation ignores the two error codes for a missing radio. The setting has no effect on other errors.
+rem installation ignores only the two codes that Windows documents for a missing radio (see run_sorrel.cmd).
 set "radio_off=fails"

@@ -1,7 +1,7 @@
 @echo off
 rem run_sorrel.cmd ARGUMENT...   runs the sorrel.exe beside this script with these arguments, shows the output and
-rem appends it to the product's log. Returns 1603 if a step failed, if the name was not recorded, or if a file could not
-rem be used. Otherwise returns 3010 if a restart is needed, or 0.
+rem appends it to the product's log. Returns 1603 if a step failed, if the name was not recorded, or if product.cmd
+rem or the file for the output could not be used. Otherwise returns 3010 if a restart is needed, or 0.
 setlocal EnableExtensions DisableDelayedExpansion
 rem Deletes any environment variable named errorlevel, because it would hide the exit codes of programs.
 set "errorlevel="
@@ -13,7 +13,7 @@ set "run=%log%.run"
 set "failed="
 set "restart="
 
-rem Renames a log of more than 64 KB, so that the output of the latest runs is kept.
+rem If the log exceeds 64 KB, renames it to .old and starts a new log.
 if exist "%log%" for %%F in ("%log%") do if %%~zF gtr 65536 move /y "%log%" "%log%.old" >nul
 >>"%log%" echo === %product%, %date% %time%: sorrel.exe %*
 
@@ -26,10 +26,9 @@ if not exist "%run%" exit /b 1603
 
 rem An empty output is a failure: a run of sorrel.exe that completes writes at least one line.
 for %%F in ("%run%") do if "%%~zF"=="0" set "failed=1"
-rem A missing bthprops.cpl is never a failure. A Bluetooth radio that is missing or off is a failure, unless product.cmd
-rem sets radio_off to "spared". Windows documents two codes for a missing radio: 00000490 and 00000014 (hexadecimal).
-rem With such a code, sorrel.exe writes an error line, and "register" and "unregister" also exit with this code (1168 or
-rem 20 in decimal).
+rem A missing bthprops.cpl is never a failure. If product.cmd sets radio_off to "spared", the two codes that Windows
+rem documents for a missing radio are no failures either: 00000490 and 00000014 (hexadecimal). With such a code,
+rem sorrel.exe writes an error line, and "register" and "unregister" also exit with this code (1168 or 20 in decimal).
 set "spared=none"
 if "%radio_off%"=="spared" set "spared=BluetoothSetLocalServiceInfo Error"
 rem cmd.exe parses each line below before it expands FOR variables such as %%A. Therefore, text from the output is never

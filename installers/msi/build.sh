@@ -30,7 +30,7 @@ declare -A setting=(
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
   # What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-  # installation ignores the two error codes for a missing radio. The setting has no effect on other errors.
+  # installation ignores only the two codes that Windows documents for a missing radio (see run_sorrel.cmd).
   [RADIO_OFF]='fails'
 )
 

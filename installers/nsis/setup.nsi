@@ -22,7 +22,7 @@
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
 ; What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-; installation ignores the two error codes for a missing radio. The setting has no effect on other errors.
+; installation ignores only the two codes that Windows documents for a missing radio (see run_sorrel.cmd).
 !insertmacro Setting RADIO_OFF "fails"
 ; Add the driver package's other files here.
 !macro EachFile DO

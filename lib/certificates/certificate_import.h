@@ -8,11 +8,10 @@ namespace kelvo {
 // certificate, replaces it. Both strings are NUL-terminated. `storeName` is Windows' name for the
 // store, such as "CA". The store must exist; changing it needs administrative rights.
 //
-// The file may hold the certificate in binary (DER), Base64 or, with the prefix "{ASN}",
-// hexadecimal form. For a PFX
-// file, a PKCS #7 message or a serialized store, adds nothing and returns 0. Do not pass a
-// certificate revocation list (CRL) or a certificate trust list (CTL): the function would use the
-// CRL_CONTEXT or CTL_CONTEXT as a CERT_CONTEXT.
+// The file may hold the certificate in binary (DER), Base64 or hexadecimal form. The hexadecimal
+// form must begin with "{ASN}". For a PFX file, a PKCS #7 message or a serialized store, adds
+// nothing and returns 0. Do not pass a certificate revocation list (CRL) or a certificate trust
+// list (CTL): the function would use the CRL_CONTEXT or CTL_CONTEXT as a CERT_CONTEXT.
 //
 // Returns 0 or the error code of the step that failed. The first step loads "crypt32.dll" and
 // looks up all functions that are needed; if one of them is missing, no store changes. The other

@@ -27,8 +27,8 @@ using OwnedModule = Owned<internal::ModuleTraits>;
 
 // Returns the function that `module` exports as `name` (GetProcAddress). If `module` has no such
 // export, returns null, and GetLastError returns the error of GetProcAddress. If `module` is null,
-// returns null and does not change the last error. If the module could not be loaded, GetLastError
-// therefore still returns that error.
+// returns null and does not change the last error. After a failed load, GetLastError
+// therefore still returns the error of the load.
 template <typename Function>
 Function* FindFunction(HMODULE module, const char* name) {
   return module == nullptr

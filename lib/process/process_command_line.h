@@ -10,7 +10,8 @@ namespace kelvo {
 // these cases:
 //   - GetVersionExW fails, reports Windows 9x, or reports Windows 7 or later. GetProcessCommandLine
 //     then does not try to read the other process.
-//   - `bufferBytes` is less than the length in bytes that was read from the other process.
+//   - `bufferBytes` is less than the supposed length of the command line in bytes, which is read
+//     from the other process.
 //   - NtQueryInformationProcess (looked up at run time) is missing or fails.
 //   - The memory of the other process cannot be read (ReadProcessMemory). `buffer` may then contain
 //     some bytes of that memory.

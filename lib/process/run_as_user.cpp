@@ -120,7 +120,7 @@ BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process) {
   const HANDLE token = internal::DuplicateAsPrimary(std::move(ownToken)).release();
   Launch launch;
   return internal::GuardedOperation(
-      // Traced last after every failure, even without an exception.
+      // Traced last when the steps below fail, even without an exception.
       L"RunAsUser exception caught in __finally",
       [&] {
         return internal::EnableStartPrivileges() && KeepPlace(station, desktop, launch) &&

@@ -25,9 +25,9 @@ using NameTextList = std::vector<std::pair<WString, WString>>;
 //     ExpandEnvironmentStringsW. The string stays unexpanded when the expansion fails, or when the
 //     expanded string has more than 260 characters, including its NUL.
 //   - REG_DWORD: the bytes of the number are interpreted as UTF-16 characters, up to the first NUL.
-//     The number is not converted to digits. All values are read into the same buffer. When the
-//     bytes contain no NUL, the string continues with the data that earlier values left in that
-//     buffer.
+//     The number is not converted to digits. All values are read into the same buffer. When none
+//     of these characters is a NUL, the string continues with the data that earlier values left in
+//     that buffer.
 NameTextList ReadRegistryKeyValues(HKEY root, const wchar_t* subkey);
 
 }  // namespace kelvo

@@ -26,8 +26,8 @@ BOOL CopyACL(ACL* destination, const ACL* source);
 // Returns the size in bytes of a new ACL that holds the ACEs of `acl` (which may be null), an allow
 // or deny ACE for each SID in `sids`, and the ACEs in `aces`. If `acl` is not null, the result is
 // larger than necessary by the size of an ACL header, because it also counts the header of `acl`.
-// Either array may be
-// null when its count is 0. Returns 0 when `acl` is malformed or a SID is invalid.
+// Either array may be null when its count is 0. Returns 0 when `acl` is malformed or a SID is
+// invalid.
 DWORD CalculateACLSize(const ACL* acl, const PSID* sids, DWORD sidCount,
                        const ACCESS_ALLOWED_ACE* const* aces, DWORD aceCount);
 

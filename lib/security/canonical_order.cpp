@@ -27,7 +27,7 @@ DWORD FindInsertionIndex(const ACL* acl, const ACCESS_ALLOWED_ACE* ace) {
       return index;
     }
     const std::optional<DWORD> presentRank = CanonicalRank(internal::HeaderOfAce(present));
-    // "Src" means `acl`.
+    // In this message, "Src" means `acl`.
     if (!internal::Check(presentRank.has_value(), L"GetACEInsertionIndex Bad Src Ace Type")) {
       return kNoAceIndex;
     }

@@ -69,7 +69,7 @@ bool DeleteDenyAcesOfObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type,
 BOOL DeleteDenyACEofObject(PSID sid, HANDLE object, SE_OBJECT_TYPE type) {
   OwnedLocalMemory<void> descriptor;
   return internal::GuardedOperation(
-      // Traced last after every failure, even without an exception.
+      // Traced last when the steps below fail, even without an exception.
       L"DeleteDenyACEofObject exception caught in __finally",
       [&] { return DeleteDenyAcesOfObject(sid, object, type, descriptor); },
       [&] { descriptor.reset(); });

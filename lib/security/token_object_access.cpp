@@ -84,7 +84,7 @@ BOOL AllowTokenFullAccessToObject(HANDLE token, HANDLE object, SE_OBJECT_TYPE ty
   }
   TokenHolders holders;
   return internal::GuardedOperation(
-      // Traced last after every failure, even without an exception.
+      // Traced last when the steps below fail, even without an exception.
       L"AllowTokenFullAccessToObject exception caught in __finally",
       [&] {
         if (!DeleteDenyAcesOfUser(token, object, type, holders) ||

@@ -104,7 +104,7 @@ TOKEN_PRIVILEGES* CreateTokenPriv(DWORD* count, const wchar_t* const* names, BOO
   OwnedPrivileges all;
   OwnedPrivileges result;
   const BOOL made = internal::GuardedOperation(
-      // Traced last after every failure, even without an exception.
+      // Traced last when the steps below fail, even without an exception.
       L"CreateTokenPriv exception caught in __finally",
       [&] {
         return MakePrivileges(useBuiltIn != FALSE ? kBuiltInPrivileges : names, count, all, result);

@@ -15,9 +15,9 @@ namespace kelvo {
 
 namespace {
 
-// The values that differ between window stations and desktops. The texts are traced after failures.
-// `allocationFailed` is for the memory of the new DACL. `cleanUp` is traced last, even without an
-// exception.
+// The values that differ between window stations and desktops. Each text is traced when its step
+// fails; `allocationFailed`, when there is no memory for the new DACL. After any failure, `cleanUp`
+// is traced last, even if no exception occurred.
 struct WindowObjectKind {
   ACCESS_MASK mask;
   const wchar_t* readFailed;

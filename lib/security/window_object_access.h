@@ -9,8 +9,9 @@ namespace kelvo {
 // requires (GetACEInsertionIndex in canonical_order.h). If GetACEInsertionIndex returns
 // kNoAceIndex, the ACE is appended. When the DACL already has an equal ACE, or the object has no
 // DACL, the functions return TRUE and change nothing. The handle needs READ_CONTROL and WRITE_DAC.
-// When the DACL cannot be read, when the ACE cannot be created, or when the new DACL cannot be
-// built or written, the functions trace the failure, return FALSE and leave the DACL unchanged.
+// When the DACL cannot be read, when the object has a DACL but the ACE cannot be created, or when
+// the new DACL cannot be built or written, the functions trace the failure, return FALSE and leave
+// the DACL unchanged.
 //
 // Both functions leak memory. Each call that can read the DACL allocates an ACE and never frees the
 // ACE. If CalculateACLSize gives more than 1,008 bytes for the new DACL, its memory is not freed

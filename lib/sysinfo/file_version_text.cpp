@@ -26,8 +26,8 @@ std::vector<BYTE> ReadVersionResource(const wchar_t* path) {
   return resource;
 }
 
-// Returns VerQueryValueW's path of the string "FileVersion" for the first translation. Returns an
-// empty string when the resource has no translation.
+// Returns the path under which VerQueryValueW finds the string "FileVersion" of the first
+// translation. Returns an empty string when the resource has no translation.
 WString FileVersionPath(std::span<const BYTE> resource) {
   const std::span<const BYTE> value =
       internal::FindVersionValue(resource, L"\\VarFileInfo\\Translation", sizeof(BYTE));

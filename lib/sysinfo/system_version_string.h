@@ -26,8 +26,8 @@ namespace kelvo {
 //     read, or when an exception ends a query. When any other query fails, the line lacks the
 //     result of that query and contains no error message. The same applies when Windows lacks
 //     GetProductInfo.
-//   - This function catches exceptions. It throws only when memory runs out while it adds an error
-//     message to the line.
+//   - This function catches exceptions. It throws only when memory runs out while it adds the error
+//     message about an exception.
 WString GetSystemVersionString();
 
 // Returns the version of the running Windows as "(major.minor.build)", with the low 16 bits of the

@@ -22,8 +22,8 @@ WString GetAccountName();
 // the name is not limited. Calls GetUserNameExW of "secur32.dll". Loads this DLL without a path, so
 // the process's DLL search order decides which file is loaded. Calls FreeLibrary after the call.
 // Returns an empty string when `format` is NameUnknown, when the DLL does not load or lacks
-// GetUserNameExW, and when GetUserNameExW fails. For a local account, only NameSamCompatible
-// succeeds.
+// GetUserNameExW, and when GetUserNameExW fails. Windows documents that for a local account
+// only NameSamCompatible is supported.
 WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
 // Returns the first of these names that can be read, or an empty string when neither can be read:

@@ -88,7 +88,8 @@ bool EqualsIgnoringCase(std::wstring_view a, std::wstring_view b) {
 
 // `found` is the name of a file or folder that FindFirstFileW has found. Returns the locale name
 // that `found` contains. Returns an empty string when `found` does not fit the pattern. This can
-// happen because FindFirstFileW also matches short (8.3) names, and "*" also matches nothing.
+// happen because FindFirstFileW also matches short (8.3) names, and because "*" also matches an
+// empty string, as in "texts_.dll".
 WString NameWithin(const WString& found, const PathPattern& pattern, LocalisedFileForm form) {
   if (form == LocalisedFileForm::kFolder) {
     return found;

@@ -22,10 +22,10 @@ BOOL ReplaceAllInBuffer(wchar_t* buffer, std::size_t capacity, const wchar_t* se
                         const wchar_t* replacement);
 
 // Returns a map to which the program can add its own replacements. A key is the string to search
-// for, and its value is the replacement. ApplyTextSubstitutions first replaces "KELVO" and "Kelvo",
-// and then applies these replacements in the order of their keys. The library only reads the map,
-// and takes no lock. Therefore fill the map before other threads call ApplyTextSubstitutions or
-// RewriteWindowTexts.
+// for, and its value is the replacement. ApplyTextSubstitutions first replaces "KELVO" and "Kelvo"
+// with "kelvo", and then applies these replacements in the order of their keys. The library only
+// reads the map, and takes no lock. Therefore fill the map before other threads call
+// ApplyTextSubstitutions or RewriteWindowTexts.
 std::map<WString, WString>& TextSubstitutions();
 
 // Replaces the maker's name, "KELVO" or "Kelvo", with its lower-case form, "kelvo". Then applies

@@ -13,8 +13,9 @@ namespace kelvo {
 // characters. If a window's text is longer, nothing in it is replaced, and it is cut off after
 // 1,023 characters.
 //
-// Do not pass a window of another process. For a control of another process, GetWindowTextW may
-// return an empty text. Writing this text back could clear the window's labels and buttons.
+// Do not pass a window of another process. GetWindowTextW and SetWindowTextW do not support the
+// controls of another process. GetWindowTextW may return an empty text for such a control. Writing
+// this text back could clear the window's labels and buttons.
 //
 // Returns the result of EnumChildWindows.
 BOOL RewriteWindowTexts(HWND window);

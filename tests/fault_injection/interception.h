@@ -15,8 +15,8 @@
 
 namespace kelvo::test {
 
-// Whether a function opens or closes handles. kNone and kLeftOut: neither. calls.txt omits kLeftOut
-// functions: their arguments depend on the machine, or fault_injection.txt shows their effect.
+// Whether a function opens or closes handles. kNone and kLeftOut: neither. calls.txt omits kCloses
+// and kLeftOut functions: for kLeftOut, arguments vary, or fault_injection.txt shows the effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
 // A function in watched.def and its replacement.

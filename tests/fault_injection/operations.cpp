@@ -56,7 +56,7 @@ std::wstring Answer(Run run) {
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
 TOKEN_ELEVATION_TYPE elevation;
-// Replaces a text that varies by machine. Keeps "full name", which simulated functions return.
+// Returns "a text" for a text, which varies by machine, except for the simulated "full name".
 WString IsThere(const WString& text) {
   if (text.empty()) {
     return L"nothing";
@@ -113,7 +113,7 @@ WString WriteAndDelete() {
   return answers;
 }
 
-// "an exception" stands for exit code 3, with which sorrel.exe would then end.
+// If RunCommandLine throws, the outcome is "an exception". sorrel.exe would end with exit code 3.
 #define COMMAND(list, ...)                                                                     \
   Operation {                                                                                  \
     #__VA_ARGS__, list, [] {                                                                   \
@@ -121,7 +121,6 @@ WString WriteAndDelete() {
       return Answer([&] { return Text(RunCommandLine(arguments.size(), arguments.data())); }); \
     }                                                                                          \
   }
-// sorrel_status.exe writes a whole report with one call to WriteFile.
 #define REPORT(...)                                                                               \
   Operation {                                                                                     \
     "sorrel_status " #__VA_ARGS__, L"kite", [] {                                                  \

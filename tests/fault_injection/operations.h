@@ -2,7 +2,7 @@
 
 #include <string>
 
-// Runs a program's command line or calls the library. In each run, the test makes at most one of
+// Handles a program's command line or calls the library. In each run, the test makes at most one of
 // the operation's calls fail. Before each run, the test reloads fault_injection_operations.dll to
 // reset the DLL's state. The DLL exports the array "operations". Its last element's `name` is null.
 struct Operation {

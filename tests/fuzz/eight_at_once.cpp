@@ -12,7 +12,7 @@ namespace kelvo::fuzz {
 
 static std::intptr_t Start(const wchar_t* form, const wchar_t* name) {
   std::intptr_t process = -1;
-  // Under load Wine sometimes fails to start a program.
+  // Under load, Wine sometimes fails to start a program.
   for (DWORD tries = 0; process == -1; ++tries) {
     Expect(tries < 10, "the program starts");
     Sleep(100 * tries);

@@ -30,7 +30,7 @@ if(NOT manifest OR NOT start MATCHES "504500004c01")
   message(SEND_ERROR "The setup does not ask for an administrator's rights, or is not a 32-bit program")
 endif()
 
-# Refused settings: with them, a setup would be faulty.
+# Refused: settings with which a setup would be faulty, and mistakes on the command line.
 expect(2 "code page 1252" ${msi} MAKER=Žluť)
 foreach(version 1.0.0.1 1.256.0 1.0.65536)
   expect(2 "at most 255.255.65535" ${msi} VERSION=${version})

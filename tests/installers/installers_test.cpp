@@ -13,8 +13,7 @@ static const wchar_t* const kPublishedInf = L"C:\\windows\\inf\\oem97.inf";
 // Copies of this program simulate pnputil and certutil, which Wine lacks or has only as stubs. If
 // the environment variable "ends" is a failure code, a copy exits with it at once. Otherwise,
 // it appends its name and all its arguments except the last to the file kStandIns. If told to
-// delete kPublishedInf, by an option that its version knows, it does so. If told to delete a stored
-// certificate, it empties the store.
+// delete kPublishedInf, it does so. If told to delete a stored certificate, it empties the store.
 static const bool isStandIn = [] {
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);

@@ -1,4 +1,4 @@
-# Checks the imports, linker settings, size, checksum, manifest and version of a program's file:
+# Checks the imports, linker settings, size, checksum, resources and private paths of a program's file:
 # cmake -D program=... -D libraries=... -D most_bytes=... -D readobj=... -D osslsigncode=... -D source_folder=... -P check_program_file.cmake
 
 execute_process(COMMAND ${readobj} --coff-imports --file-headers --sections --coff-debug-directory --coff-load-config

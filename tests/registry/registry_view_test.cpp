@@ -17,7 +17,7 @@ TEST_CASE("EnableRegistryReflection: detects failures; GetRegistryViewAccess: re
   CHECK_BOTH(GetRegistryViewAccess(0) == 0, GetRegistryViewAccess(3) == 0);
 }
 
-TEST_CASE("GetMuiCacheKeyName: returns one name since Vista, another on XP, none before XP") {
+TEST_CASE("GetMuiCacheKeyName: one name since Vista, another on 5.1 and 5.2, none before") {
   const std::tuple<DWORD, DWORD, WString> rows[] = {
       {6, 0, L"Software\\Classes\\Local Settings\\Software\\Microsoft\\Windows\\Shell\\MuiCache"},
       {5, 2, L"Software\\Microsoft\\Windows\\ShellNoRoam\\MUICache"},

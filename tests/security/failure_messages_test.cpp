@@ -37,7 +37,7 @@ constexpr FailingCall kWatched[] = {
 static std::wstring operation, traced;
 
 // In each run of an operation, at most one call of a kWatched function is made to fail or throw.
-// For each operation and outcome, failure_messages.txt lists each function's first such call:
+// For each operation and outcome, failure_messages.txt lists each function's first call with it:
 //   fails: the operation fails, and its last message is "exception caught in __finally"
 //   fails without clean-up: the operation fails without this message
 //   ..., usual message: the only other message is "FUNCTION Failed", or none if the call throws
@@ -131,7 +131,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       }
     }
   }
-  // Before it starts the program, RunAsUser grants its user all rights on the interactive desktop.
+  // Before it starts a program, RunAsUser grants this process's user all rights on that desktop.
   WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
   RunAsUser(command, TRUE, nullptr);
   CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);

@@ -127,7 +127,7 @@ TEST_CASE("QueryService: finds the local service's device, ignores devices of re
 static char written[0x1000];
 
 struct Conditions {
-  HANDLE device = GetCurrentThread();  // standard output and standard error
+  HANDLE device = GetCurrentThread();  // stands for standard output and standard error
   BOOL writes = TRUE;
   bool hasMemory = true;
 };

@@ -25,7 +25,7 @@ struct ScratchKey : std::wstring {
 };
 
 // Stores `units`, without their last `cutBytes` bytes, as a registry value. In memory, "#"
-// follows the stored bytes: if a NUL followed them, Windows would also store that NUL.
+// follows `units`: if a NUL followed them, Windows would also store that NUL.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);

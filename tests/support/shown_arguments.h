@@ -10,7 +10,7 @@
 
 namespace kelvo::test {
 
-// Describes an argument: a number, a read-only string (for a full path, the part from its last
+// Describes an argument: a number, a const string (for a full path, the part from its last
 // backslash), a registry key, or fields of a structure. Null is "0". Any other pointer is "given".
 template <typename Argument>
 std::string Shown(Argument argument) {

@@ -56,8 +56,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only the texts of the window, its labels
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
-  // Each key applies once, in sorted order: "a kelvo! b" becomes "b kelvo! b", then "c kelvo! c",
-  // then "c ab c".
+  // Each key applies once, in order: "a kelvo! b" becomes "b kelvo! b", "c kelvo! c", "c ab c".
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},
@@ -85,7 +84,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only the texts of the window, its labels
 }
 
 TEST_CASE("GetStringResourceLanguages, RewriteWindowTexts: throw only after the enumeration") {
-  // The first exception makes the C++ runtime allocate memory that later exceptions use, too.
+  // Throws once while malloc works: the first exception makes the C++ runtime allocate memory.
   CHECK_THROWS(throw 1);
   bool hasMemory = true, isThrown = false;
   REPLACE(malloc,

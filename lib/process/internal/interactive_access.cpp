@@ -9,8 +9,9 @@ namespace kelvo::internal {
 
 namespace {
 
-// In the traced messages, "WinStat" and "hwinstaNew" mean the window station "WinSta0", and
-// "hdeskNew" means its desktop "Default".
+// In the messages that this file traces, "WinStat" and "hwinstaNew" mean the window station
+// "WinSta0", and "hdeskNew" means its desktop "Default".
+
 constexpr ACCESS_MASK kReadAndWriteDacl = READ_CONTROL | WRITE_DAC;
 
 // Returns null when the station cannot be opened or assigned to the process.

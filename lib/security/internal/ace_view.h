@@ -18,8 +18,9 @@ namespace kelvo::internal {
 constexpr DWORD kSidOffset = offsetof(ACCESS_ALLOWED_ACE, SidStart);
 
 // Returns true when all ACEs, each of AceSize bytes, are inside the AclSize bytes of the ACL.
-// Returns false when they are not, when AclSize or an AceSize is less than the size of its header,
-// or when `acl` is null. Does not check the contents of the ACEs.
+// Returns false when they are not, when AclSize is less than the size of an ACL header, when an
+// AceSize is less than the size of an ACE_HEADER, or when `acl` is null. Does not check the
+// contents of the ACEs.
 bool AreAcesInsideAcl(const ACL* acl);
 
 // Stores the ACL's size information in `size` (GetAclInformation with AclSizeInformation) and
@@ -35,10 +36,10 @@ void* AceAt(const ACL* acl, DWORD index);
 // Returns an ACE's header. All bytes of the header must be readable.
 ACE_HEADER HeaderOfAce(const void* ace);
 
-// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. Never
-// reads past these bytes, which must all be readable. An object ACE has other data at kSidOffset.
-// This function treats that data as a SID. If the object ACE's Flags are valid, such a SID never
-// equals the SID of an account.
+// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. Except
+// for the ACE's header, never reads past these bytes, which must all be readable. An object ACE has
+// other data at kSidOffset. This function treats that data as a SID. If the object ACE's Flags are
+// valid, such a SID never equals the SID of an account.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal
