@@ -52,7 +52,8 @@ Detail TextDetail(const char* key, const wchar_t* label, const WString& text);
 
 // Adds two details for the Windows error code `error`:
 //   - `key` + "_code": the value is the code in eight hexadecimal digits. The phrase is `label`
-//     immediately followed by the code and, if there is one, a space and the system's message.
+//     immediately followed by the code. If the system has a message, a space and the message
+//     follow.
 //   - `key` + "_text": the value is the system's message. The phrase is empty.
 // Full stops, spaces and line breaks at the end of the message are removed.
 void AddError(Item& item, const std::string& key, const WString& label, DWORD error);

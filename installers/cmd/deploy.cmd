@@ -33,7 +33,7 @@ if "%errorlevel%"=="1" set "first=1"
 :copy
 rem Copies the files before sorrel.exe runs. A detection rule compares the certificates and the INF in the product's
 rem folder with what is installed. If sorrel.exe ran first and an upgrade failed, the folder would still hold the old
-rem version's files, and the rule could report success.
+rem version's files, and a rule that does not check the version could report success.
 if /i "%here%"=="%folder%\" goto install
 if not exist "%folder%\" md "%folder%"
 for %%F in (%files%) do call :lay %%F

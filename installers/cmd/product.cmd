@@ -14,6 +14,6 @@ rem issued the signer's certificate.
 set "inf=Tessalin.inf"
 set "publisher=trusted.cer"
 set "intermediate=trusted_i.cer"
-rem What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-rem installation ignores only the two codes that Windows documents for a missing radio (see run_sorrel.cmd).
+rem What happens if Windows reports one of the two codes that it documents for a missing Bluetooth radio (see
+rem run_sorrel.cmd). With "fails", the installation fails. With "spared", the installation ignores this error.
 set "radio_off=fails"

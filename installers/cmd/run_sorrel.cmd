@@ -13,7 +13,7 @@ set "run=%log%.run"
 set "failed="
 set "restart="
 
-rem If the log exceeds 64 KB, renames it to .old and starts a new log.
+rem If the log exceeds 64 KB, adds .old to its name and starts a new log.
 if exist "%log%" for %%F in ("%log%") do if %%~zF gtr 65536 move /y "%log%" "%log%.old" >nul
 >>"%log%" echo === %product%, %date% %time%: sorrel.exe %*
 

@@ -29,8 +29,8 @@ declare -A setting=(
   [INF]='Tessalin.inf'
   [PUBLISHER]='trusted.cer'
   [INTERMEDIATE]='trusted_i.cer'
-  # What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-  # installation ignores only the two codes that Windows documents for a missing radio (see run_sorrel.cmd).
+  # What happens if Windows reports one of the two codes that it documents for a missing Bluetooth radio (see
+  # run_sorrel.cmd). With "fails", the installation fails. With "spared", the installation ignores this error.
   [RADIO_OFF]='fails'
 )
 

@@ -21,8 +21,8 @@
 !insertmacro Setting INF "Tessalin.inf"
 !insertmacro Setting PUBLISHER "trusted.cer"
 !insertmacro Setting INTERMEDIATE "trusted_i.cer"
-; What happens if the Bluetooth radio is missing or off. With "fails", the installation fails. With "spared", the
-; installation ignores only the two codes that Windows documents for a missing radio (see run_sorrel.cmd).
+; What happens if Windows reports one of the two codes that it documents for a missing Bluetooth radio (see
+; run_sorrel.cmd). With "fails", the installation fails. With "spared", the installation ignores this error.
 !insertmacro Setting RADIO_OFF "fails"
 ; Add the driver package's other files here.
 !macro EachFile DO

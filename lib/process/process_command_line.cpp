@@ -34,7 +34,8 @@ static_assert(sizeof(ProcessParameters) == 240);
 static_assert(sizeof(PROCESS_BASIC_INFORMATION) == 48 &&
               offsetof(PROCESS_BASIC_INFORMATION, PebBaseAddress) == 8);
 
-// GetProcessCommandLine sets this address before each attempt to read the other process.
+// The address of NtQueryInformationProcess. GetProcessCommandLine looks up the address before each
+// attempt to read the other process.
 decltype(&::NtQueryInformationProcess) queryProcess = nullptr;
 
 // Returns the number of bytes read, or 0 on failure.

@@ -10,11 +10,10 @@ namespace kelvo {
 // these cases:
 //   - GetVersionExW fails, reports Windows 9x, or reports Windows 7 or later. GetProcessCommandLine
 //     then does not try to read the other process.
-//   - `bufferBytes` is less than the supposed length of the command line in bytes, which is read
-//     from the other process.
+//   - `bufferBytes` is less than the number of bytes to copy, which the function reads from the
+//     other process.
 //   - NtQueryInformationProcess (looked up at run time) is missing or fails.
-//   - The memory of the other process cannot be read (ReadProcessMemory). `buffer` may then contain
-//     some bytes of that memory.
+//   - ReadProcessMemory fails. `buffer` may then contain some bytes of the other process's memory.
 //
 // NtQueryInformationProcess returns the address of the process environment block (PEB). A pointer
 // in the PEB leads to the process parameters, which contain the command line. GetProcessCommandLine

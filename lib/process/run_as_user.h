@@ -20,14 +20,14 @@ namespace kelvo {
 //     and its desktop "Default" until the session ends (see AllowTokenFullAccessToObject in
 //     lib/security/token_object_access.h).
 //   - The call fails when EnablePrivilege (lib/security/process_privilege.h) fails for
-//     SeTakeOwnershipPrivilege, for example because Windows does not know that privilege. This
-//     process need not hold SeTakeOwnershipPrivilege. The call also fails when CreateProcessAsUserW
-//     requires SeAssignPrimaryTokenPrivilege for the copied token and this process does not hold
-//     that privilege.
+//     SeTakeOwnershipPrivilege, for example because Windows does not know that privilege. The
+//     call does not fail when this process merely lacks that privilege. The call also fails when
+//     CreateProcessAsUserW requires SeAssignPrimaryTokenPrivilege for the copied token and this
+//     process does not hold that privilege.
 //   - The new process and its thread get a null DACL, which gives everyone full access to them. If
-//     SYSTEM calls this function, this DACL lets every user of the computer control a process that
-//     runs as SYSTEM. On Windows Vista and later, only the integrity level of the process still
-//     protects it.
+//     SYSTEM calls this function, this DACL does not protect the process, which runs as SYSTEM,
+//     from any user of the computer. On Windows Vista and later, its integrity level is the only
+//     protection.
 //   - Begin the command line with a full path in quotation marks. Without the quotation marks,
 //     Windows tries "C:\Program.exe" before "C:\Program Files\...".
 //   - The following privileges, if this process holds them, are enabled and stay enabled until this

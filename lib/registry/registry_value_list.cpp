@@ -21,8 +21,8 @@ class ValueReader {
     nameLength_ = kBufferLength;
     size_ = kBufferLength * sizeof(wchar_t);
     name_.front() = L'\0';
-    // Clears only the first character. As registry_value_list.h says, the string of a REG_DWORD
-    // value may continue with the data that earlier values left in the rest of `data_`.
+    // Clears only the first character, to keep the data of earlier values in the rest of `data_`:
+    // the string of a REG_DWORD value may continue with that data (see registry_value_list.h).
     data_.front() = L'\0';
     return RegEnumValueW(key_, index, name_.data(), &nameLength_, nullptr, &type_,
                          reinterpret_cast<BYTE*>(data_.data()), &size_) == ERROR_SUCCESS;

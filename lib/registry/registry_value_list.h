@@ -24,10 +24,10 @@ using NameTextList = std::vector<std::pair<WString, WString>>;
 //   - REG_EXPAND_SZ: the string is read as for REG_SZ and then expanded with
 //     ExpandEnvironmentStringsW. The string stays unexpanded when the expansion fails, or when the
 //     expanded string has more than 260 characters, including its NUL.
-//   - REG_DWORD: the bytes of the number are interpreted as UTF-16 characters, up to the first NUL.
-//     The number is not converted to digits. All values are read into the same buffer. When none
-//     of these characters is a NUL, the string continues with the data that earlier values left in
-//     that buffer.
+//   - REG_DWORD: the number is not converted to digits. Its bytes are interpreted as UTF-16
+//     characters, up to the first NUL character. All values are read into the same buffer. When the
+//     number's bytes contain no NUL character, the string continues with the data that earlier
+//     values left in that buffer.
 NameTextList ReadRegistryKeyValues(HKEY root, const wchar_t* subkey);
 
 }  // namespace kelvo

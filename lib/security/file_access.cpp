@@ -155,7 +155,7 @@ bool CarryInheritanceOver(PSECURITY_DESCRIPTOR from, PSECURITY_DESCRIPTOR to) {
   auto* const setControl =
       KELVO_FIND_FUNCTION(GetModuleHandleW(L"advapi32.dll"), SetSecurityDescriptorControl);
   if (setControl == nullptr) {
-    // Only Windows NT 4.0 lacks this function, and it has no auto-inherited or protected DACLs.
+    // Windows NT 4.0 lacks this function, but it also has no auto-inherited or protected DACLs.
     return true;
   }
   SECURITY_DESCRIPTOR_CONTROL old = 0;

@@ -13,10 +13,9 @@ namespace kelvo {
 //   - An auto-inherited DACL stays auto-inherited. A protected DACL that is not auto-inherited
 //     stays protected. A DACL that is both protected and auto-inherited ("D:PAI") loses its
 //     protection: the file can again inherit ACEs from its parent folder.
-//   - Symbolic links and junctions in `path` are followed: the DACL of the file to which `path`
-//     finally leads is changed. However, Windows' documentation says that a symbolic link at the
-//     end of `path` is not followed. In either case, use a path that no other user can redirect to
-//     another file.
+//   - Symbolic links and junctions in `path` are followed, so the DACL of another file may be
+//     changed. (According to Windows' documentation, this does not apply to a symbolic link at the
+//     end of `path`.) Use a path that no other user can redirect to another file.
 //
 // The caller needs READ_CONTROL and WRITE_DAC access to the file (GetFileSecurityW,
 // SetFileSecurityW). The new DACL is set in one call. Returns TRUE when that call succeeds. On any

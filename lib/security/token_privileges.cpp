@@ -104,7 +104,7 @@ TOKEN_PRIVILEGES* CreateTokenPriv(DWORD* count, const wchar_t* const* names, BOO
   OwnedPrivileges all;
   OwnedPrivileges result;
   const BOOL made = internal::GuardedOperation(
-      // Traced last when the steps below fail, even without an exception.
+      // The only traced message: traced when the steps below fail, even without an exception.
       L"CreateTokenPriv exception caught in __finally",
       [&] {
         return MakePrivileges(useBuiltIn != FALSE ? kBuiltInPrivileges : names, count, all, result);

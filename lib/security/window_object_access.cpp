@@ -16,8 +16,8 @@ namespace kelvo {
 namespace {
 
 // The values that differ between window stations and desktops. Each text is traced when its step
-// fails; `allocationFailed`, when there is no memory for the new DACL. After any failure, `cleanUp`
-// is traced last, even if no exception occurred.
+// fails. `allocationFailed` is traced when there is no memory for the new DACL. After any failure,
+// `cleanUp` is traced last, even if no exception occurred.
 struct WindowObjectKind {
   ACCESS_MASK mask;
   const wchar_t* readFailed;

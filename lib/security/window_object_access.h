@@ -14,8 +14,7 @@ namespace kelvo {
 // the DACL unchanged.
 //
 // Both functions leak memory. Each call that can read the DACL allocates an ACE and never frees the
-// ACE. If CalculateACLSize gives more than 1,008 bytes for the new DACL, its memory is not freed
-// either.
+// ACE. If CalculateACLSize returns more than 1,008, the memory of the new DACL is not freed either.
 
 // Grants STANDARD_RIGHTS_REQUIRED and WINSTA_ALL_ACCESS: mask 0x000F037F.
 BOOL AllowAccessToWinSta(PSID sid, HWINSTA station);

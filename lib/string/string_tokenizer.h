@@ -27,8 +27,8 @@ class StringTokenizer {
 
  private:
   // Replaces each run of adjacent delimiters in `text_` with one delimiter. Called only by the
-  // constructor, when `collapse` is true and the delimiter is not one wchar_t. Delimiters are
-  // matched from left to right without overlap: "aaa" contains the delimiter "aa" once.
+  // constructor, when `collapse` is true and the delimiter is longer than one wchar_t. Delimiters
+  // are matched from left to right without overlap: "aaa" contains the delimiter "aa" once.
   void CollapseRuns();
 
   // Moves `next_` past the run of delimiters that starts at `next_`, if any. Called only when

@@ -135,9 +135,8 @@ void AppendNumbers(const OSVERSIONINFOEXW& version, OwnedRegistryKey& key, WStri
   }
 }
 
-// Writes the version line to `text`, which must be empty. If an exception ends this function while
-// a registry key is open, `key` owns that registry key, and the caller should reset `key`. But a
-// registry key that `key` no longer owns (see AppendProductType) stays open.
+// Writes the version line to `text`, which must be empty. If an exception ends this function, `key`
+// may still own an open registry key. The caller must then reset `key`.
 void Describe(OwnedRegistryKey& key, WString& text) {
   OSVERSIONINFOEXW version{};
   const VersionRecord record = QueryVersionRecord(version);

@@ -18,12 +18,12 @@ namespace kelvo {
 // string on failure.
 WString GetAccountName();
 
-// Returns the user's name in a format such as NameSamCompatible ("DOMAIN\name"). The length of
-// the name is not limited. Calls GetUserNameExW of "secur32.dll". Loads this DLL without a path, so
-// the process's DLL search order decides which file is loaded. Calls FreeLibrary after the call.
+// Returns the user's name in a format such as NameSamCompatible ("DOMAIN\name"). The length of the
+// name is not limited. Calls GetUserNameExW of "secur32.dll". Loads this DLL without a path, so the
+// process's DLL search order decides which file is loaded. Then frees the DLL (FreeLibrary).
 // Returns an empty string when `format` is NameUnknown, when the DLL does not load or lacks
-// GetUserNameExW, and when GetUserNameExW fails. Windows documents that for a local account
-// only NameSamCompatible is supported.
+// GetUserNameExW, and when GetUserNameExW fails. According to Microsoft's documentation, only
+// NameSamCompatible is supported for a local account.
 WString GetUserNameInFormat(EXTENDED_NAME_FORMAT format);
 
 // Returns the first of these names that can be read, or an empty string when neither can be read:

@@ -34,9 +34,9 @@ WString GetLocalisedFilePath(const wchar_t* folder, const wchar_t* fileName, LAN
 //
 // The locale name in the path of an existing file determines the file's language. GetLocaleInfoEx
 // (looked up at run time) converts the locale name to a language. When Windows lacks
-// GetLocaleInfoEx, only the file for `language` itself is found. If Windows knows a locale name but
-// has no LCID for it, as Windows 10 does for "en-DE", only the part of the name before the first
-// "-" determines the language.
+// GetLocaleInfoEx, only the file for `language` itself is found. If Windows accepts a locale name
+// but has no LCID for it (for example, "en-DE" on Windows 10), only the part of the name before the
+// first "-" determines the language.
 WString FindLocalisedFile(const wchar_t* folder, const wchar_t* fileName, LANGID language,
                           LocalisedFileForm form);
 

@@ -16,7 +16,7 @@
 namespace kelvo::test {
 
 // Whether a function opens or closes handles. kNone and kLeftOut: neither. calls.txt omits kCloses
-// and kLeftOut functions: for kLeftOut, arguments vary, or fault_injection.txt shows the effect.
+// functions, and kLeftOut functions: their arguments vary, or fault_injection.txt shows the effect.
 enum class Handles { kNone, kLeftOut, kOpens, kCloses };
 
 // A function in watched.def and its replacement.

@@ -56,7 +56,7 @@ std::wstring Answer(Run run) {
 WString Text(long long number) { return std::to_wstring(number).c_str(); }
 wchar_t buffer[MAX_PATH];
 TOKEN_ELEVATION_TYPE elevation;
-// Returns "a text" for a text, which varies by machine, except for the simulated "full name".
+// Replaces a text that varies by machine. Keeps "full name", which simulated functions return.
 WString IsThere(const WString& text) {
   if (text.empty()) {
     return L"nothing";
@@ -113,7 +113,7 @@ WString WriteAndDelete() {
   return answers;
 }
 
-// If RunCommandLine throws, the outcome is "an exception". sorrel.exe would end with exit code 3.
+// If RunCommandLine throws, the result is "an exception". sorrel.exe would then end with code 3.
 #define COMMAND(list, ...)                                                                     \
   Operation {                                                                                  \
     #__VA_ARGS__, list, [] {                                                                   \

@@ -1,5 +1,5 @@
 # Installs the project into empty folders and checks the files. Usage:
-# cmake -D build_folder=... -D source_folder=... -D folder=... -D toolchain=... -D wine=... -P check_installed.cmake
+# cmake -D build_folder=... -D source_folder=... -D folder=... -D wine=... -P check_installed.cmake
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -37,7 +37,7 @@ foreach(file ${files})
   endif()
 endforeach()
 
-# kelvo-config.cmake must set kelvo_FOUND to false unless the compiler is mingw. This script sets no compiler.
+# kelvo-config.cmake must accept only mingw. This script has no compiler, so kelvo_FOUND must be false.
 include(${folder}/all/lib/cmake/kelvo/kelvo-config.cmake)
 if(kelvo_FOUND OR NOT kelvo_NOT_FOUND_MESSAGE MATCHES "built for MINGW")
   message(SEND_ERROR "The package must accept only a mingw compiler: ${kelvo_NOT_FOUND_MESSAGE}")

@@ -1,5 +1,5 @@
 # Runs CPack once with a temporary signing certificate and once without signing. Checks the archives. Variables (-D):
-# source_folder, project, version, folder, osslsigncode, openssl, wine
+# source_folder, build_folder, version, folder, osslsigncode, openssl, wine
 
 cmake_minimum_required(VERSION 3.25)
 

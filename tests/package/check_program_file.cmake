@@ -1,4 +1,4 @@
-# Checks the imports, linker settings, size, checksum, resources and private paths of a program's file:
+# Checks a program's imports, linker settings, size, checksum and resources, and that it contains no private path:
 # cmake -D program=... -D libraries=... -D most_bytes=... -D readobj=... -D osslsigncode=... -D source_folder=... -P check_program_file.cmake
 
 execute_process(COMMAND ${readobj} --coff-imports --file-headers --sections --coff-debug-directory --coff-load-config

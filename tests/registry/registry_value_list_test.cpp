@@ -6,7 +6,7 @@ TEST_CASE("ReadRegistryKeyValues: lists names and strings") {
   using namespace std::string_literals;
   const std::wstring all(16383, L'x');
   const std::wstring hidden = L"<not listed>";
-  // The bytes of a REG_DWORD are listed as UTF-16. Only such a string can end in earlier data.
+  // A REG_DWORD's bytes are listed as UTF-16. Without a NUL, data of earlier values follows them.
   const std::tuple<DWORD, std::size_t, std::wstring, std::wstring> rows[] = {
       {REG_DWORD, 0, L"\x01\0"s, L"\x01"},
       {REG_SZ, 0, L"abcdefg\0"s, L"abcdefg"},

@@ -50,7 +50,7 @@ TEST_CASE("GetACEInsertionIndex: finds the first ACE with an equal or greater ra
 
 TEST_CASE(
     "FindACEInACL, DeleteDenyACEofObject, CopyACL: never read past the end of a malformed ACL") {
-  // If a function read past the end, it would swallow the exception and not trace "... Failed".
+  // A function that read past the end would swallow the access violation, not trace "... Failed".
   static std::wstring traced;
   SetTraceSink([](auto, const wchar_t* message) { traced += message + std::wstring(L";"); });
   TestAce ace{.type = 1};

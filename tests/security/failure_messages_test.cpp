@@ -37,10 +37,11 @@ constexpr FailingCall kWatched[] = {
 static std::wstring operation, traced;
 
 // In each run of an operation, at most one call of a kWatched function is made to fail or throw.
-// For each operation and outcome, failure_messages.txt lists each function's first call with it:
+// failure_messages.txt lists, for each outcome and function, the first call with that outcome:
 //   fails: the operation fails, and its last message is "exception caught in __finally"
-//   fails without clean-up: the operation fails without this message
-//   ..., usual message: the only other message is "FUNCTION Failed", or none if the call throws
+//   fails, no last message: the operation fails without this message
+//   ..., usual trace: the only other message is "FUNCTION Failed"; if the call throws, there is
+//   none
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new window station instead of the interactive one, which all programs share.
   const DesktopScope standIn(L"kelvo stand-in", L"Default");
@@ -108,7 +109,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       if (!wasReached && succeeded) {
         return false;
       }
-      std::wstring outcome = succeeded ? L"succeeds" : L"fails without clean-up";
+      std::wstring outcome = succeeded ? L"succeeds" : L"fails, no last message";
       const std::wstring cleanUp = L", exception caught in __finally";
       if (!succeeded && traced.ends_with(cleanUp)) {
         outcome = L"fails";
@@ -116,7 +117,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       }
       const WString named = throws ? L"" : FormatText(L", %hs Failed", failing.function);
       const bool isUsual = wasReached && !succeeded && traced == named.c_str();
-      outcome += isUsual ? L", usual message" : traced;
+      outcome += isUsual ? L", usual trace" : traced;
       std::wstring& calls = outcomes[name][outcome][throws ? 1 : 0];
       const WString call = FormatText(L" %hs-", failing.function);
       if (wasReached && calls.find(call.c_str()) == std::wstring::npos) {
@@ -131,7 +132,7 @@ TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
       }
     }
   }
-  // Before it starts a program, RunAsUser grants this process's user all rights on that desktop.
+  // RunAsUser first grants this process's user all rights on the interactive desktop (standIn).
   WriteDacl(standIn.desktop, L"D:(A;;GA;;;WD)");
   RunAsUser(command, TRUE, nullptr);
   CHECK(ReadDacl(standIn.desktop).find(kAllOfDesktop) != std::wstring::npos);

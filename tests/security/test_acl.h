@@ -76,8 +76,8 @@ inline OwnedKernelObject OwnToken() {
   return token;
 }
 
-// A window station and a desktop. Wine 10 finds their DACLs only with SE_KERNEL_OBJECT. While
-// this object exists, GetSecurityInfo and SetSecurityInfo get this type for SE_WINDOW_OBJECT.
+// A window station and a desktop. Wine 10 finds their DACLs only with SE_KERNEL_OBJECT. Therefore
+// replaces SE_WINDOW_OBJECT with SE_KERNEL_OBJECT in calls of GetSecurityInfo and SetSecurityInfo.
 struct WindowObjects : DesktopScope {
   WindowObjects() : DesktopScope(L"kelvo security test", L"kelvo desktop") {}
 

@@ -6,7 +6,7 @@
 
 namespace kelvo::test {
 
-// The current case up to " = ": a simulated system's properties, such as "5.1, type 2, bits 32", or
+// The current case without its result. It is either a simulated system ("5.1, type 2, bits 32"), or
 // a file, a version and changes to what VerQueryValueW returns.
 inline std::string given;
 inline bool Has(const std::string& word) { return given.find(word) != std::string::npos; }

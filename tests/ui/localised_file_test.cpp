@@ -39,7 +39,7 @@ TEST_CASE("FindLocalisedFile: finds the file for the language, or for the neares
   CHECK(GetLocalisedFilePath(L"C:\\x", L"a", 0xFFFF, kSuffix) == L"");
   CHECK(GetLocalisedFilePath(L"C:\\x", nullptr, 0x0407, kSuffix) == L"");
   // Each step creates a file, or only a folder if its path ends in a backslash. The second column
-  // is the file found after the step for German (Germany): kFolder in "resources", else kSuffix.
+  // is the file that is then found for German (Germany), in the form of the step's path.
   const wchar_t* const steps[][2] = {
       {L"\u00E9_old.x", L""},
       {L"\u00E9_de-DE.x\\", L""},

@@ -56,7 +56,7 @@ TEST_CASE("RewriteWindowTexts: rewrites only the texts of the window, its labels
   }
   TextSubstitutions() = {{L"b", L"c"}, {L"kelvo!", L"ab"}, {L"a", L"b"}};
   const std::wstring most(1017, L'x');
-  // Each key applies once, in order: "a kelvo! b" becomes "b kelvo! b", "c kelvo! c", "c ab c".
+  // In the order of the keys, "a kelvo! b" becomes "b kelvo! b", "c kelvo! c", "c ab c".
   const std::array<std::wstring, 3> rows[] = {
       {L"ListBox", L"KELVO window", L"kelvo window"},
       {L"Static", L"Kelvo KELVO kelvo KeLVO", L"kelvo kelvo kelvo KeLVO"},

@@ -36,10 +36,10 @@ void* AceAt(const ACL* acl, DWORD index);
 // Returns an ACE's header. All bytes of the header must be readable.
 ACE_HEADER HeaderOfAce(const void* ace);
 
-// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. Except
-// for the ACE's header, never reads past these bytes, which must all be readable. An object ACE has
-// other data at kSidOffset. This function treats that data as a SID. If the object ACE's Flags are
-// valid, such a SID never equals the SID of an account.
+// Returns an ACE's SID, or null when the SID is not wholly inside the ACE's AceSize bytes. Always
+// reads the ACE's header. Otherwise, never reads past these bytes. The header and all these bytes
+// must be readable. An object ACE has other data at kSidOffset. This function treats that data as a
+// SID. If the object ACE's Flags are valid, such a SID never equals the SID of an account.
 PSID SidOfAce(const void* ace);
 
 }  // namespace kelvo::internal

@@ -25,8 +25,8 @@ using OwnedLockedGlobalMemory = Owned<LockedGlobalMemory>;
 using FileVersionNumbers = std::array<int, 4>;
 
 struct FixedFileVersion {
-  // Memory for the file's whole version resource. Null when the file cannot be read or has no
-  // version resource, or when memory runs out.
+  // Memory for the file's whole version resource. Null when GetFileVersionInfoSizeW returns 0 or
+  // when memory runs out.
   OwnedLockedGlobalMemory memory;
   // The numbers in the VS_FIXEDFILEINFO block; std::nullopt when the file has no such block or the
   // block cannot be read.
