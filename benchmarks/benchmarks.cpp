@@ -261,14 +261,14 @@ std::size_t Start(const std::filesystem::path& program) {
 
 extern "C" int wmain(int /*argc*/, wchar_t** argv) {
   MeasureSplitting(Repeated(L"brindle;", 100'000));
-  MeasureComparison("compare 700,000 ASCII units that differ in case (goal: _wcsicmp at least 1)",
+  MeasureComparison("compare 700,000 ASCII letters that differ in case (goal: _wcsicmp at least 1)",
                     Repeated(L"BRINDLE", 100'000), Repeated(L"brindle", 100'000), true);
-  MeasureComparison("compare 300,000 Cyrillic units that differ in case (goal: lstrcmpiW above 1)",
-                    Repeated(L"\u0416\u0418\u042F", 100'000),
-                    Repeated(L"\u0436\u0438\u044F", 100'000), false);
-  MeasureComparison("compare 300,000 equal Cyrillic units (goal: CompareStringOrdinal at least 1)",
-                    Repeated(L"\u0416\u0418\u042F", 100'000),
-                    Repeated(L"\u0416\u0418\u042F", 100'000), false);
+  MeasureComparison(
+      "compare 300,000 Cyrillic letters that differ in case (goal: lstrcmpiW above 1)",
+      Repeated(L"\u0416\u0418\u042F", 100'000), Repeated(L"\u0436\u0438\u044F", 100'000), false);
+  MeasureComparison(
+      "compare 300,000 equal Cyrillic letters (goal: CompareStringOrdinal at least 1)",
+      Repeated(L"\u0416\u0418\u042F", 100'000), Repeated(L"\u0416\u0418\u042F", 100'000), false);
   MeasureShortNames();
   MeasureReplacing(Repeated(L"brindle kite;", 50'000));
   MeasureGrowth();

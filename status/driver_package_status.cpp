@@ -17,7 +17,7 @@ namespace kelvo {
 
 namespace {
 
-// The size limit for INF files. Most INF files are far smaller.
+// Larger INF files are refused. Most INF files are far smaller.
 constexpr LONGLONG kMostBytes = LONGLONG{4} * 1024 * 1024;
 
 // Opens a file and gets its size. If `path` is the path of a named pipe, SECURITY_ANONYMOUS
@@ -57,8 +57,8 @@ bool HasVersionSection(std::string bytes) {
   return bytes.find("[version]") != std::string::npos;
 }
 
-// Compares a file's content with `wanted`. If the file's size differs from that of `wanted`, the
-// file is not opened for reading. In this case, a file that cannot be read causes no error.
+// Compares a file's content with `wanted`. A file whose size differs from that of `wanted` is
+// not opened for reading, so it causes no error even if it cannot be read.
 DWORD CompareFile(const WString& path, const std::string& wanted, bool& isSame) {
   OwnedFile file;
   LARGE_INTEGER size{};

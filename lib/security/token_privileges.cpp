@@ -104,7 +104,7 @@ TOKEN_PRIVILEGES* CreateTokenPriv(DWORD* count, const wchar_t* const* names, BOO
   OwnedPrivileges all;
   OwnedPrivileges result;
   const BOOL made = internal::GuardedOperation(
-      // The only traced message: traced when the steps below fail, even without an exception.
+      // Traced when the steps below fail, even without an exception. Nothing else is traced.
       L"CreateTokenPriv exception caught in __finally",
       [&] {
         return MakePrivileges(useBuiltIn != FALSE ? kBuiltInPrivileges : names, count, all, result);

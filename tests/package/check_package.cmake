@@ -43,7 +43,7 @@ foreach(kind signed unsigned)
   list(SORT summed)
   foreach(files made summed)
     if(NOT ${files} STREQUAL "kelvo-${version}-win64-mingw-sdk.zip;${base}-simulator.zip;${base}-symbols.zip;${base}.spdx.json;${base}.zip")
-      message(SEND_ERROR "${folder}/${kind}: wrong list of files \"${files}\" (made: on disk; summed: SHA256SUMS): ${${files}}")
+      message(SEND_ERROR "${folder}/${kind}: wrong files (list ${files}; made: on disk, summed: in SHA256SUMS): ${${files}}")
     endif()
   endforeach()
   execute_process(COMMAND sha256sum -c SHA256SUMS WORKING_DIRECTORY ${folder}/${kind}

@@ -39,9 +39,8 @@ static std::wstring operation, traced;
 // In each run of an operation, at most one call of a kWatched function is made to fail or throw.
 // failure_messages.txt lists, for each outcome and function, the first call with that outcome:
 //   fails: the operation fails, and its last message is "exception caught in __finally"
-//   fails, no last message: the operation fails without this message
-//   ..., usual trace: the only other message is "FUNCTION Failed"; if the call throws, there is
-//   none
+//   fails, no last message: the operation fails, but does not trace that message
+//   ..., usual trace: before that, traces only "FUNCTION Failed" or, if the call throws, nothing
 TEST_CASE("failing calls: outcomes and messages as in failure_messages.txt") {
   // Uses a new window station instead of the interactive one, which all programs share.
   const DesktopScope standIn(L"kelvo stand-in", L"Default");

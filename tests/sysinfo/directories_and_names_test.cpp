@@ -11,8 +11,8 @@ static UINT WINAPI GiveDirectory(wchar_t* buffer, UINT size) {
   return static_cast<UINT>(simulatedText.length()) + (simulatedText.length() < size ? 0 : 1);
 }
 
-// Stores simulatedText, but replaces its first character with the digit of `format`. To catch code
-// that uses one format's size for another format, reports the size 2 for ComputerNameDnsHostname.
+// Stores simulatedText, but replaces its first character with the digit of `format`. Reports size 2
+// for ComputerNameDnsHostname, to catch code that queries this size but reads another format.
 static BOOL WINAPI GiveName(int format, wchar_t* buffer, ULONG* size) {
   const std::size_t length = format == ComputerNameDnsHostname ? 1 : simulatedText.length();
   const ULONG room = std::exchange(*size, static_cast<ULONG>(length + 1));

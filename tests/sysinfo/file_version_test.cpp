@@ -26,8 +26,8 @@ TEST_CASE("CompareFileVersion, GetFileVersionString: the results match file_vers
     end[-1] = end[-2] = L'!';
     return read;
   });
-  // For a sub-block path of `pathLength` characters, VerQueryValueW stores `length` and an address:
-  // `offset` bytes after the resource's start or end, or after the start of the found value.
+  // For a sub-block path of `pathLength` characters, makes VerQueryValueW store `length` and an
+  // address `offset` bytes from the resource's start or end, or from the found value's start.
   char name[99] = "", from[9] = "";  // from: "start", "end" or "found"
   int numbers[4], offset = 0;
   std::size_t pathLength = 0;
