@@ -51,7 +51,7 @@ for name in "${!setting[@]}"; do
       ((10#${BASH_REMATCH[1]} < 256 && 10#${BASH_REMATCH[2]} < 256 && 10#${BASH_REMATCH[3]} < 65536)) ||
       refuse "$name=$value: VERSION must be three numbers, at most 255.255.65535. Windows Installer ignores a fourth one."
   fi
-  [[ $name != APPLICATION || $value != *[^\ -~]* ]] || refuse "$name=$value: the name must be ASCII."
+  [[ $name != APPLICATION || $value != *[^\ -~]* ]] || refuse "$name=$value: the value must be ASCII."
   [[ ${setting[PRODUCT]} == Brindle || " ${guids[*]} " != *" ${value,,} "* ]] || refuse "$name is still the GUID of Brindle: make another with uuidgen."
   settings+=(-D "$name=$value")
 done

@@ -16,7 +16,7 @@ for word in "${@:3}"; do
     *[\"\'\$%\;\&\<\>\|^\!/\\]*) echo "$word: the value must contain none of \" ' \$ % ; & < > | ^ ! / \\" >&2; exit 2 ;;
     RADIO_OFF=fails | RADIO_OFF=spared) options+=("-D$word") ;;
     RADIO_OFF=*) echo "$word: RADIO_OFF must be fails or spared." >&2; exit 2 ;;
-    APPLICATION=*[^\ -~]*) echo "$word: the name must be ASCII." >&2; exit 2 ;;
+    APPLICATION=*[^\ -~]*) echo "$word: the value must be ASCII." >&2; exit 2 ;;
     *)
       [[ $word == *=?* && " $names" == *" ${word%%=*} "* ]] || {
         echo "$word is not NAME=VALUE with one of these names: $names" >&2

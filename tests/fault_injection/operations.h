@@ -2,9 +2,9 @@
 
 #include <string>
 
-// Handles a program's command line or calls the library. In each run, the test makes at most one of
-// the operation's calls fail. Before each run, the test reloads fault_injection_operations.dll to
-// reset the DLL's state. The DLL exports the array "operations". Its last element's `name` is null.
+// Runs one command line of a program in the test's process, or calls the library. In each run, at
+// most one call to a function in watched.def fails. Before each run, the test loads this DLL anew.
+// The DLL exports the array "operations". Its last element's `name` is null.
 struct Operation {
   const char* name;
   // The list of applications that the test stores in the registry before the operation runs.
