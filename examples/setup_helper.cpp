@@ -1,6 +1,6 @@
 // Does tasks that setup programs often need. Each task is a command:
 //   setup_helper read HKEY_CURRENT_USER\Software\App\Setting
-//     prints the string in a registry value
+//     prints the string in a registry value, or "(not a string)"
 //   setup_helper grant FILE SID
 //     lets the account with this SID read a file and write its data
 //   setup_helper start PROGRAM ["ARGUMENTS"]
