@@ -34,8 +34,8 @@
   !insertmacro ${DO} "${INTERMEDIATE}"
 !macroend
 
-; CVE-2025-43715: a setup that was built with NSIS older than 3.11 runs programs from a folder to which a user could
-; have copied a program.
+; CVE-2025-43715: a setup that was built with NSIS older than 3.11 runs programs from a folder to which a user without
+; administrator rights could have copied a program.
 !ifndef OLD_NSIS_ACCEPTED
   !if ${NSIS_PACKEDVERSION} < 0x03011000
     !warning "A setup made by NSIS ${NSIS_VERSION} lets users gain the setup's rights (CVE-2025-43715): use 3.11 or later."
@@ -139,8 +139,8 @@ FunctionEnd
 Section
   ; $9 is the file name of the installed uninstaller, or empty in a first installation. $8 is the file name of the new
   ; uninstaller. In a first installation, $8 must be a name that no file in the folder has. An earlier removal may
-  ; have left its uninstaller in the folder. At the next restart, Windows deletes this uninstaller by its name, and
-  ; would also delete a new uninstaller with the same name.
+  ; have left its uninstaller in the folder. At the next restart, Windows deletes the file of this name, even if the
+  ; file is then a new uninstaller.
   ReadRegStr $9 HKLM "${UNINSTALL_KEY}" Uninstaller
   StrCpy $8 "$9"
   ${If} $9 == ""

@@ -6,7 +6,8 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and the global
+// RegistryAccessFlags.
 
 // Reads a REG_BINARY value into `bytes` and returns 0. When the value is empty or its type is not
 // REG_BINARY, leaves `bytes` unchanged and returns 0. When the key cannot be opened or the value

@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root` and the global RegistryAccessFlags.
 
 // Deletes the key parentPath\keyName below `root`, with all its values and subkeys. Each subkey is
 // deleted before its parent. Returns 0 on success. Stops at the first value or key that cannot be

@@ -4,7 +4,8 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and the global
+// RegistryAccessFlags.
 
 // Returns the number in a REG_DWORD value (RegQueryValueExW). Returns `defaultNumber` when the key
 // cannot be opened, or when the value is missing, has another type or has more than 4 bytes. When

@@ -8,7 +8,8 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and the global
+// RegistryAccessFlags.
 
 // The size, in bytes, of the longest value that RegistryReadString reads.
 inline constexpr DWORD kMaxRegistryStringSize = 2048;

@@ -4,7 +4,8 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey`, `valueName` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root`, `subkey`, `valueName` and the global
+// RegistryAccessFlags.
 
 // Returns true when the key can be opened with KEY_READ and has the value `valueName`, of any type
 // (RegQueryValueExW).

@@ -9,7 +9,7 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root`, `subkey` and the global RegistryAccessFlags.
 
 // An ordered list of pairs. In each pair, the first string is a name, and the second is the text
 // that belongs to the name.

@@ -4,7 +4,7 @@
 
 namespace kelvo {
 
-// See lib/registry/registry_key.h for `root`, `subkey` and RegistryAccessFlags.
+// lib/registry/registry_key.h describes `root`, `subkey` and the global RegistryAccessFlags.
 
 // Tests whether values can be written to a key: writes a REG_DWORD value with the name "RegCheck"
 // and then deletes the value. Returns 0 when the write succeeds, and 1 when it fails. When the key

@@ -25,9 +25,9 @@ struct DesktopScope {
       SetThreadDesktop(desktop);
     }
   }
-  // Uses a new desktop, which Wine opens on this process's X11 display. The initial desktop uses
-  // the display of the Wine prefix's first process, if that process had one. A process keeps the
-  // display of its first window, so create this object before any window.
+  // Uses a new desktop, which Wine opens on this process's X11 display. (The initial desktop is on
+  // the display, if any, of the Wine prefix's first process.) A process stays on the display of its
+  // first window, so create this object before any window.
   DesktopScope()
       : DesktopScope(nullptr, (L"kelvo " + std::to_wstring(GetCurrentProcessId())).c_str()) {}
   DesktopScope(const DesktopScope&) = delete;

@@ -45,7 +45,7 @@ void VisitImports(HMODULE module, Visit visit) {
   }
 }
 
-// Makes a module call `target` instead of an imported function. Returns the previous target.
+// Replaces the imported `function` of `module` with `target`. Returns the previous target.
 inline void* SwapImport(const std::string& function, void* target,
                         HMODULE module = GetModuleHandleW(nullptr)) {
   void* previous = nullptr;
@@ -108,7 +108,7 @@ ReplacedImport<Function, Replacement> ReplaceImport(const char* function, Replac
   })
 
 // Until this object is destroyed, makes GetProcAddress return `function` for the name `exported`,
-// in any module. A null `function` simulates a Windows version that lacks the export.
+// whichever module is passed. A null `function` simulates a Windows version that lacks the export.
 struct ReplacedExport {
   ReplacedExport(const char* exported, void* function) : name(exported) {
     replaced[name] = reinterpret_cast<FARPROC>(function);

@@ -24,8 +24,8 @@ struct ScratchKey : std::wstring {
   static inline int made = 0;
 };
 
-// Stores `units`, without their last `cutBytes` bytes, as a registry value. In memory, "#"
-// follows `units`: if a NUL followed them, Windows would also store that NUL.
+// Stores `units`, without their last `cutBytes` bytes, as a registry value. Appends "#" in
+// memory only: if a NUL followed the data in memory, Windows would also store that NUL.
 inline void StoreUnits(HKEY root, const wchar_t* subkey, const wchar_t* name, DWORD type,
                        std::wstring units, std::size_t cutBytes = 0) {
   const auto size = static_cast<DWORD>(units.size() * sizeof(wchar_t) - cutBytes);

@@ -10,8 +10,8 @@
 
 namespace kelvo::test {
 
-// Describes an argument: a number, a const string (for a full path, the part from its last
-// backslash), a registry key, or fields of a structure. Null is "0". Any other pointer is "given".
+// Shows an argument: a number, an LPCSTR or LPCWSTR (of a full path, the part from its last
+// backslash), a registry key, or fields of a structure below. Null is "0". The rest is "given".
 template <typename Argument>
 std::string Shown(Argument argument) {
   if constexpr (std::is_same_v<Argument, SIZE_T>) {
