@@ -35,7 +35,9 @@ namespace kelvo {
 //     SeIncreaseQuotaPrivilege, SeAssignPrimaryTokenPrivilege and SeCreateTokenPrivilege.
 //   - The handle of the copied token stays open. If the call moves this process to "WinSta0", the
 //     handles of this station and its desktop also stay open.
-//   - Failures are traced (lib/trace/trace_sink.h).
+//   - Failures are traced (lib/trace/trace_sink.h). When memory runs out, the call returns FALSE
+//     and throws nothing. A failure undoes neither the enabled privileges nor the access to
+//     "WinSta0".
 BOOL RunAsUser(wchar_t* commandLine, BOOL wait, HANDLE* process);
 
 }  // namespace kelvo
